@@ -1,0 +1,38 @@
+// What a property page knows of the controls it edits and of the frame that shows it.
+#pragma once
+
+#include "engine/value.h"
+
+#include <optional>
+#include <string_view>
+
+namespace vela::pages {
+
+// An object whose properties are read and written by name; an unknown name raises 438.
+class PropertyObject {
+public:
+    [[nodiscard]] virtual engine::Value get(std::u16string_view name) = 0;
+    virtual void put(std::u16string_view name, const engine::Value& value) = 0;
+
+protected:
+    ~PropertyObject() = default;
+};
+
+class PageSite {
+public:
+    virtual void changed(bool dirty) = 0; // the page's changed flag was set or cleared
+
+protected:
+    ~PageSite() = default;
+};
+
+// Shows frmPaleta modally; nothing when it was cancelled.
+class ColourChooser {
+public:
+    [[nodiscard]] virtual std::optional<engine::Colour> choose() = 0;
+
+protected:
+    ~ColourChooser() = default;
+};
+
+} // namespace vela::pages

@@ -1,0 +1,41 @@
+// The pop-ups of a process: at most one calendar and one calculator, opened for one owner at a time.
+#pragma once
+
+#include "popups/calendar_colours.h"
+#include "popups/owner.h"
+#include "platform/environment.h"
+#include "platform/form.h"
+
+#include <memory>
+
+namespace vela::popups {
+
+class CalendarioSDI;
+class frmCalculadora;
+
+class Popups {
+public:
+    // All outlive the pop-ups.
+    Popups(platform::Environment& environment, platform::FormFactory& forms);
+    ~Popups();
+    Popups(const Popups&) = delete;
+    Popups& operator=(const Popups&) = delete;
+
+    CalendarColours colours; // of every calendar in the process
+
+    // Report their own failures in a box; nothing is raised.
+    void openCalendar(Owner& owner);
+    void openCalculator(Owner& owner);
+    // The calendar first; nothing when none is loaded. Safe from inside a pop-up's own handler.
+    void closeAll();
+    void forget(const Owner& owner); // an owner is going: closes both, whoever owns them, and drops references to it
+
+    [[nodiscard]] CalendarioSDI* calendar() noexcept;   // null when not loaded
+    [[nodiscard]] frmCalculadora* calculator() noexcept;
+
+private:
+    struct State;
+    std::unique_ptr<State> state_;
+};
+
+} // namespace vela::popups
