@@ -69,6 +69,7 @@ struct WidgetId {
     return {};
 }
 
+// Labels are painted in table order, later ones over earlier ones; one that is not opaque shows what lies under it.
 struct WidgetLook {
     engine::Colour fore{0x80000012}; // button text
     engine::Colour back{0x8000000F}; // button face
@@ -76,6 +77,8 @@ struct WidgetLook {
     bool border = false;             // BorderStyle 1
     int left = 0;                    // twips
     int top = 0;                     // twips
+    bool round = false;              // an opaque label's back is an ellipse that fills it
+    std::u16string spokenName = {};  // what a screen reader says; empty: the caption
     friend bool operator==(const WidgetLook&, const WidgetLook&) = default;
 };
 
