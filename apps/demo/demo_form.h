@@ -1,0 +1,55 @@
+// The demonstration form: real fields in a real window, embedded as any host embeds controls.
+#pragma once
+
+#include "apps/demo/container.h"
+#include "apps/demo/fields.h"
+
+#include <string>
+#include <vector>
+
+namespace vela::demo {
+
+class DemoForm {
+public:
+    DemoForm() = default;
+    DemoForm(const DemoForm&) = delete;
+    DemoForm& operator=(const DemoForm&) = delete;
+    ~DemoForm();
+
+    // Answers an empty text, or why the form could not be opened.
+    [[nodiscard]] std::wstring open(HINSTANCE instance);
+    // Runs until the form is closed.
+    void run();
+    void showProperties(std::size_t field); // 0-based
+
+private:
+    struct Field {
+        const FieldRow* row = nullptr;
+        ComPtr<ControlSite> site;
+        RECT place{};
+    };
+
+    static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+    void command(int id);
+    [[nodiscard]] bool translated(MSG& message);
+    [[nodiscard]] std::wstring openFields();
+    HWND makeChild(const wchar_t* windowClass, const wchar_t* text, DWORD style, RECT place, int id);
+    void layOut();
+    void showValues();
+    [[nodiscard]] std::wstring valuesOf(const Field& field) const;
+    [[nodiscard]] int scaled(int pixels) const noexcept { return MulDiv(pixels, dpi_, 96); }
+
+    HINSTANCE instance_ = nullptr;
+    HWND window_ = nullptr;
+    HWND values_ = nullptr;
+    HWND status_ = nullptr;
+    HFONT font_ = nullptr;
+    int dpi_ = 96;
+    int nextY_[columnCount] = {};
+    ComPtr<FormFrame> frame_;
+    std::vector<Field> fields_;
+    std::size_t lastFocused_ = 0;
+};
+
+} // namespace vela::demo
