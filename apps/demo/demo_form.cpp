@@ -167,6 +167,16 @@ void DemoForm::showProperties(std::size_t field)
         frame.runModal();
 }
 
+void DemoForm::printPlaces() const
+{
+    for (const Field& field : fields_) {
+        RECT place = field.place;
+        MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&place), 2);
+        std::printf("place %ls %ld %ld %ld %ld\n", field.row->name, static_cast<long>(place.left),
+                    static_cast<long>(place.top), static_cast<long>(place.right), static_cast<long>(place.bottom));
+    }
+}
+
 void DemoForm::command(int id)
 {
     switch (id) {

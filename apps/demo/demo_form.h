@@ -21,6 +21,8 @@ public:
     // Runs until the form is closed.
     void run();
     void showProperties(std::size_t field); // 0-based
+    // "place NAME LEFT TOP RIGHT BOTTOM" for each field, in screen pixels, on standard output.
+    void printPlaces() const;
 
 private:
     struct Field {

@@ -31,6 +31,7 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "%ls\n", failure.c_str());
         return 1;
     }
+    form.printPlaces();
     std::puts("ready");
     std::fflush(stdout);
     if (argc > 1 && std::strcmp(argv[1], "--design") == 0)

@@ -1,0 +1,57 @@
+# Types into the demonstration form with real keystrokes and takes its pictures. Sourced by ./demo.
+
+picture() { import -window root "$out/$1.png"; }
+keys() { xdotool key --clearmodifiers --delay 25 "$@"; sleep 0.15; }
+write() { xdotool type --clearmodifiers --delay 30 "$1"; sleep 0.2; }
+field() { write "$2"; keys Tab; } # the name is for the reader
+
+# place NAME: sets left top right bottom of a field on the screen
+place() { read -r left top right bottom < <(awk -v n="$1" '$1 == "place" && $2 == n {print $3, $4, $5, $6}' "$out/output.txt"); }
+click_at() { xdotool mousemove "$1" "$2" click 1; sleep 0.4; }
+
+focus_form() {
+  local window
+  window=$(xdotool search --sync --onlyvisible --name 'Vela - demonstra' | head -1)
+  xdotool windowfocus "$window"; sleep 0.5
+  place Nome; click_at $((left + 20)) $(((top + bottom) / 2))
+}
+
+drive_fields() {
+  focus_form
+  field Nome 'maria das dores e souza'
+  field Codigo 'ab12-xyz3f'
+  field Placa 'abc1234'
+  field CPF '12345678909'
+  field Senha 'segredo'
+  write 'primeira linha'; keys Return; field Notas 'segunda linha'
+  field Preco '1234,5'
+  field Percentual '12,5'
+  field Caixa '123456'
+  field Data '29022024'
+  field Hora '0930'
+  keys Tab
+  write 'zeca'; sleep 0.6; picture entry-tip; keys Tab
+  field Vencimento '31022024'; sleep 0.6; picture error-alert; keys Tab
+  field Cores 'azul'
+  place Cores; xdotool mousemove $((left + 30)) $(((top + bottom) / 2)); sleep 0.4; picture hover
+  xdotool mousemove 5 5; sleep 0.3
+  for border in Solida Tracos Pontos TracosPontos Relevo XP; do field "$border" "borda"; done
+
+  place Data; click_at $((right - 9)) $(((top + bottom) / 2)); sleep 0.6; picture calendar
+  place Preco; click_at $((left + 20)) $(((top + bottom) / 2)); keys F2; sleep 0.6; picture calculator
+  keys 2 plus 3 equal F2; sleep 0.4
+  place Nome; click_at $((left + 20)) $(((top + bottom) / 2))
+  keys F9; sleep 0.8
+  picture form
+  tr -d '\r' <"$out/output.txt" | grep -v -e '^place ' -e '^ready' >"$out/transcript.txt" || true
+  cat "$out/transcript.txt"
+}
+
+drive_design() {
+  sleep 1.5
+  local page=1
+  picture "page-$page"
+  while [ $page -lt 5 ]; do
+    page=$((page + 1)); keys ctrl+Tab; sleep 0.5; picture "page-$page"
+  done
+}
