@@ -1,0 +1,111 @@
+// The control's own window: a child of the host's that carries the EDITs, the button, the border and the timer.
+#pragma once
+
+#include "platform/control_surface.h"
+#include "platform/win32/edit_box.h"
+#include "platform/win32/life.h"
+#include "platform/win32/window.h"
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace vela::win32 {
+
+// What the owner of a surface wants to know beyond what the control does. May destroy the surface.
+class SurfaceListener {
+public:
+    virtual void focusEntered() {}         // the focus came into the surface or one of its windows, before gotFocus()
+    virtual void focusLeft() {}            // after lostFocus()
+    virtual void windowDestroyed() {}      // by another than destroy()
+    // A key message for the edit box, before the control sees it; true: handled, the control shall not.
+    virtual bool preTranslate(MSG&) { return false; }
+
+protected:
+    ~SurfaceListener() = default;
+};
+
+// Works without a window too: then it keeps text, selection, traits, colours and size itself, and hands them to the
+// windows when create() makes them. A window that goes leaves its state behind.
+class ControlSurface final : public platform::ControlSurface, private WindowHandler {
+public:
+    ControlSurface();
+    ~ControlSurface() override;
+
+    // Both may be null; neither is owned. To be put back to null before they go.
+    void setEvents(platform::SurfaceEvents* surface, platform::EditBoxEvents* edit) noexcept;
+    void setListener(SurfaceListener* listener) noexcept { listener_ = listener; }
+
+    // A visible child of `parent` at this place of its client area, in pixels. Raises 7 when the system refuses.
+    void create(HWND parent, const RECT& place);
+    void destroy();
+    void reparent(HWND parent, const RECT& place);
+    void place(const RECT& place); // moves and resizes, with a window or without; resized() when the size changed
+    void show(bool visible);
+    void putDpi(int dpi);          // while there is no window
+    void setAccessibleName(std::u16string_view name);
+    void refreshDpi();             // reads the window's dpi again; resized() when it changed
+    // Draws the field as it looks into any device context (design mode, print, metafile).
+    void draw(HDC dc, const RECT& place) const;
+
+    [[nodiscard]] HWND handle() const noexcept { return window_; }
+    [[nodiscard]] EditBox& edit() noexcept { return *boxes_[active_]; } // the active one
+    [[nodiscard]] const EditBox& edit() const noexcept { return *boxes_[active_]; }
+
+    platform::EditBox& activate(platform::EditBoxKind kind) override;
+    void putEnabled(bool enabled) override;
+    [[nodiscard]] const platform::SurfaceLook& look() const override { return look_; }
+    void putLook(const platform::SurfaceLook& look) override;
+    void arrange(const platform::SurfaceLayout& layout) override;
+    void clear() override;
+    void drawRectangle(engine::Colour colour, int width) override;
+    void enableHoverTimer(bool enabled) override;
+    [[nodiscard]] engine::RectPixels clientRect() const override;
+    [[nodiscard]] engine::RectPixels screenRect() const override;
+    [[nodiscard]] int dpi() const override { return dpi_; }
+    [[nodiscard]] platform::WindowId window() const override;
+    [[nodiscard]] std::unique_ptr<platform::TooltipWindow> makeTooltip() override;
+
+private:
+    friend class EditBox;
+    struct Frame { // drawn by drawRectangle() until clear()
+        engine::Colour colour;
+        int width = 1;
+    };
+
+    LRESULT handle(HWND window, UINT message, WPARAM first, LPARAM second) override;
+    void unbound() override;
+    LRESULT command(WPARAM first, LPARAM second);
+    LRESULT colourOf(HDC dc, HWND child) const;
+    void paint();
+    void drawButton(const DRAWITEMSTRUCT& item) const;
+    void sizeChanged();
+    void placeParts();
+    void showButton();
+    void applyRegion();
+    void buttonPressed();
+    void repaint() const;
+    EditBox& box(platform::EditBoxKind kind);
+
+    Life life_;
+    platform::SurfaceEvents* events_ = nullptr;
+    platform::EditBoxEvents* editEvents_ = nullptr;
+    SurfaceListener* listener_ = nullptr;
+    HWND window_ = nullptr;
+    HWND button_ = nullptr;
+    std::array<std::unique_ptr<EditBox>, 2> boxes_; // by EditBoxKind; made at first use
+    std::size_t active_ = 0;
+    platform::SurfaceLook look_;
+    platform::SurfaceLayout layout_;
+    std::optional<Frame> frame_;
+    RECT place_{0, 0, 0, 0};
+    int dpi_ = 96;
+    bool enabled_ = true;
+    bool visible_ = true;
+    bool destroying_ = false;
+    bool timer_ = false;
+    std::u16string accessibleName_;
+};
+
+} // namespace vela::win32

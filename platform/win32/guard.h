@@ -1,0 +1,31 @@
+// The one guard of window procedures and timers: nothing escapes to the system.
+#pragma once
+
+#include <windows.h>
+
+#include <utility>
+
+namespace vela::win32 {
+
+// Runs the work; an exception is contained and the fallback answered.
+template <class Work, class Result>
+Result guarded(Work&& work, Result fallback) noexcept
+{
+    try {
+        return std::forward<Work>(work)();
+    } catch (...) {
+        return fallback;
+    }
+}
+
+template <class Work>
+void guarded(Work&& work) noexcept
+{
+    try {
+        std::forward<Work>(work)();
+    } catch (...) {
+        return;
+    }
+}
+
+} // namespace vela::win32
