@@ -1,0 +1,135 @@
+// The acts of the palette dialog.
+#include "pages/frm_paleta.h"
+
+#include "engine/conversions.h"
+#include "engine/error.h"
+#include "pages/key_filters.h"
+#include "pages/layouts.h"
+#include "pages/palette_colours.h"
+
+#include <algorithm>
+#include <cassert>
+#include <cmath>
+
+namespace vela::pages {
+
+using engine::Colour;
+using platform::WidgetId;
+
+namespace {
+
+constexpr std::u16string_view swatchName = u"Picture1";
+
+} // namespace
+
+frmPaleta::frmPaleta(platform::FormFactory& forms) : form_(forms.make(paletaLayout(), *this))
+{
+    for (const PaletteColour& entry : paletteColours) {
+        const WidgetId swatch = id(swatchName, entry.index);
+        platform::WidgetLook look = form_->look(swatch);
+        look.back = entry.colour;
+        form_->putLook(swatch, look);
+    }
+    platform::WidgetLook look = form_->look(id(u"picCustom"));
+    look.back = colour_;
+    look.border = true;
+    form_->putLook(id(u"picCustom"), look);
+}
+
+const platform::FormLayout& frmPaleta::layout() const noexcept
+{
+    return paletaLayout();
+}
+
+Colour frmPaleta::preview() const
+{
+    return form_->look(id(u"picCustom")).back;
+}
+
+WidgetId frmPaleta::id(std::u16string_view name, int index) const
+{
+    const WidgetId found = platform::findWidget(paletaLayout(), name, index);
+    assert(found);
+    return found;
+}
+
+bool frmPaleta::isAmount(WidgetId widget) const
+{
+    return widget == id(u"txtR") || widget == id(u"txtG") || widget == id(u"txtB");
+}
+
+void frmPaleta::clicked(WidgetId widget)
+{
+    if (widget == id(u"cmdOK"))
+        end(false);
+    else if (widget == id(u"cmdCancel"))
+        end(true);
+}
+
+void frmPaleta::end(bool cancelled)
+{
+    cancelled_ = cancelled;
+    form_->close();
+}
+
+// Every key but a digit is refused, Backspace too: a correction is made by selecting and typing over.
+void frmPaleta::keyPress(WidgetId widget, int& key)
+{
+    if (isAmount(widget) && !digit(key))
+        key = 0;
+}
+
+int frmPaleta::amount(std::u16string_view box) const
+{
+    const double number = std::nearbyint(engine::leadingNumber(form_->text(id(box)))); // halves to even
+    if (number > 32767 || number < -32768)
+        engine::raise(engine::error_number::overflow);
+    if (number < 0)
+        engine::raise(engine::error_number::invalidCall);
+    return std::min(static_cast<int>(number), 255);
+}
+
+void frmPaleta::changed(WidgetId widget)
+{
+    if (!isAmount(widget))
+        return;
+    const Colour custom = rgb(amount(u"txtR"), amount(u"txtG"), amount(u"txtB"));
+    platform::WidgetLook look = form_->look(id(u"picCustom"));
+    look.back = custom;
+    form_->putLook(id(u"picCustom"), look);
+    colour_ = custom;
+}
+
+void frmPaleta::gotFocus(WidgetId widget)
+{
+    const platform::WidgetRow& row = paletaLayout().rows[static_cast<std::size_t>(widget.value)];
+    if (row.name != swatchName)
+        return;
+    putBorder(widget, true);
+    colour_ = form_->look(widget).back;
+    selected_ = static_cast<std::uint8_t>(row.index);
+}
+
+void frmPaleta::lostFocus(WidgetId widget)
+{
+    if (paletaLayout().rows[static_cast<std::size_t>(widget.value)].name == swatchName)
+        putBorder(id(swatchName, selected_), false);
+}
+
+void frmPaleta::putBorder(WidgetId swatch, bool on)
+{
+    platform::WidgetLook look = form_->look(swatch);
+    look.border = on;
+    form_->putLook(swatch, look);
+}
+
+std::optional<Colour> PaletteChooser::choose()
+{
+    frmPaleta palette(forms_);
+    palette.showModal();
+    if (palette.cancelled())
+        return std::nullopt;
+    return palette.chosenColour();
+}
+
+} // namespace vela::pages

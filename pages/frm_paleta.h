@@ -1,0 +1,64 @@
+// frmPaleta: a modal dialog that offers 32 fixed colours and one of the person's own, by red, green and blue.
+#pragma once
+
+#include "pages/property_object.h"
+#include "platform/form.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+namespace vela::pages {
+
+// One object for each use. The chosen colour is whichever was set last: by the swatch that took the focus or by a
+// change of the three boxes.
+class frmPaleta final : private platform::FormEvents {
+public:
+    explicit frmPaleta(platform::FormFactory& forms);
+
+    void showModal() { form_->showModal(); }
+    [[nodiscard]] engine::Colour chosenColour() const noexcept { return colour_; }
+    // Only the cancel button cancels: the close command applies the colour, black when nothing was chosen.
+    [[nodiscard]] bool cancelled() const noexcept { return cancelled_; }
+    [[nodiscard]] bool isClosed() const noexcept { return closed_; }
+    [[nodiscard]] engine::Colour preview() const;
+    [[nodiscard]] platform::Form& form() noexcept { return *form_; }
+    [[nodiscard]] const platform::FormLayout& layout() const noexcept;
+
+private:
+    void clicked(platform::WidgetId widget) override;
+    void doubleClicked(platform::WidgetId) override {}
+    void changed(platform::WidgetId widget) override;
+    void gotFocus(platform::WidgetId widget) override;
+    void lostFocus(platform::WidgetId widget) override;
+    void keyDown(platform::WidgetId, int&, int&) override {}
+    void keyPress(platform::WidgetId widget, int& key) override;
+    void activated() override {}
+    void deactivated() override {}
+    void tick() override {}
+    void closed() override { closed_ = true; }
+
+    [[nodiscard]] platform::WidgetId id(std::u16string_view name, int index = -1) const;
+    [[nodiscard]] bool isAmount(platform::WidgetId widget) const;
+    [[nodiscard]] int amount(std::u16string_view box) const; // 16 bits; raises 6 beyond them
+    void end(bool cancelled);
+    void putBorder(platform::WidgetId swatch, bool on);
+
+    engine::Colour colour_{0};
+    bool cancelled_ = false;
+    bool closed_ = false;
+    std::uint8_t selected_ = 0; // index of the swatch that last took the focus
+    std::unique_ptr<platform::Form> form_;
+};
+
+// Shows a fresh palette at every call.
+class PaletteChooser final : public ColourChooser {
+public:
+    explicit PaletteChooser(platform::FormFactory& forms) noexcept : forms_(forms) {}
+    [[nodiscard]] std::optional<engine::Colour> choose() override;
+
+private:
+    platform::FormFactory& forms_;
+};
+
+} // namespace vela::pages

@@ -1,0 +1,22 @@
+// Which keys the text boxes of the pages and of the palette let through. A key is a UTF-16 unit; 8 is Backspace.
+#pragma once
+
+namespace vela::pages {
+
+[[nodiscard]] constexpr bool digit(int key) noexcept
+{
+    return key >= u'0' && key <= u'9';
+}
+
+[[nodiscard]] constexpr bool digitOrBackspace(int key) noexcept
+{
+    return digit(key) || key == 8;
+}
+
+// A currency symbol may hold 0 and 9, not the digits between them; kept as it always was.
+[[nodiscard]] constexpr bool symbolKey(int key) noexcept
+{
+    return key < u'1' || key > u'8';
+}
+
+} // namespace vela::pages

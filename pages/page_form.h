@@ -1,0 +1,101 @@
+// What every page is made of: its form, the selected object, the changed flag, and the acts bound to its controls.
+#pragma once
+
+#include "pages/field.h"
+#include "pages/page.h"
+
+#include <functional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace vela::pages {
+
+// While a page loads, the acts that its own writing would start are left out. A double click on a swatch opens the
+// palette on every page.
+class PageForm final : private platform::FormEvents {
+public:
+    using Action = std::function<void()>;
+    using KeyFilter = bool (*)(int key); // true lets the key through
+
+    PageForm(const platform::FormLayout& layout, const PageServices& services, PageSite& site);
+    PageForm(const PageForm&) = delete;
+    PageForm& operator=(const PageForm&) = delete;
+
+    // Bindings, made while a page is constructed. Names that the layout does not have are a programming error.
+    void marksChanged(std::u16string_view control); // every click on it and change of its text sets the flag
+    void onClick(std::u16string_view control, Action action);
+    void onChange(std::u16string_view control, Action action);
+    void onGotFocus(std::u16string_view control, Action action);
+    void onLostFocus(std::u16string_view control, Action action);
+    void filterKeys(std::u16string_view control, KeyFilter accepts);
+    void help(std::u16string_view button, std::u16string_view text); // an information box on its click
+
+    // The selection. `load` runs with the acts left out; the flag is down afterwards, whatever happened.
+    void open(std::span<PropertyObject* const> selection, const Action& load);
+    void release() noexcept { object_ = nullptr; }
+    [[nodiscard]] PropertyObject& object() const; // the first selected one; raises 91 without one
+    void load(const Field& field);
+    [[nodiscard]] engine::Value value(const Field& field) const; // what stands in the control
+    // Puts the named fields' values in the order of `order`; stops at the first that fails.
+    void write(std::span<const Field> fields, std::span<const std::u16string_view> order);
+
+    [[nodiscard]] bool changed() const noexcept { return changed_; }
+    void putChanged(bool on);
+
+    [[nodiscard]] platform::Form& form() noexcept { return *form_; }
+    [[nodiscard]] const platform::FormLayout& layout() const noexcept { return layout_; }
+    [[nodiscard]] platform::WidgetId id(std::u16string_view control, int index = -1) const;
+    [[nodiscard]] std::u16string text(std::u16string_view control) const;
+    [[nodiscard]] bool checked(std::u16string_view control) const;
+    void putText(std::u16string_view control, std::u16string_view text);
+    void check(std::u16string_view control, bool on);
+    void enable(std::u16string_view control, bool on);
+    void show(std::u16string_view control, bool on);
+    void putBackColour(platform::WidgetId control, engine::Colour colour);
+    [[nodiscard]] platform::ItemList& items(std::u16string_view control);
+
+    [[nodiscard]] const PageServices& services() const noexcept { return services_; }
+    [[nodiscard]] const engine::Locale& locale() const { return services_.environment.locales.locale(); }
+    void inform(std::u16string_view text, std::u16string_view title = {}) const; // a box with the information icon
+
+private:
+    enum class Act { click, change, gotFocus, lostFocus };
+    struct Binding {
+        platform::WidgetId control;
+        Act act;
+        Action action;
+    };
+    struct Filter {
+        platform::WidgetId control;
+        KeyFilter accepts;
+    };
+
+    void bind(std::u16string_view control, Act act, Action action);
+    void run(platform::WidgetId control, Act act);
+    void chooseColour(platform::WidgetId swatch);
+
+    void clicked(platform::WidgetId widget) override;
+    void doubleClicked(platform::WidgetId widget) override;
+    void changed(platform::WidgetId widget) override;
+    void gotFocus(platform::WidgetId widget) override;
+    void lostFocus(platform::WidgetId widget) override;
+    void keyDown(platform::WidgetId, int&, int&) override {}
+    void keyPress(platform::WidgetId widget, int& key) override;
+    void activated() override {}
+    void deactivated() override {}
+    void tick() override {}
+    void closed() override {}
+
+    const platform::FormLayout& layout_;
+    PageServices services_;
+    PageSite& site_;
+    PropertyObject* object_ = nullptr;
+    bool changed_ = false;
+    bool loading_ = false;
+    std::vector<Binding> bindings_;
+    std::vector<Filter> filters_;
+    std::unique_ptr<platform::Form> form_; // last: its events find the rest standing
+};
+
+} // namespace vela::pages

@@ -1,0 +1,93 @@
+// Edits the error behaviour; some of its controls follow others.
+#include "pages/pp_erros.h"
+
+#include "pages/layouts.h"
+
+#include <array>
+
+namespace vela::pages {
+
+namespace {
+
+constexpr std::array<Field, 6> fields{{
+    {u"Error_ForeColor", u"PicCor", Mapping::colour},
+    {u"ErrorAlert", u"chkExibirAlertaPadrao", Mapping::check},
+    {u"ErrorFocus", u"chkErrorFocus", Mapping::check},
+    {u"ErrorMsgCustom", u"chkPersonalizarMsgErro", Mapping::check},
+    {u"ErrorTextClear", u"chkLimpaCampo", Mapping::check},
+    {u"ErrorTextMessage", u"txtMsgCustom"},
+}};
+constexpr std::array<std::u16string_view, 6> writingOrder{u"ErrorAlert",     u"ErrorFocus",       u"ErrorMsgCustom",
+                                                          u"ErrorTextClear", u"ErrorTextMessage", u"Error_ForeColor"};
+constexpr engine::Colour greyBackground{0x00DFDFDF};
+constexpr engine::Colour whiteBackground{0x00FFFFFF};
+constexpr std::u16string_view alertHelp =
+    u"Função válida somente para o formato de números e datas\r\n"
+    u"Exibe uma MsgBox quando o campo perde o foco utilizando o texto padrão.\r\n"
+    u"Caso queria mudar a mensagem de erro, basta marcar a caixa ( Personalizar Mensagem de erro ) e Informar o "
+    u"texto logo abaixo";
+
+} // namespace
+
+ppErros::ppErros(const PageServices& services, PageSite& site) : page_(errosLayout(), services, site)
+{
+    for (const std::u16string_view control :
+         {u"chkExibirAlertaPadrao", u"chkErrorFocus", u"chkPersonalizarMsgErro", u"chkLimpaCampo", u"txtMsgCustom"})
+        page_.marksChanged(control);
+    page_.onClick(u"chkExibirAlertaPadrao", [this] { followAlert(); });
+    page_.onClick(u"chkPersonalizarMsgErro", [this] { followCustomMessage(); });
+    page_.onClick(u"chkLimpaCampo", [this] { followClearField(); });
+    page_.help(u"CmdHelpErroAlert", alertHelp);
+}
+
+void ppErros::open(std::span<PropertyObject* const> selection)
+{
+    page_.open(selection, [this] {
+        for (const Field& field : fields)
+            page_.load(field);
+        followAlert();
+        followCustomMessage();
+        // Only loading empties the unused message; unchecking by hand keeps it until the next load.
+        if (!page_.checked(u"chkPersonalizarMsgErro"))
+            page_.putText(u"txtMsgCustom", {});
+        followClearField();
+    });
+}
+
+bool ppErros::apply()
+{
+    if (page_.form().enabled(page_.id(u"txtMsgCustom")) && page_.text(u"txtMsgCustom").empty()) {
+        page_.inform(u"Informe o texto da mensagem.");
+        return false;
+    }
+    page_.write(fields, writingOrder);
+    page_.putChanged(false);
+    return true;
+}
+
+// Unchecking the custom message is a click of its own: followCustomMessage() runs at once.
+void ppErros::followAlert()
+{
+    const bool alert = page_.checked(u"chkExibirAlertaPadrao");
+    if (!alert)
+        page_.check(u"chkPersonalizarMsgErro", false);
+    page_.enable(u"chkPersonalizarMsgErro", alert);
+}
+
+void ppErros::followCustomMessage()
+{
+    const bool custom = page_.checked(u"chkPersonalizarMsgErro");
+    page_.enable(u"LBLTextCustom", custom);
+    page_.enable(u"txtMsgCustom", custom);
+    page_.putBackColour(page_.id(u"txtMsgCustom"), custom ? whiteBackground : greyBackground);
+}
+
+void ppErros::followClearField()
+{
+    const bool clears = page_.checked(u"chkLimpaCampo");
+    if (clears)
+        page_.check(u"chkErrorFocus", false);
+    page_.enable(u"chkErrorFocus", !clears);
+}
+
+} // namespace vela::pages

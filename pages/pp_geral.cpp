@@ -1,0 +1,83 @@
+// Edits the navigation and focus settings and the four delimiters; nothing is validated.
+#include "pages/pp_geral.h"
+
+#include "engine/conversions.h"
+#include "pages/layouts.h"
+
+#include <array>
+#include <cmath>
+
+namespace vela::pages {
+
+namespace {
+
+constexpr std::array<Field, 10> fields{{
+    {u"UpTAB", u"chkSimulaUpTAB", Mapping::check},
+    {u"EnterAsTab", u"chkSendTab", Mapping::check},
+    {u"AutoSelect", u"chkAutoSelect", Mapping::check},
+    {u"BackColorGotFocus", u"PicCorFundoGot", Mapping::colour},
+    {u"BackColorLostFocus", u"PicCorFundoLost", Mapping::colour},
+    {u"IF_IsEmpty", u"txtISEmpty"},
+    {u"Delimitador", u"txtDelimitador"},
+    {u"Delimitador02", u"txtDelimitador02"},
+    {u"Delimitador03", u"txtDelimitador03"},
+    {u"Delimitador04", u"txtDelimitador04"},
+}};
+constexpr std::array<std::u16string_view, 10> writingOrder{
+    u"EnterAsTab",  u"AutoSelect",    u"BackColorGotFocus", u"BackColorLostFocus", u"IF_IsEmpty",
+    u"Delimitador", u"Delimitador02", u"Delimitador03",     u"Delimitador04",      u"UpTAB"};
+
+std::u16string delimiterHelp(std::u16string_view today)
+{
+    std::u16string text = u"Neste campo vc informa qual texto ficará antes e depois da String quando for solicitado "
+                          u"pela propriedade Vela1.Value\r\n\r\nExemplo:\r\nSe o texto na Vela1 estiver ( ";
+    text += today;
+    text += u" ) e o delimitador estiver como #, então o Vela1.Value retornará #";
+    text += today;
+    text += u"#";
+    return text;
+}
+
+} // namespace
+
+ppGeral::ppGeral(const PageServices& services, PageSite& site) : page_(geralLayout(), services, site)
+{
+    page_.check(u"optGotfocus", true);
+    showGroup(true);
+    page_.onClick(u"optGotfocus", [this] { showGroup(true); });
+    page_.onClick(u"optLost", [this] { showGroup(false); });
+    page_.onClick(u"cmdHelpDelimitador", [this] { showDelimiterHelp(); });
+    for (const std::u16string_view control :
+         {u"chkSendTab", u"chkSimulaUpTAB", u"chkAutoSelect", u"txtDelimitador", u"txtDelimitador02",
+          u"txtDelimitador03", u"txtDelimitador04", u"txtISEmpty"})
+        page_.marksChanged(control);
+}
+
+void ppGeral::open(std::span<PropertyObject* const> selection)
+{
+    page_.open(selection, [this] {
+        for (const Field& field : fields)
+            page_.load(field);
+    });
+}
+
+bool ppGeral::apply()
+{
+    page_.write(fields, writingOrder);
+    page_.putChanged(false);
+    return true;
+}
+
+void ppGeral::showGroup(bool gotFocus)
+{
+    page_.show(u"fraGotFocus", gotFocus);
+    page_.show(u"fraLostFocus", !gotFocus);
+}
+
+void ppGeral::showDelimiterHelp() const
+{
+    const engine::Date today{std::floor(page_.services().environment.clock.now().serial)};
+    page_.inform(delimiterHelp(engine::dateToText(today, page_.locale())));
+}
+
+} // namespace vela::pages
