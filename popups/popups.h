@@ -1,10 +1,10 @@
 // The pop-ups of a process: at most one calendar and one calculator, opened for one owner at a time.
 #pragma once
 
-#include "popups/calendar_colours.h"
-#include "popups/owner.h"
 #include "platform/environment.h"
 #include "platform/form.h"
+#include "popups/calendar_colours.h"
+#include "popups/owner.h"
 
 #include <memory>
 
@@ -30,7 +30,9 @@ public:
     void closeAll();
     void forget(const Owner& owner); // an owner is going: closes both, whoever owns them, and drops references to it
 
-    [[nodiscard]] CalendarioSDI* calendar() noexcept;   // null when not loaded
+    // One is loaded and would write into this owner: the focus it takes from the owner is no leaving.
+    [[nodiscard]] bool isOpenFor(const Owner& owner) const noexcept;
+    [[nodiscard]] CalendarioSDI* calendar() noexcept; // null when not loaded
     [[nodiscard]] frmCalculadora* calculator() noexcept;
 
 private:

@@ -1,0 +1,106 @@
+// The free-standing calendar: its persisted date, its operations, its mouse and keys.
+#include "popups/c_calendar.h"
+
+#include "engine/error.h"
+#include "popups/calendar_keys.h"
+#include "popups/calendar_layout.h"
+#include "popups/grid_dates.h"
+
+namespace vela::popups {
+
+namespace {
+
+constexpr std::u16string_view dateKey = u"DateInitial";
+constexpr HighlightRule highlightRule{1000, u"Vela", u"Não é possível inserir mais de 1000 datas!"};
+
+} // namespace
+
+cCalendar::cCalendar(platform::Environment& environment, platform::FormFactory& forms, const CalendarColours& colours)
+    : form_(forms.make(calendarControlLayout(), *this)), calendar_(environment, *form_, colours, highlightRule)
+{
+}
+
+void cCalendar::initNew()
+{
+    calendar_.load();
+}
+
+void cCalendar::load(platform::PropertyBag& bag)
+{
+    const engine::Value kept = bag.read(dateKey, std::u16string());
+    if (const auto* text = std::get_if<std::u16string>(&kept))
+        calendar_.grid.select(*text);
+    calendar_.load();
+}
+
+void cCalendar::save(platform::PropertyBag& bag)
+{
+    bag.write(dateKey, grid().selectedText(), std::u16string());
+}
+
+engine::Value cCalendar::IniciaCalendario(const engine::Value& date)
+{
+    calendar_.start(date);
+    return engine::Empty{};
+}
+
+engine::Value cCalendar::IncluiDataRealcada(const engine::Value&)
+{
+    calendar_.countHighlight();
+    return engine::Empty{};
+}
+
+engine::Date cCalendar::selectedDate() const
+{
+    const auto date = tryReadDayFirst(grid().selectedText());
+    if (!date)
+        engine::raise(engine::error_number::typeMismatch);
+    return engine::makeDate(*date);
+}
+
+void cCalendar::clickDay(int cell)
+{
+    calendar_.grid.clickDay(cell);
+    calendar_.view.refresh();
+}
+
+void cCalendar::chooseMonth(int index)
+{
+    calendar_.grid.putMonthIndex(index);
+    calendar_.view.refresh();
+}
+
+void cCalendar::chooseYear(int index)
+{
+    calendar_.grid.putYearIndex(index);
+    calendar_.view.refresh();
+}
+
+void cCalendar::pick(int cell)
+{
+    clickDay(cell);
+    if (picked)
+        picked();
+}
+
+void cCalendar::clicked(platform::WidgetId widget)
+{
+    if (widget == calendar_widget::months)
+        calendar_.view.takeMonth();
+    else if (widget == calendar_widget::years)
+        calendar_.view.takeYear();
+    else if (const int cell = calendar_widget::cellOf(widget); cell >= 0)
+        pick(cell);
+}
+
+void cCalendar::keyDown(platform::WidgetId, int& code, int& shift)
+{
+    if (code == enterKey && shift == 0 && grid().frameCell() >= 0) {
+        code = 0;
+        pick(grid().frameCell());
+    } else if (calendar_.view.moveByKey(code, shift)) {
+        code = 0;
+    }
+}
+
+} // namespace vela::popups

@@ -1,0 +1,53 @@
+// The free-standing month calendar that a host places on a form of its own.
+#pragma once
+
+#include "platform/control_host.h"
+#include "popups/calendar_operations.h"
+
+#include <functional>
+#include <memory>
+
+namespace vela::popups {
+
+class cCalendar final : public platform::FormEvents {
+public:
+    // Selects nothing and draws nothing before initNew() or load(). All outlive the object.
+    cCalendar(platform::Environment& environment, platform::FormFactory& forms, const CalendarColours& colours);
+
+    void initNew();                        // today is selected
+    void load(platform::PropertyBag& bag); // "DateInitial", "dd/mm/yyyy"; empty: today
+    void save(platform::PropertyBag& bag);
+
+    engine::Value IniciaCalendario(const engine::Value& date);
+    engine::Value IncluiDataRealcada(const engine::Value& date);
+    // The selected date; 13 while the text is none.
+    [[nodiscard]] engine::Date selectedDate() const;
+
+    void clickDay(int cell);     // 9 outside 0..41
+    void chooseMonth(int index); // 380 outside the list
+    void chooseYear(int index);
+    [[nodiscard]] const CalendarGrid& grid() const noexcept { return calendar_.grid; }
+    [[nodiscard]] platform::Form& form() noexcept { return *form_; } // for the host to embed
+
+    std::function<void()> picked; // a day has been picked with the mouse or the Enter key
+
+    void clicked(platform::WidgetId widget) override;
+    void doubleClicked(platform::WidgetId) override {}
+    void changed(platform::WidgetId) override {}
+    void gotFocus(platform::WidgetId) override {}
+    void lostFocus(platform::WidgetId) override {}
+    void keyDown(platform::WidgetId widget, int& code, int& shift) override;
+    void keyPress(platform::WidgetId, int&) override {}
+    void activated() override {}
+    void deactivated() override {}
+    void tick() override {}
+    void closed() override {}
+
+private:
+    void pick(int cell);
+
+    std::unique_ptr<platform::Form> form_;
+    CalendarOperations calendar_;
+};
+
+} // namespace vela::popups

@@ -1,0 +1,42 @@
+// Initialisation, starting date and highlight counting of a calendar.
+#include "popups/calendar_operations.h"
+
+#include "popups/grid_dates.h"
+#include "popups/trap.h"
+
+namespace vela::popups {
+
+CalendarOperations::CalendarOperations(platform::Environment& environment, platform::Form& form,
+                                       const CalendarColours& colours, const HighlightRule& rule)
+    : grid(rule.limit), view(form, grid, colours), environment_(environment), rule_(rule)
+{
+}
+
+void CalendarOperations::load()
+{
+    const auto error = trapped([&] {
+        grid.initialise(civilToday(environment_.clock.now()));
+        grid.show(); // the model is whole before a window can fail
+        view.applyColours();
+        view.colourHeader();
+        view.refresh();
+    });
+    if (error)
+        boxes.show(environment_.desktop, platform::BoxIcon::information, u"Vela.Load", error->description);
+}
+
+void CalendarOperations::start(const engine::Value& date)
+{
+    const engine::Date now = environment_.clock.now();
+    const auto read = tryReadDate(date, environment_.locales.locale(), now);
+    grid.select(read.value_or(civilToday(now)));
+    load();
+}
+
+void CalendarOperations::countHighlight()
+{
+    if (!grid.countHighlight())
+        boxes.show(environment_.desktop, platform::BoxIcon::exclamation, rule_.title, rule_.text);
+}
+
+} // namespace vela::popups

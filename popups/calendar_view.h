@@ -1,0 +1,48 @@
+// The calendar on a form: carries the grid's state onto the widgets and the combos' choices back into the grid.
+#pragma once
+
+#include "platform/form.h"
+#include "popups/calendar_colours.h"
+#include "popups/calendar_grid.h"
+
+#include <array>
+#include <optional>
+
+namespace vela::popups {
+
+class CalendarView {
+public:
+    // All outlive the view; the grid changes only between two calls of refresh().
+    CalendarView(platform::Form& form, CalendarGrid& grid, const CalendarColours& colours);
+
+    void applyColours(); // form, panel, combos, frame
+    void colourHeader();
+    void refresh(); // years, choices, cells, frame
+
+    // A combo's Click. Nothing while refresh() itself chooses.
+    void takeMonth();
+    void takeYear();
+    // True when the key moved the frame to another day, switching the month where it has to.
+    bool moveByKey(int code, int shift);
+
+private:
+    // What a cell shows; a cell is written again only when this differs.
+    struct Painted {
+        std::optional<engine::CivilDate> date;
+        engine::Colour fore;
+        bool framed = false;
+        friend bool operator==(const Painted&, const Painted&) = default;
+    };
+    void refreshYears();
+    void refreshChoice(platform::WidgetId combo, int chosen);
+    void refreshCell(int cell);
+    void refreshFrame();
+
+    platform::Form& form_;
+    CalendarGrid& grid_;
+    const CalendarColours& colours_;
+    std::array<std::optional<Painted>, cellCount> painted_;
+    bool refreshing_ = false;
+};
+
+} // namespace vela::popups

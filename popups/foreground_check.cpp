@@ -1,0 +1,34 @@
+// The foreground check of the calendar and the calculator.
+#include "popups/foreground_check.h"
+
+#include "popups/trap.h"
+
+namespace vela::popups {
+
+namespace {
+
+// The second question to an MDI child's owner asks for a window that is its own child, so it is never true; kept.
+bool isInFront(platform::WindowId popup, Owner& owner, const platform::Desktop& desktop)
+{
+    const platform::ParentForm parent = owner.popupParent();
+    if (desktop.activeWindow() == popup)
+        return true;
+    if (!parent.mdiChild)
+        return false;
+    const platform::WindowId active = desktop.activeWindow();
+    return desktop.isChild(parent.window, active) && parent.window == active;
+}
+
+} // namespace
+
+bool mayStayOpen(platform::WindowId popup, Owner& owner, const platform::Environment& environment,
+                 std::u16string_view label)
+{
+    bool inFront = false;
+    const auto error = trapped([&] { inFront = isInFront(popup, owner, environment.desktop); });
+    if (error && error->number != clientSiteNotAvailable)
+        environment.log.append(popupLogPath, {error->number, error->description, std::u16string(label)});
+    return !error && inFront;
+}
+
+} // namespace vela::popups

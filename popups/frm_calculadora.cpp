@@ -1,0 +1,264 @@
+// The calculator's form: buttons and keys to the model, the model's answers to the display and the focus.
+#include "popups/frm_calculadora.h"
+
+#include "engine/conversions.h"
+#include "popups/calculator_layout.h"
+#include "popups/foreground_check.h"
+#include "popups/trap.h"
+
+namespace vela::popups {
+
+namespace {
+
+namespace widget = calculator_widget;
+
+constexpr int timerInterval = 100; // milliseconds
+constexpr int backspaceKey = 8;
+constexpr int enterKey = 13;
+constexpr int escapeKey = 27;
+constexpr int deleteKey = 46;
+constexpr int keypadDecimal = 110;
+constexpr int f2Key = 113;
+
+// The button a character stands for; an id that tests false for any other character.
+platform::WidgetId buttonOf(int character) noexcept
+{
+    switch (character) {
+    case u'=': return widget::equals;
+    case u'C':
+    case u'c': return widget::cancel;
+    case u'%': return widget::percent;
+    case u'X':
+    case u'x':
+    case u'*': return widget::operation(2);
+    case u'+': return widget::operation(1);
+    case u'-': return widget::operation(3);
+    case u'.': return widget::decimal;
+    case u'/': return widget::operation(0);
+    default: break;
+    }
+    return character >= u'0' && character <= u'9' ? widget::number(character - u'0') : platform::WidgetId{};
+}
+
+} // namespace
+
+frmCalculadora::frmCalculadora(platform::Environment& environment, platform::FormFactory& forms, PopupRecord& record)
+    : environment_(environment), record_(record), form_(forms.make(calculatorLayout(), *this))
+{
+    loaded_ = true;
+    load();
+}
+
+// A value that a widget refuses (380) is passed over; any other failure is told and ends loading.
+void frmCalculadora::load()
+{
+    constexpr void (frmCalculadora::*steps[])() = {&frmCalculadora::nameButtons, &frmCalculadora::paintDisplay};
+    model_.resetForLoad();
+    for (const auto step : steps) {
+        const auto error = trapped([&] { (this->*step)(); });
+        if (!error || error->number == engine::error_number::invalidPropertyValue)
+            continue;
+        const std::string number = std::to_string(error->number);
+        boxes_.show(environment_.desktop, platform::BoxIcon::information, u"Vela.Load",
+                    std::u16string(number.begin(), number.end()) + u"-" + error->description);
+        return;
+    }
+}
+
+void frmCalculadora::nameButtons()
+{
+    for (int at = 0; at < static_cast<int>(calculatorLayout().rows.size()); ++at) {
+        if (spokenName({at}).empty())
+            continue;
+        platform::WidgetLook look = form_->look({at});
+        look.spokenName = spokenName({at});
+        form_->putLook({at}, look);
+    }
+}
+
+void frmCalculadora::paintDisplay()
+{
+    platform::WidgetLook look = form_->look(widget::display);
+    look.fore = engine::Colour{0x80000008}; // window text
+    look.back = engine::Colour{0x80000005}; // window
+    look.opaque = true;
+    look.border = true;
+    form_->putLook(widget::display, look);
+}
+
+void frmCalculadora::putDisplay(std::u16string_view text)
+{
+    form_->putText(widget::display, text);
+}
+
+std::u16string frmCalculadora::display() const
+{
+    return form_->text(widget::display);
+}
+
+void frmCalculadora::clickWithMouse(platform::WidgetId button)
+{
+    form_->focus(button);
+    clicked(button);
+}
+
+void frmCalculadora::typeCharacter(char16_t character)
+{
+    int key = character;
+    keyPress(form_->focused(), key);
+}
+
+void frmCalculadora::pressF2()
+{
+    int code = f2Key;
+    int shift = 0;
+    keyDown(form_->focused(), code, shift);
+}
+
+void frmCalculadora::show(engine::RectPixels place, platform::WindowId parent)
+{
+    form_->showPopup(place, parent);
+}
+
+void frmCalculadora::unload()
+{
+    if (loaded_)
+        form_->close();
+}
+
+void frmCalculadora::clicked(platform::WidgetId id)
+{
+    const HandlerScope running(record_);
+    if (!loaded_)
+        return;
+    if (widget::isOperator(id))
+        operation(id.value);
+    else if (widget::isNumber(id))
+        digit(id.value - widget::zero.value);
+    else if (id == widget::decimal)
+        take(model_.decimal(display()));
+    else if (id == widget::percent)
+        percent();
+    else if (id == widget::cancelEntry)
+        take(model_.clearEntry());
+    else if (id == widget::cancel)
+        take(model_.clearAll());
+}
+
+void frmCalculadora::digit(int digit)
+{
+    take(model_.digit(display(), digit));
+}
+
+void frmCalculadora::operation(int index)
+{
+    form_->focus(widget::equals);
+    const CalculatorAnswer answer = model_.operation(display(), index, locale());
+    if (answer.dividedByZero)
+        boxes_.show(environment_.desktop, platform::BoxIcon::exclamation, u"Tamber Calc",
+                    u"Erro, Divisão por zero impossível");
+    if (loaded_)
+        putDisplay(answer.display);
+}
+
+void frmCalculadora::percent()
+{
+    take(model_.percent(display(), locale()));
+}
+
+void frmCalculadora::take(const CalculatorAnswer& answer)
+{
+    putDisplay(answer.display);
+    if (answer.focus == CalculatorFocus::equals)
+        form_->focus(widget::equals);
+    else if (answer.focus == CalculatorFocus::zero)
+        form_->focus(widget::zero);
+}
+
+void frmCalculadora::keyPress(platform::WidgetId focused, int& key)
+{
+    const HandlerScope running(record_);
+    const platform::WidgetId button = buttonOf(key);
+    if (button && (widget::isNumber(focused) || widget::isOperator(focused)))
+        clicked(button);
+}
+
+void frmCalculadora::keyDown(platform::WidgetId focused, int& code, int& shift)
+{
+    const HandlerScope running(record_);
+    if (!loaded_)
+        return;
+    if (code == f2Key) {
+        if (widget::isOperator(focused))
+            valueToOwner();
+    } else if (shift == 0 && conventionalKey(code)) {
+        code = 0;
+    }
+}
+
+// Keys that people expect of a calculator beside its characters.
+bool frmCalculadora::conventionalKey(int code)
+{
+    switch (code) {
+    case enterKey: operation(widget::equals.value); return true;
+    case escapeKey: unload(); return true;
+    case deleteKey: take(model_.clearEntry()); return true;
+    case backspaceKey: take(model_.eraseLast(display())); return true;
+    case keypadDecimal: take(model_.decimal(display())); return true;
+    default: return false;
+    }
+}
+
+// The text is put first: where that fails the calculator stays open.
+void frmCalculadora::valueToOwner()
+{
+    const double value = engine::toDouble(std::u16string_view(display()), locale());
+    if (owner_ != nullptr)
+        owner_->putPopupText(value);
+    unload();
+}
+
+void frmCalculadora::activated()
+{
+    const HandlerScope running(record_);
+    environment_.desktop.processPendingEvents();
+    if (!loaded_)
+        return; // one of the events closed it
+    form_->startTimer(timerInterval);
+    form_->focus(widget::equals);
+}
+
+void frmCalculadora::deactivated()
+{
+    const HandlerScope running(record_);
+    if (!boxes_.anyUp())
+        unload();
+}
+
+void frmCalculadora::tick()
+{
+    const HandlerScope running(record_);
+    if (!loaded_ || boxes_.anyUp())
+        return;
+    const platform::WindowId active = environment_.desktop.activeWindow();
+    if (active && active != form_->window()) { // another form of the program
+        unload();
+        return;
+    }
+    if (owner_ == nullptr || mayStayOpen(form_->window(), *owner_, environment_, u"Procedimento: Calculadora"))
+        return;
+    unload();
+    if (owner_ != nullptr)
+        owner_->takePopupFocus();
+}
+
+void frmCalculadora::closed()
+{
+    const HandlerScope running(record_);
+    if (!loaded_)
+        return;
+    loaded_ = false;
+    record_.closed();
+}
+
+} // namespace vela::popups

@@ -1,0 +1,75 @@
+// The calculator that a number field opens: F2 writes the display into the owner's Text and closes it.
+#pragma once
+
+#include "platform/environment.h"
+#include "platform/form.h"
+#include "popups/calculator_model.h"
+#include "popups/own_box.h"
+#include "popups/owner.h"
+#include "popups/popup_record.h"
+
+#include <memory>
+
+namespace vela::popups {
+
+class frmCalculadora final : public platform::FormEvents {
+public:
+    // Loads with the display "0.". All outlive the object.
+    frmCalculadora(platform::Environment& environment, platform::FormFactory& forms, PopupRecord& record);
+    ~frmCalculadora() { loaded_ = false; } // its window's going away is no closing
+    frmCalculadora(const frmCalculadora&) = delete;
+    frmCalculadora& operator=(const frmCalculadora&) = delete;
+
+    void setOwner(Owner* owner) noexcept { owner_ = owner; }
+    [[nodiscard]] Owner* owner() const noexcept { return owner_; }
+
+    void handOver(bool decimalFlag) noexcept { model_.handOver(decimalFlag); }
+    void putDisplay(std::u16string_view text);
+    [[nodiscard]] std::u16string display() const;
+    [[nodiscard]] const CalculatorModel& model() const noexcept { return model_; }
+
+    // As a mouse click does: the focus goes to the button, then its handler runs. Raises 6 on overflow.
+    void clickWithMouse(platform::WidgetId button);
+    // As keys at the focused button do. F2 raises 13 for a display that is no number, and what the owner's Text raises.
+    void typeCharacter(char16_t character);
+    void pressF2();
+
+    void show(engine::RectPixels place, platform::WindowId parent);
+    void unload(); // once; the object stays until its record lets go of it
+    [[nodiscard]] bool isLoaded() const noexcept { return loaded_; }
+    [[nodiscard]] bool isShown() const { return loaded_ && form_->isShown(); }
+
+    void clicked(platform::WidgetId widget) override;
+    void doubleClicked(platform::WidgetId) override {}
+    void changed(platform::WidgetId) override {}
+    void gotFocus(platform::WidgetId) override {}
+    void lostFocus(platform::WidgetId) override {}
+    void keyDown(platform::WidgetId widget, int& code, int& shift) override;
+    void keyPress(platform::WidgetId widget, int& key) override;
+    void activated() override;
+    void deactivated() override;
+    void tick() override;
+    void closed() override;
+
+private:
+    void load();
+    void nameButtons();
+    void paintDisplay();
+    void digit(int digit);
+    void operation(int index);
+    void percent();
+    bool conventionalKey(int code);
+    void take(const CalculatorAnswer& answer);
+    void valueToOwner();
+    [[nodiscard]] const engine::Locale& locale() const { return environment_.locales.locale(); }
+
+    platform::Environment& environment_;
+    PopupRecord& record_;
+    Owner* owner_ = nullptr;
+    CalculatorModel model_;
+    OwnBoxes boxes_;
+    bool loaded_ = false;
+    std::unique_ptr<platform::Form> form_;
+};
+
+} // namespace vela::popups

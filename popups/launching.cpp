@@ -1,0 +1,123 @@
+// The numbered steps of opening the calendar and the calculator.
+#include "popups/launching.h"
+
+#include "engine/conversions.h"
+#include "popups/calendar_grid.h"
+#include "popups/calendario_sdi.h"
+#include "popups/frm_calculadora.h"
+#include "popups/grid_dates.h"
+#include "popups/trap.h"
+
+namespace vela::popups {
+
+namespace {
+
+struct FailureTexts {
+    std::u16string_view heading;
+    std::u16string_view hint;
+};
+
+constexpr FailureTexts calendarFailure{u"Erro ao Exibir o Calendário !",
+                                       u"Info Técnicas: Não é possível exibir o calendário em forms modais"};
+constexpr FailureTexts calculatorFailure{u"Erro ao Exibir a Calculadora !",
+                                         u"Info Técnicas: Não é possível exibir a calculadora em forms modais"};
+
+std::u16string digits(int number)
+{
+    const std::string text = std::to_string(number);
+    return {text.begin(), text.end()};
+}
+
+// "Erro ao Exibir o Calendário !\r\nLinha do Erro: 4\r\nN° do Erro: 380\r\nDescrição: ( Invalid property value
+// )\r\n..."
+std::u16string failureText(const FailureTexts& texts, int step, const engine::Error& error)
+{
+    const std::u16string lineBreak = u"\r\n";
+    std::u16string text(texts.heading);
+    text += lineBreak + u"Linha do Erro: " + digits(step);
+    text += lineBreak + u"N° do Erro: " + digits(error.number);
+    text += lineBreak + u"Descrição: ( " + error.description + u" )";
+    text += lineBreak;
+    text += texts.hint;
+    return text;
+}
+
+template <class Steps>
+void launch(const platform::Environment& environment, const FailureTexts& texts, Steps&& steps)
+{
+    int step = 0;
+    const auto error = trapped([&] { steps(step); });
+    if (error)
+        environment.desktop.messageBox(platform::BoxIcon::information, platform::BoxButtons::ok, u"Vela",
+                                       failureText(texts, step, *error));
+}
+
+engine::RectPixels placeUnder(engine::RectPixels control, int width, int height)
+{
+    return {control.left, control.bottom(), width, height};
+}
+
+// A modeless pop-up cannot be shown over a modal form.
+platform::WindowId modelessParent(Owner& owner)
+{
+    const platform::ParentForm parent = owner.popupParent();
+    if (parent.modal)
+        throw engine::Error{401, u"Can't show non-modal form when modal form is displayed"};
+    return parent.window;
+}
+
+engine::CivilDate startingDate(Owner& owner, const platform::Environment& environment)
+{
+    const engine::Date now = environment.clock.now();
+    return tryReadDate(owner.popupText(), environment.locales.locale(), now).value_or(civilToday(now));
+}
+
+} // namespace
+
+void launchCalendar(const platform::Environment& environment, Owner& owner, const std::function<CalendarioSDI&()>& load)
+{
+    launch(environment, calendarFailure, [&](int& step) {
+        step = 1;
+        const engine::RectPixels control = owner.popupAnchor();
+        step = 2;
+        CalendarioSDI& calendar = load();
+        calendar.setOwner(&owner);
+        step = 3;
+        const engine::CivilDate start = startingDate(owner, environment);
+        calendar.putSelected(start);
+        step = 4;
+        calendar.putMonthIndex(start.month - 1);
+        calendar.putYearIndex(start.year - firstYear);
+        step = 5;
+        const engine::RectPixels place = placeUnder(control, calendarPopupWidth, calendarPopupHeight);
+        step = 6;
+        calendar.show(place, modelessParent(owner));
+    });
+}
+
+void launchCalculator(const platform::Environment& environment, Owner& owner,
+                      const std::function<frmCalculadora&()>& load, const std::function<frmCalculadora*()>& loaded)
+{
+    launch(environment, calculatorFailure, [&](int& step) {
+        step = 1;
+        const engine::RectPixels control = owner.popupAnchor();
+        step = 2;
+        frmCalculadora& calculator = load();
+        calculator.setOwner(&owner);
+        step = 3;
+        calculator.handOver(hasDecimals(owner.popupText()));
+        step = 4;
+        environment.desktop.processPendingEvents();
+        if (loaded() != &calculator || calculator.owner() != &owner)
+            return; // one of the events took the calculator or its owner away
+        const std::u16string text = owner.popupText();
+        if (engine::isNumeric(std::u16string_view(text), environment.locales.locale()))
+            calculator.putDisplay(text);
+        step = 5;
+        const engine::RectPixels place = placeUnder(control, calculatorPopupWidth, calculatorPopupHeight);
+        step = 6;
+        calculator.show(place, modelessParent(owner));
+    });
+}
+
+} // namespace vela::popups

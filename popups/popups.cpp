@@ -1,0 +1,155 @@
+// The record of the process's pop-ups: opening, closing, and letting go of closed ones at a safe moment.
+#include "popups/popups.h"
+
+#include "popups/calendario_sdi.h"
+#include "popups/frm_calculadora.h"
+#include "popups/launching.h"
+#include "popups/trap.h"
+
+#include <vector>
+
+namespace vela::popups {
+
+namespace {
+
+// At most one loaded form of its kind. A form that closes may be running the very handler that closed it, so it is put
+// aside and destroyed at the next opening or with the record.
+template <class PopupForm>
+class Slot {
+public:
+    Slot()
+    {
+        record.closed = [this] { aside_.push_back(std::move(loaded_)); };
+    }
+
+    [[nodiscard]] PopupForm* loaded() const noexcept { return loaded_.get(); }
+
+    template <class Make>
+    PopupForm& load(Make&& make)
+    {
+        if (!loaded_) {
+            if (record.handlersRunning == 0)
+                aside_.clear();
+            aside_.reserve(aside_.size() + 1); // closing allocates nothing
+            loaded_ = make(record);
+        }
+        return *loaded_;
+    }
+
+    void close()
+    {
+        if (loaded_ && !opening)
+            loaded_->unload();
+    }
+
+    // The owner is going. What was put aside may still stand in a handler that would come back to it.
+    void forget(const Owner& owner)
+    {
+        for (const auto& form : aside_)
+            drop(*form, owner);
+        if (!loaded_)
+            return;
+        drop(*loaded_, owner);
+        if (trapped([&] { loaded_->unload(); }) && loaded_)
+            loaded_->closed(); // its window would not close; it is let go of all the same
+    }
+
+    PopupRecord record;
+    bool opening = false; // the focus that opening itself moves does not close it
+
+private:
+    static void drop(PopupForm& form, const Owner& owner)
+    {
+        if (form.owner() == &owner)
+            form.setOwner(nullptr);
+    }
+
+    std::unique_ptr<PopupForm> loaded_;
+    std::vector<std::unique_ptr<PopupForm>> aside_;
+};
+
+class Opening {
+public:
+    explicit Opening(bool& flag) noexcept : flag_(flag) { flag_ = true; }
+    ~Opening() { flag_ = false; }
+    Opening(const Opening&) = delete;
+    Opening& operator=(const Opening&) = delete;
+
+private:
+    bool& flag_;
+};
+
+} // namespace
+
+struct Popups::State {
+    platform::Environment& environment;
+    platform::FormFactory& forms;
+    Slot<CalendarioSDI> calendar;
+    Slot<frmCalculadora> calculator;
+
+    State(platform::Environment& machine, platform::FormFactory& factory) : environment(machine), forms(factory) {}
+};
+
+Popups::Popups(platform::Environment& environment, platform::FormFactory& forms)
+    : state_(std::make_unique<State>(environment, forms))
+{
+}
+
+Popups::~Popups() = default;
+
+void Popups::openCalendar(Owner& owner)
+{
+    const Opening opening(state_->calendar.opening);
+    launchCalendar(state_->environment, owner, [this]() -> CalendarioSDI& {
+        state_->calculator.close();
+        return state_->calendar.load([this](PopupRecord& record) {
+            return std::make_unique<CalendarioSDI>(state_->environment, state_->forms, colours, record);
+        });
+    });
+}
+
+void Popups::openCalculator(Owner& owner)
+{
+    const Opening opening(state_->calculator.opening);
+    launchCalculator(
+        state_->environment, owner,
+        [this]() -> frmCalculadora& {
+            state_->calendar.close();
+            return state_->calculator.load([this](PopupRecord& record) {
+                return std::make_unique<frmCalculadora>(state_->environment, state_->forms, record);
+            });
+        },
+        [this] { return state_->calculator.loaded(); });
+}
+
+void Popups::closeAll()
+{
+    state_->calendar.close();
+    state_->calculator.close();
+}
+
+void Popups::forget(const Owner& owner)
+{
+    state_->calendar.forget(owner);
+    state_->calculator.forget(owner);
+}
+
+bool Popups::isOpenFor(const Owner& owner) const noexcept
+{
+    const CalendarioSDI* calendar = state_->calendar.loaded();
+    const frmCalculadora* calculator = state_->calculator.loaded();
+    return (calendar != nullptr && calendar->owner() == &owner) ||
+           (calculator != nullptr && calculator->owner() == &owner);
+}
+
+CalendarioSDI* Popups::calendar() noexcept
+{
+    return state_->calendar.loaded();
+}
+
+frmCalculadora* Popups::calculator() noexcept
+{
+    return state_->calculator.loaded();
+}
+
+} // namespace vela::popups
