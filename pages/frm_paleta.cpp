@@ -20,6 +20,19 @@ namespace {
 
 constexpr std::u16string_view swatchName = u"Picture1";
 
+std::u16string decimal(std::uint32_t number)
+{
+    const std::string digits = std::to_string(number);
+    return {digits.begin(), digits.end()};
+}
+
+// "Vermelho 255, verde 0, azul 0", as the boxes of the own colour would have it.
+std::u16string spokenColour(Colour colour)
+{
+    return u"Vermelho " + decimal(colour.value & 255) + u", verde " + decimal(colour.value >> 8 & 255) + u", azul " +
+           decimal(colour.value >> 16 & 255);
+}
+
 } // namespace
 
 frmPaleta::frmPaleta(platform::FormFactory& forms) : form_(forms.make(paletaLayout(), *this))
@@ -28,6 +41,7 @@ frmPaleta::frmPaleta(platform::FormFactory& forms) : form_(forms.make(paletaLayo
         const WidgetId swatch = id(swatchName, entry.index);
         platform::WidgetLook look = form_->look(swatch);
         look.back = entry.colour;
+        look.spokenName = spokenColour(entry.colour);
         form_->putLook(swatch, look);
     }
     platform::WidgetLook look = form_->look(id(u"picCustom"));

@@ -3,6 +3,7 @@
 
 #include "engine/conversions.h"
 #include "engine/error.h"
+#include "pages/spoken_names.h"
 
 #include <algorithm>
 #include <bit>
@@ -44,6 +45,7 @@ Colour toColour(const Value& value, const engine::Locale& locale)
 PageForm::PageForm(const platform::FormLayout& layout, const PageServices& services, PageSite& site)
     : layout_(layout), services_(services), site_(site), form_(services.forms.make(layout, *this))
 {
+    putSpokenNames(layout, *form_);
 }
 
 // --- bindings

@@ -128,9 +128,9 @@ bool ppPrincipal::apply()
     return true;
 }
 
-int ppPrincipal::textType() const
+int ppPrincipal::textType()
 {
-    return page_.form().items(page_.id(u"cboTextType")).chosen();
+    return page_.items(u"cboTextType").chosen();
 }
 
 void ppPrincipal::checkSymbol()

@@ -36,7 +36,7 @@ private:
     void fillProfiles();
 
     // Applying.
-    [[nodiscard]] int textType() const;
+    [[nodiscard]] int textType();
     void checkSymbol();
     [[nodiscard]] bool isDateFormatAccepted() const; // says what is wrong with a character
     [[nodiscard]] bool acceptDateFormat();

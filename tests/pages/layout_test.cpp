@@ -1,0 +1,146 @@
+// The layout tables: everything in its place, reachable by keyboard, and named as scripts name it.
+#include "pages/layouts.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <string>
+
+namespace vela::pages {
+namespace {
+
+using platform::FormLayout;
+using platform::WidgetKind;
+using platform::WidgetRow;
+
+std::string narrow(std::u16string_view text)
+{
+    std::string out;
+    for (const char16_t unit : text)
+        out += unit < 128 ? static_cast<char>(unit) : '?';
+    return out;
+}
+
+std::string label(const FormLayout& layout, const WidgetRow& row)
+{
+    return narrow(layout.name) + "." + narrow(row.name) + "(" + std::to_string(row.index) + ")";
+}
+
+const WidgetRow* find(const FormLayout& layout, std::u16string_view name)
+{
+    const auto found = std::ranges::find(layout.rows, name, &WidgetRow::name);
+    return found == layout.rows.end() ? nullptr : &*found;
+}
+
+bool takesFocus(WidgetKind kind)
+{
+    return kind != WidgetKind::label && kind != WidgetKind::frame && kind != WidgetKind::preview;
+}
+
+bool standTogether(const WidgetRow& a, const WidgetRow& b)
+{
+    return a.parent == b.parent && (a.tab == b.tab || a.tab < 0 || b.tab < 0);
+}
+
+bool overlap(const engine::RectTwips& a, const engine::RectTwips& b)
+{
+    return a.left < b.left + b.width && b.left < a.left + a.width && a.top < b.top + b.height &&
+           b.top < a.top + a.height;
+}
+
+// The two groups of ppGeral take turns in one place; the tab strip lies under what stands on its tabs.
+bool mayOverlap(const WidgetRow& a, const WidgetRow& b)
+{
+    const auto group = [](const WidgetRow& row) { return row.name == u"fraGotFocus" || row.name == u"fraLostFocus"; };
+    const auto strip = [](const WidgetRow& row) { return row.kind == WidgetKind::tabStrip; };
+    return (group(a) && group(b)) || (strip(a) && b.tab >= 0) || (strip(b) && a.tab >= 0);
+}
+
+char16_t accessKey(std::u16string_view caption)
+{
+    const std::size_t mark = caption.find(u'&');
+    if (mark == std::u16string_view::npos || mark + 1 == caption.size())
+        return 0;
+    const char16_t key = caption[mark + 1];
+    return key >= u'A' && key <= u'Z' ? static_cast<char16_t>(key + 32) : key;
+}
+
+class Layouts : public testing::TestWithParam<const FormLayout*> {};
+
+TEST_P(Layouts, EveryRowStandsInsideItsContainer)
+{
+    const FormLayout& layout = *GetParam();
+    for (const WidgetRow& row : layout.rows) {
+        const WidgetRow* parent = row.parent.empty() ? nullptr : find(layout, row.parent);
+        ASSERT_EQ(row.parent.empty(), parent == nullptr) << label(layout, row);
+        if (parent) {
+            EXPECT_EQ(parent->kind, WidgetKind::frame) << label(layout, row);
+            EXPECT_LT(parent, &row) << label(layout, row);
+            EXPECT_EQ(parent->tab, row.tab) << label(layout, row);
+        }
+        EXPECT_GT(row.place.width, 0) << label(layout, row);
+        EXPECT_GE(row.place.left, parent ? 90 : 0) << label(layout, row);
+        EXPECT_GE(row.place.top, parent ? 225 : 0) << label(layout, row);
+        EXPECT_LE(row.place.left + row.place.width, parent ? parent->place.width - 60 : layout.width)
+            << label(layout, row);
+        EXPECT_LE(row.place.top + row.place.height, parent ? parent->place.height - 60 : layout.height)
+            << label(layout, row);
+    }
+}
+
+TEST_P(Layouts, NoTwoRowsOverlap)
+{
+    const FormLayout& layout = *GetParam();
+    for (const WidgetRow& a : layout.rows)
+        for (const WidgetRow& b : layout.rows)
+            if (&a < &b && standTogether(a, b) && !mayOverlap(a, b)) {
+                EXPECT_FALSE(overlap(a.place, b.place)) << label(layout, a) << " " << label(layout, b);
+            }
+}
+
+TEST_P(Layouts, NamesAreUniqueAndAccessKeysAreUniqueOnATab)
+{
+    const FormLayout& layout = *GetParam();
+    std::set<std::pair<std::u16string_view, int>> names;
+    std::map<std::pair<int, char16_t>, std::string> keys;
+    for (const WidgetRow& row : layout.rows) {
+        EXPECT_TRUE(names.insert({row.name, row.index}).second) << label(layout, row);
+        const char16_t key = accessKey(row.caption);
+        if (!key)
+            continue;
+        for (int tab = row.tab < 0 ? -1 : row.tab; tab <= (row.tab < 0 ? 3 : row.tab); ++tab) {
+            const auto [place, added] = keys.insert({{tab, key}, label(layout, row)});
+            EXPECT_TRUE(added) << label(layout, row) << " takes the key of " << place->second;
+        }
+    }
+}
+
+// A label with an access key hands the focus to the row behind it.
+TEST_P(Layouts, AccessKeysOfLabelsLeadToAControl)
+{
+    const FormLayout& layout = *GetParam();
+    for (std::size_t i = 0; i < layout.rows.size(); ++i)
+        if (layout.rows[i].kind == WidgetKind::label && accessKey(layout.rows[i].caption)) {
+            ASSERT_LT(i + 1, layout.rows.size());
+            EXPECT_TRUE(takesFocus(layout.rows[i + 1].kind)) << label(layout, layout.rows[i]);
+        }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Layouts,
+                         testing::Values(&principalLayout(), &geralLayout(), &errosLayout(), &fonteLayout(),
+                                         &calendarioLayout(), &paletaLayout()),
+                         [](const auto& layout) { return narrow(layout.param->name); });
+
+TEST(PageLayouts, FitTheFrame)
+{
+    for (const FormLayout* layout :
+         {&principalLayout(), &geralLayout(), &errosLayout(), &fonteLayout(), &calendarioLayout()}) {
+        EXPECT_LE(layout->width, 5625);  // 250 dialog units of Tahoma 8
+        EXPECT_LE(layout->height, 5363); // 220
+    }
+}
+
+} // namespace
+} // namespace vela::pages

@@ -1,0 +1,99 @@
+// The rules of the pages that stand alone: key filters, date format check, mask preparation, letters, mask keys.
+#include "pages/key_filters.h"
+#include "pages/layouts.h"
+#include "pages/palette_colours.h"
+#include "pages/principal_rules.h"
+#include "pages/spoken_names.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+namespace vela::pages {
+namespace {
+
+TEST(KeyFilters, LetThrough)
+{
+    std::u16string symbol, size, amount;
+    for (int key = 8; key < 127; ++key) {
+        if (key >= u'0' && key <= u'9' && symbolKey(key))
+            symbol += static_cast<char16_t>(key);
+        if (digitOrBackspace(key))
+            size += static_cast<char16_t>(key);
+        if (digit(key))
+            amount += static_cast<char16_t>(key);
+    }
+    EXPECT_EQ(symbol, u"09");
+    EXPECT_TRUE(symbolKey(u'R') && symbolKey(8) && symbolKey(u';'));
+    EXPECT_EQ(size, u"\b0123456789");
+    EXPECT_EQ(amount, u"0123456789");
+    EXPECT_FALSE(digit(0x0663)); // a digit of another script
+}
+
+TEST(DateFormat, Check)
+{
+    struct Row {
+        std::u16string_view format;
+        DateFormatFault fault;
+    };
+    const Row rows[] = {
+        {u"dd/MM/yyyy", DateFormatFault::none},    {u"hh:nn:ss", DateFormatFault::none},
+        {u"D,m.y-h;n=s*:", DateFormatFault::none}, {u"d", DateFormatFault::none},
+        {u"", DateFormatFault::noPlaceholder},     {u"//", DateFormatFault::noPlaceholder},
+        {u"dd/mx/yy", DateFormatFault::character}, {u"dd mm", DateFormatFault::character}, // a blank is no separator
+        {u"d\\m", DateFormatFault::character},     {u"w", DateFormatFault::character},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(checkDateFormat(row.format), row.fault) << std::string(row.format.begin(), row.format.end());
+}
+
+TEST(Mask, Preparation)
+{
+    EXPECT_EQ(prepareMask(u"@@@-####", u"_"), u"___-____");
+    EXPECT_EQ(prepareMask(u"?#@", u"*"), u"***");
+    EXPECT_EQ(prepareMask(u"#@?", u"@"), u"@@@");
+    EXPECT_EQ(prepareMask(u"##/##", u""), u"##/##");
+    EXPECT_EQ(prepareMask(u"__.__", u"_"), u"__.__");
+}
+
+TEST(Palette, TableHoldsThirtyTwoDifferentColoursOnTheirGrid)
+{
+    std::set<std::uint32_t> colours;
+    std::set<std::pair<int, int>> places;
+    std::set<int> indexes;
+    for (const PaletteColour& entry : paletteColours) {
+        colours.insert(entry.colour.value);
+        places.insert({entry.left, entry.top});
+        indexes.insert(entry.index);
+        EXPECT_EQ((entry.left - 120) % 270, 0);
+        EXPECT_EQ((entry.top - 300) % 255, 0);
+    }
+    EXPECT_EQ(colours.size(), 32U);
+    EXPECT_EQ(places.size(), 32U);
+    EXPECT_EQ(indexes.size(), 32U);
+    EXPECT_EQ(rgb(255, 192, 128).value, 0x0080C0FFU);
+}
+
+TEST(SpokenNames, ComeFromTheWordsBefore)
+{
+    struct Row {
+        const platform::FormLayout& layout;
+        std::u16string_view control;
+        int index;
+        std::u16string_view name;
+    };
+    const Row rows[] = {
+        {principalLayout(), u"PicCorNegativa", -1, u"Cor do Valor Negativo"},
+        {principalLayout(), u"cmdHelpSeparadorMilhar", -1, u"Ajuda: Separador de Milhar"},
+        {principalLayout(), u"txtMascara", -1, u""},
+        {geralLayout(), u"PicCorFundoLost", -1, u"Cor de fundo"},
+        {errosLayout(), u"CmdHelpErroAlert", -1, u"Ajuda: Exibir Mensagens ao ocorrer erro de digitação"},
+        {calendarioLayout(), u"PicCorCalendario", 5, u"Cor das Bordas"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(spokenName(row.layout, platform::findWidget(row.layout, row.control, row.index)), row.name);
+}
+
+} // namespace
+} // namespace vela::pages
