@@ -29,7 +29,7 @@ struct DateVerdict {
                                     std::u16string& corrected);
 // The untouched template is refused. Never corrects.
 [[nodiscard]] DateVerdict checkTime(std::u16string_view text, const DateCheckSettings& settings);
-// Which of the two a field is left with: the time check when the format holds "hh", capitals not counting.
+// Which of the two a field is left with: the time check when the format holds "hh" ("HH" is none).
 [[nodiscard]] constexpr bool isTimeFormat(std::u16string_view dateFormat) noexcept
 {
     return dateFormat.find(u"hh") != std::u16string_view::npos;

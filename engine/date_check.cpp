@@ -1,0 +1,184 @@
+// The rules of the date check and the time check.
+#include "engine/date_check.h"
+
+#include "engine/conversions.h"
+#include "engine/letter_case.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace vela::engine {
+namespace {
+
+constexpr std::u16string_view incompleteMessage = u"Data não foi totalmente preenchida.";
+
+// Day, month or year as its characters are gathered; 16 bits.
+struct Part {
+    int value = 0;
+    std::size_t first = std::u16string_view::npos; // 0-based position of its first character
+};
+
+int decimalDigits(int value) noexcept
+{
+    int count = 1;
+    for (value = std::abs(value); value >= 10; value /= 10)
+        ++count;
+    return count;
+}
+
+// The text of `value` followed by the unit, read as a number: 1 and "." are 1 where "." groups, 0 and "_" are none.
+// Answers the number of an error, 0 when it was read.
+int appendOther(int& value, char16_t unit, const Locale& locale) noexcept
+{
+    std::array<char, 8> narrow{};
+    const auto end = std::to_chars(narrow.data(), narrow.data() + narrow.size(), value).ptr;
+    std::array<char16_t, 9> digits{};
+    const auto last = std::copy(narrow.data(), end, digits.begin());
+    *last = unit;
+    const auto length = static_cast<std::size_t>(last - digits.begin()) + 1;
+    const auto number = tryParseDouble({digits.data(), length}, locale);
+    if (!number)
+        return error_number::typeMismatch;
+    const double rounded = std::nearbyint(*number);
+    if (!(rounded >= std::numeric_limits<std::int16_t>::min() && rounded <= std::numeric_limits<std::int16_t>::max()))
+        return error_number::overflow;
+    value = static_cast<int>(rounded);
+    return 0;
+}
+
+int append(int& value, char16_t unit, const Locale& locale) noexcept
+{
+    if (unit < u'0' || unit > u'9' || value < 0)
+        return appendOther(value, unit, locale);
+    const int appended = value * 10 + (unit - u'0');
+    if (appended > std::numeric_limits<std::int16_t>::max())
+        return error_number::overflow;
+    value = appended;
+    return 0;
+}
+
+// Gathers the text's characters that stand under the three letters of the format, whatever their case.
+// Answers the number of an error, 0 when all were read.
+int gather(std::u16string_view text, const DateCheckSettings& settings, std::u16string_view letters,
+           std::array<Part, 3>& parts) noexcept
+{
+    for (std::size_t i = 0; i < settings.dateFormat.size(); ++i) {
+        const auto which = letters.find(lowerCase(settings.dateFormat[i]));
+        if (which == std::u16string_view::npos)
+            continue;
+        Part& part = parts[which];
+        if (part.first == std::u16string_view::npos)
+            part.first = i;
+        if (i < text.size())
+            if (const int number = append(part.value, text[i], settings.locale))
+                return number;
+    }
+    return 0;
+}
+
+// A prompt in the first place, or none at all, lets a check go on; kept.
+bool isIncomplete(std::u16string_view text, std::u16string_view promptChar) noexcept
+{
+    const auto found = text.find(promptChar);
+    return found != std::u16string_view::npos && found >= 1;
+}
+
+DateVerdict refused(std::u16string_view message)
+{
+    DateVerdict verdict;
+    verdict.accepted = false;
+    verdict.message = message;
+    return verdict;
+}
+
+DateVerdict failed(std::u16string_view message, int number)
+{
+    DateVerdict verdict = refused(message);
+    verdict.failure = Error{number, std::u16string(errorDescription(number))};
+    return verdict;
+}
+
+struct Rule {
+    std::u16string_view message; // empty: no rule broken
+    bool resetsDay = false;      // else the month
+    int digits = 0;              // how many of its characters become prompts
+};
+
+Rule shortMonthRule(int day, int month) noexcept
+{
+    if (day <= 30)
+        return {};
+    switch (month) {
+    case 4: return {u"Mês de abril só tem 30 dias", false, 1};
+    case 6: return {u"Mês de junho só tem 30 dias", false, 1};
+    case 9: return {u"Mês de setembro só tem 30 dias", false, 1};
+    case 11: return {u"Mês de novembro só tem 30 dias", false, 2};
+    default: return {};
+    }
+}
+
+// Every fourth year is a leap year here, whole centuries too; kept.
+Rule brokenRule(int day, int month, int year) noexcept
+{
+    const bool leap = (year & 3) == 0;
+    if (month > 12)
+        return {u"Mês informado incorretamente", false, decimalDigits(month)};
+    if (day > 31)
+        return {u"Dia informado incorretamente", true, decimalDigits(day)};
+    if (month == 2 && leap && day >= 30)
+        return {u"Mês de fevereiro não pode ter mais de 29 dias", true, decimalDigits(day)};
+    if (month == 2 && !leap && day >= 29)
+        return {u"Mês de fevereiro neste ano não pode ter mais de 28 dias", true, decimalDigits(day)};
+    return shortMonthRule(day, month);
+}
+
+// "31/04/2024", first 3, 1 digit -> "31/_4/2024"
+void putPromptsBack(std::u16string_view text, std::size_t first, int digits, std::u16string_view promptChar,
+                    std::u16string& into)
+{
+    into.assign(text.substr(0, first));
+    for (int i = 0; i < digits; ++i)
+        into.append(promptChar);
+    const std::size_t rest = first + static_cast<std::size_t>(digits);
+    if (rest < text.size())
+        into.append(text.substr(rest));
+}
+
+} // namespace
+
+DateVerdict checkDate(std::u16string_view text, const DateCheckSettings& settings, std::u16string& corrected)
+{
+    if (text == settings.mask)
+        return {};
+    if (isIncomplete(text, settings.promptChar))
+        return refused(incompleteMessage);
+    std::array<Part, 3> parts; // day, month, year
+    if (const int number = gather(text, settings, u"dmy", parts))
+        return failed(incompleteMessage, number);
+    const auto& [day, month, year] = parts;
+    const Rule rule = brokenRule(day.value, month.value, year.value);
+    if (rule.message.empty())
+        return {};
+    DateVerdict verdict = refused(rule.message);
+    verdict.corrected = true;
+    putPromptsBack(text, (rule.resetsDay ? day : month).first, rule.digits, settings.promptChar, corrected);
+    return verdict;
+}
+
+DateVerdict checkTime(std::u16string_view text, const DateCheckSettings& settings)
+{
+    if (text == settings.mask || isIncomplete(text, settings.promptChar))
+        return refused({});
+    std::array<Part, 3> parts; // hour, minute, second
+    if (const int number = gather(text, settings, u"hns", parts))
+        return failed({}, number);
+    const auto& [hour, minute, second] = parts;
+    if (hour.value > 23 || minute.value > 59 || second.value >= 60)
+        return refused({});
+    return {};
+}
+
+} // namespace vela::engine

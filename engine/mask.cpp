@@ -1,0 +1,184 @@
+// The mask engine: typing, erasing and moving in a template, and values laid into it and read out of it.
+#include "engine/mask.h"
+
+#include "engine/error.h"
+
+#include <algorithm>
+
+namespace vela::engine {
+namespace {
+
+constexpr int deleteKey = 46;
+constexpr int backspaceKey = 8;
+constexpr std::size_t lastCountableLength = 254; // the position counter has eight bits
+
+constexpr bool isDigit(int key) noexcept
+{
+    return key >= u'0' && key <= u'9';
+}
+constexpr bool isCapital(int key) noexcept
+{
+    return key >= u'A' && key <= u'Z';
+}
+constexpr bool isSmall(int key) noexcept
+{
+    return key >= u'a' && key <= u'z';
+}
+
+bool isPromptAt(int position, const MaskSettings& settings) noexcept
+{
+    return settings.promptChar.size() == 1 && position >= 0 &&
+           static_cast<std::size_t>(position) < settings.mask.size() &&
+           settings.mask[static_cast<std::size_t>(position)] == settings.promptChar.front();
+}
+
+// `key` is a digit or a capital.
+bool ruleAccepts(int key, int position, const MaskSettings& settings) noexcept
+{
+    if (settings.rules.empty())
+        return true;
+    if (static_cast<std::size_t>(position) >= settings.rules.size())
+        return false;
+    switch (settings.rules[static_cast<std::size_t>(position)]) {
+    case u'?': return true;
+    case u'#': return isDigit(key);
+    case u'@': return isCapital(key);
+    default: return false; // a literal copied into the rules blocks its position
+    }
+}
+
+// Where the caret jumps from a literal: the next prompt in the text. The search begins one character before the
+// caret (its 1-based start is the caret's 0-based value), so that "_|/_" goes back to "|_/_"; kept.
+std::optional<int> pastLiterals(int caret, const MaskSettings& settings, std::u16string_view text) noexcept
+{
+    if (caret >= static_cast<int>(text.size()) || isPromptAt(caret, settings) || settings.promptChar.size() != 1)
+        return {};
+    const auto found = text.find(settings.promptChar.front(), static_cast<std::size_t>(std::max(caret, 1) - 1));
+    if (found == std::u16string_view::npos)
+        return {};
+    return static_cast<int>(found);
+}
+
+void replaceOrAppend(std::u16string& text, int position, int key)
+{
+    const auto index = static_cast<std::size_t>(position);
+    const auto unit = static_cast<char16_t>(key);
+    if (index < text.size())
+        text[index] = unit;
+    else
+        text.push_back(unit);
+}
+
+bool isErasable(int position, const MaskSettings& settings, const std::u16string& text) noexcept
+{
+    return isPromptAt(position, settings) && static_cast<std::size_t>(position) < text.size();
+}
+
+std::optional<int> eraseSelection(int start, int length, const MaskSettings& settings, std::u16string& text)
+{
+    bool found = false;
+    const int end = static_cast<int>(std::min<std::size_t>(text.size(), static_cast<std::size_t>(start + length)));
+    for (int position = start; position < end; ++position)
+        if (isErasable(position, settings, text)) {
+            text[static_cast<std::size_t>(position)] = settings.promptChar.front();
+            found = true;
+        }
+    return found ? std::optional{start} : std::nullopt;
+}
+
+std::optional<int> eraseOne(int from, int step, const MaskSettings& settings, std::u16string& text)
+{
+    for (int position = from; position >= 0 && position < static_cast<int>(text.size()); position += step)
+        if (isErasable(position, settings, text)) {
+            text[static_cast<std::size_t>(position)] = settings.promptChar.front();
+            return position;
+        }
+    return {};
+}
+
+} // namespace
+
+MaskStep validateMask(int key, int caret, const MaskSettings& settings, std::u16string& text)
+{
+    MaskStep step;
+    step.key = key;
+    step.caret = caret;
+    if (settings.locked)
+        return step;
+    if (!isDigit(key) && !isCapital(key) && !isSmall(key)) {
+        step.promptCaret = pastLiterals(caret, settings, text);
+        return step;
+    }
+    const int position = isPromptAt(caret, settings) ? caret : caret + 1; // exactly one literal is skipped
+    if (!isPromptAt(position, settings))
+        return step;
+    step.key = isSmall(key) ? key - u'a' + u'A' : key;
+    if (!ruleAccepts(step.key, position, settings)) {
+        step.key = 0;
+        return step;
+    }
+    replaceOrAppend(text, position, step.key);
+    step.textWritten = true;
+    step.caret = position + 1;
+    step.promptCaret = pastLiterals(step.caret, settings, text);
+    return step;
+}
+
+std::optional<int> eraseInMask(int keyCode, int selectionStart, int selectionLength, const MaskSettings& settings,
+                               std::u16string& text)
+{
+    if (settings.locked || (keyCode != deleteKey && keyCode != backspaceKey))
+        return {};
+    if (selectionLength > 0)
+        return eraseSelection(selectionStart, selectionLength, settings, text);
+    if (keyCode == deleteKey)
+        return eraseOne(selectionStart, 1, settings, text);
+    return eraseOne(std::min(selectionStart, static_cast<int>(text.size())) - 1, -1, settings, text);
+}
+
+std::optional<int> nextInputPosition(int caret, const MaskSettings& settings) noexcept
+{
+    for (int position = std::max(caret, 0); position < static_cast<int>(settings.mask.size()); ++position)
+        if (isPromptAt(position, settings))
+            return position;
+    return {};
+}
+
+std::optional<int> firstPrompt(std::u16string_view text, std::u16string_view promptChar) noexcept
+{
+    if (promptChar.size() != 1)
+        return {};
+    const auto found = text.find(promptChar.front());
+    if (found == std::u16string_view::npos)
+        return {};
+    return static_cast<int>(found);
+}
+
+std::u16string maskedValue(std::u16string_view text, const MaskSettings& settings)
+{
+    std::u16string value;
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if (isPromptAt(static_cast<int>(i), settings))
+            value.push_back(text[i] == settings.promptChar.front() ? u' ' : text[i]);
+    return value;
+}
+
+std::u16string layIntoMask(std::u16string_view value, const MaskSettings& settings)
+{
+    if (value.empty())
+        return std::u16string(settings.mask);
+    if (settings.mask.size() > lastCountableLength)
+        raise(error_number::overflow);
+    std::u16string text;
+    for (std::size_t i = 0; i < settings.mask.size(); ++i) {
+        if (!isPromptAt(static_cast<int>(i), settings)) {
+            text.push_back(settings.mask[i]);
+        } else if (!value.empty()) { // a value that ran short leaves its places out
+            text.push_back(value.front() == u' ' ? settings.promptChar.front() : value.front());
+            value.remove_prefix(1);
+        }
+    }
+    return text;
+}
+
+} // namespace vela::engine
