@@ -1,0 +1,252 @@
+// The bench of the page tests.
+#include "page_bench.h"
+
+#include "engine/calendar_date.h"
+#include "engine/conversions.h"
+
+#include <algorithm>
+
+namespace vela::pages {
+
+using engine::Value;
+using platform::WidgetId;
+using platform::WidgetKind;
+
+std::string utf8(std::u16string_view text)
+{
+    std::string out;
+    for (const char16_t unit : text)
+        if (unit < 0x80) {
+            out += static_cast<char>(unit);
+        } else if (unit < 0x800) {
+            out += static_cast<char>(0xC0 | unit >> 6);
+            out += static_cast<char>(0x80 | (unit & 0x3F));
+        } else {
+            out += static_cast<char>(0xE0 | unit >> 12);
+            out += static_cast<char>(0x80 | (unit >> 6 & 0x3F));
+            out += static_cast<char>(0x80 | (unit & 0x3F));
+        }
+    return out;
+}
+
+std::u16string utf16(std::string_view ascii)
+{
+    return {ascii.begin(), ascii.end()};
+}
+
+std::string joined(const std::vector<std::u16string>& names)
+{
+    std::string out;
+    for (const std::u16string& name : names)
+        out += (out.empty() ? "" : " ") + utf8(name);
+    return out;
+}
+
+bool sameValue(const Value& a, const Value& b)
+{
+    const auto* whole = std::get_if<std::int32_t>(&a);
+    const auto* fraction = std::get_if<double>(&a);
+    const auto* otherWhole = std::get_if<std::int32_t>(&b);
+    if (fraction && otherWhole)
+        return *fraction == *otherWhole;
+    if (whole && std::holds_alternative<double>(b))
+        return std::get<double>(b) == *whole;
+    return a == b;
+}
+
+// --- the object
+
+RecordingObject::RecordingObject()
+{
+    for (const char16_t* name :
+         {u"SimboloMonetario", u"MaskRules", u"CaractLiberados", u"FormatoRetornoData", u"FormatoRetornoData02",
+          u"FormatoRetornoData03", u"FormatoRetornoData04", u"Mask", u"IF_IsEmpty", u"Delimitador", u"Delimitador02",
+          u"Delimitador03", u"Delimitador04", u"ErrorTextMessage"})
+        properties[name] = std::u16string();
+    for (const char16_t* name :
+         {u"AceitaNegativos", u"InserirZeros", u"MaskSomenteNumeros", u"ShowButtonCalendario", u"ShowButtonCalculadora",
+          u"UpTAB", u"EnterAsTab", u"AutoSelect", u"ErrorAlert", u"ErrorFocus", u"ErrorMsgCustom", u"ErrorTextClear",
+          u"FontBold", u"FontItalic", u"FontUnderline", u"FontStrikethru"})
+        properties[name] = false;
+    for (const char16_t* name :
+         {u"TextType", u"SimbolDecExib", u"SimbolDecRet", u"SimbolAgrupMilhar", u"QtdCasasDec", u"CorValorNeg",
+          u"CorValorPos", u"tipoLetra", u"BackColorGotFocus", u"BackColorLostFocus", u"Error_ForeColor",
+          u"Calendar_BackColor", u"Calendar_ComboBackColor", u"Calendar_DayActive", u"Calendar_DayInactive",
+          u"Calendar_ColorWeekDay", u"Calendar_FormBackcolor", u"Calendar_Selected"})
+        properties[name] = std::int32_t{0};
+    properties[u"TextoLivre"] = true;
+    properties[u"DateFormat"] = std::u16string(u"dd/mm/yyyy");
+    properties[u"FormatoExibData"] = std::u16string(u"__/__/____");
+    properties[u"PromptChar"] = std::u16string(u"_");
+    properties[u"FontName"] = std::u16string(u"MS Sans Serif");
+    properties[u"FontSize"] = std::int32_t{8};
+}
+
+Value RecordingObject::get(std::u16string_view name)
+{
+    const auto found = properties.find(name);
+    if (found == properties.end())
+        engine::raise(engine::error_number::unsupportedMember);
+    read.emplace_back(name);
+    return found->second;
+}
+
+void RecordingObject::put(std::u16string_view name, const Value& value)
+{
+    const auto found = properties.find(name);
+    if (found == properties.end())
+        engine::raise(engine::error_number::unsupportedMember);
+    if (failWriteAt == written.size())
+        engine::raise(engine::error_number::invalidPropertyValue);
+    written.emplace_back(name);
+    found->second = value;
+}
+
+void RecordingObject::makeAllDifferent()
+{
+    std::int32_t next = 0;
+    bool flag = false;
+    for (auto& [name, value] : properties) {
+        ++next;
+        if (std::holds_alternative<std::u16string>(value))
+            value = u"text " + utf16(std::to_string(next));
+        else if (std::holds_alternative<bool>(value))
+            value = flag = !flag;
+        else
+            value = next;
+    }
+    // Within their lists; typing letters is free no more, so that they are kept.
+    properties[u"TextType"] = std::int32_t{3};
+    properties[u"SimbolDecExib"] = std::int32_t{2};
+    properties[u"SimbolDecRet"] = std::int32_t{1};
+    properties[u"SimbolAgrupMilhar"] = std::int32_t{0};
+    properties[u"tipoLetra"] = std::int32_t{2};
+    properties[u"TextoLivre"] = false;
+    properties[u"CaractLiberados"] = std::u16string(u"09Az");
+    properties[u"ErrorAlert"] = true;
+    properties[u"ErrorMsgCustom"] = true;
+    properties[u"ErrorTextClear"] = false;
+    properties[u"ErrorFocus"] = true;
+}
+
+// --- the bench
+
+PageBench::PageBench(PageKind kind) : kind_(kind)
+{
+    machine_.clock.freeze(engine::makeDate({2024, 2, 29}, {14, 5, 33}));
+    remake();
+}
+
+void PageBench::remake()
+{
+    page.reset();
+    page = makePage(kind_, {machine_.environment, store_, machine_.forms, *this}, *this);
+}
+
+void PageBench::open(const std::vector<PropertyObject*>& selection)
+{
+    page->open(selection);
+}
+
+void PageBench::check(std::u16string_view control, bool on)
+{
+    if (checked(control) != on)
+        click(control);
+}
+
+void PageBench::typeAt(platform::Form& form, WidgetId control, std::u16string_view keys)
+{
+    for (const char16_t key : keys)
+        static_cast<headless::WidgetForm&>(form).type(
+            control, key == u'\b' ? headless::namedKey(headless::virtual_key::backspace) : headless::keyOf(key));
+}
+
+void PageBench::clickAt(platform::Form& form, WidgetId control)
+{
+    static_cast<headless::WidgetForm&>(form).click(control);
+}
+
+void PageBench::act(std::u16string_view control)
+{
+    const WidgetId widget = id(control);
+    switch (page->layout().rows[static_cast<std::size_t>(widget.value)].kind) {
+    case WidgetKind::textBox: keys(control, u"9"); break;
+    case WidgetKind::comboBox:
+    case WidgetKind::dropDownList: choose(control, form().items(widget).chosen() == 1 ? 0 : 1); break;
+    case WidgetKind::swatch: doubleClick(control); break;
+    default: click(control); break;
+    }
+}
+
+void PageBench::edit()
+{
+    switch (kind_) {
+    case PageKind::ppPrincipal: act(u"chkInserirZeros"); break;
+    case PageKind::ppGeral: act(u"chkSendTab"); break;
+    case PageKind::ppErros: act(u"chkExibirAlertaPadrao"); break;
+    case PageKind::ppFonte: act(u"Negrito"); break;
+    case PageKind::ppCalendario:
+        colour = engine::Colour{0x00010203};
+        doubleClick(u"PicCorCalendario", 0);
+        break;
+    }
+}
+
+WidgetId PageBench::id(std::u16string_view control, int index)
+{
+    const WidgetId found = platform::findWidget(page->layout(), control, index);
+    if (!found)
+        throw std::out_of_range("no control " + utf8(control));
+    return found;
+}
+
+void PageBench::useLocale(std::string_view name)
+{
+    machine_.locales.use(name == "en-US" ? engine::enUs() : engine::ptBr());
+}
+
+void PageBench::trace(const headless::TraceEntry& entry)
+{
+    constexpr const char* icons[] = {"none", "information", "exclamation", "question"};
+    if (const auto* box = std::get_if<headless::trace::MessageBox>(&entry))
+        boxes_ +=
+            std::string(icons[static_cast<int>(box->icon)]) + "|" + utf8(box->title) + "|" + utf8(box->text) + "\n";
+    else if (const auto* input = std::get_if<headless::trace::InputBox>(&entry))
+        boxes_ += "input|" + utf8(input->title) + "|" + utf8(input->prompt) + "\n";
+    else if (const auto* sent = std::get_if<headless::trace::KeysSent>(&entry))
+        boxes_ += "sendkeys " + utf8(sent->keys) + "\n";
+}
+
+// --- the store
+
+headless::SettingsStore& PageBench::Store::store() const
+{
+    if (bench_.storeFailure_ != 0)
+        engine::raise(bench_.storeFailure_);
+    return bench_.machine_.settings;
+}
+
+void PageBench::Store::save(std::u16string_view application, std::u16string_view section, std::u16string_view key,
+                            std::u16string_view value)
+{
+    store().save(application, section, key, value);
+}
+
+std::u16string PageBench::Store::get(std::u16string_view application, std::u16string_view section,
+                                     std::u16string_view key, std::u16string_view defaultValue) const
+{
+    return store().get(application, section, key, defaultValue);
+}
+
+std::vector<platform::SettingsStore::Entry> PageBench::Store::all(std::u16string_view application,
+                                                                  std::u16string_view section) const
+{
+    return store().all(application, section);
+}
+
+void PageBench::Store::remove(std::u16string_view application, std::u16string_view section, std::u16string_view key)
+{
+    store().remove(application, section, key);
+}
+
+} // namespace vela::pages

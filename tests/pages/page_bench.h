@@ -1,0 +1,137 @@
+// A page on a headless machine with an object that records how it is read and written.
+#pragma once
+
+#include "engine/error.h"
+#include "pages/page.h"
+#include "platform/headless/environment.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vela::pages {
+
+[[nodiscard]] std::string utf8(std::u16string_view text);
+[[nodiscard]] std::u16string utf16(std::string_view ascii);
+[[nodiscard]] std::string joined(const std::vector<std::u16string>& names);   // by blanks
+[[nodiscard]] bool sameValue(const engine::Value& a, const engine::Value& b); // 2 and 2.0 are the same
+
+// The number of the error that the act ends in; 0 for none.
+template <class Act>
+[[nodiscard]] int errorOf(Act&& act)
+{
+    try {
+        act();
+    } catch (const engine::Error& error) {
+        return error.number;
+    }
+    return 0;
+}
+
+// Has every property of the pages at first; one that was erased is unknown.
+class RecordingObject final : public PropertyObject {
+public:
+    RecordingObject();
+
+    [[nodiscard]] engine::Value get(std::u16string_view name) override;
+    void put(std::u16string_view name, const engine::Value& value) override;
+
+    void makeAllDifferent(); // no two properties of one type hold the same value, as far as the type allows
+    template <class Act>
+    [[nodiscard]] std::size_t countWrites(Act&& act)
+    {
+        written.clear();
+        act();
+        return written.size();
+    }
+
+    std::map<std::u16string, engine::Value, std::less<>> properties;
+    std::vector<std::u16string> read;
+    std::vector<std::u16string> written;
+    std::optional<std::size_t> failWriteAt; // the write with this place in `written` raises 380
+};
+
+class PageBench final : private headless::TraceSink, private PageSite, private ColourChooser {
+public:
+    explicit PageBench(PageKind kind);
+    PageBench(const PageBench&) = delete;
+    PageBench& operator=(const PageBench&) = delete;
+
+    void open(const std::vector<PropertyObject*>& selection);
+    void open() { open({&object}); }
+    void remake(); // a fresh page of the same kind
+
+    // Acts of a person.
+    void click(std::u16string_view control) { clickAt(form(), id(control)); }
+    void doubleClick(std::u16string_view control, int index = -1) { headlessForm().doubleClick(id(control, index)); }
+    void check(std::u16string_view control, bool on);
+    void put(std::u16string_view control, std::u16string_view text) { headlessForm().enterText(id(control), text); }
+    void choose(std::u16string_view control, int index) { headlessForm().choose(id(control), index); }
+    void keys(std::u16string_view control, std::u16string_view keys) { typeAt(form(), id(control), keys); }
+    void focus(std::u16string_view control) { headlessForm().moveFocus(id(control)); }
+    void act(std::u16string_view control); // whatever is usual with a control of its kind, so that its value changes
+    void edit();                           // the first control of the page that is edited by a person
+    void typeAt(platform::Form& form, platform::WidgetId control, std::u16string_view keys); // "\b" is Backspace
+    void clickAt(platform::Form& form, platform::WidgetId control);
+
+    // What stands there.
+    [[nodiscard]] platform::WidgetId id(std::u16string_view control, int index = -1);
+    [[nodiscard]] std::u16string text(std::u16string_view control) { return form().text(id(control)); }
+    [[nodiscard]] bool checked(std::u16string_view control) { return form().checked(id(control)); }
+    [[nodiscard]] bool enabled(std::u16string_view control) { return form().enabled(id(control)); }
+    [[nodiscard]] bool visible(std::u16string_view control) { return form().visible(id(control)); }
+    [[nodiscard]] engine::Colour back(std::u16string_view control, int index = -1)
+    {
+        return form().look(id(control, index)).back;
+    }
+
+    void answer(platform::BoxAnswer answer) { machine_.desktop.queueAnswer(answer); }
+    void answerText(std::u16string text) { machine_.desktop.queueAnswer(std::move(text)); }
+    void useLocale(std::string_view name);
+    void failStore(int number) { storeFailure_ = number; }
+    // "ICON|TITLE|TEXT\n" of every message box since the last call, "input|TITLE|PROMPT\n", "sendkeys KEYS\n".
+    std::string takeBoxes() { return std::exchange(boxes_, {}); }
+
+    [[nodiscard]] platform::Form& form() { return page->form(); }
+    [[nodiscard]] headless::WidgetForm& headlessForm() { return static_cast<headless::WidgetForm&>(page->form()); }
+    [[nodiscard]] headless::WidgetForms& forms() { return machine_.forms; }
+    [[nodiscard]] headless::SettingsStore& settings() { return machine_.settings; }
+
+    RecordingObject object;
+    std::optional<engine::Colour> colour; // what the palette answers
+    bool marked = false;                  // what the site heard last
+
+private:
+    // The machine's store, or one that fails.
+    class Store final : public platform::SettingsStore {
+    public:
+        explicit Store(PageBench& bench) : bench_(bench) {}
+        void save(std::u16string_view application, std::u16string_view section, std::u16string_view key,
+                  std::u16string_view value) override;
+        [[nodiscard]] std::u16string get(std::u16string_view application, std::u16string_view section,
+                                         std::u16string_view key, std::u16string_view defaultValue) const override;
+        [[nodiscard]] std::vector<Entry> all(std::u16string_view application,
+                                             std::u16string_view section) const override;
+        void remove(std::u16string_view application, std::u16string_view section, std::u16string_view key) override;
+
+    private:
+        [[nodiscard]] headless::SettingsStore& store() const;
+        PageBench& bench_;
+    };
+
+    void trace(const headless::TraceEntry& entry) override;
+    void changed(bool dirty) override { marked = dirty; }
+    [[nodiscard]] std::optional<engine::Colour> choose() override { return colour; }
+
+    PageKind kind_;
+    std::string boxes_;
+    int storeFailure_ = 0;
+    headless::Machine machine_{*this};
+    Store store_{*this};
+
+public:
+    std::unique_ptr<Page> page;
+};
+
+} // namespace vela::pages
