@@ -1,0 +1,28 @@
+// How a family of commands joins the language: a table of names and functions.
+#pragma once
+
+#include "apps/console/script_line.h"
+
+#include <span>
+#include <string_view>
+
+namespace vela::console {
+
+class Session;
+
+struct Command {
+    std::u16string_view name;                    // the line's first word
+    void (*run)(Session& session, Words words);  // words[0] is the name
+};
+using CommandTable = std::span<const Command>;
+
+// A command raises NotACommand before it has done anything, or engine::Error, which is printed; the script goes on.
+[[nodiscard]] CommandTable runCommands() noexcept;     // settings of a run
+[[nodiscard]] CommandTable formCommands() noexcept;    // new load save ...
+[[nodiscard]] CommandTable userCommands() noexcept;    // focus keys click ...
+[[nodiscard]] CommandTable tooltipCommands() noexcept; // tip
+[[nodiscard]] CommandTable engineCommands() noexcept;  // format isnumeric ...
+[[nodiscard]] CommandTable popupCommands() noexcept;   // calendar grid calculator (popup_commands.cpp)
+[[nodiscard]] CommandTable pageCommands() noexcept;    // page palette store (page_commands.cpp)
+
+} // namespace vela::console

@@ -1,0 +1,37 @@
+// Keys as the headless platform delivers them: virtual-key codes, and the key that types a character.
+#pragma once
+
+namespace vela::headless {
+
+namespace virtual_key {
+inline constexpr int backspace = 8;
+inline constexpr int tab = 9;
+inline constexpr int enter = 13;
+inline constexpr int escape = 27;
+inline constexpr int end = 35;
+inline constexpr int home = 36;
+inline constexpr int left = 37;
+inline constexpr int up = 38;
+inline constexpr int right = 39;
+inline constexpr int down = 40;
+inline constexpr int del = 46;
+inline constexpr int f2 = 113;
+} // namespace virtual_key
+
+// One key: what key-down reports and the character that key-press then brings, if any.
+struct Key {
+    int code = 0;
+    char16_t character = 0;
+    bool pressed = false; // reports a key-press: characters, Enter and Backspace
+    friend bool operator==(Key, Key) = default;
+};
+
+// Letters and digits carry their capital's code, other characters 0: 'ç' -> {0xC7, 'ç', true}.
+[[nodiscard]] Key keyOf(char16_t character) noexcept;
+[[nodiscard]] constexpr Key namedKey(int code) noexcept
+{
+    const bool pressed = code == virtual_key::backspace || code == virtual_key::enter;
+    return {code, pressed ? static_cast<char16_t>(code) : u'\0', pressed};
+}
+
+} // namespace vela::headless

@@ -1,0 +1,32 @@
+// The host's property bag in memory: keys in the order of their first writing.
+#pragma once
+
+#include "platform/control_host.h"
+#include "platform/headless/fault.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace vela::headless {
+
+class PropertyBag final : public platform::PropertyBag {
+public:
+    using Entry = std::pair<std::u16string, engine::Value>;
+
+    explicit PropertyBag(FaultPlan* faults = nullptr) noexcept : faults_(faults) {}
+
+    [[nodiscard]] engine::Value read(std::u16string_view key, const engine::Value& defaultValue) override;
+    void write(std::u16string_view key, const engine::Value& value,
+               const std::optional<engine::Value>& defaultValue) override;
+
+    void put(std::u16string_view key, engine::Value value); // whatever the default
+    [[nodiscard]] const std::vector<Entry>& entries() const noexcept { return entries_; }
+
+private:
+    FaultPlan* faults_;
+    std::vector<Entry> entries_;
+    std::size_t hint_ = 0; // where the last search ended: keys are mostly asked for in order
+};
+
+} // namespace vela::headless

@@ -1,0 +1,42 @@
+// A tooltip window in memory: every message is traced; without a window a message has no effect and no trace.
+#pragma once
+
+#include "platform/headless/form_window.h"
+#include "platform/tooltip_window.h"
+
+#include <string>
+
+namespace vela::headless {
+
+class TooltipWindow final : public platform::TooltipWindow {
+public:
+    // `owner` is who the trace names; null: "*", a free-standing tip.
+    TooltipWindow(FormWindow& form, const Element* owner) noexcept : form_(form), owner_(owner) {}
+    ~TooltipWindow() override = default;
+
+    bool create(platform::WindowId parent) override;
+    void destroy() override;
+    [[nodiscard]] bool exists() const override { return exists_; }
+    void addTool(std::u16string_view text) override;
+    void setTitle(int icon, std::u16string_view title) override;
+    void setTextColour(engine::Colour colour) override;
+    void setBackColour(engine::Colour colour) override;
+    void setDelay(int kind, int milliseconds) override;
+    void updateText(std::u16string_view text) override;
+    void trackPosition(std::int32_t packed) override;
+    void trackActivate(bool active) override;
+    [[nodiscard]] std::pair<int, int> clientToScreen(platform::WindowId window, int x, int y) const override;
+
+    void refuseCreation() noexcept { refuses_ = true; } // create() answers false from now on
+
+private:
+    void send(trace::Tip message) const;
+
+    FormWindow& form_;
+    const Element* owner_;
+    mutable std::pair<int, int> lastPoint_{0, 0}; // converted last: what a packed position most likely says
+    bool exists_ = false;
+    bool refuses_ = false;
+};
+
+} // namespace vela::headless
