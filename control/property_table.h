@@ -22,8 +22,8 @@ struct Property {
     const engine::Enumeration* enumeration = nullptr; // of type enumeration
     Access access = Access::readWrite;
     Browsable browsable = Browsable::yes;
-    bool bindable = false;       // tells requestedit and changed to property sinks
-    std::u16string_view help;    // empty: none
+    bool bindable = false;    // tells requestedit and changed to property sinks
+    std::u16string_view help; // empty: none
     engine::Value (*get)(Vela&) = nullptr;
     void (*put)(Vela&, const engine::Value&) = nullptr; // takes a value of the property's own type
 };
