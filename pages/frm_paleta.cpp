@@ -86,6 +86,19 @@ void frmPaleta::end(bool cancelled)
     form_->close();
 }
 
+// Enter stands for OK, Esc for Cancel, wherever the focus is; on a button Enter is the button's own.
+void frmPaleta::keyDown(WidgetId widget, int& code, int&)
+{
+    constexpr int enter = 13;
+    constexpr int escape = 27;
+    const bool onButton = widget == id(u"cmdOK") || widget == id(u"cmdCancel");
+    if (code != escape && (code != enter || onButton))
+        return;
+    const bool cancels = code == escape;
+    code = 0;
+    end(cancels);
+}
+
 // Every key but a digit is refused, Backspace too: a correction is made by selecting and typing over.
 void frmPaleta::keyPress(WidgetId widget, int& key)
 {

@@ -31,7 +31,7 @@ private:
     void changed(platform::WidgetId widget) override;
     void gotFocus(platform::WidgetId widget) override;
     void lostFocus(platform::WidgetId widget) override;
-    void keyDown(platform::WidgetId, int&, int&) override {}
+    void keyDown(platform::WidgetId widget, int& code, int& shift) override;
     void keyPress(platform::WidgetId widget, int& key) override;
     void activated() override {}
     void deactivated() override {}

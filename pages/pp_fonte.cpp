@@ -40,10 +40,11 @@ ppFonte::ppFonte(const PageServices& services, PageSite& site) : page_(fonteLayo
 void ppFonte::open(std::span<PropertyObject* const> selection)
 {
     page_.open(selection, [this] {
-        for (const Field& field : fields)
+        for (const Field& field : fields) {
             page_.load(field);
+            fontName_ = page_.text(u"CboFontName");
+        }
     });
-    fontName_ = page_.text(u"CboFontName");
 }
 
 bool ppFonte::apply()
