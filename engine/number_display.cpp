@@ -4,6 +4,7 @@
 #include "engine/conversions.h"
 
 #include <algorithm>
+#include <array>
 
 namespace vela::engine {
 namespace {
@@ -91,10 +92,11 @@ void shiftPoint(std::u16string& digits, int decimals)
     if (digits.size() < places)
         digits.insert(0, places - digits.size(), u'0');
     const std::size_t tail = std::min<std::size_t>(digits.size(), 2);
-    const char16_t last[2] = {digits[digits.size() - tail], digits.back()};
+    std::array<char16_t, 2> last{};
+    std::copy_n(digits.end() - static_cast<std::ptrdiff_t>(tail), tail, last.begin());
     digits.resize(digits.size() - places);
     digits.push_back(u',');
-    digits.append(last, tail);
+    digits.append(last.data(), tail);
 }
 
 std::u16string livePatternText(char16_t decimal, char16_t grouping, int decimals)

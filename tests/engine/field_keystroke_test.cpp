@@ -1,0 +1,303 @@
+// The keystroke filter, watched through everything it asks of a control.
+#include "engine/keystroke.h"
+#include "field_text.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace vela::engine {
+namespace {
+
+// Writes down what the filter does: "press 65", "mask 49", "tab", "tab-down", "write ,", "log 13".
+class Recorder final : public KeystrokeSink {
+public:
+    KeystrokeSettings set;
+    test::Box content;
+    int limit = 0;
+    int maskAnswer = -1;            // the key that the mask engine makes of its key; -1: the same
+    std::optional<Error> textFails; // once
+    bool dies = false;              // in the event
+    std::function<void(std::int16_t&)> handler;
+    std::string log;
+    int textReads = 0;
+
+    KeystrokeSettings settings() const override { return set; }
+    std::u16string_view text() override
+    {
+        ++textReads;
+        if (textFails)
+            throw *std::exchange(textFails, std::nullopt);
+        return content.text;
+    }
+    int textLength() const override { return static_cast<int>(content.text.size()); }
+    int caret() const override { return content.caret; }
+    int selectionLength() const override { return content.selected; }
+    int maxLength() const override { return limit; }
+    void writeText(std::u16string_view text, int caret) override
+    {
+        note("write", text.front());
+        content = {std::u16string(text), caret, 0};
+    }
+    void validateMask(int& key) override
+    {
+        note("mask", key);
+        if (maskAnswer >= 0)
+            key = maskAnswer;
+    }
+    bool raiseKeyPress(std::int16_t& key) override
+    {
+        note("press", key);
+        if (handler)
+            handler(key);
+        return !dies;
+    }
+    void sendTab() override { note("tab"); }
+    void tabKeyDown() override { note("tab-down"); }
+    void logNumericFailure(const Error& error) override { note("log", error.number); }
+
+private:
+    void note(const char* what) { log += (log.empty() ? "" : ", ") + std::string(what); }
+    void note(const char* what, int number) { note((std::string(what) + " " + std::to_string(number)).c_str()); }
+};
+
+KeystrokeSettings of(TipoText type)
+{
+    KeystrokeSettings settings;
+    settings.textType = type;
+    return settings;
+}
+
+KeystrokeSettings number(Simbolos symbol = Simbolos::Virgula)
+{
+    KeystrokeSettings settings = of(TipoText::Numerico);
+    settings.displayDecimal = symbol;
+    settings.decimal = symbol == Simbolos::Vazio ? u"" : symbol == Simbolos::Ponto ? u"." : u",";
+    settings.decimals = 2;
+    return settings;
+}
+
+KeystrokeSettings with(KeystrokeSettings settings, const std::function<void(KeystrokeSettings&)>& change)
+{
+    change(settings);
+    return settings;
+}
+
+struct Row {
+    const char* rule;
+    KeystrokeSettings settings;
+    std::u16string_view box;
+    int limit;
+    int key;
+    int keyAfter;
+    const char* log;
+};
+
+void check(const Row& row)
+{
+    Recorder control;
+    control.set = row.settings;
+    control.content = test::box(row.box);
+    control.limit = row.limit;
+    EXPECT_EQ(filterKeystroke(row.key, control), row.keyAfter) << row.rule;
+    EXPECT_EQ(control.log, row.log) << row.rule;
+}
+
+TEST(Keystroke, Enter)
+{
+    const auto asTab = [](KeystrokeSettings& s) { s.enterAsTab = true; };
+    const auto multi = [](KeystrokeSettings& s) { s.multiLine = true; };
+    const auto closed = [](KeystrokeSettings& s) { s.multiLine = true, s.freeText = false; };
+    const Row rows[] = {
+        {"a single line only tells", of(TipoText::TextoNormal), u"ab|", 0, 13, 0, "press 13"},
+        {"as Tab: a key-down, no Tab sent", with(of(TipoText::TextoNormal), asTab), u"ab|", 0, 13, 0,
+         "press 13, tab-down"},
+        {"as Tab in a mask", with(of(TipoText::Mascara), asTab), u"__|", 2, 13, 0, "press 13, tab-down"},
+        {"several lines tell twice", with(of(TipoText::TextoNormal), multi), u"ab|", 0, 13, 13, "press 13, press 13"},
+        {"several lines, only allowed characters: Enter is one", with(of(TipoText::TextoNormal), closed), u"ab|", 0, 13,
+         13, "press 13, press 13"},
+    };
+    for (const auto& row : rows)
+        check(row);
+}
+
+TEST(Keystroke, FreeText)
+{
+    const auto upper = [](KeystrokeSettings& s) { s.letterCase = tipoTamanhoLetra::Maisculo; };
+    const auto lower = [](KeystrokeSettings& s) { s.letterCase = tipoTamanhoLetra::Minusculo; };
+    const auto abc = [](KeystrokeSettings& s) { s.freeText = false, s.allowed = u"ABC"; };
+    const auto abcUpper = [&](KeystrokeSettings& s) { abc(s), upper(s); };
+    const auto none = [](KeystrokeSettings& s) { s.freeText = false; };
+    const auto tabs = [](KeystrokeSettings& s) { s.autoTab = true; };
+    const auto text = of(TipoText::TextoNormal);
+    const Row rows[] = {
+        {"as typed", text, u"a|", 0, u'x', u'x', "press 120"},
+        {"capitals, Latin-1 too", with(text, upper), u"|", 0, 0xE7, 0xC7, "press 199"},
+        {"small", with(text, lower), u"|", 0, u'A', u'a', "press 97"},
+        {"full", text, u"12345|", 5, u'x', 0, "press 0"},
+        {"full, but something is selected", text, u"1234[5]", 5, u'x', u'x', "press 120"},
+        {"full: Backspace still erases", text, u"12345|", 5, 8, 8, "press 8"},
+        {"longer than its limit is not full", text, u"123456|", 5, u'x', u'x', "press 120"},
+        {"allowed", with(text, abc), u"|", 0, u'A', u'A', "press 65"},
+        {"the case counts", with(text, abc), u"|", 0, u'a', 0, "press 0"},
+        {"capitals come first", with(text, abcUpper), u"|", 0, u'a', u'A', "press 65"},
+        {"nothing allowed", with(text, none), u"|", 0, u'1', 0, "press 0"},
+        {"nothing allowed: Backspace", with(text, none), u"|", 0, 8, 8, "press 8"},
+        {"the last place is being filled", with(text, tabs), u"1234|", 5, u'5', u'5', "press 53, tab"},
+        {"a refused key at the last place tabs too", with(with(text, tabs), none), u"1234|", 5, u'5', 0,
+         "press 0, tab"},
+        {"not the last place", with(text, tabs), u"123|", 5, u'5', u'5', "press 53"},
+    };
+    for (const auto& row : rows)
+        check(row);
+}
+
+TEST(Keystroke, FreeTextLeavesTheTextUnread)
+{
+    Recorder control;
+    control.set = with(of(TipoText::TextoNormal), [](KeystrokeSettings& s) { s.autoTab = true; });
+    EXPECT_EQ(filterKeystroke(u'x', control), u'x');
+    EXPECT_EQ(control.textReads, 0);
+}
+
+TEST(Keystroke, Numbers)
+{
+    const auto signs = [](KeystrokeSettings& s) { s.negatives = true; };
+    const auto tabs = [](KeystrokeSettings& s) { s.autoTab = true; };
+    const Row rows[] = {
+        {"a digit", number(), u"12|", 0, u'3', u'3', "press 51"},
+        {"a letter", number(), u"12|", 0, u'x', 0, "press 0"},
+        {"Backspace raises nothing", number(), u"12|", 0, 8, 8, ""},
+        {"the symbol", number(), u"12|", 0, u',', u',', "press 44"},
+        {"a second symbol", number(), u"12,3|", 0, u',', 0, "press 0"},
+        {"the other symbol", number(), u"12|", 0, u'.', 0, "press 0"},
+        {"the point where it is the symbol", number(Simbolos::Ponto), u"12|", 0, u'.', u'.', "press 46"},
+        {"no symbol: neither", number(Simbolos::Vazio), u"12|", 0, u',', 0, "press 0"},
+        {"no symbol: digits", number(Simbolos::Vazio), u"12|", 0, u'3', u'3', "press 51"},
+        {"the whole text selected: written at once", number(), u"[12,5]", 0, u',', 0, "write 44, press 0"},
+        {"an empty text is wholly selected", number(), u"|", 0, u',', 0, "write 44, press 0"},
+        {"a minus where none is taken", number(), u"|12", 0, u'-', 0, "press 0"},
+        {"a minus in front", with(number(), signs), u"|12", 0, u'-', u'-', "press 45"},
+        {"a minus inside", with(number(), signs), u"1|2", 0, u'-', 0, "press 0"},
+        {"a second minus", with(number(), signs), u"|-12", 0, u'-', 0, "press 0"},
+        {"decimals full, caret at the end", number(), u"12,34|", 0, u'5', 0, "press 0"},
+        {"decimals full, caret in the whole part", number(), u"1|2,34", 0, u'5', u'5', "press 53"},
+        {"decimals full, caret right behind the symbol", number(), u"12,|34", 0, u'5', u'5', "press 53"},
+        {"decimals full, one further", number(), u"12,3|4", 0, u'5', 0, "press 0"},
+        {"decimals more than full", number(), u"12,345|", 0, u'5', 0, "press 0"},
+        {"decimals free", number(), u"12,3|", 0, u'5', u'5', "press 53"},
+        {"full", number(), u"123|", 3, u'4', 0, "press 0"},
+        {"the last place is being filled", with(number(), tabs), u"12|", 3, u'3', u'3', "press 51, tab"},
+    };
+    for (const auto& row : rows)
+        check(row);
+}
+
+TEST(Keystroke, FixedPointTakesDigitsOnly)
+{
+    const auto fixed = with(number(), [](KeystrokeSettings& s) { s.maskToNumeric = true, s.autoTab = true; });
+    const Row rows[] = {
+        {"a digit", fixed, u"0,0|0", 0, u'3', u'3', "press 51"},
+        {"the symbol", fixed, u"0,0|0", 0, u',', 0, ""},
+        {"Backspace", fixed, u"0,00|", 0, 8, 0, ""},
+    };
+    for (const auto& row : rows)
+        check(row);
+}
+
+TEST(Keystroke, Templates)
+{
+    const auto tabs = [](KeystrokeSettings& s) { s.autoTab = true; };
+    const auto letterPrompt = [](KeystrokeSettings& s) { s.autoTab = true, s.promptChar = u"x"; };
+    const auto noPrompt = [](KeystrokeSettings& s) { s.autoTab = true, s.promptChar = u""; };
+    const Row rows[] = {
+        {"a date takes digits", of(TipoText::Data), u"|__/__", 5, u'1', u'1', "mask 49, press 49"},
+        {"a date lets other keys fall", of(TipoText::Data), u"|__/__", 5, u'a', u'a', ""},
+        {"a mask hears every key", of(TipoText::Mascara), u"|__/__", 5, u'/', u'/', "mask 47, press 47"},
+        {"Backspace", with(of(TipoText::Data), tabs), u"12/34|", 5, 8, 8, "mask 8, press 8"},
+        {"complete, caret at the end", with(of(TipoText::Data), tabs), u"12/34|", 5, u'4', u'4',
+         "mask 52, press 52, tab"},
+        {"complete, caret inside", with(of(TipoText::Data), tabs), u"12/|34", 5, u'4', u'4', "mask 52, press 52"},
+        {"incomplete", with(of(TipoText::Mascara), tabs), u"_2/34|", 5, u'4', u'4', "mask 52, press 52"},
+        {"prompts are sought in either case", with(of(TipoText::Mascara), letterPrompt), u"X2|", 2, u'2', u'2',
+         "mask 50, press 50"},
+        {"every text holds the empty prompt", with(of(TipoText::Mascara), noPrompt), u"12|", 2, u'2', u'2',
+         "mask 50, press 50"},
+    };
+    for (const auto& row : rows)
+        check(row);
+}
+
+TEST(Keystroke, ARefusedMaskKeyIsToldAsZero)
+{
+    Recorder control;
+    control.set = of(TipoText::Mascara);
+    control.maskAnswer = 0;
+    EXPECT_EQ(filterKeystroke(u'a', control), 0);
+    EXPECT_EQ(control.log, "mask 97, press 0");
+}
+
+TEST(Keystroke, ATypeBeyondTheEnumerationIsLeftAlone)
+{
+    check({"type 9", with(of(static_cast<TipoText>(9)), [](KeystrokeSettings& s) { s.autoTab = true; }), u"1|", 2, u'x',
+           u'x', ""});
+}
+
+TEST(Keystroke, WhatTheHandlerChangesCounts)
+{
+    Recorder control;
+    control.set = of(TipoText::TextoNormal);
+    control.content = test::box(u"1234|");
+    control.limit = 5;
+    control.handler = [&](std::int16_t& key) {
+        key = static_cast<std::int16_t>(0xFF01); // a unit beyond the signed range
+        control.set.autoTab = true;
+    };
+    EXPECT_EQ(filterKeystroke(u'x', control), 0xFF01);
+    EXPECT_EQ(control.log, "press 120, tab");
+
+    Recorder lines; // Enter turned into another character is filtered on as that character
+    lines.set = with(of(TipoText::TextoNormal),
+                     [](KeystrokeSettings& s) { s.multiLine = true, s.letterCase = tipoTamanhoLetra::Maisculo; });
+    lines.handler = [](std::int16_t& key) { key = key == 13 ? u'b' : key; };
+    EXPECT_EQ(filterKeystroke(13, lines), u'B');
+    EXPECT_EQ(lines.log, "press 13, press 66");
+
+    Recorder erased; // a key turned into Backspace sends no Tab
+    erased.set = with(of(TipoText::TextoNormal), [](KeystrokeSettings& s) { s.autoTab = true; });
+    erased.content = test::box(u"1|");
+    erased.limit = 2;
+    erased.handler = [](std::int16_t& key) { key = 8; };
+    EXPECT_EQ(filterKeystroke(u'x', erased), 8);
+    EXPECT_EQ(erased.log, "press 120");
+}
+
+TEST(Keystroke, NothingIsTouchedAfterTheControlDied)
+{
+    for (const TipoText type : {TipoText::TextoNormal, TipoText::Numerico, TipoText::Data, TipoText::Mascara})
+        for (const int key : {8, 13, int{u'1'}}) {
+            Recorder control;
+            control.set = with(of(type), [](KeystrokeSettings& s) { s.enterAsTab = s.autoTab = true; });
+            control.content = test::box(u"1|");
+            control.limit = 2;
+            control.dies = true;
+            const int after = filterKeystroke(key, control);
+            const auto press = control.log.find("press");
+            if (press == std::string::npos)
+                continue; // Backspace in a number raises nothing
+            EXPECT_EQ(after, 0);
+            EXPECT_EQ(control.log.find(',', press), std::string::npos) << control.log;
+        }
+}
+
+TEST(Keystroke, AFailingNumericRuleIsLoggedAndRefuses)
+{
+    Recorder control;
+    control.set = number();
+    control.content = test::box(u"12|");
+    control.textFails = Error{13, u"Type mismatch"};
+    EXPECT_EQ(filterKeystroke(u'3', control), 0);
+    EXPECT_EQ(control.log, "log 13, press 0");
+}
+
+} // namespace
+} // namespace vela::engine
