@@ -21,6 +21,13 @@ struct TimeOfDay {
     friend bool operator==(TimeOfDay, TimeOfDay) = default;
 };
 
+// A date and its time of day, read off a serial as one: a time that rounds up to midnight is the next day's.
+struct Moment {
+    CivilDate date;
+    TimeOfDay time;
+    friend bool operator==(Moment, Moment) = default;
+};
+
 [[nodiscard]] constexpr bool isLeapYear(int year) noexcept
 {
     return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
@@ -33,6 +40,7 @@ struct TimeOfDay {
 [[nodiscard]] int weekday(CivilDate date) noexcept;        // 1 Sunday .. 7 Saturday
 [[nodiscard]] int dayOfYear(CivilDate date) noexcept;      // 1..366
 [[nodiscard]] Date makeDate(CivilDate date, TimeOfDay time = {}) noexcept;
+[[nodiscard]] std::optional<Moment> momentOf(Date date) noexcept;     // nothing outside the years 100 to 9999
 [[nodiscard]] std::optional<CivilDate> civilDate(Date date) noexcept; // nothing outside the years 100 to 9999
 [[nodiscard]] TimeOfDay timeOfDay(Date date) noexcept;                // rounded to the second
 

@@ -19,7 +19,8 @@ namespace vela::engine {
 // Rounds half to even on the decimal text: "1,00005" -> 1.0000.
 [[nodiscard]] Currency toCurrency(std::u16string_view text, const Locale& locale);
 // The locale-independent leading number: "." is the point, blanks are skipped, 0 when there is none. " 12.5abc" -> 12.5
-[[nodiscard]] double leadingNumber(std::u16string_view text) noexcept;
+// Raises 6 for a number beyond a double.
+[[nodiscard]] double leadingNumber(std::u16string_view text);
 // At most 15 significant digits, no grouping, the locale's decimal symbol: 1234.5 -> "1234,5" in pt-BR.
 [[nodiscard]] std::u16string numberToText(double number, const Locale& locale);
 
@@ -36,5 +37,31 @@ namespace vela::engine {
 [[nodiscard]] std::int32_t toLong(const Value& value, const Locale& locale);     // halves to even; 6 beyond 32 bits
 [[nodiscard]] double toDouble(const Value& value, const Locale& locale);
 [[nodiscard]] Date toDate(const Value& value, const Locale& locale, Date today); // numbers are serials
+
+// A text is read as a text, whichever way it is held.
+[[nodiscard]] inline bool isNumeric(const std::u16string& text, const Locale& locale) noexcept
+{
+    return isNumeric(std::u16string_view(text), locale);
+}
+[[nodiscard]] inline bool isNumeric(const char16_t* text, const Locale& locale) noexcept
+{
+    return isNumeric(std::u16string_view(text), locale);
+}
+[[nodiscard]] inline double toDouble(const std::u16string& text, const Locale& locale)
+{
+    return toDouble(std::u16string_view(text), locale);
+}
+[[nodiscard]] inline double toDouble(const char16_t* text, const Locale& locale)
+{
+    return toDouble(std::u16string_view(text), locale);
+}
+[[nodiscard]] inline Date toDate(const std::u16string& text, const Locale& locale, Date today)
+{
+    return toDate(std::u16string_view(text), locale, today);
+}
+[[nodiscard]] inline Date toDate(const char16_t* text, const Locale& locale, Date today)
+{
+    return toDate(std::u16string_view(text), locale, today);
+}
 
 } // namespace vela::engine

@@ -14,6 +14,10 @@ struct Locale {
     std::u16string grouping;                       // "."
     std::u16string currencySymbol;                 // "R$"
     std::u16string negativeSign = u"-";
+    int currencyPositive = 0;                      // the system's number: 0 "$1", 1 "1$", 2 "$ 1", 3 "1 $"
+    int currencyNegative = 0;                      // the system's number, 0 to 15: 0 "($1)", 1 "-$1", 9 "-$ 1"
+    int numberNegative = 1;                        // the system's number: 0 "(1)", 1 "-1", 2 "- 1", 3 "1-", 4 "1 -"
+    bool leadingZero = true;                       // "0,5" rather than ",5"
     DateOrder dateOrder = DateOrder::dayMonthYear;
     std::u16string dateSeparator = u"/";
     std::u16string timeSeparator = u":";

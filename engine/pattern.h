@@ -22,12 +22,14 @@ public:
     Pattern& operator=(Pattern&&) noexcept;
 
     [[nodiscard]] std::u16string_view text() const noexcept;
-    // Appends to `into`; nothing is allocated once `into` has room.
+    // Appends to `into`; nothing is allocated once `into` has room. A pattern of more than four sections raises 5, a
+    // date outside the years 100 to 9999 and a number that is not finite raise 6.
     void format(double number, const Locale& locale, std::u16string& into) const;
     void format(Date date, const Locale& locale, std::u16string& into) const;
 
+    struct Compiled; // the marks, known to the formatter alone
+
 private:
-    struct Compiled;
     std::unique_ptr<Compiled> compiled_;
 };
 

@@ -1,0 +1,182 @@
+// Scanning of date texts.
+#include "engine/date_scanner.h"
+
+#include "engine/characters.h"
+#include "engine/letter_case.h"
+
+#include <span>
+
+namespace vela::engine {
+namespace {
+
+constexpr std::uint32_t mostValue = 100'000'000;
+
+bool startsWithIgnoringCase(std::u16string_view text, std::u16string_view start) noexcept
+{
+    if (start.empty() || text.size() < start.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < start.size(); ++i) {
+        if (text[i] != start[i] && lowerCase(text[i]) != lowerCase(start[i])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+class DateScanner {
+public:
+    DateScanner(std::u16string_view text, const Locale& locale, DateFields& fields) noexcept
+        : text_(text), locale_(locale), fields_(fields)
+    {
+    }
+
+    [[nodiscard]] bool scan() noexcept
+    {
+        while (at_ < text_.size()) {
+            const char16_t unit = text_[at_];
+            if (!(isDigit(unit) ? takeNumber() : isLetter(unit) ? takeName() : takeSeparator(unit))) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+private:
+    [[nodiscard]] DateField* add() noexcept
+    {
+        return fields_.count < DateFields::most ? &fields_.field[fields_.count++] : nullptr;
+    }
+    [[nodiscard]] DateField* last() noexcept { return fields_.count > 0 ? &fields_.field[fields_.count - 1] : nullptr; }
+
+    [[nodiscard]] bool takeNumber() noexcept
+    {
+        DateField* const field = add();
+        if (field == nullptr) {
+            return false;
+        }
+        for (; at_ < text_.size() && isDigit(text_[at_]); ++at_) {
+            if (field->value < mostValue) {
+                field->value = field->value * 10 + static_cast<std::uint32_t>(text_[at_] - u'0');
+            }
+        }
+        return true;
+    }
+
+    [[nodiscard]] bool takeName() noexcept
+    {
+        if (takeMonth(locale_.months) || takeMonth(locale_.shortMonths)) {
+            return !tooMany_;
+        }
+        if (takeDay(locale_.days) || takeDay(locale_.shortDays)) {
+            return true;
+        }
+        if (take(locale_.am)) {
+            return markHalf(true);
+        }
+        if (take(locale_.pm)) {
+            return markHalf(false);
+        }
+        const char16_t letter = lowerLetter(text_[at_++]);
+        return (letter == u'a' || letter == u'p') && markHalf(letter == u'a');
+    }
+
+    [[nodiscard]] bool take(std::u16string_view name) noexcept
+    {
+        if (!startsWithIgnoringCase(text_.substr(at_), name)) {
+            return false;
+        }
+        at_ += name.size();
+        return true;
+    }
+
+    [[nodiscard]] bool takeMonth(std::span<const std::u16string, 12> names) noexcept
+    {
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            if (take(names[i])) {
+                DateField* const field = add();
+                tooMany_ = field == nullptr;
+                if (field != nullptr) {
+                    field->value = static_cast<std::uint32_t>(i + 1);
+                    field->month = true;
+                    field->dateSeparator = true;
+                }
+                return true;
+            }
+        }
+        return false;
+    }
+
+    // The day of the week is read over: it is not compared with the date.
+    [[nodiscard]] bool takeDay(std::span<const std::u16string, 7> names) noexcept
+    {
+        for (const auto& name : names) {
+            if (take(name)) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+    // Once a text, and only behind a number.
+    [[nodiscard]] bool markHalf(bool morning) noexcept
+    {
+        DateField* const field = last();
+        if (field == nullptr || fields_.hasHalf()) {
+            return false;
+        }
+        (morning ? field->morning : field->afternoon) = true;
+        (morning ? fields_.morning : fields_.afternoon) = true;
+        return true;
+    }
+
+    [[nodiscard]] bool takeSeparator(char16_t unit) noexcept
+    {
+        const bool atEnd = ++at_ == text_.size();
+        switch (unit) {
+        case u':':
+        case u'.': return markTime(unit == u'.', atEnd);
+        case u'-':
+        case u'/': return markDate(atEnd);
+        case u',': return !atEnd;
+        default: return isBlank(unit);
+        }
+    }
+
+    [[nodiscard]] bool markTime(bool point, bool atEnd) noexcept
+    {
+        DateField* const field = last();
+        if (field == nullptr || atEnd) {
+            return false;
+        }
+        field->timeSeparator = true;
+        field->point = point;
+        return true;
+    }
+
+    [[nodiscard]] bool markDate(bool atEnd) noexcept
+    {
+        DateField* const field = last();
+        if (field == nullptr || atEnd || ++dateSeparators_ > 2) {
+            return false;
+        }
+        field->dateSeparator = true;
+        return true;
+    }
+
+    std::u16string_view text_;
+    const Locale& locale_;
+    DateFields& fields_;
+    std::size_t at_ = 0;
+    int dateSeparators_ = 0;
+    bool tooMany_ = false;
+};
+
+} // namespace
+
+bool scanDateFields(std::u16string_view text, const Locale& locale, DateFields& fields) noexcept
+{
+    return DateScanner(untilNul(text), locale, fields).scan();
+}
+
+} // namespace vela::engine

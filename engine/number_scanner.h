@@ -1,0 +1,73 @@
+// Reads a whole text as a number in a locale, digit by digit, without allocating.
+#pragma once
+
+#include "engine/locale.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace vela::engine {
+
+// Decimal digits as they come: the number is the digits kept times ten to the power `exponent`.
+class DigitCollector {
+public:
+    void addWhole(char16_t digit) noexcept { add(digit, 1); }
+    void addFraction(char16_t digit) noexcept { add(digit, 0); }
+    void scale(std::int64_t powerOfTen) noexcept { exponent_ += powerOfTen; }
+    [[nodiscard]] bool isZero() const noexcept { return count_ == 0; }
+    // Nothing when the number is beyond a double.
+    [[nodiscard]] std::optional<double> toDouble(bool negative) const noexcept;
+    // Ten-thousandths, halves to even on the digits; nothing beyond 64 bits.
+    [[nodiscard]] std::optional<std::int64_t> toTenThousandths(bool negative) const noexcept;
+
+private:
+    // A double is settled by its first 768 digits; of those beyond only whether one is not zero matters.
+    static constexpr int capacity = 800;
+
+    void add(char16_t digit, int dropped) noexcept;
+    [[nodiscard]] std::optional<double> toDoubleSlowly() const noexcept;
+
+    std::array<char, capacity> digits_;
+    int count_ = 0;
+    bool sticky_ = false;
+    std::uint64_t leading_ = 0; // the first 18 digits
+    std::int64_t exponent_ = 0;
+};
+
+enum class ScanVerdict { number, notNumber, overflow };
+
+// The value of a text that is a number as a whole: blanks and signs before and behind, the currency symbol once,
+// parentheses for negatives, grouping symbols anywhere among the digits, exponents with e or d, "&H" and "&O".
+class NumberScanner {
+public:
+    NumberScanner(std::u16string_view text, const Locale& locale) noexcept;
+
+    [[nodiscard]] bool scan() noexcept;
+    [[nodiscard]] ScanVerdict toDouble(double& value) const noexcept;
+    [[nodiscard]] ScanVerdict toTenThousandths(std::int64_t& value) const noexcept;
+
+private:
+    [[nodiscard]] bool take(std::u16string_view symbol) noexcept;
+    [[nodiscard]] bool takeBlanks() noexcept;
+    [[nodiscard]] bool takeCurrency() noexcept;
+    [[nodiscard]] bool takeLeading() noexcept;
+    [[nodiscard]] bool takeTrailing() noexcept;
+    [[nodiscard]] bool takeRadix() noexcept;
+    [[nodiscard]] bool scanRadixDigits(int bitsADigit) noexcept;
+    [[nodiscard]] bool scanDecimalDigits() noexcept;
+    [[nodiscard]] bool scanExponent() noexcept;
+
+    std::u16string_view text_;
+    const Locale& locale_;
+    std::size_t at_ = 0;
+    DigitCollector digits_;
+    bool leadingPlus_ = false, leadingMinus_ = false, parenthesis_ = false, currency_ = false;
+    bool negative_ = false;
+    bool radix_ = false;
+    bool radixOverflow_ = false;
+    std::uint64_t radixValue_ = 0;
+};
+
+} // namespace vela::engine

@@ -1,0 +1,17 @@
+// Numbers and dates written into a text under construction.
+#pragma once
+
+#include "engine/calendar_date.h"
+#include "engine/locale.h"
+#include "engine/text_writer.h"
+
+namespace vela::engine {
+
+// At most 15 significant digits: 1234.5 -> "1234,5" in pt-BR.
+void putNumber(double number, const Locale& locale, TextWriter& writer);
+// The locale's general date; a time alone on 30 December 1899, no time at midnight of any other day.
+void putDate(const Moment& moment, const Locale& locale, TextWriter& writer);
+// A picture as the locale keeps it: letters d m y h n s, AM/PM, texts between apostrophes.
+void putPicture(const Moment& moment, std::u16string_view picture, const Locale& locale, TextWriter& writer);
+
+} // namespace vela::engine
