@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace vela::headless {
@@ -31,7 +32,10 @@ public:
 
     [[nodiscard]] HostHandlers& handlers(); // made at the first call
     void putRunMode(bool runMode) noexcept { runMode_ = runMode; }
-    void putParentForm(platform::ParentForm form) { parent_ = form; } // else: no MDI child, not modal, the form's window
+    void putParentForm(platform::ParentForm form)
+    {
+        parent_ = form;
+    } // else: no MDI child, not modal, the form's window
 
     void propertyChanged(std::u16string_view name) override;
     [[nodiscard]] bool runMode() const override { return runMode_; }
@@ -46,6 +50,10 @@ public:
     void raiseMouseOut() override;
 
 private:
+    template <class Handler, class... Arguments>
+    void call(Handler HostHandlers::*handler, Arguments&... arguments);
+    void report(std::u16string_view name, int count = 0, int first = 0, int second = 0) const;
+
     const Element* element_;
     std::optional<platform::ParentForm> parent_;
     std::unique_ptr<HostHandlers> handlers_;

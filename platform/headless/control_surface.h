@@ -20,13 +20,17 @@ public:
     void connect(platform::EditBoxEvents& box, platform::SurfaceEvents& surface) noexcept;
     void disconnect() noexcept;
 
-    [[nodiscard]] EditBox& activeBox();       // the single-line one when none has been activated yet
-    void clickButton();                       // nothing when the button is hidden
-    void resize(int width, int height);       // reports resized()
+    [[nodiscard]] EditBox& activeBox(); // the single-line one when none has been activated yet
+    void clickButton();                 // nothing when the button is hidden
+    void resize(int width, int height); // reports resized()
     [[nodiscard]] bool enabled() const noexcept { return enabled_; }
     [[nodiscard]] bool hoverTimerEnabled() const noexcept { return hoverTimer_; }
     [[nodiscard]] const platform::SurfaceLayout& layout() const noexcept { return layout_; }
+
+    // For its boxes.
     [[nodiscard]] platform::EditBoxEvents* boxEvents(const EditBox& box) const noexcept; // null for the hidden box
+    void askBoxFocus();
+    [[nodiscard]] bool boxHasFocus(const EditBox& box) const noexcept { return boxFocused_ && active_ == &box; }
 
     EditBox& activate(platform::EditBoxKind kind) override;
     void putEnabled(bool enabled) override;
@@ -44,6 +48,7 @@ public:
 
     [[nodiscard]] bool acceptsFocus() const override { return enabled_; }
     [[nodiscard]] platform::WindowId pointerWindow() const override;
+    [[nodiscard]] std::optional<engine::PointPixels> originOf(platform::WindowId window) const override;
     void enter() override;
     void leave() override;
     void key(Key key) override;
@@ -57,22 +62,31 @@ public:
     void pointerMoved() override;
     void tick() override;
 
+    // What drawRectangle() left on the surface.
+    struct Rectangle {
+        engine::Colour colour;
+        int width = 0;
+    };
+    [[nodiscard]] const std::optional<Rectangle>& rectangle() const noexcept { return rectangle_; }
+
 private:
+    EditBox& showBox(platform::EditBoxKind kind);
+
     engine::RectPixels place_;
     platform::WindowId window_;
     platform::SurfaceLook look_;
     platform::SurfaceLayout layout_;
+    std::optional<Rectangle> rectangle_;
     platform::EditBoxEvents* boxEvents_ = nullptr;
     platform::SurfaceEvents* surfaceEvents_ = nullptr;
-    std::optional<EditBox> firstBox_;     // of whichever kind was asked for first
+    std::optional<EditBox> firstBox_; // of whichever kind was asked for first
     std::unique_ptr<EditBox> secondBox_;
     EditBox* active_ = nullptr;
     bool enabled_ = true;
     bool hoverTimer_ = false;
     bool boxFocused_ = false;
+    bool entering_ = false;
     LifeLine life_;
-
-    friend class EditBox;
 };
 
 } // namespace vela::headless

@@ -53,21 +53,23 @@ public:
 
     // The former active window hears becameInactive(), then this one becameActive(). Null: another program's window.
     void activate(TopLevel* window);
-    // A window is going or hides: nothing is told to it; `heir` is active now when it was.
-    void retire(const TopLevel& window, TopLevel* heir);
+    // A window is going or hides, nothing is told to anybody: when it was active, the one active before it is again.
+    void retire(const TopLevel& window) noexcept;
     [[nodiscard]] TopLevel* active() const noexcept { return active_; }
 
     void putPointer(platform::WindowId window) noexcept { pointer_ = window; } // 0: away from all
     void adopt(platform::WindowId parent, platform::WindowId window);          // for isChild()
 
 private:
-    template <class Kind> std::optional<Kind> takeAnswer();
+    template <class Kind>
+    std::optional<Kind> takeAnswer();
 
     TraceSink& sink_;
     FaultPlan& faults_;
     std::deque<Answer> answers_;
     std::vector<TabMove> tabs_;
     TopLevel* active_ = nullptr;
+    std::vector<TopLevel*> order_; // the latest active last
     platform::WindowId pointer_;
     std::vector<std::pair<platform::WindowId, platform::WindowId>> children_; // parent, child
 };

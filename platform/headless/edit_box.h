@@ -21,6 +21,9 @@ enum class BoxOperation { text, putText, putCaret, putColour };
 class EditBox final : public platform::EditBox {
 public:
     EditBox(ControlSurface& surface, platform::EditBoxKind kind);
+    EditBox(const EditBox&) = delete;
+    EditBox& operator=(const EditBox&) = delete;
+    ~EditBox() override;
 
     // The field's own operations: each may be made to fail.
     void text(std::u16string& into) const override;
@@ -55,14 +58,14 @@ public:
 private:
     struct Failures;
 
-    [[nodiscard]] platform::EditBoxEvents* events() const noexcept;
     void check(BoxOperation operation) const;
     void replaceSelection(std::u16string_view text);
     void erase(int start, int length);
     void applyCharacter(int key);
+    void typeText(std::u16string_view text);
     void applyNamedKey(int code);
     void moveCaret(int start);
-    void reportChange(bool different);
+    void reportChange();
     [[nodiscard]] int room() const noexcept; // units that still fit, the selection given up
     [[nodiscard]] int length() const noexcept { return static_cast<int>(text_.size()); }
 

@@ -7,7 +7,9 @@
 #include "platform/headless/keys.h"
 #include "platform/headless/trace.h"
 
+#include <exception>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +32,8 @@ public:
     // What the form asks of it; a plain element takes the focus and ignores the rest.
     [[nodiscard]] virtual bool acceptsFocus() const { return true; }
     [[nodiscard]] virtual platform::WindowId pointerWindow() const { return {}; } // the one under a pointer over it
+    // The screen place of its window of that id.
+    [[nodiscard]] virtual std::optional<engine::PointPixels> originOf(platform::WindowId) const { return std::nullopt; }
     virtual void enter() {}
     virtual void leave() {}
     virtual void key(Key) {}
@@ -72,7 +76,7 @@ public:
     // Nothing when it has the focus already or does not accept it. The element that is left may keep the focus by
     // asking for it (askFocus); it is then entered again and the one asked for sees nothing.
     void focus(Element& element);
-    void focusNone(); // another window's control takes it
+    void focusNone();         // another window's control takes it
     void tab(bool backwards); // skips elements that do not accept the focus, goes round at both ends
     // From handlers: granted at once, or when a change of the focus that is under way has settled.
     void askFocus(Element& element);
@@ -105,9 +109,12 @@ private:
     void attach(Element& element);
     void detach(Element& element) noexcept;
     void moveFocus(Element* target);
-    void moveOnce(Element* target);
+    void leaveFocused();
+    void arriveAt(Element* target);
+    void settle(Element* target);
+    template <class Act>
+    void act(Act&& what);
     void runPendingTabs();
-    template <class Act> void act(Act&& what);
     [[nodiscard]] bool holds(const Element* element) const noexcept;
 
     Desktop& desktop_;
@@ -122,8 +129,8 @@ private:
     Element* focused_ = nullptr;
     Element* wanted_ = nullptr; // asked for while the focus was on its way
     Element* pointer_ = nullptr;
+    std::exception_ptr failure_; // the first one of the move that is under way
     bool moving_ = false;
-    bool asked_ = false;
 };
 
 } // namespace vela::headless

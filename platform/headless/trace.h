@@ -87,7 +87,7 @@ struct Balloon { // of an edit box
 struct Focus {
     std::u16string_view element; // empty: another window's control
 };
-struct Opened { // a pop-up form was shown
+struct Opened {               // a pop-up form was shown
     std::u16string_view form; // its layout's name
     engine::RectPixels place;
 };

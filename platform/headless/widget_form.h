@@ -1,4 +1,5 @@
-// Forms in memory, instantiated from a layout's table: pop-ups, property pages and dialogs, and a person's acts on them.
+// Forms in memory, instantiated from a layout's table: pop-ups, property pages and dialogs, and a person's acts on
+// them.
 #pragma once
 
 #include "platform/form.h"
@@ -52,9 +53,9 @@ public:
     // Key-down, key-press; what the filter leaves is typed at the end of a text box or an editable combo: changed().
     bool type(platform::WidgetId widget, Key key);
     [[nodiscard]] char16_t filter(platform::WidgetId widget, char16_t key); // key-press alone; 0: refused
-    bool enterText(platform::WidgetId widget, std::u16string_view text);    // as typed whole: one changed() if it differs
-    bool choose(platform::WidgetId widget, int index);                      // in a list or combo: clicked()
-    bool turnItem(platform::WidgetId widget, int index, bool on);           // of a listBox: clicked() when it changes
+    bool enterText(platform::WidgetId widget, std::u16string_view text); // as typed whole: one changed() if it differs
+    bool choose(platform::WidgetId widget, int index);                   // in a list or combo, or a tab: clicked()
+    bool turnItem(platform::WidgetId widget, int index, bool on);        // of a listBox: clicked() when it changes
 
     [[nodiscard]] const platform::FormLayout& layout() const noexcept { return layout_; }
     [[nodiscard]] platform::WidgetId find(std::u16string_view name, int index = -1) const noexcept;
@@ -66,6 +67,11 @@ public:
     [[nodiscard]] bool isClosed() const noexcept { return closed_; }
     void tick(); // of its timer; nothing when it is stopped
 
+    // For its lists.
+    [[nodiscard]] WidgetForms& forms() const noexcept { return forms_; }
+    void itemChosen(platform::WidgetId widget, std::u16string item);
+    void listCleared(platform::WidgetId widget);
+
     [[nodiscard]] platform::WindowId topLevelWindow() const override { return window_; }
     void becameActive() override;
     void becameInactive() override;
@@ -73,9 +79,12 @@ public:
 private:
     struct Widget;
 
+    void raiseFocus(platform::WidgetId widget);
     [[nodiscard]] Widget& at(platform::WidgetId widget) const; // 9 for no row of the table
     [[nodiscard]] platform::WidgetKind kindOf(platform::WidgetId widget) const;
     void chooseOption(platform::WidgetId widget);
+    void typeCharacter(platform::WidgetId widget, char16_t character);
+    void putTypedText(platform::WidgetId widget, std::u16string text);
 
     const platform::FormLayout& layout_;
     platform::FormEvents& events_;
@@ -86,7 +95,6 @@ private:
     engine::RectPixels place_;
     engine::Colour back_{0x8000000F};
     int timer_ = 0;
-    TopLevel* heir_ = nullptr; // active again once a pop-up has closed
     bool shown_ = false;
     bool popup_ = false;
     bool closed_ = false;

@@ -1,0 +1,230 @@
+// The control's window: its boxes, and what reaches them from the form.
+#include "platform/headless/control_surface.h"
+
+#include "platform/headless/tooltip_window.h"
+
+#include <utility>
+
+namespace vela::headless {
+
+namespace {
+
+constexpr engine::RectPixels placeOf(int index) noexcept
+{
+    return {8, 8 + 32 * index, 121, 21};
+}
+
+} // namespace
+
+ControlSurface::ControlSurface(FormWindow& form, std::u16string name, int index)
+    : Element(form, std::move(name)), place_(placeOf(index)), window_(form.makeWindow())
+{
+}
+
+ControlSurface::~ControlSurface() = default;
+
+void ControlSurface::connect(platform::EditBoxEvents& box, platform::SurfaceEvents& surface) noexcept
+{
+    boxEvents_ = &box;
+    surfaceEvents_ = &surface;
+}
+
+void ControlSurface::disconnect() noexcept
+{
+    boxEvents_ = nullptr;
+    surfaceEvents_ = nullptr;
+}
+
+EditBox& ControlSurface::activate(platform::EditBoxKind kind)
+{
+    form().faults().pass();
+    return showBox(kind);
+}
+
+EditBox& ControlSurface::showBox(platform::EditBoxKind kind)
+{
+    if (!firstBox_)
+        active_ = &firstBox_.emplace(*this, kind);
+    else if (firstBox_->kind() == kind)
+        active_ = &*firstBox_;
+    else
+        active_ = (secondBox_ ? secondBox_ : secondBox_ = std::make_unique<EditBox>(*this, kind)).get();
+    return *active_;
+}
+
+EditBox& ControlSurface::activeBox()
+{
+    return active_ != nullptr ? *active_ : showBox(platform::EditBoxKind::singleLine);
+}
+
+platform::EditBoxEvents* ControlSurface::boxEvents(const EditBox& box) const noexcept
+{
+    return &box == active_ ? boxEvents_ : nullptr;
+}
+
+void ControlSurface::putEnabled(bool enabled)
+{
+    form().faults().pass();
+    enabled_ = enabled;
+}
+
+void ControlSurface::putLook(const platform::SurfaceLook& look)
+{
+    form().faults().pass();
+    look_ = look;
+}
+
+void ControlSurface::arrange(const platform::SurfaceLayout& layout)
+{
+    form().faults().pass();
+    layout_ = layout;
+}
+
+void ControlSurface::clear()
+{
+    form().faults().pass();
+    rectangle_.reset();
+}
+
+void ControlSurface::drawRectangle(engine::Colour colour, int width)
+{
+    form().faults().pass();
+    rectangle_ = Rectangle{colour, width};
+}
+
+void ControlSurface::enableHoverTimer(bool enabled)
+{
+    hoverTimer_ = enabled;
+}
+
+std::unique_ptr<platform::TooltipWindow> ControlSurface::makeTooltip()
+{
+    return std::make_unique<TooltipWindow>(form(), this);
+}
+
+platform::WindowId ControlSurface::pointerWindow() const
+{
+    return active_ != nullptr ? active_->window() : window_;
+}
+
+std::optional<engine::PointPixels> ControlSurface::originOf(platform::WindowId window) const
+{
+    if (window == window_)
+        return engine::PointPixels{place_.left, place_.top};
+    if ((firstBox_ && window == firstBox_->window()) || (secondBox_ && window == secondBox_->window()))
+        return engine::PointPixels{place_.left + layout_.edit.left, place_.top + layout_.edit.top};
+    return std::nullopt;
+}
+
+void ControlSurface::clickButton()
+{
+    if (look_.button && surfaceEvents_ != nullptr)
+        surfaceEvents_->buttonClicked();
+}
+
+void ControlSurface::resize(int width, int height)
+{
+    place_.width = width;
+    place_.height = height;
+    if (surfaceEvents_ != nullptr)
+        surfaceEvents_->resized();
+}
+
+// The surface receives the focus and hands it to its box, which then reports it.
+void ControlSurface::enter()
+{
+    if (surfaceEvents_ == nullptr)
+        return;
+    const LifeLine::Watch watch(life_);
+    const auto done = [&] {
+        if (!watch.gone())
+            entering_ = false; // also where the box was not asked for
+    };
+    entering_ = true;
+    try {
+        surfaceEvents_->surfaceGotFocus();
+    } catch (...) {
+        done();
+        throw;
+    }
+    done();
+}
+
+void ControlSurface::askBoxFocus()
+{
+    if (!entering_) {
+        form().askFocus(*this);
+        return;
+    }
+    entering_ = false;
+    boxFocused_ = true;
+    if (boxEvents_ != nullptr)
+        boxEvents_->gotFocus();
+}
+
+void ControlSurface::leave()
+{
+    const LifeLine::Watch watch(life_);
+    if (std::exchange(boxFocused_, false) && boxEvents_ != nullptr)
+        boxEvents_->lostFocus();
+    if (!watch.gone() && surfaceEvents_ != nullptr)
+        surfaceEvents_->surfaceLostFocus();
+}
+
+void ControlSurface::key(Key key)
+{
+    activeBox().key(key);
+}
+
+void ControlSurface::paste(std::u16string_view text)
+{
+    if (boxEvents_ != nullptr)
+        boxEvents_->pasted(text);
+}
+
+void ControlSurface::cut()
+{
+    if (boxEvents_ != nullptr)
+        boxEvents_->cut();
+}
+
+void ControlSurface::undo()
+{
+    if (boxEvents_ != nullptr)
+        boxEvents_->undo();
+}
+
+void ControlSurface::redo()
+{
+    if (boxEvents_ != nullptr)
+        boxEvents_->redo();
+}
+
+void ControlSurface::placeCaret(int start, int length)
+{
+    activeBox().placeCaret(start, length);
+}
+
+void ControlSurface::click()
+{
+    activeBox().clickAtEnd();
+}
+
+void ControlSurface::doubleClick()
+{
+    activeBox().doubleClick();
+}
+
+void ControlSurface::pointerMoved()
+{
+    if (boxEvents_ != nullptr)
+        boxEvents_->pointerMoved();
+}
+
+void ControlSurface::tick()
+{
+    if (hoverTimer_ && surfaceEvents_ != nullptr)
+        surfaceEvents_->hoverTick();
+}
+
+} // namespace vela::headless

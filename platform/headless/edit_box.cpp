@@ -1,0 +1,256 @@
+// The field's operations on a box in memory, and a person's keys in it.
+#include "platform/headless/edit_box.h"
+
+#include "platform/headless/control_surface.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace vela::headless {
+
+using platform::EditTraits;
+using platform::Selection;
+
+struct EditBox::Failures {
+    std::array<std::optional<engine::Error>, 4> next; // by operation
+};
+
+namespace {
+
+const std::shared_ptr<const EditTraits>& firstTraits()
+{
+    static const std::shared_ptr<const EditTraits> traits = std::make_shared<const EditTraits>();
+    return traits;
+}
+
+} // namespace
+
+EditBox::EditBox(ControlSurface& surface, platform::EditBoxKind kind)
+    : surface_(surface), kind_(kind), window_(surface.form().makeWindow()), traits_(firstTraits())
+{
+}
+
+EditBox::~EditBox() = default;
+
+void EditBox::failNext(BoxOperation operation, engine::Error error)
+{
+    if (!failures_)
+        failures_ = std::make_unique<Failures>();
+    failures_->next[static_cast<std::size_t>(operation)] = std::move(error);
+}
+
+void EditBox::check(BoxOperation operation) const
+{
+    surface_.form().faults().pass();
+    if (!failures_)
+        return;
+    if (auto failure = std::exchange(failures_->next[static_cast<std::size_t>(operation)], std::nullopt))
+        throw *std::move(failure);
+}
+
+void EditBox::text(std::u16string& into) const
+{
+    check(BoxOperation::text);
+    into = text_;
+}
+
+int EditBox::textLength() const
+{
+    check(BoxOperation::text);
+    return length();
+}
+
+void EditBox::putText(std::u16string_view text)
+{
+    check(BoxOperation::putText);
+    const bool different = text != text_;
+    text_.assign(text);
+    selection_ = {};
+    if (different)
+        reportChange();
+}
+
+void EditBox::insert(std::u16string_view text)
+{
+    check(BoxOperation::putText);
+    if (traits_->locked)
+        return;
+    const int space = room();
+    if (space >= 0 && static_cast<int>(text.size()) > space)
+        text = text.substr(0, static_cast<std::size_t>(space));
+    replaceSelection(text);
+}
+
+void EditBox::select(Selection selection)
+{
+    check(BoxOperation::putCaret);
+    placeCaret(selection.start, selection.length);
+}
+
+void EditBox::putColours(platform::EditColours colours)
+{
+    check(BoxOperation::putColour);
+    colours_ = colours;
+}
+
+void EditBox::putTraits(const EditTraits& traits)
+{
+    surface_.form().faults().pass();
+    if (traits == *traits_)
+        return;
+    traits_ = traits == *firstTraits() ? firstTraits() : std::make_shared<const EditTraits>(traits);
+}
+
+void EditBox::takeFocus()
+{
+    surface_.form().faults().pass();
+    surface_.askBoxFocus();
+}
+
+bool EditBox::hasFocus() const
+{
+    return surface_.boxHasFocus(*this);
+}
+
+bool EditBox::showBalloon(int icon, std::u16string_view title, std::u16string_view text)
+{
+    surface_.form().faults().pass();
+    surface_.form().sink().trace(trace::Balloon{true, icon, title, text});
+    return true;
+}
+
+void EditBox::hideBalloon()
+{
+    surface_.form().sink().trace(trace::Balloon{});
+}
+
+int EditBox::room() const noexcept
+{
+    return traits_->maxLength > 0 ? std::max(0, traits_->maxLength - (length() - selection_.length)) : -1;
+}
+
+void EditBox::placeCaret(int start, int length)
+{
+    selection_.start = std::clamp(start, 0, this->length());
+    selection_.length = std::clamp(length, 0, this->length() - selection_.start);
+}
+
+void EditBox::replaceSelection(std::u16string_view text)
+{
+    const auto start = static_cast<std::size_t>(selection_.start);
+    const auto length = static_cast<std::size_t>(selection_.length);
+    const bool different = std::u16string_view(text_).substr(start, length) != text;
+    text_.replace(start, length, text);
+    selection_ = {selection_.start + static_cast<int>(text.size()), 0};
+    if (different)
+        reportChange();
+}
+
+void EditBox::erase(int start, int length)
+{
+    if (traits_->locked)
+        return;
+    placeCaret(start, length);
+    replaceSelection({});
+}
+
+void EditBox::reportChange()
+{
+    if (platform::EditBoxEvents* events = surface_.boxEvents(*this))
+        events->changed();
+}
+
+// The handlers may destroy the box: nothing of it is touched after one that did.
+void EditBox::key(Key key)
+{
+    const LifeLine::Watch watch(life_);
+    platform::EditBoxEvents* const events = surface_.boxEvents(*this);
+    int code = key.code;
+    int shift = 0;
+    if (events != nullptr)
+        events->keyDown(code, shift);
+    if (watch.gone())
+        return;
+    const bool swallowed = key.code != 0 && code == 0;
+    if (!swallowed) {
+        int character = key.pressed ? key.character : 0;
+        if (key.pressed && events != nullptr)
+            events->keyPress(character);
+        if (watch.gone())
+            return;
+        if (key.pressed)
+            applyCharacter(character);
+        else
+            applyNamedKey(code);
+        if (watch.gone())
+            return;
+    }
+    if (events != nullptr)
+        events->keyUp(key.code, 0);
+}
+
+void EditBox::applyCharacter(int key)
+{
+    if (key == 0 || traits_->locked)
+        return;
+    const auto unit = static_cast<char16_t>(key);
+    if (key == virtual_key::backspace) {
+        if (selection_.length > 0)
+            erase(selection_.start, selection_.length);
+        else if (selection_.start > 0)
+            erase(selection_.start - 1, 1);
+    } else if (key == virtual_key::enter) {
+        if (kind_ == platform::EditBoxKind::multiLine)
+            typeText(u"\r\n");
+    } else {
+        typeText({&unit, 1});
+    }
+}
+
+void EditBox::typeText(std::u16string_view text)
+{
+    const int space = room();
+    if (space < 0 || static_cast<int>(text.size()) <= space)
+        replaceSelection(text);
+}
+
+void EditBox::applyNamedKey(int code)
+{
+    const auto [start, selected] = selection_;
+    switch (code) {
+    case virtual_key::left: moveCaret(selected > 0 ? start : start - 1); break;
+    case virtual_key::right: moveCaret(selected > 0 ? start + selected : start + 1); break;
+    case virtual_key::home: moveCaret(0); break;
+    case virtual_key::end: moveCaret(length()); break;
+    case virtual_key::del:
+        if (selected > 0 || start < length())
+            erase(start, std::max(selected, 1));
+        break;
+    default: break;
+    }
+}
+
+void EditBox::moveCaret(int start)
+{
+    placeCaret(start, 0);
+}
+
+void EditBox::clickAtEnd()
+{
+    moveCaret(length());
+    if (platform::EditBoxEvents* events = surface_.boxEvents(*this))
+        events->clicked();
+}
+
+void EditBox::doubleClick()
+{
+    const LifeLine::Watch watch(life_);
+    clickAtEnd();
+    if (watch.gone())
+        return;
+    if (platform::EditBoxEvents* events = surface_.boxEvents(*this))
+        events->doubleClicked();
+}
+
+} // namespace vela::headless

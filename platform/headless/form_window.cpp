@@ -1,0 +1,285 @@
+// How the focus and the pointer move over the form, and how a person's acts reach the focused element.
+#include "platform/headless/form_window.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vela::headless {
+
+namespace {
+
+constexpr std::size_t atTheEnd = static_cast<std::size_t>(-1);
+constexpr int longestChase = 100; // moves of the focus that handlers may ask for in a row
+
+class PlainElement final : public Element {
+public:
+    using Element::Element;
+};
+
+// Runs what may fail and keeps the first failure.
+template <class Step>
+void guarded(std::exception_ptr& failure, Step&& step)
+{
+    try {
+        step();
+    } catch (...) {
+        if (!failure)
+            failure = std::current_exception();
+    }
+}
+
+void rethrow(std::exception_ptr& failure)
+{
+    if (failure)
+        std::rethrow_exception(std::exchange(failure, nullptr));
+}
+
+} // namespace
+
+Element::Element(FormWindow& form, std::u16string name) : form_(form), name_(std::move(name))
+{
+    form_.attach(*this);
+}
+
+Element::~Element()
+{
+    form_.detach(*this);
+}
+
+FormWindow::FormWindow(Desktop& desktop, TraceSink& sink, FaultPlan& faults)
+    : desktop_(desktop), sink_(sink), faults_(faults), window_(makeWindow()), nextPlace_(atTheEnd)
+{
+    desktop_.activate(this);
+}
+
+FormWindow::~FormWindow()
+{
+    desktop_.retire(*this);
+}
+
+Element& FormWindow::addPlain(std::u16string name)
+{
+    return *plains_.emplace_back(std::make_unique<PlainElement>(*this, std::move(name)));
+}
+
+void FormWindow::attach(Element& element)
+{
+    const std::size_t place = std::min(std::exchange(nextPlace_, atTheEnd), elements_.size());
+    elements_.insert(elements_.begin() + static_cast<std::ptrdiff_t>(place), &element);
+}
+
+void FormWindow::detach(Element& element) noexcept
+{
+    std::erase(elements_, &element);
+    if (focused_ == &element)
+        focused_ = nullptr;
+    if (wanted_ == &element)
+        wanted_ = nullptr;
+    if (pointer_ == &element)
+        pointAway();
+}
+
+Element* FormWindow::find(std::u16string_view name) const noexcept
+{
+    const auto found =
+        std::find_if(elements_.begin(), elements_.end(), [&](const Element* e) { return e->name() == name; });
+    return found != elements_.end() ? *found : nullptr;
+}
+
+std::size_t FormWindow::placeOf(const Element& element) const noexcept
+{
+    return static_cast<std::size_t>(std::find(elements_.begin(), elements_.end(), &element) - elements_.begin());
+}
+
+bool FormWindow::holds(const Element* element) const noexcept
+{
+    return std::find(elements_.begin(), elements_.end(), element) != elements_.end();
+}
+
+void FormWindow::focus(Element& element)
+{
+    if (&element != focused_ && element.acceptsFocus())
+        moveFocus(&element);
+}
+
+void FormWindow::focusNone()
+{
+    if (focused_ != nullptr)
+        moveFocus(nullptr);
+}
+
+void FormWindow::askFocus(Element& element)
+{
+    if (moving_)
+        wanted_ = &element;
+    else
+        focus(element);
+}
+
+// Backwards from the first element is the last one, and the other way round.
+void FormWindow::tab(bool backwards)
+{
+    if (focused_ == nullptr)
+        return;
+    const std::size_t count = elements_.size();
+    const std::size_t step = backwards ? count - 1 : 1;
+    for (std::size_t at = (placeOf(*focused_) + step) % count; elements_[at] != focused_; at = (at + step) % count) {
+        if (elements_[at]->acceptsFocus()) {
+            focus(*elements_[at]);
+            return;
+        }
+    }
+}
+
+void FormWindow::moveFocus(Element* target)
+{
+    if (moving_) {
+        wanted_ = target;
+        return;
+    }
+    moving_ = true;
+    for (int moves = 0; moves < longestChase; ++moves) {
+        wanted_ = nullptr;
+        leaveFocused();
+        if (wanted_ != nullptr)
+            target = std::exchange(wanted_, nullptr); // it keeps the focus, or another one was sent it
+        arriveAt(target != nullptr && holds(target) ? target : nullptr);
+        target = std::exchange(wanted_, nullptr); // asked for by the one that was entered
+        if (target == nullptr || target == focused_)
+            break;
+    }
+    moving_ = false;
+    wanted_ = nullptr;
+    rethrow(failure_);
+}
+
+void FormWindow::leaveFocused()
+{
+    Element* const left = std::exchange(focused_, nullptr);
+    if (left != nullptr)
+        guarded(failure_, [&] { left->leave(); });
+}
+
+void FormWindow::arriveAt(Element* target)
+{
+    focused_ = target;
+    sink_.trace(trace::Focus{target != nullptr ? std::u16string_view(target->name()) : std::u16string_view()});
+    if (target != nullptr)
+        guarded(failure_, [&] { target->enter(); });
+    // Pop-ups that the one entered has not closed see another window become active.
+    guarded(failure_, [&] { desktop_.activate(focused_ != nullptr ? this : nullptr); });
+}
+
+// A failing act does not hold up the Tabs that it asked for.
+template <class Act>
+void FormWindow::act(Act&& what)
+{
+    if (focused_ == nullptr)
+        return;
+    std::exception_ptr failure;
+    guarded(failure, [&] { what(*focused_); });
+    guarded(failure, [&] { runPendingTabs(); });
+    rethrow(failure);
+}
+
+void FormWindow::runPendingTabs()
+{
+    for (int moves = 0; moves < longestChase; ++moves) {
+        const Desktop::TabMove move = desktop_.nextTab();
+        if (move == Desktop::TabMove::none)
+            return;
+        tab(move == Desktop::TabMove::backwards);
+    }
+}
+
+void FormWindow::key(Key key)
+{
+    act([&](Element& element) { element.key(key); });
+}
+
+void FormWindow::paste(std::u16string_view text)
+{
+    act([&](Element& element) { element.paste(text); });
+}
+
+void FormWindow::cut()
+{
+    act([](Element& element) { element.cut(); });
+}
+
+void FormWindow::undo()
+{
+    act([](Element& element) { element.undo(); });
+}
+
+void FormWindow::redo()
+{
+    act([](Element& element) { element.redo(); });
+}
+
+void FormWindow::placeCaret(int start, int length)
+{
+    act([&](Element& element) { element.placeCaret(start, length); });
+}
+
+void FormWindow::click(Element& element)
+{
+    focus(element);
+    if (focused_ == &element)
+        act([](Element& clicked) { clicked.click(); });
+}
+
+void FormWindow::doubleClick(Element& element)
+{
+    focus(element);
+    if (focused_ == &element)
+        act([](Element& clicked) { clicked.doubleClick(); });
+}
+
+void FormWindow::pointTo(Element& element)
+{
+    if (!element.acceptsFocus())
+        return;
+    pointer_ = &element;
+    desktop_.putPointer(element.pointerWindow());
+    element.pointerMoved();
+}
+
+void FormWindow::pointAway()
+{
+    pointer_ = nullptr;
+    desktop_.putPointer({});
+}
+
+void FormWindow::tick()
+{
+    std::exception_ptr failure;
+    const std::vector<Element*> all = elements_; // a handler may destroy some
+    for (Element* element : all)
+        if (holds(element))
+            guarded(failure, [&] { element->tick(); });
+    rethrow(failure);
+}
+
+engine::PointPixels FormWindow::originOf(platform::WindowId window) const noexcept
+{
+    for (const auto& [known, origin] : origins_)
+        if (known == window)
+            return origin;
+    for (const Element* element : elements_)
+        if (const auto origin = element->originOf(window))
+            return *origin;
+    return {};
+}
+
+void FormWindow::putOrigin(platform::WindowId window, engine::PointPixels origin)
+{
+    origins_.emplace_back(window, origin);
+}
+
+platform::WindowId FormWindow::makeWindow() noexcept
+{
+    return {++lastWindow_};
+}
+
+} // namespace vela::headless
