@@ -41,8 +41,9 @@ TEST(LetterCase, NoUnitHasTwoCapitals)
     for (int unit = 0; unit <= 0xFFFF; ++unit) {
         const auto from = static_cast<char16_t>(unit);
         ASSERT_EQ(upperCase(upperCase(from)), upperCase(from)) << std::hex << unit;
-        if (upperCase(from) != from)
+        if (upperCase(from) != from) {
             ASSERT_EQ(lowerCase(upperCase(from)), from) << std::hex << unit;
+        }
     }
 }
 

@@ -70,8 +70,7 @@ TEST(Mask, Typing)
         const auto step = validateMask(row.key, before.caret, row.settings, text);
         EXPECT_EQ(step.key, row.keyAfter) << row.rule;
         EXPECT_EQ(afterStep(step, before, text), row.after) << row.rule;
-        if (!step.textWritten)
-            EXPECT_EQ(text, before.text) << row.rule;
+        EXPECT_TRUE(step.textWritten || text == before.text) << row.rule;
     }
 }
 

@@ -1,6 +1,7 @@
 // How the field tests write a box: "|" is the caret, "[" and "]" the selection (the caret stands at its start).
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -28,10 +29,11 @@ inline Box box(std::u16string_view marked)
     return result;
 }
 
+// A caret beyond the text is cut to its end, as a box cuts it.
 inline std::u16string marked(std::u16string_view text, int caret)
 {
     std::u16string result(text);
-    result.insert(static_cast<std::size_t>(caret), 1, u'|');
+    result.insert(std::min(static_cast<std::size_t>(caret), text.size()), 1, u'|');
     return result;
 }
 
