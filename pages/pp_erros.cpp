@@ -38,6 +38,8 @@ ppErros::ppErros(const PageServices& services, PageSite& site) : page_(errosLayo
     page_.onClick(u"chkPersonalizarMsgErro", [this] { followCustomMessage(); });
     page_.onClick(u"chkLimpaCampo", [this] { followClearField(); });
     page_.help(u"CmdHelpErroAlert", alertHelp);
+    followAlert();
+    followCustomMessage();
 }
 
 void ppErros::open(std::span<PropertyObject* const> selection)

@@ -181,22 +181,13 @@ int indexOf(const platform::ItemList& list, std::u16string_view item)
     return -1;
 }
 
-void setText(headless::WidgetForm& form, WidgetId widget, std::u16string_view text)
-{
-    std::u16string accepted;
-    for (const char16_t unit : text)
-        if (const char16_t key = form.filter(widget, unit))
-            accepted += key;
-    form.enterText(widget, accepted);
-}
-
 void setCombo(headless::WidgetForm& form, WidgetId widget, std::u16string_view text)
 {
     const int item = indexOf(form.items(widget), text);
     if (item >= 0)
         form.choose(widget, item);
     else
-        setText(form, widget, text);
+        form.enterText(widget, text);
 }
 
 void setList(headless::WidgetForm& form, WidgetId widget, std::u16string_view text)
@@ -233,7 +224,7 @@ void setValue(Session& session, WidgetId widget, const engine::Value& value)
     case WidgetKind::listBox: setLetters(form, widget, engine::toText(value, locale)); break;
     case WidgetKind::dropDownList: setList(form, widget, engine::toText(value, locale)); break;
     case WidgetKind::comboBox: setCombo(form, widget, engine::toText(value, locale)); break;
-    default: setText(form, widget, engine::toText(value, locale)); break;
+    default: form.enterText(widget, engine::toText(value, locale)); break;
     }
 }
 
