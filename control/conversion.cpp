@@ -46,4 +46,14 @@ engine::Value convert(PropertyType type, const engine::Value& value, const engin
     return value;
 }
 
+std::uint8_t wholePoints(double size)
+{
+    if (!(size >= 0 && size < 255.5))
+        engine::raise(engine::error_number::overflow);
+    const int whole = static_cast<int>(size);
+    const double rest = size - whole;
+    const bool up = rest > 0.5 || (rest == 0.5 && whole % 2 != 0);
+    return static_cast<std::uint8_t>(whole + (up ? 1 : 0));
+}
+
 } // namespace vela::control

@@ -16,6 +16,9 @@ namespace vela::control {
 // Raises 6 beyond the type's range and 13 for what does not convert.
 [[nodiscard]] engine::Value convert(PropertyType type, const engine::Value& value, const engine::Locale& locale);
 
+// A font's size as the byte that hosts see: halves to even, 8.25 is 8. Raises 6 beyond 255.
+[[nodiscard]] std::uint8_t wholePoints(double size);
+
 template <class T>
 [[nodiscard]] constexpr PropertyType propertyTypeOf() noexcept
 {

@@ -6,6 +6,7 @@
 #include "engine/date_check.h"
 #include "engine/error.h"
 #include "engine/field_value.h"
+#include "engine/keystroke.h"
 #include "engine/mask.h"
 #include "engine/number_display.h"
 #include "platform/control_host.h"
@@ -16,6 +17,7 @@
 #include "tooltip/balloon_tooltip.h"
 
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -184,14 +186,13 @@ public:
     [[nodiscard]] const engine::Locale& locale() const { return environment_.locales.locale(); }
 
 private:
-    friend class BoxSink;   // the keystroke filter's view of the field
-    friend class PasteSink; // the same over a text that is not yet in the box
-
     // Who writes a text. The live re-format answers a person and a host; the history keeps what a person does and
     // ends with what a host, loading, entry or exit write.
     enum class Writer { person, host, life, keys, history };
     class WriterScope;
     class Scratch;
+    class BoxSink;   // the keystroke filter's view of the field
+    class PasteSink; // the same over a text that is not yet in the box
 
     [[nodiscard]] platform::EditBox& box() const; // the active one; 91 after LimparMemoria and after the end
     [[nodiscard]] bool deaf() const noexcept { return released_ || life_.ended(); } // the box's events are not heard
@@ -204,6 +205,7 @@ private:
     void writeText(View text, Writer writer);
     void showBox(platform::BoxIcon icon, View title, View text);
     void openPopup();
+    void raise(void (platform::ControlHost::*event)());
 
     template <class T, class U>
     void store(T& field, const U& value, View name);
@@ -232,10 +234,9 @@ private:
     void correctText(View text); // what the date check puts right, its failure logged
 
     // Loading (life.cpp)
-    void adopt(const StoredState& state);
+    void adopt(StoredState&& state);
     void prepareText();
     void applyLoadedDefault();
-    void finishLoading(bool whole);
 
     // Entry (entry.cpp) and keys (keys.cpp)
     void enterColours();
@@ -245,10 +246,12 @@ private:
     void placeCaretByClick();
     void selectAll();
     void reformatLive();
-    void keyDownByType(int code, int shift);
-    void eraseByKey(int code);
+    void keyDownByType(int code);
+    void sKeyDown(int code);
+    [[nodiscard]] engine::KeystrokeSettings keystrokeSettings() const;
+    [[nodiscard]] int plainKey(int key) const noexcept;
     void validateMask(int& key);
-    void arrowRight();
+    [[nodiscard]] bool raiseKeyPress(std::int16_t& key); // false: the control is gone
 
     // Exit (exit.cpp)
     struct Wrong {

@@ -75,6 +75,17 @@ public:
 
     virtual void text(std::u16string& into) const = 0;
     [[nodiscard]] virtual int textLength() const = 0;
+    // The units of `part`, cut to the text: what the field's history keeps. A back end that can read less than the
+    // whole text does.
+    virtual void part(Selection part, std::u16string& into) const
+    {
+        text(into);
+        const auto size = static_cast<int>(into.size());
+        const int start = part.start < 0 ? 0 : part.start > size ? size : part.start;
+        into.erase(0, static_cast<std::size_t>(start));
+        if (part.length < size - start)
+            into.resize(static_cast<std::size_t>(part.length < 0 ? 0 : part.length));
+    }
     // Caret to 0, nothing selected; changed() when it is another text. Works on a locked box too.
     virtual void putText(std::u16string_view text) = 0;
     // Replaces the selection as typing does: cut to fit maxLength, caret behind it, changed() once. Locked: nothing.

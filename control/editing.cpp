@@ -1,0 +1,311 @@
+// Paste, cut, undo and redo: the same rules as typing, and the field's own history.
+#include "control/internal.h"
+
+#include "control/field_sink.h"
+#include "engine/keystroke.h"
+
+#include <algorithm>
+
+namespace vela::control {
+
+namespace {
+
+constexpr char16_t carriageReturn = u'\r';
+constexpr char16_t lineFeed = u'\n';
+constexpr std::u16string_view lineBreak = u"\r\n";
+constexpr int keyDelete = 46;
+
+constexpr bool isLetterOrDigit(char16_t unit) noexcept
+{
+    return (unit >= u'0' && unit <= u'9') || (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z');
+}
+
+constexpr bool isPair(char16_t first, char16_t second) noexcept
+{
+    const bool surrogates = (first & 0xFC00) == 0xD800 && (second & 0xFC00) == 0xDC00;
+    return surrogates || (first == carriageReturn && second == lineFeed);
+}
+
+// Does the text, literals included, lie on the mask from `start` on? Only then may a literal letter or digit of the
+// mask ("+55 (__)") be passed over instead of typed. Surplus at the end does not matter.
+bool liesOnMask(std::u16string_view text, std::size_t start, const engine::MaskSettings& settings)
+{
+    const std::u16string_view mask = settings.mask.substr(std::min(start, settings.mask.size()));
+    bool namedLiteral = false;
+    for (std::size_t i = 0; i < std::min(text.size(), mask.size()); ++i) {
+        const bool input = settings.promptChar == mask.substr(i, 1);
+        if (input ? !isLetterOrDigit(text[i]) : text[i] != mask[i])
+            return false;
+        namedLiteral = namedLiteral || (!input && isLetterOrDigit(mask[i]));
+    }
+    return namedLiteral;
+}
+
+// Where the literals just before the caret begin: a person pastes over a template that the caret stands inside of.
+std::size_t literalRunBefore(std::size_t caret, const engine::MaskSettings& settings)
+{
+    std::size_t start = std::min(caret, settings.mask.size());
+    while (start > 0 && settings.promptChar != settings.mask.substr(start - 1, 1))
+        --start;
+    return start;
+}
+
+} // namespace
+
+void Vela::BoxSink::writeText(std::u16string_view text, int caret)
+{
+    Scratch before(field_);
+    *before = *text_;
+    field_.keepWritten(*before, text, field_.box().selection(), false);
+    field_.writeText(text, Writer::keys);
+    field_.box().select({caret, 0});
+}
+
+Vela::PasteSink::PasteSink(Vela& field) : field_(field), alive_(field.life_)
+{
+    field_.readText(before_);
+    text_ = before_;
+    const int length = static_cast<int>(text_.size());
+    selectionBefore_ = field_.box().selection();
+    selection_.start = std::clamp(selectionBefore_.start, 0, length);
+    selection_.length = std::clamp(selectionBefore_.length, 0, length - selection_.start);
+    maxLength_ = field_.box().traits().maxLength;
+    locked_ = field_.box().traits().locked;
+}
+
+void Vela::PasteSink::writeText(std::u16string_view text, int caret)
+{
+    text_ = std::u16string(text);
+    selection_ = {caret, 0};
+}
+
+void Vela::PasteSink::validateMask(int& key)
+{
+    const engine::MaskStep step = engine::validateMask(key, selection_.start, field_.maskSettings(), text_);
+    key = step.key;
+    if (step.textWritten)
+        selection_ = {step.caret, 0};
+    if (step.promptCaret)
+        selection_ = {*step.promptCaret, 0};
+}
+
+bool Vela::PasteSink::type(char16_t unit)
+{
+    const int key = engine::filterKeystroke(field_.plainKey(unit), *this);
+    if (!alive_)
+        return false;
+    if (key == carriageReturn)
+        insert(lineBreak);
+    else if (key != 0) {
+        const auto typed = static_cast<char16_t>(key);
+        insert({&typed, 1});
+    }
+    return true;
+}
+
+// As the box inserts: nothing when it is locked or full.
+void Vela::PasteSink::insert(std::u16string_view typed)
+{
+    const auto start = static_cast<std::size_t>(selection_.start);
+    const auto length = static_cast<std::size_t>(selection_.length);
+    if (locked_ || start + length > text_.size())
+        return;
+    if (maxLength_ > 0 && text_.size() - length + typed.size() > static_cast<std::size_t>(maxLength_))
+        return;
+    text_.replace(start, length, typed);
+    selection_ = {static_cast<int>(start + typed.size()), 0};
+    if (!field_.liveNumber())
+        return;
+    if (!field_.livePattern_)
+        field_.livePattern_ = std::make_unique<engine::LivePattern>();
+    std::u16string shown;
+    if (const auto caret =
+            engine::liveFormat(text_, selection_.start, field_.numberSettings(), *field_.livePattern_, shown)) {
+        text_ = shown;
+        selection_ = {*caret, 0};
+    }
+}
+
+void Vela::PasteSink::finish()
+{
+    if (text_ != before_) {
+        field_.keepWritten(before_, text_, selectionBefore_, false);
+        field_.writeText(text_, Writer::keys);
+    }
+    if (text_ != before_ || selection_ != selectionBefore_)
+        field_.box().select(selection_);
+}
+
+bool Vela::raiseKeyPress(std::int16_t& key)
+{
+    const Liveness::Probe alive(life_);
+    host_.raiseKeyPress(key);
+    return static_cast<bool>(alive);
+}
+
+// Character by character through the filter; what is refused is left out. A line break is one Enter key.
+void Vela::pasted(std::u16string_view text)
+{
+    if (deaf())
+        return;
+    whileAlive(life_, [&] {
+        PasteSink sink(*this);
+        const engine::MaskSettings mask = maskSettings();
+        const std::size_t start = literalRunBefore(static_cast<std::size_t>(sink.caret()), mask);
+        const bool aligned = masked() && liesOnMask(text, start, mask);
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            char16_t unit = text[i];
+            if (unit == 0 || unit == engine::key_code::backspace)
+                continue;
+            if (unit == lineFeed && i > 0 && text[i - 1] == carriageReturn)
+                continue;
+            if (unit == lineFeed)
+                unit = carriageReturn;
+            if (aligned && start + i < settings_.mask.size()) {
+                const bool input = settings_.promptChar == View(settings_.mask).substr(start + i, 1);
+                if (!input && isLetterOrDigit(unit))
+                    continue;
+                if (input)
+                    sink.placeCaret(static_cast<int>(start + i));
+            }
+            if (!sink.type(unit))
+                return;
+        }
+        sink.finish();
+    });
+}
+
+void Vela::cut()
+{
+    if (deaf())
+        return;
+    if (masked()) {
+        if (box().selection().length > 0)
+            sKeyDown(keyDelete);
+        return;
+    }
+    if (box().selection().length == 0 || box().traits().locked)
+        return;
+    whileAlive(life_, [&] {
+        expectErasing(false);
+        box().insert(u"");
+    });
+}
+
+void Vela::undo()
+{
+    restore(true);
+}
+
+void Vela::redo()
+{
+    restore(false);
+}
+
+void Vela::restore(bool backwards)
+{
+    if (deaf() || !history_ || settings_.locked || (!masked() && box().traits().locked))
+        return;
+    whileAlive(life_, [&] {
+        Scratch text(*this);
+        readText(*text);
+        const auto selection = backwards ? history_->undo(*text) : history_->redo(*text);
+        if (!selection)
+            return;
+        writeText(*text, Writer::history);
+        box().select(*selection);
+    });
+}
+
+History& Vela::history()
+{
+    if (!history_)
+        history_ = std::make_unique<History>();
+    return *history_;
+}
+
+// The box is about to insert a key it was left with.
+void Vela::expectTyping(int key)
+{
+    if (key == 0 || masked() || box().traits().locked)
+        return;
+    if (key == engine::key_code::backspace) {
+        expectErasing(true);
+        return;
+    }
+    if (key < u' ' && key != u'\t' && key != engine::key_code::enter)
+        return;
+    History::Expected& expected = history().expected;
+    expected.before = box().selection();
+    expected.at = expected.before.start;
+    expected.erasing = false;
+    expected.removed.clear();
+    if (expected.before.length > 0)
+        box().part(expected.before, expected.removed);
+    if (key == engine::key_code::enter)
+        expected.inserted = lineBreak;
+    else
+        expected.inserted.assign(1, static_cast<char16_t>(key));
+    history_->expecting = true;
+}
+
+// The box is about to remove its selection, or the character on one side of the caret.
+void Vela::expectErasing(bool backwards)
+{
+    if (masked() || box().traits().locked)
+        return;
+    History::Expected& expected = history().expected;
+    expected.before = box().selection();
+    expected.at = expected.before.start;
+    expected.inserted.clear();
+    expected.erasing = expected.before.length == 0;
+    expected.backwards = backwards;
+    platform::Selection gone = expected.before;
+    if (expected.erasing) { // at most two units: a pair goes as one
+        const int units = backwards ? std::min(2, gone.start) : 2;
+        gone = {backwards ? gone.start - units : gone.start, units};
+    }
+    box().part(gone, expected.removed);
+    history_->expecting = true;
+}
+
+// The box has reported a change: the edit that was expected, or one that nobody announced.
+void Vela::keepTyped()
+{
+    if (!history_)
+        return;
+    if (!history_->expecting) {
+        history_->clear();
+        return;
+    }
+    history_->expecting = false;
+    History::Expected& edit = history_->expected;
+    if (edit.erasing) {
+        std::size_t units = std::min<std::size_t>(1, edit.removed.size());
+        if (edit.removed.size() == 2 && isPair(edit.removed[0], edit.removed[1])) {
+            const int caret = box().selection().start;
+            std::u16string next;
+            box().part({edit.at, 1}, next);
+            const bool both = edit.backwards ? edit.at - caret == 2 : next != edit.removed.substr(1);
+            units = both ? 2 : 1;
+        }
+        if (edit.backwards) {
+            edit.removed.erase(0, edit.removed.size() - units);
+            edit.at -= static_cast<int>(units);
+        } else {
+            edit.removed.resize(units);
+        }
+    }
+    history_->add(edit.at, edit.removed, edit.inserted, edit.before, false);
+}
+
+// A text that a key or a paste makes the control write. The live re-format belongs to the key before it; where that
+// key was none of a person's, there is nothing to undo.
+void Vela::keepWritten(View before, View after, platform::Selection selection, bool joined)
+{
+    if (joined && (!history_ || writer_ == Writer::host))
+        return;
+    history().addDifference(before, after, selection, joined);
+}
+
+} // namespace vela::control

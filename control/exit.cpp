@@ -1,0 +1,163 @@
+// Leaving the field: its look restored, its text checked and formatted, a wrong entry answered.
+#include "control/internal.h"
+
+#include "engine/conversions.h"
+#include "engine/letter_case.h"
+#include "tooltip/balloon_tip.h"
+#include "tooltip/windows_version.h"
+
+namespace vela::control {
+
+namespace {
+
+constexpr int alertIcon = 3;
+
+} // namespace
+
+void Vela::lostFocus()
+{
+    if (deaf())
+        return;
+    held_ = false;
+    const auto failure = failureOf(life_, [&](int&) { leave(); });
+    if (failure && failure->number != engine::error_number::invalidCall)
+        log(*failure, label::lostFocus);
+}
+
+void Vela::leave()
+{
+    hideTip();
+    leaveColours();
+    Scratch text(*this);
+    readText(*text);
+    if (text->empty())
+        writeText(settings_.ifIsEmpty, Writer::life);
+    if (const auto wrong = leaveByType())
+        answerWrong(*wrong);
+    else
+        hideTip();
+}
+
+void Vela::leaveColours()
+{
+    putBackColours(settings_.backColorLostFocus);
+    border_ = settings_.borderColorLostfocus;
+    putForeColour(settings_.foreColorLostFocus);
+    layOut();
+    if (settings_.appearance == Aparencia::cFlat && settings_.borderStyle != eEstiloBorda::XP) {
+        surface_.clear();
+        surface_.drawRectangle(settings_.borderColorLostfocus, 1);
+    }
+}
+
+std::optional<Vela::Wrong> Vela::leaveByType()
+{
+    switch (settings_.textType) {
+    case TipoText::TextoNormal:
+        if (settings_.tipoLetra == tipoTamanhoLetra::ProperCase) {
+            Scratch text(*this);
+            Scratch cased(*this);
+            readText(*text);
+            engine::properCase(*text, *cased);
+            writeText(*cased, Writer::life);
+        }
+        break;
+    case TipoText::Numerico: return leaveNumber();
+    case TipoText::Data: return leaveDate();
+    case TipoText::Mascara: break;
+    }
+    return std::nullopt;
+}
+
+// "1234,5" -> "1.234,50", its sign's colour, then "R$ 1.234,50". A display that the locale does not read as a number
+// ends here with its error: no colour, no symbol.
+std::optional<Vela::Wrong> Vela::leaveNumber()
+{
+    Scratch text(*this);
+    Scratch next(*this);
+    readText(*text);
+    if (engine::isSymbolAlone(*text, numberSettings().decimal)) {
+        putForeColour(settings_.errorForeColor);
+        return Wrong{engine::wrongNumberTitle, engine::wrongNumberText};
+    }
+    if (engine::isNumeric(*text, locale())) {
+        engine::displayNumber(*text, numberSettings(), *next);
+        writeText(*next, Writer::life);
+        text->swap(*next);
+        if (!text->empty()) {
+            switch (engine::currencySign(*text, locale())) {
+            case engine::NumberSign::negative: putForeColour(settings_.corValorNeg); break;
+            case engine::NumberSign::positive: putForeColour(settings_.corValorPos); break;
+            case engine::NumberSign::zero: putForeColour(settings_.foreColorLostFocus); break;
+            }
+        }
+    }
+    if (engine::applySymbol(*text, settings_.simboloMonetario, *next))
+        writeText(*next, Writer::life);
+    return std::nullopt;
+}
+
+// The untouched template passes. A date that is refused for its day or month gets prompts back over it.
+std::optional<Vela::Wrong> Vela::leaveDate()
+{
+    Scratch text(*this);
+    readText(*text);
+    if (*text == settings_.formatoExibData)
+        return std::nullopt;
+    const bool time = engine::isTimeFormat(settings_.dateFormat);
+    Text16 corrected;
+    const engine::DateVerdict verdict =
+        time ? engine::checkTime(*text, checkSettings()) : engine::checkDate(*text, checkSettings(), corrected);
+    if (verdict.failure)
+        log(*verdict.failure, label::date);
+    if (verdict.corrected)
+        correctText(corrected);
+    if (verdict.accepted)
+        return std::nullopt;
+    putForeColour(settings_.errorForeColor);
+    return Wrong{engine::wrongDateTitle, time ? engine::wrongTimeText : engine::wrongDateText};
+}
+
+// A wrong entry is given the focus back at the first attempt to leave; the next one lets it go, unless ErrorFocus
+// keeps it for good.
+void Vela::answerWrong(const Wrong& wrong)
+{
+    if (settings_.errorTextClear)
+        putText(u"", Writer::life);
+    if (settings_.errorAlert && tooltip::VersaoWindows(environment_.system) == u"NT")
+        showAlert(wrong);
+    returnedFocus_ = !returnedFocus_;
+    if (returnedFocus_) {
+        held_ = true;
+        box().takeFocus();
+    } else {
+        hideTip();
+    }
+    if (settings_.errorFocus) {
+        held_ = true;
+        box().takeFocus();
+    }
+}
+
+// A message of the developer's own replaces the text, not the title.
+void Vela::showAlert(const Wrong& wrong)
+{
+    const View text = settings_.errorMsgCustom ? View(settings_.errorTextMessage) : wrong.text;
+    if (!text.empty())
+        tooltip::ShowBalloonTip(text, wrong.title, alertIcon, box(), arrangement().edit.height, tip());
+}
+
+tooltip::CBalloonToolTip& Vela::tip()
+{
+    if (!tip_)
+        tip_ = std::make_unique<tooltip::CBalloonToolTip>(surface_.makeTooltip());
+    return *tip_;
+}
+
+void Vela::hideTip()
+{
+    if (tip_)
+        tip_->Destroy();
+}
+
+} // namespace vela::control

@@ -1,0 +1,112 @@
+// What the sources of the control share: writing, lent buffers, traits one at a time, trapping to the log.
+#pragma once
+
+#include "control/error_log.h"
+#include "control/history.h"
+#include "control/trap.h"
+#include "control/vela.h"
+
+#include <cstdint>
+#include <limits>
+#include <utility>
+
+namespace vela::control {
+
+// A text's length where an Integer is wanted; 6 beyond 32,767.
+[[nodiscard]] inline std::int16_t lengthAsInteger(std::u16string_view text)
+{
+    if (text.size() > static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max()))
+        engine::raise(engine::error_number::overflow);
+    return static_cast<std::int16_t>(text.size());
+}
+
+// Marks who is writing a text while the box reports it as changed.
+class Vela::WriterScope {
+public:
+    WriterScope(Vela& control, Writer writer) noexcept
+        : control_(control), alive_(control.life_), outer_(std::exchange(control.writer_, writer))
+    {
+    }
+    ~WriterScope()
+    {
+        if (alive_)
+            control_.writer_ = outer_;
+    }
+    WriterScope(const WriterScope&) = delete;
+    WriterScope& operator=(const WriterScope&) = delete;
+    [[nodiscard]] bool alive() const noexcept { return static_cast<bool>(alive_); }
+
+private:
+    Vela& control_;
+    Liveness::Probe alive_;
+    Writer outer_;
+};
+
+// A text buffer borrowed from the control for one routine, empty at first; it goes back with its room. Routines may
+// nest: what the control has no buffer for starts with none.
+class Vela::Scratch {
+public:
+    explicit Scratch(Vela& control) noexcept : control_(control), alive_(control.life_)
+    {
+        text_.swap(control.scratch_[roomier()]);
+        text_.clear();
+    }
+    ~Scratch()
+    {
+        if (alive_ && text_.capacity() <= largestKept)
+            text_.swap(control_.scratch_[1 - roomier()]);
+    }
+    Scratch(const Scratch&) = delete;
+    Scratch& operator=(const Scratch&) = delete;
+
+    [[nodiscard]] std::u16string& operator*() noexcept { return text_; }
+    [[nodiscard]] std::u16string* operator->() noexcept { return &text_; }
+
+private:
+    static constexpr std::size_t largestKept = 1024; // units; a long text's buffer is not kept
+
+    [[nodiscard]] std::size_t roomier() const noexcept
+    {
+        return control_.scratch_[1].capacity() > control_.scratch_[0].capacity() ? 1 : 0;
+    }
+
+    Vela& control_;
+    Liveness::Probe alive_;
+    std::u16string text_;
+};
+
+template <class T, class U>
+void Vela::store(T& field, const U& value, View name)
+{
+    field = value;
+    markChanged(name);
+}
+
+template <class T>
+void Vela::putTrait(T platform::EditTraits::*trait, const T& value)
+{
+    if (box().traits().*trait == value)
+        return;
+    platform::EditTraits traits = box().traits();
+    traits.*trait = value;
+    box().putTraits(traits);
+}
+
+template <class T>
+void Vela::putFontPart(T FontDescription::*part, const T& value)
+{
+    if (box().traits().font.*part == value)
+        return;
+    platform::EditTraits traits = box().traits();
+    traits.font.*part = value;
+    box().putTraits(traits);
+}
+
+template <class Body>
+void Vela::trapToLog(View label, Body body)
+{
+    if (const auto failure = failureOf(life_, [&](int&) { body(); }))
+        log(*failure, label);
+}
+
+} // namespace vela::control

@@ -1,0 +1,196 @@
+// Keys: navigation and erasing on the way down, the filter in between, the caret's next prompt on the way up.
+#include "control/internal.h"
+
+#include "control/field_sink.h"
+#include "engine/conversions.h"
+#include "engine/keystroke.h"
+
+namespace vela::control {
+
+namespace {
+
+constexpr int keyTab = 9;
+constexpr int keyUpArrow = 38;
+constexpr int keyRightArrow = 39;
+constexpr int keyDownArrow = 40;
+constexpr int keyDelete = 46;
+constexpr int keyDecimal = 110; // of the numeric keypad
+constexpr int keyF2 = 113;
+
+} // namespace
+
+void Vela::keyDown(int& code, int& shift)
+{
+    if (deaf())
+        return;
+    whileAlive(life_, [&] {
+        keypadDecimal_ = code == keyDecimal;
+        if (history_)
+            history_->expecting = false;
+        keyDownByType(code);
+        if (settings_.upTab && code == keyDownArrow)
+            environment_.desktop.keyDown(keyTab); // no key-up follows; kept so
+        if (settings_.upTab && code == keyUpArrow)
+            environment_.desktop.sendKeys(u"+{TAB}");
+        auto told = static_cast<std::int16_t>(code);
+        auto toldShift = static_cast<std::int16_t>(shift);
+        const Liveness::Probe alive(life_);
+        host_.raiseKeyDown(told, toldShift);
+        code = told;
+        shift = toldShift;
+        if (alive && !deaf() && code == keyDelete)
+            expectErasing(false);
+    });
+}
+
+void Vela::keyDownByType(int code)
+{
+    if (settings_.textType == TipoText::Numerico && code == keyF2 && settings_.showButtonCalculadora)
+        openPopup();
+    else if (masked())
+        sKeyDown(code);
+}
+
+// Delete and Backspace put prompts back: the locked box erases nothing itself.
+void Vela::sKeyDown(int code)
+{
+    trapToLog(label::keyDown, [&] {
+        Scratch text(*this);
+        Scratch before(*this);
+        readText(*text);
+        const platform::Selection selection = box().selection();
+        *before = *text;
+        const auto caret = engine::eraseInMask(code, selection.start, selection.length, maskSettings(), *text);
+        if (!caret)
+            return;
+        keepWritten(*before, *text, selection, false);
+        writeText(*text, Writer::keys);
+        box().select({*caret, 0});
+    });
+}
+
+void Vela::keyPress(int& key)
+{
+    if (deaf())
+        return;
+    whileAlive(life_, [&] {
+        const Liveness::Probe alive(life_);
+        BoxSink sink(*this);
+        key = engine::filterKeystroke(plainKey(key), sink);
+        if (alive && !deaf())
+            expectTyping(key);
+    });
+}
+
+// Full-width digits count as digits where digits are wanted; the keypad's decimal key gives the field's symbol.
+int Vela::plainKey(int key) const noexcept
+{
+    constexpr int fullWidthZero = 0xFF10;
+    constexpr int fullWidthNine = 0xFF19;
+    const bool number = settings_.textType == TipoText::Numerico;
+    if ((number || masked()) && key >= fullWidthZero && key <= fullWidthNine)
+        return key - fullWidthZero + u'0';
+    if (number && keypadDecimal_ && settings_.displayDecimal != 0 && (key == u',' || key == u'.'))
+        return settings_.displayDecimal;
+    return key;
+}
+
+void Vela::validateMask(int& key)
+{
+    const auto failure = failureOf(life_, [&](int&) {
+        Scratch text(*this);
+        Scratch before(*this);
+        readText(*text);
+        const platform::Selection selection = box().selection();
+        *before = *text;
+        const engine::MaskStep step = engine::validateMask(key, selection.start, maskSettings(), *text);
+        key = step.key;
+        if (step.textWritten) {
+            keepWritten(*before, *text, selection, false);
+            writeText(*text, Writer::keys);
+            box().select({step.caret, 0});
+        }
+        if (step.promptCaret)
+            box().select({*step.promptCaret, 0});
+    });
+    if (failure && failure->number != engine::error_number::invalidPropertyValue)
+        log(*failure, label::mask);
+}
+
+void Vela::keyUp(int code, int shift)
+{
+    if (deaf())
+        return;
+    whileAlive(life_, [&] {
+        auto told = static_cast<std::int16_t>(code);
+        auto toldShift = static_cast<std::int16_t>(shift);
+        const Liveness::Probe alive(life_);
+        host_.raiseKeyUp(told, toldShift);
+        if (!alive || told != keyRightArrow || !masked())
+            return;
+        if (const auto caret = engine::nextInputPosition(box().selection().start, maskSettings()))
+            box().select({*caret, 0});
+    });
+}
+
+void Vela::buttonClicked()
+{
+    if (!life_.ended())
+        whileAlive(life_, [&] { openPopup(); });
+}
+
+// Opening reports its own failures; free text and masks have no pop-up.
+void Vela::openPopup()
+{
+    const Liveness::Probe alive(life_);
+    if (settings_.textType == TipoText::Numerico)
+        popups_.openCalculator(*this);
+    else if (settings_.textType == TipoText::Data)
+        popups_.openCalendar(*this);
+    if (!alive)
+        engine::raise(engine::error_number::objectNotSet);
+}
+
+std::u16string Vela::popupText()
+{
+    return Text();
+}
+
+void Vela::putPopupText(const engine::Value& value)
+{
+    Text(engine::toText(value, locale()));
+}
+
+void Vela::takePopupFocus()
+{
+    box().takeFocus();
+}
+
+engine::RectPixels Vela::popupAnchor()
+{
+    return surface_.screenRect();
+}
+
+platform::ParentForm Vela::popupParent()
+{
+    return host_.parentForm();
+}
+
+engine::KeystrokeSettings Vela::keystrokeSettings() const
+{
+    return {.textType = settings_.textType,
+            .letterCase = settings_.tipoLetra,
+            .displayDecimal = settings_.simbolDecExib,
+            .decimal = numberSettings().decimal,
+            .decimals = settings_.qtdCasasDec,
+            .enterAsTab = settings_.enterAsTab,
+            .multiLine = settings_.multLine,
+            .maskToNumeric = settings_.maskToNumeric,
+            .freeText = settings_.textoLivre,
+            .autoTab = settings_.autoTab,
+            .negatives = settings_.aceitaNegativos,
+            .allowed = settings_.caractLiberados,
+            .promptChar = settings_.promptChar};
+}
+
+} // namespace vela::control

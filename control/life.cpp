@@ -1,0 +1,217 @@
+// The life of a control: made, given its settings, told about, ended.
+#include "control/internal.h"
+
+#include "control/history.h"
+#include "control/persistence.h"
+#include "engine/error.h"
+#include "tooltip/about_box.h"
+
+namespace vela::control {
+
+Vela::Vela(platform::ControlHost& host, platform::ControlSurface& surface, platform::Environment& environment,
+           popups::Popups& popups)
+    : host_(host), surface_(surface), environment_(environment), popups_(popups)
+{
+}
+
+Vela::~Vela()
+{
+    terminate();
+}
+
+// The order is told to the host, setter by setter. In run mode the box of a new control cannot be chosen: it is
+// the single-line one.
+void Vela::initNew()
+{
+    EsquemaRetornoAtual(eEsquemasRetorno::Primeiro);
+    ToolTipGotFocusTipo(eIconeToolTipText::TTNoIcon);
+    if (!host_.runMode())
+        MultLine(false);
+    TextType(TipoText::TextoNormal);
+    BackColorGotFocus({0x00FFFFFF});
+    BackColorLostFocus({0x00FFFFFF});
+    BackColor_MouseMove({0x00FEF7E9});
+    BorderColor_MouseMove({0x0000C000});
+    BorderColorGotfocus({0x00FFFFFF});
+    BorderColorLostfocus({0x00FFFFFF});
+    Error_ForeColor({0x000000FF});
+    ForeColor_GotFocus({0});
+    ForeColor_LostFocus({0});
+    Enabled(true);
+    FormatoExibData(u"__/__/____");
+    TextoLivre(true);
+    AutoSelect(true);
+    InserirZeros(true);
+    Calendar_FormBackcolor({0x00FFFFFF});
+    Calendar_ComboBackColor({0x80000005});
+    Calendar_BackColor({0x00DFDFDF});
+    Calendar_ColorWeekDay({0x00808000});
+    Calendar_DayActive({0x80000012});
+    Calendar_DayInactive({0x00808080});
+    Calendar_Selected({0x00C0E0FF});
+    settings_.inserirZeros = false; // overrides the put above
+    putTrait(&platform::EditTraits::enabled, true);
+    layOut();
+}
+
+// A bag that fails in the middle leaves what it gave, defaults for the rest, and a field that works. The first
+// failure is the one told.
+void Vela::load(platform::PropertyBag& bag)
+{
+    StoredState state;
+    state.colours = popups_.colours;
+    std::optional<engine::Error> failure;
+    const auto keep = [&](const engine::Error& error) {
+        if (!failure)
+            failure = error;
+    };
+    const Liveness::Probe alive(life_);
+    const auto step = [&](auto body) {
+        if (!alive)
+            return;
+        try {
+            body();
+        } catch (const engine::Error& error) {
+            keep(error);
+        }
+    };
+    step([&] { readState(bag, locale(), state); });
+    const bool whole = !failure;
+    step([&] { adopt(std::move(state)); });
+    step([&] { prepareText(); });
+    if (whole)
+        step([&] { applyLoadedDefault(); });
+    step([&] {
+        adoptScheme();
+        layOut();
+    });
+    if (failure)
+        throw *failure;
+}
+
+void Vela::adopt(StoredState&& state)
+{
+    history_.reset();
+    released_ = false;
+    box_ = &surface_.activate(state.settings.multLine ? platform::EditBoxKind::multiLine
+                                                      : platform::EditBoxKind::singleLine);
+    settings_ = std::move(state.settings);
+    popups_.colours = state.colours;
+    sunken_ = settings_.appearance != Aparencia::cFlat;
+    border_ = settings_.borderColorLostfocus;
+    surfaceBack_ = state.back;
+    buttonVisible_ = (settings_.showButtonCalendario || settings_.showButtonCalculadora) &&
+                     settings_.borderStyle != eEstiloBorda::XP;
+    platform::EditTraits traits = std::move(state.traits);
+    traits.locked = masked(); // by its type, whatever "Locked" says
+    traits.sunken = sunken_;
+    box_->putColours({settings_.foreColorLostFocus, state.back});
+    writeText(state.text, Writer::life);
+    box().putTraits(traits);
+    surface_.putEnabled(traits.enabled);
+}
+
+// The empty display of the type. A date without a mask takes its display format for one.
+void Vela::prepareText()
+{
+    switch (settings_.textType) {
+    case TipoText::TextoNormal: return;
+    case TipoText::Numerico:
+        settings_.displayDecimal = symbolOf(settings_.simbolDecExib);
+        settings_.returnDecimal = symbolOf(settings_.simbolDecRet);
+        settings_.grouping = symbolOf(settings_.simbolAgrupMilhar);
+        if (settings_.displayDecimal != 0)
+            writeText(engine::numericTemplate(numberSettings().decimal, settings_.qtdCasasDec), Writer::life);
+        return;
+    case TipoText::Data:
+        if (settings_.mask.empty())
+            settings_.mask = settings_.formatoExibData;
+        writeText(Text16(settings_.formatoExibData), Writer::life);
+        MaxLength(lengthAsInteger(settings_.formatoExibData));
+        return;
+    case TipoText::Mascara:
+        writeText(Text16(settings_.mask), Writer::life);
+        MaxLength(lengthAsInteger(settings_.mask));
+        return;
+    }
+}
+
+// Unlike the setter: no length test, and a formula on a field that is no date is reported, and kept.
+void Vela::applyLoadedDefault()
+{
+    if (settings_.valorPadrao.empty())
+        return;
+    if (!settings_.valorPadrao.starts_with(u'%'))
+        Text(Text16(settings_.valorPadrao));
+    else if (settings_.textType == TipoText::Data)
+        applyFormula();
+    else
+        showBox(platform::BoxIcon::information, u"", u"Formula não reconhecida!");
+}
+
+void Vela::save(platform::PropertyBag& bag)
+{
+    const platform::EditBox& current = box();
+    StoredState state{settings_, current.traits(), current.colours().back, Text(), popups_.colours};
+    writeState(bag, state);
+}
+
+void Vela::terminate()
+{
+    if (life_.ended())
+        return;
+    hideTip();
+    popups_.forget(*this);
+    surface_.enableHoverTimer(false);
+    tip_.reset();
+    history_.reset();
+    life_.end();
+}
+
+void Vela::About()
+{
+    environment_.desktop.aboutBox(tooltip::aboutText());
+}
+
+void Vela::DestruirToolTip()
+{
+    hideTip();
+}
+
+void Vela::LimparMemoria()
+{
+    released_ = true;
+}
+
+void Vela::markChanged(View name)
+{
+    const Liveness::Probe alive(life_);
+    host_.propertyChanged(name);
+    if (!alive)
+        engine::raise(engine::error_number::objectNotSet);
+}
+
+void Vela::showBox(platform::BoxIcon icon, View title, View text)
+{
+    const Liveness::Probe alive(life_);
+    environment_.desktop.messageBox(icon, platform::BoxButtons::ok, title, text);
+    if (!alive)
+        engine::raise(engine::error_number::objectNotSet);
+}
+
+void Vela::log(const engine::Error& error, View label)
+{
+    appendToLog(environment_, error, label);
+}
+
+void Vela::writeText(View text, Writer writer)
+{
+    if (history_ && (writer == Writer::host || writer == Writer::life))
+        history_->clear();
+    const WriterScope scope(*this, writer);
+    box().putText(text);
+    if (!scope.alive())
+        engine::raise(engine::error_number::objectNotSet);
+}
+
+} // namespace vela::control

@@ -1,0 +1,35 @@
+// The settings of a control in the host's property bag: 79 keys, their defaults, their two orders.
+#pragma once
+
+#include "control/settings.h"
+#include "engine/locale.h"
+#include "platform/control_host.h"
+#include "platform/edit_box.h"
+#include "popups/calendar_colours.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace vela::control {
+
+// Everything that is saved, those of the edit box and those of the process included.
+struct StoredState {
+    Settings settings;
+    platform::EditTraits traits; // font, alignment, limit, password character, enabled
+    engine::Colour back{0x00FFFFFF};
+    std::u16string text;
+    popups::CalendarColours colours;
+};
+
+// The keys in the order in which they are read.
+[[nodiscard]] std::span<const std::u16string_view> storedKeys() noexcept;
+
+// What the bag holds, defaults for what it lacks. Two defaults differ from those of a new control, and a saved
+// default can read back as another value; both are kept. When the bag fails, or holds what does not convert, the
+// error is raised with `state` complete: what was read, and the defaults for the rest (the calendar colours, which
+// all controls share, stay as they came).
+void readState(platform::PropertyBag& bag, const engine::Locale& locale, StoredState& state);
+void writeState(platform::PropertyBag& bag, const StoredState& state);
+
+} // namespace vela::control

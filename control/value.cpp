@@ -1,0 +1,148 @@
+// What the field takes from the application and hands back: Value, Text and the default value.
+#include "control/internal.h"
+
+#include "engine/conversions.h"
+#include "engine/letter_case.h"
+#include "engine/pattern.h"
+
+#include <cmath>
+
+namespace vela::control {
+
+namespace {
+
+constexpr char16_t formulaMarker = u'%';
+constexpr std::u16string_view unknownFormula =
+    u"Formula não reconhecida!\r\nEnvie a sugestão para o email < contato@vela.example >";
+
+engine::Date dayOf(engine::Date moment) noexcept
+{
+    return {std::trunc(moment.serial)};
+}
+
+constexpr std::u16string_view viewOf(const char16_t& symbol) noexcept
+{
+    return {&symbol, symbol == 0 ? std::size_t{0} : std::size_t{1}};
+}
+
+} // namespace
+
+engine::FieldSettings Vela::fieldSettings() const
+{
+    const bool date = settings_.textType == TipoText::Data; // only dates ask the clock
+    return {.textType = settings_.textType,
+            .returnDateFormat = formatoRetornoAtual_,
+            .delimiter = delimitadorAtual_,
+            .displayDecimal = viewOf(settings_.displayDecimal),
+            .returnDecimal = viewOf(settings_.returnDecimal),
+            .grouping = viewOf(settings_.grouping),
+            .currencySymbol = settings_.simboloMonetario,
+            .decimals = settings_.qtdCasasDec,
+            .dateFormat = settings_.dateFormat,
+            .emptyDate = settings_.formatoExibData,
+            .mask = settings_.mask,
+            .promptChar = settings_.promptChar,
+            .defaultValue = settings_.valorPadrao,
+            .locale = locale(),
+            .today = date ? dayOf(environment_.clock.now()) : engine::Date{}};
+}
+
+engine::NumberSettings Vela::numberSettings() const
+{
+    return {.decimal = viewOf(settings_.displayDecimal),
+            .grouping = viewOf(settings_.grouping),
+            .decimals = settings_.qtdCasasDec,
+            .insertZeros = settings_.inserirZeros,
+            .locale = locale()};
+}
+
+engine::DateCheckSettings Vela::checkSettings() const
+{
+    return {settings_.mask, settings_.dateFormat, settings_.promptChar, locale()};
+}
+
+// Reading can change the text: a date that is refused gets its prompts back.
+engine::Value Vela::Value()
+{
+    engine::Value result;
+    const auto failure = failureOf(life_, [&](int&) {
+        Scratch text(*this);
+        Text16 corrected;
+        readText(*text);
+        engine::FieldReading reading = engine::readValue(*text, fieldSettings(), corrected);
+        result = std::move(reading.value);
+        if (reading.checkFailure)
+            log(*reading.checkFailure, label::date);
+        if (reading.corrected)
+            correctText(corrected);
+        if (reading.error)
+            throw *reading.error;
+    });
+    if (failure)
+        showBox(platform::BoxIcon::exclamation, u"Vela.Value", numberAndDescription(*failure));
+    return result;
+}
+
+// The correction stands inside the check's own trap.
+void Vela::correctText(View text)
+{
+    trapToLog(label::date, [&] { writeText(text, Writer::life); });
+}
+
+void Vela::Value(const engine::Value& value)
+{
+    if (const auto text = engine::textForValue(value, fieldSettings()))
+        writeText(*text, Writer::host);
+}
+
+// A number is written as it comes, then once more as it is displayed: each may be a change.
+void Vela::putText(View value, Writer writer)
+{
+    if (settings_.textType == TipoText::TextoNormal) {
+        writeText(value, writer);
+        return;
+    }
+    const auto text = engine::textForText(value, fieldSettings());
+    if (!text)
+        return;
+    writeText(*text, writer);
+    if (settings_.textType == TipoText::Numerico && !settings_.maskToNumeric) {
+        Scratch shown(*this);
+        engine::displayNumber(*text, numberSettings(), *shown);
+        writeText(*shown, writer);
+    }
+}
+
+// A formula waits silently on a field that is no date; a plain default of another length than the mask's is dropped.
+void Vela::ValorPadrao(View value)
+{
+    settings_.valorPadrao = value;
+    const bool date = settings_.textType == TipoText::Data;
+    if (!settings_.valorPadrao.starts_with(formulaMarker)) {
+        if (date && settings_.valorPadrao.size() != settings_.mask.size())
+            settings_.valorPadrao.clear();
+        else
+            Text(Text16(settings_.valorPadrao));
+    } else if (date) {
+        applyFormula();
+    }
+    markChanged(u"ValorPadrao");
+}
+
+// "%date" and "%hour" of a date field, in any case.
+void Vela::applyFormula()
+{
+    const Text16 name = engine::lowerCase(View(settings_.valorPadrao).substr(1));
+    const engine::Date now = environment_.clock.now();
+    if (name == u"date") {
+        Text(engine::format(dayOf(now), settings_.dateFormat, locale(), dayOf(now)));
+    } else if (name == u"hour") {
+        Text(engine::format(now, u"hh:nn", locale(), dayOf(now)));
+    } else {
+        showBox(platform::BoxIcon::information, u"", unknownFormula);
+        Text(u"");
+        settings_.valorPadrao.clear();
+    }
+}
+
+} // namespace vela::control
