@@ -65,12 +65,21 @@ void frmCalculadora::load()
     }
 }
 
+platform::WidgetLook frmCalculadora::lookOf(platform::WidgetId id) const
+{
+    platform::WidgetLook look = form_->look(id);
+    const engine::RectTwips place = calculatorLayout().rows[static_cast<std::size_t>(id.value)].place;
+    look.left = place.left;
+    look.top = place.top;
+    return look;
+}
+
 void frmCalculadora::nameButtons()
 {
     for (int at = 0; at < static_cast<int>(calculatorLayout().rows.size()); ++at) {
         if (spokenName({at}).empty())
             continue;
-        platform::WidgetLook look = form_->look({at});
+        platform::WidgetLook look = lookOf({at});
         look.spokenName = spokenName({at});
         form_->putLook({at}, look);
     }
@@ -78,7 +87,7 @@ void frmCalculadora::nameButtons()
 
 void frmCalculadora::paintDisplay()
 {
-    platform::WidgetLook look = form_->look(widget::display);
+    platform::WidgetLook look = lookOf(widget::display);
     look.fore = engine::Colour{0x80000008}; // window text
     look.back = engine::Colour{0x80000005}; // window
     look.opaque = true;
@@ -118,6 +127,8 @@ void frmCalculadora::pressF2()
 void frmCalculadora::show(engine::RectPixels place, platform::WindowId parent)
 {
     form_->showPopup(place, parent);
+    if (loaded_)
+        form_->focus(widget::equals); // shown again while it is the active one: it is not told so once more
 }
 
 void frmCalculadora::unload()

@@ -53,6 +53,7 @@ public:
 
 private:
     void load();
+    [[nodiscard]] platform::WidgetLook lookOf(platform::WidgetId id) const;
     void nameButtons();
     void paintDisplay();
     void digit(int digit);

@@ -1,0 +1,67 @@
+// An owner of pop-ups that keeps what is put into it, fails when told to, and does what a test wants inside a put.
+#pragma once
+
+#include "engine/error.h"
+#include "platform/headless/environment.h"
+#include "popups/popups.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace vela::popups {
+
+class ScriptedOwner final : public Owner {
+public:
+    std::u16string popupText() override
+    {
+        if (failingText != 0)
+            engine::raise(failingText);
+        return text;
+    }
+    void putPopupText(const engine::Value& value) override
+    {
+        puts.push_back(value);
+        if (duringPut)
+            duringPut();
+        if (failingPut != 0)
+            engine::raise(failingPut);
+    }
+    void takePopupFocus() override { ++focusTaken; }
+    engine::RectPixels popupAnchor() override
+    {
+        if (failingAnchor != 0)
+            engine::raise(failingAnchor);
+        return {100, 200, 121, 21};
+    }
+    platform::ParentForm popupParent() override
+    {
+        if (failingParent != 0)
+            throw engine::Error{failingParent, u"parent gone"};
+        return parent;
+    }
+
+    std::u16string text;
+    platform::ParentForm parent{false, false, platform::WindowId{77}};
+    int failingText = 0;
+    int failingPut = 0;
+    int failingAnchor = 0;
+    int failingParent = 0;
+    std::function<void()> duringPut;
+    std::vector<engine::Value> puts;
+    int focusTaken = 0;
+};
+
+// What happened to boxes, log and windows, a line each.
+class Recorder final : public headless::TraceSink {
+public:
+    void trace(const headless::TraceEntry& entry) override;
+
+    std::vector<std::u16string> lines;
+    std::function<void()> duringBox;
+};
+
+[[nodiscard]] std::u16string decimal(int number);
+[[nodiscard]] int errorOf(const std::function<void()>& body); // 0: none was raised
+
+} // namespace vela::popups
