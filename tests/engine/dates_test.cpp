@@ -1,0 +1,209 @@
+// Dates: the calendar, what is read as a date, and dates as texts.
+#include "engine/calendar_date.h"
+#include "engine/conversions.h"
+#include "engine/error.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace vela::engine {
+namespace {
+
+using namespace std::string_view_literals;
+
+const Date today = makeDate({2026, 11, 21});
+
+TEST(Calendar, EveryDayFollowsTheOneBefore)
+{
+    CivilDate expected{100, 1, 1};
+    int day = weekday(expected);
+    for (int serial = -657434; serial <= 2958465; ++serial) {
+        const auto moment = momentOf({static_cast<double>(serial)});
+        ASSERT_TRUE(moment.has_value());
+        ASSERT_EQ(moment->date, expected) << serial;
+        ASSERT_EQ(makeDate(expected).serial, serial);
+        ASSERT_EQ(weekday(expected), day);
+        day = day % 7 + 1;
+        if (++expected.day > daysInMonth(expected.year, expected.month)) {
+            expected = {expected.year + expected.month / 12, expected.month % 12 + 1, 1};
+        }
+    }
+    EXPECT_FALSE(momentOf({-657435.0}).has_value());
+    EXPECT_FALSE(momentOf({2958466.0}).has_value());
+    EXPECT_FALSE(momentOf({std::numeric_limits<double>::quiet_NaN()}).has_value());
+    EXPECT_EQ(weekday({2024, 2, 29}), 5);
+    EXPECT_EQ(dayOfYear({2024, 12, 31}), 366);
+    EXPECT_FALSE(isValid({2023, 2, 29}));
+    EXPECT_FALSE(isValid({99, 1, 1}));
+}
+
+TEST(Calendar, EverySecondOfADay)
+{
+    for (const CivilDate date : {CivilDate{1899, 12, 29}, CivilDate{2024, 2, 29}, CivilDate{9999, 12, 31}}) {
+        for (int second = 0; second < 86400; ++second) {
+            const Moment moment{date, {second / 3600, second / 60 % 60, second % 60}};
+            ASSERT_EQ(momentOf(makeDate(moment.date, moment.time)), moment);
+        }
+    }
+    EXPECT_EQ(momentOf({-1.25}), (Moment{{1899, 12, 29}, {6, 0, 0}}));
+    EXPECT_EQ(momentOf({1.9999999999}), (Moment{{1900, 1, 1}, {0, 0, 0}}));
+    EXPECT_EQ(momentOf({2958465.9999999}), (Moment{{9999, 12, 31}, {23, 59, 59}}));
+}
+
+struct Row {
+    std::u16string_view text;
+    CivilDate date;
+    TimeOfDay time = {};
+};
+
+constexpr CivilDate noDate{};
+
+void expectRead(const Row& row, const Locale& locale)
+{
+    SCOPED_TRACE(std::string(row.text.begin(), row.text.end()));
+    const auto date = tryParseDate(row.text, locale, today);
+    ASSERT_TRUE(date.has_value());
+    EXPECT_EQ(momentOf(*date), (Moment{row.date, row.time}));
+}
+
+TEST(Dates, AreReadInPortuguese)
+{
+    const Row rows[] = {
+        {u"01/02/2024", {2024, 2, 1}},
+        {u" 1-2-2024 ", {2024, 2, 1}},
+        {u"1/2-24", {2024, 2, 1}},
+        {u"1 2 2024", {2024, 2, 1}},
+        {u"1,2,2024", {2024, 2, 1}},
+        {u"12/31/1999", {1999, 12, 31}},
+        {u"2024-02-29", {2024, 2, 29}},
+        {u"2024/3/15", {2024, 3, 15}},
+        {u"1/2", {2026, 2, 1}},
+        {u"12/31", {2026, 12, 31}},
+        {u"2/2024", {2024, 2, 1}},
+        {u"2024/2", {2024, 2, 1}},
+        {u"1/1/29", {2029, 1, 1}},
+        {u"1/1/30", {1930, 1, 1}},
+        {u"29/2/00", {2000, 2, 29}},
+        {u"1/1/0099", {1999, 1, 1}},
+        {u"1/1/100", {100, 1, 1}},
+        {u"31/12/9999", {9999, 12, 31}},
+        {u"15 março 2024", {2024, 3, 15}},
+        {u"março 15 2024", {2024, 3, 15}},
+        {u"15/MAR/2024", {2024, 3, 15}},
+        {u"Março 2024", {2024, 3, 1}},
+        {u"15 mar", {2026, 3, 15}},
+        {u"sexta-feira, 15 março 2024", {2024, 3, 15}},
+        {u"segunda-feira 15/3/2024", {2024, 3, 15}},
+        {u"31.12.2024", {2024, 12, 31}},
+        {u"10.11.2024", {2024, 11, 10}},
+        {u"01.02.60", {1960, 2, 1}},
+        {u"01.02.03", noDate, {1, 2, 3}},
+        {u"12.30", noDate, {12, 30, 0}},
+        {u"15:30", noDate, {15, 30, 0}},
+        {u"23:59:59", noDate, {23, 59, 59}},
+        {u"3 pm", noDate, {15, 0, 0}},
+        {u"12:30am", noDate, {0, 30, 0}},
+        {u"12:30 P", noDate, {12, 30, 0}},
+        {u"13:00 am", noDate, {13, 0, 0}},
+        {u"01/02/2024 14:05:33", {2024, 2, 1}, {14, 5, 33}},
+        {u"14:05 01/02/2024", {2024, 2, 1}, {14, 5, 0}},
+        {u"1/2 3:4", {2026, 2, 1}, {3, 4, 0}},
+        {u"1/2/2024 3 pm", {2024, 2, 1}, {15, 0, 0}},
+        {u"3 pm 1/2/2024", {2024, 2, 1}, {15, 0, 0}},
+        {u"1/2/1850 6:00", {1850, 2, 1}, {6, 0, 0}},
+        {u"1/2/2024\0abc"sv, {2024, 2, 1}},
+    };
+    for (const Row& row : rows) {
+        expectRead(row, ptBr());
+    }
+}
+
+TEST(Dates, AreReadInEnglishOrder)
+{
+    const Row rows[] = {
+        {u"01/02/2024", {2024, 1, 2}},   {u"31/12/1999", {1999, 12, 31}},
+        {u"2/2024", {2024, 2, 1}},       {u"Feb 1, 2024", {2024, 2, 1}},
+        {u"12.31.2024", {2024, 12, 31}}, {u"Thursday, February 1, 2024 2:05:32 PM", {2024, 2, 1}, {14, 5, 32}},
+        {u"1.2.3", noDate, {1, 2, 3}},
+    };
+    for (const Row& row : rows) {
+        expectRead(row, enUs());
+    }
+    Locale yearFirst = enUs();
+    yearFirst.dateOrder = DateOrder::yearMonthDay;
+    expectRead({u"01/02/03", {2001, 2, 3}}, yearFirst);
+    yearFirst.twoDigitYearMax = 2049;
+    expectRead({u"49/02/03", {2049, 2, 3}}, yearFirst);
+    expectRead({u"50/02/03", {1950, 2, 3}}, yearFirst);
+}
+
+TEST(Dates, AreRefused)
+{
+    for (const std::u16string_view text : {u""sv,
+                                           u"12"sv,
+                                           u"abc"sv,
+                                           u"2024"sv,
+                                           u"29/02/2023"sv,
+                                           u"31/04/2024"sv,
+                                           u"0/1/2000"sv,
+                                           u"1/0/2000"sv,
+                                           u"13/13"sv,
+                                           u"15/2024/3"sv,
+                                           u"24:00"sv,
+                                           u"12:60"sv,
+                                           u"12:30:60"sv,
+                                           u"12:"sv,
+                                           u"1/2/"sv,
+                                           u"1/2/3/4"sv,
+                                           u"1,"sv,
+                                           u"-1/2/2024"sv,
+                                           u"1/2/2024 3"sv,
+                                           u"am 3"sv,
+                                           u"5 pm am"sv,
+                                           u"1 2 3 4 5 6 7"sv,
+                                           u"1:2 3:4"sv,
+                                           u"domingo"sv,
+                                           u"março"sv,
+                                           u"15 marx 2024"sv,
+                                           u"010224"sv,
+                                           u"31.12"sv,
+                                           u"32.1.2024"sv,
+                                           u"31:12:2024"sv,
+                                           u"15 de março de 2024"sv,
+                                           u"31.12.2024 10:00"sv,
+                                           u"\xD800"sv,
+                                           u"1/2/2024x"sv,
+                                           u"25.12.2024 pm"sv}) {
+        SCOPED_TRACE(std::string(text.begin(), text.end()));
+        EXPECT_FALSE(isDate(text, ptBr(), today));
+        try {
+            static_cast<void>(toDate(text, ptBr(), today));
+            ADD_FAILURE();
+        } catch (const Error& error) {
+            EXPECT_EQ(error.number, error_number::typeMismatch);
+        }
+    }
+    EXPECT_FALSE(isDate(u"1/1/10000", ptBr(), today));
+    EXPECT_FALSE(isDate(std::u16string(70000, u'1') + u"/1/1", ptBr(), today));
+    EXPECT_FALSE(isDate(std::u16string(70000, u' '), ptBr(), today));
+}
+
+TEST(Dates, AsTexts)
+{
+    const Date moment = makeDate({2024, 2, 1}, {14, 5, 33});
+    EXPECT_EQ(dateToText(moment, ptBr()), u"01/02/2024 14:05:33");
+    EXPECT_EQ(dateToText(moment, enUs()), u"2/1/2024 2:05:33 PM");
+    EXPECT_EQ(dateToText(makeDate({2024, 2, 1}), ptBr()), u"01/02/2024");
+    EXPECT_EQ(dateToText({0.5}, ptBr()), u"12:00:00");
+    EXPECT_EQ(dateToText({0.0}, enUs()), u"12:00:00 AM");
+    EXPECT_EQ(dateToText({-1.25}, ptBr()), u"29/12/1899 06:00:00");
+    EXPECT_THROW(static_cast<void>(dateToText({3e6}, ptBr())), Error);
+    Locale locale = ptBr();
+    locale.shortDate = u"d 'o''d' MMM yy";
+    locale.longTime = u"h:nn tt";
+    EXPECT_EQ(dateToText(moment, locale), u"1 o'd fev 24 2:05 PM");
+}
+
+} // namespace
+} // namespace vela::engine
