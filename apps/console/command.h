@@ -11,8 +11,8 @@ namespace vela::console {
 class Session;
 
 struct Command {
-    std::u16string_view name;                    // the line's first word
-    void (*run)(Session& session, Words words);  // words[0] is the name
+    std::u16string_view name;                   // the line's first word
+    void (*run)(Session& session, Words words); // words[0] is the name
 };
 using CommandTable = std::span<const Command>;
 

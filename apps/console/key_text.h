@@ -14,9 +14,11 @@ struct KeyName {
     headless::Key key;
 };
 
-[[nodiscard]] std::span<const KeyName> allKeyNames() noexcept; // {TAB} and +{TAB} as virtual_key::tab and -tab
+inline constexpr int backwardsTab = -headless::virtual_key::tab; // the code of "+{TAB}", which is no key of its own
 
-// {+} {{} {}} stand for themselves. Raises NotACommand for a brace that names none of `names`, and for a bare "+".
+[[nodiscard]] std::span<const KeyName> allKeyNames() noexcept;
+
+// {+} {{} {}} stand for themselves. Raises NotACommand for a brace that names none of `names` or is not closed.
 // A character beyond U+FFFF is two keys.
 [[nodiscard]] std::vector<headless::Key> keysOf(std::u16string_view text, std::span<const KeyName> names);
 

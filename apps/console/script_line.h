@@ -33,8 +33,8 @@ using Words = std::span<const Word>;
 [[nodiscard]] std::vector<Word> splitWords(std::string_view line);
 
 // The readings that commands share; each raises NotACommand when the word is something else.
-[[nodiscard]] const std::u16string& textOf(const Word& word);   // of a word in quotes
-[[nodiscard]] int integerOf(const Word& word);                  // "-12"; within 32 bits
+[[nodiscard]] const std::u16string& textOf(const Word& word);        // of a word in quotes
+[[nodiscard]] int integerOf(const Word& word);                       // "-12"; within 32 bits
 void requireWords(Words words, std::size_t least, std::size_t most); // the command's own name counts
 
 [[nodiscard]] std::u16string fromUtf8(std::string_view bytes); // raises NotACommand

@@ -11,6 +11,7 @@
 #include "platform/headless/form_window.h"
 #include "popups/popups.h"
 
+#include <exception>
 #include <functional>
 #include <map>
 #include <memory>
@@ -23,8 +24,8 @@ namespace vela::console {
 // A control on the form with all that belongs to it.
 class Field {
 public:
-    Field(headless::FormWindow& form, headless::Machine& machine, popups::Popups& popups, std::u16string name, int index,
-          bool runMode);
+    Field(headless::FormWindow& form, headless::Machine& machine, popups::Popups& popups, std::u16string name,
+          int index, bool runMode);
     Field(const Field&) = delete;
     Field& operator=(const Field&) = delete;
     ~Field();
@@ -58,17 +59,18 @@ public:
     // The controls on the form, in order of creation.
     [[nodiscard]] const std::vector<std::unique_ptr<Field>>& fields() const noexcept { return fields_; }
     [[nodiscard]] Field* findField(std::u16string_view name) const noexcept;
-    [[nodiscard]] Field& fieldOf(const Word& word) const;                       // NotACommand: no such control
-    [[nodiscard]] headless::Element& elementOf(const Word& word) const;         // a control or a plain element
-    [[nodiscard]] const std::u16string& freshName(const Word& word) const;      // NotACommand: in use, or no name
-    Field& addField(const std::u16string& name, bool runMode);                  // neither new nor loaded yet
-    Field& replaceField(Field& field);   // destroys it and makes a fresh one of the same name, place, index and mode
+    [[nodiscard]] Field& fieldOf(const Word& word) const;                  // NotACommand: no such control
+    [[nodiscard]] headless::Element& elementOf(const Word& word) const;    // a control or a plain element
+    [[nodiscard]] const std::u16string& freshName(const Word& word) const; // NotACommand: in use, or no name
+    Field& addField(const std::u16string& name, bool runMode);             // neither new nor loaded yet
+    Field& replaceField(Field& field); // destroys it and makes a fresh one of the same name, place, index and mode
     void destroyField(Field& field);
-    // Runs after a control has gone, with its name still valid: pages drop it there.
+    // Called while a control still stands that is about to go: pages drop it there.
     std::vector<std::function<void(const Field&)>> beforeDestroy;
 
     // What a family of commands keeps for the run: made by its first use, destroyed before the controls.
-    template <class State> State& state();
+    template <class State>
+    State& state();
 
     headless::Machine& machine() noexcept { return machine_; }
     headless::FormWindow& form() noexcept { return form_; }
@@ -78,6 +80,7 @@ public:
 private:
     void runWords(Words words);
     void complain(std::string_view why);
+    [[nodiscard]] std::exception_ptr end(Field& field);
 
     Write output_;
     Write errors_;
@@ -92,7 +95,8 @@ private:
     long badLines_ = 0;
 };
 
-template <class State> State& Session::state()
+template <class State>
+State& Session::state()
 {
     static const char key = 0; // one address a type
     std::shared_ptr<void>& slot = states_[&key];

@@ -9,11 +9,16 @@
 
 namespace vela::console {
 
+[[nodiscard]] constexpr std::uint32_t categoryBit(headless::TraceCategory category) noexcept
+{
+    return 1U << static_cast<unsigned>(category);
+}
+
 class TracePrinter final : public headless::TraceSink {
 public:
-    explicit TracePrinter(std::function<void(std::string_view)> printLine) : printLine_(std::move(printLine)) {}
+    explicit TracePrinter(std::function<void(std::string_view)> printLine);
 
-    // One bit a category, 1 << static_cast<unsigned>(category); at first dialogs, keys and log.
+    // One categoryBit() each; at first dialogs, keys and log.
     void show(std::uint32_t categories) noexcept { categories_ = categories; }
     void trace(const headless::TraceEntry& entry) override;
 

@@ -13,7 +13,8 @@ namespace vela::console {
 // Raises NotACommand for a word that is no value; with an enumeration its members' names are values too.
 [[nodiscard]] engine::Value valueOf(const Word& word, const engine::Enumeration* enumeration = nullptr);
 // The same, nothing for a word that is no value.
-[[nodiscard]] std::optional<engine::Value> tryValueOf(const Word& word, const engine::Enumeration* enumeration = nullptr);
+[[nodiscard]] std::optional<engine::Value> tryValueOf(const Word& word,
+                                                      const engine::Enumeration* enumeration = nullptr);
 [[nodiscard]] engine::Colour colourOf(const Word& word); // "&H00BBGGRR" alone
 
 // All in UTF-8, ready to print.

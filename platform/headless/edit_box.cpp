@@ -61,6 +61,13 @@ int EditBox::textLength() const
     return length();
 }
 
+void EditBox::part(Selection part, std::u16string& into) const
+{
+    const int start = std::clamp(part.start, 0, length());
+    const int units = std::clamp(part.length, 0, length() - start);
+    into.assign(text_, static_cast<std::size_t>(start), static_cast<std::size_t>(units));
+}
+
 void EditBox::putText(std::u16string_view text)
 {
     check(BoxOperation::putText);

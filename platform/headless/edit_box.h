@@ -28,6 +28,7 @@ public:
     // The field's own operations: each may be made to fail.
     void text(std::u16string& into) const override;
     [[nodiscard]] int textLength() const override;
+    void part(platform::Selection part, std::u16string& into) const override; // never fails
     void putText(std::u16string_view text) override;
     void insert(std::u16string_view text) override;
     [[nodiscard]] platform::Selection selection() const override { return selection_; }

@@ -166,7 +166,11 @@ void FormWindow::arriveAt(Element* target)
     sink_.trace(trace::Focus{target != nullptr ? std::u16string_view(target->name()) : std::u16string_view()});
     if (target != nullptr)
         guarded(failure_, [&] { target->enter(); });
-    // Pop-ups that the one entered has not closed see another window become active.
+    guarded(failure_, [&] {
+        if (focusArrived)
+            focusArrived();
+    });
+    // Pop-ups that are still on show see another window become active.
     guarded(failure_, [&] { desktop_.activate(focused_ != nullptr ? this : nullptr); });
 }
 

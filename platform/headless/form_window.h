@@ -8,6 +8,7 @@
 #include "platform/headless/trace.h"
 
 #include <exception>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -80,6 +81,8 @@ public:
     void tab(bool backwards); // skips elements that do not accept the focus, goes round at both ends
     // From handlers: granted at once, or when a change of the focus that is under way has settled.
     void askFocus(Element& element);
+
+    std::function<void()> focusArrived; // after the element that has it now has been entered
 
     // Acts of a person at the focused element; nothing without one. Tabs asked for are carried out at the end.
     void key(Key key);

@@ -1,0 +1,144 @@
+// Commands that ask the engines directly: formatting, reading, conversions.
+#include "apps/console/session.h"
+#include "apps/console/value_text.h"
+
+#include "engine/conversions.h"
+#include "engine/letter_case.h"
+#include "engine/pattern.h"
+#include "tooltip/windows_version.h"
+
+namespace vela::console {
+
+namespace {
+
+using engine::Value;
+
+constexpr int mostDecimals = 255;
+
+const engine::Locale& localeOf(Session& session)
+{
+    return session.machine().locales.locale();
+}
+
+engine::Date todayOf(Session& session)
+{
+    return session.machine().clock.now();
+}
+
+void answer(Session& session, const std::string& printedValue)
+{
+    session.printLine("= " + printedValue);
+}
+
+Value onlyValue(Words words)
+{
+    requireWords(words, 2, 2);
+    return valueOf(words[1]);
+}
+
+std::u16string onlyText(Session& session, Words words)
+{
+    return engine::toText(onlyValue(words), localeOf(session));
+}
+
+void runFormat(Session& session, Words words)
+{
+    requireWords(words, 3, 3);
+    const Value value = valueOf(words[1]);
+    const std::u16string& pattern = textOf(words[2]);
+    answer(session, quoted(engine::format(value, pattern, localeOf(session), todayOf(session))));
+}
+
+void runIsNumeric(Session& session, Words words)
+{
+    answer(session, printed(engine::isNumeric(onlyValue(words), localeOf(session))));
+}
+
+void runIsDate(Session& session, Words words)
+{
+    const Value value = onlyValue(words);
+    const auto* const text = std::get_if<std::u16string>(&value);
+    const bool date = text != nullptr ? engine::isDate(*text, localeOf(session), todayOf(session))
+                                      : std::holds_alternative<engine::Date>(value);
+    answer(session, printed(date));
+}
+
+void runToDouble(Session& session, Words words)
+{
+    answer(session, printed(Value(engine::toDouble(onlyValue(words), localeOf(session)))));
+}
+
+void runToDate(Session& session, Words words)
+{
+    answer(session, printed(Value(engine::toDate(onlyValue(words), localeOf(session), todayOf(session)))));
+}
+
+// Exactly, without the zeros at the end: {-125000} -> "-12.5".
+std::string printedCurrency(engine::Currency amount)
+{
+    const bool negative = amount.tenThousandths < 0;
+    const auto raw = static_cast<std::uint64_t>(amount.tenThousandths);
+    const std::uint64_t size = negative ? 0 - raw : raw;
+    std::string decimals = std::to_string(10000 + size % 10000).substr(1);
+    decimals.resize(decimals.find_last_not_of('0') + 1);
+    return (negative ? "-" : "") + std::to_string(size / 10000) + (decimals.empty() ? "" : ".") + decimals;
+}
+
+void runToCurrency(Session& session, Words words)
+{
+    answer(session, printedCurrency(engine::toCurrency(onlyText(session, words), localeOf(session))));
+}
+
+void runVal(Session& session, Words words)
+{
+    answer(session, printed(Value(engine::leadingNumber(onlyText(session, words)))));
+}
+
+void runToText(Session& session, Words words)
+{
+    answer(session, quoted(onlyText(session, words)));
+}
+
+void runFormatNumber(Session& session, Words words)
+{
+    requireWords(words, 3, 3);
+    const Value value = valueOf(words[1]);
+    const int decimals = integerOf(words[2]);
+    const double number = engine::toDouble(value, localeOf(session));
+    if (decimals < 0 || decimals > mostDecimals)
+        engine::raise(engine::error_number::invalidCall);
+    answer(session, quoted(engine::formatNumber(number, decimals, localeOf(session))));
+}
+
+void runProperCase(Session& session, Words words)
+{
+    answer(session, quoted(engine::properCase(onlyText(session, words))));
+}
+
+void runWindowsVersion(Session& session, Words words)
+{
+    requireWords(words, 1, 1);
+    answer(session, quoted(tooltip::VersaoWindows(session.machine().system)));
+}
+
+} // namespace
+
+CommandTable engineCommands() noexcept
+{
+    static constexpr Command commands[] = {
+        {u"format", runFormat},
+        {u"isnumeric", runIsNumeric},
+        {u"isdate", runIsDate},
+        {u"todouble", runToDouble},
+        {u"todate", runToDate},
+        {u"tocurrency", runToCurrency},
+        {u"val", runVal},
+        {u"totext", runToText},
+        {u"formatnumber", runFormatNumber},
+        {u"propercase", runProperCase},
+        {u"windowsversion", runWindowsVersion},
+    };
+    return commands;
+}
+
+} // namespace vela::console

@@ -1,0 +1,189 @@
+// The form: creating, loading, saving and destroying controls, their properties and methods, and their boxes.
+#include "apps/console/session.h"
+#include "apps/console/value_text.h"
+
+#include "platform/headless/property_bag.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vela::console {
+
+namespace {
+
+using control::Property;
+
+bool isColour(std::u16string_view property) noexcept
+{
+    const Property* const row = control::findProperty(property);
+    return row != nullptr && row->type == control::PropertyType::colour;
+}
+
+std::string printedOf(std::u16string_view property, const engine::Value& value)
+{
+    const auto* const number = std::get_if<std::int32_t>(&value);
+    if (number != nullptr && isColour(property))
+        return printed(engine::Colour{static_cast<std::uint32_t>(*number)});
+    return printed(value);
+}
+
+engine::Value valueFor(std::u16string_view property, const Word& word)
+{
+    const Property* const row = control::findProperty(property);
+    return valueOf(word, row != nullptr ? row->enumeration : nullptr);
+}
+
+const std::u16string& bareOf(const Word& word)
+{
+    if (word.quoted)
+        notACommand("a name is wanted");
+    return word.bare;
+}
+
+void runNew(Session& session, Words words)
+{
+    requireWords(words, 2, 3);
+    if (words.size() == 3 && !words[2].is(u"design"))
+        notACommand("design or nothing is wanted");
+    session.addField(session.freshName(words[1]), words.size() == 2).control.initNew();
+}
+
+// KEY=VALUE, the value for the property of that name where there is one.
+std::pair<std::u16string, engine::Value> entryOf(const Word& word)
+{
+    const std::size_t equals = word.bare.find(u'=');
+    if (equals == 0 || equals == std::u16string::npos)
+        notACommand("KEY=VALUE is wanted");
+    std::u16string key = word.bare.substr(0, equals);
+    engine::Value value = valueFor(key, {word.bare.substr(equals + 1), word.text, word.quoted});
+    return {std::move(key), std::move(value)};
+}
+
+void runLoad(Session& session, Words words)
+{
+    requireWords(words, 2, words.size());
+    const std::u16string& name = session.freshName(words[1]);
+    const bool design = words.size() > 2 && words[2].is(u"design");
+    headless::PropertyBag bag;
+    for (const Word& word : words.subspan(design ? 3 : 2)) {
+        auto [key, value] = entryOf(word);
+        bag.put(key, std::move(value));
+    }
+    session.addField(name, !design).control.load(bag);
+}
+
+void runSave(Session& session, Words words)
+{
+    requireWords(words, 2, 2);
+    Field& field = session.fieldOf(words[1]);
+    headless::PropertyBag bag;
+    field.control.save(bag);
+    for (const auto& [key, value] : bag.entries())
+        session.printLine(toUtf8(field.name()) + " " + quoted(key) + " = " + printedOf(key, value));
+}
+
+void runReload(Session& session, Words words)
+{
+    requireWords(words, 2, 2);
+    Field& field = session.fieldOf(words[1]);
+    headless::PropertyBag bag;
+    field.control.save(bag);
+    session.replaceField(field).control.load(bag);
+}
+
+void runDestroy(Session& session, Words words)
+{
+    requireWords(words, 2, 2);
+    session.destroyField(session.fieldOf(words[1]));
+}
+
+void runPlain(Session& session, Words words)
+{
+    requireWords(words, 2, 2);
+    session.form().addPlain(session.freshName(words[1]));
+}
+
+void runSet(Session& session, Words words)
+{
+    requireWords(words, 4, 4);
+    Field& field = session.fieldOf(words[1]);
+    const std::u16string& property = bareOf(words[2]);
+    const engine::Value value = valueFor(property, words[3]);
+    control::putProperty(field.control, property, value);
+}
+
+void runGet(Session& session, Words words)
+{
+    requireWords(words, 3, 3);
+    Field& field = session.fieldOf(words[1]);
+    const std::u16string& property = bareOf(words[2]);
+    const engine::Value value = control::getProperty(field.control, property);
+    session.printLine(toUtf8(field.name()) + "." + toUtf8(property) + " = " + printedOf(property, value));
+}
+
+void runCall(Session& session, Words words)
+{
+    requireWords(words, 3, 3);
+    Field& field = session.fieldOf(words[1]);
+    const auto method =
+        std::ranges::find_if(control::methods(), [&](const control::Method& m) { return words[2].is(m.name); });
+    if (method == control::methods().end())
+        notACommand("no such method");
+    method->call(field.control);
+}
+
+void runFail(Session& session, Words words)
+{
+    using headless::BoxOperation;
+    static constexpr std::pair<std::u16string_view, BoxOperation> operations[] = {
+        {u"text", BoxOperation::text},
+        {u"put-text", BoxOperation::putText},
+        {u"put-caret", BoxOperation::putCaret},
+        {u"put-colour", BoxOperation::putColour},
+    };
+    requireWords(words, 5, 5);
+    Field& field = session.fieldOf(words[1]);
+    const auto operation =
+        std::ranges::find_if(operations, [&](const auto& candidate) { return words[2].is(candidate.first); });
+    if (operation == std::end(operations))
+        notACommand("no such operation");
+    const int number = integerOf(words[3]);
+    field.surface.activeBox().failNext(operation->second, engine::Error{number, textOf(words[4])});
+}
+
+// Raises 91 for a control that has let go of its box.
+void requireBox(Field& field)
+{
+    static_cast<void>(control::getProperty(field.control, u"hwnd"));
+}
+
+void runShow(Session& session, Words words)
+{
+    requireWords(words, 2, 2);
+    Field& field = session.fieldOf(words[1]);
+    requireBox(field);
+    const headless::EditBox& box = field.surface.activeBox();
+    const platform::EditTraits& traits = box.traits();
+    const bool multiLine = box.kind() == platform::EditBoxKind::multiLine;
+    session.printLine(
+        toUtf8(field.name()) + " text=" + quoted(box.shownText()) + " caret=" + std::to_string(box.selection().start) +
+        " sel=" + std::to_string(box.selection().length) + " fore=" + printed(box.colours().fore) +
+        " back=" + printed(box.colours().back) + " max=" + std::to_string(traits.maxLength) +
+        " align=" + std::to_string(static_cast<int>(traits.alignment)) + " locked=" + printed(traits.locked) +
+        " enabled=" + printed(traits.enabled) + " button=" + printed(field.surface.look().button) +
+        " box=" + (multiLine ? "txtMultLine" : "txtNormal"));
+}
+
+} // namespace
+
+CommandTable formCommands() noexcept
+{
+    static constexpr Command commands[] = {
+        {u"new", runNew},         {u"load", runLoad},   {u"save", runSave}, {u"reload", runReload},
+        {u"destroy", runDestroy}, {u"plain", runPlain}, {u"set", runSet},   {u"get", runGet},
+        {u"call", runCall},       {u"fail", runFail},   {u"show", runShow},
+    };
+    return commands;
+}
+
+} // namespace vela::console

@@ -1,0 +1,111 @@
+// Settings of a run: locale, clock, versions, what is traced, answers to boxes.
+#include "apps/console/session.h"
+#include "apps/console/value_text.h"
+
+#include <array>
+#include <utility>
+
+namespace vela::console {
+
+namespace {
+
+using headless::TraceCategory;
+
+void runLocale(Session& session, Words words)
+{
+    requireWords(words, 2, 2);
+    if (words[1].is(u"pt-BR"))
+        session.machine().locales.use(engine::ptBr());
+    else if (words[1].is(u"en-US"))
+        session.machine().locales.use(engine::enUs());
+    else
+        notACommand("no such locale");
+}
+
+void runClock(Session& session, Words words)
+{
+    requireWords(words, 2, 2);
+    const engine::Value value = valueOf(words[1]);
+    const auto* const date = std::get_if<engine::Date>(&value);
+    if (date == nullptr)
+        notACommand("a date is wanted");
+    session.machine().clock.freeze(*date);
+}
+
+void runWindows(Session& session, Words words)
+{
+    requireWords(words, 3, 3);
+    session.machine().system.reportVersion(platform::WindowsVersion{integerOf(words[1]), integerOf(words[2])});
+}
+
+void runLibrary(Session& session, Words words)
+{
+    requireWords(words, 2, 2);
+    session.machine().system.loadFrom(textOf(words[1]));
+}
+
+std::uint32_t categoryOf(const Word& word)
+{
+    static constexpr std::pair<std::u16string_view, TraceCategory> names[] = {
+        {u"events", TraceCategory::events}, {u"changed", TraceCategory::changed}, {u"dialogs", TraceCategory::dialogs},
+        {u"keys", TraceCategory::keys},     {u"log", TraceCategory::log},         {u"tooltip", TraceCategory::tooltip},
+        {u"focus", TraceCategory::focus},   {u"window", TraceCategory::window},
+    };
+    for (const auto& [name, category] : names)
+        if (word.is(name))
+            return categoryBit(category);
+    notACommand("no such category");
+}
+
+void runTrace(Session& session, Words words)
+{
+    requireWords(words, 2, 9);
+    std::uint32_t categories = 0;
+    if (words.size() == 2 && words[1].is(u"all"))
+        categories = ~0U;
+    else if (words.size() > 2 || !words[1].is(u"none"))
+        for (const Word& word : words.subspan(1))
+            categories |= categoryOf(word);
+    session.tracePrinter().show(categories);
+}
+
+void runAnswer(Session& session, Words words)
+{
+    requireWords(words, 2, 2);
+    static constexpr std::pair<std::u16string_view, platform::BoxAnswer> names[] = {
+        {u"ok", platform::BoxAnswer::ok},
+        {u"yes", platform::BoxAnswer::yes},
+        {u"no", platform::BoxAnswer::no},
+        {u"cancel", platform::BoxAnswer::cancel},
+    };
+    headless::Desktop& desktop = session.machine().desktop;
+    for (const auto& [name, answer] : names) {
+        if (words[1].is(name)) {
+            desktop.queueAnswer(answer);
+            return;
+        }
+    }
+    if (words[1].isText())
+        desktop.queueAnswer(words[1].text);
+    else
+        desktop.queueAnswer(colourOf(words[1]));
+}
+
+void runPrint(Session& session, Words words)
+{
+    requireWords(words, 2, 2);
+    session.printLine(toUtf8(textOf(words[1])));
+}
+
+} // namespace
+
+CommandTable runCommands() noexcept
+{
+    static constexpr Command commands[] = {
+        {u"locale", runLocale}, {u"clock", runClock},   {u"windows", runWindows}, {u"library", runLibrary},
+        {u"trace", runTrace},   {u"answer", runAnswer}, {u"print", runPrint},
+    };
+    return commands;
+}
+
+} // namespace vela::console

@@ -1,0 +1,257 @@
+// Reading a line's words.
+#include "apps/console/script_line.h"
+
+#include <charconv>
+#include <optional>
+
+namespace vela::console {
+
+namespace {
+
+constexpr bool isBlank(char16_t unit) noexcept
+{
+    return unit == u' ' || unit == u'\t';
+}
+
+constexpr bool isDigit(char16_t unit) noexcept
+{
+    return unit >= u'0' && unit <= u'9';
+}
+
+int hexDigit(char16_t unit) noexcept // -1: none
+{
+    if (isDigit(unit))
+        return unit - u'0';
+    if (unit >= u'A' && unit <= u'F')
+        return unit - u'A' + 10;
+    return unit >= u'a' && unit <= u'f' ? unit - u'a' + 10 : -1;
+}
+
+class Splitter {
+public:
+    explicit Splitter(std::u16string_view line) : line_(line) {}
+
+    std::vector<Word> words()
+    {
+        std::vector<Word> words;
+        for (skipBlanks(); at_ < line_.size(); skipBlanks()) {
+            const std::size_t date = dateLiteralLength();
+            if (line_[at_] == u'#' && date == 0)
+                break; // a comment
+            words.push_back(word(date));
+            if (at_ < line_.size() && !isBlank(line_[at_]))
+                notACommand("no blank behind a closing quote");
+        }
+        return words;
+    }
+
+private:
+    void skipBlanks()
+    {
+        while (at_ < line_.size() && isBlank(line_[at_]))
+            ++at_;
+    }
+
+    Word word(std::size_t date)
+    {
+        Word word;
+        take(word.bare, date);
+        while (at_ < line_.size() && !isBlank(line_[at_]) && line_[at_] != u'"') {
+            const bool valueFollows = line_[at_] == u'=';
+            word.bare += line_[at_++];
+            if (valueFollows)
+                take(word.bare, dateLiteralLength());
+        }
+        if (at_ == line_.size() || line_[at_] != u'"')
+            return word;
+        if (!word.bare.empty() && word.bare.back() != u'=')
+            notACommand("a quote inside a word");
+        word.quoted = true;
+        readQuoted(word.text);
+        return word;
+    }
+
+    void take(std::u16string& into, std::size_t length)
+    {
+        into += line_.substr(at_, length);
+        at_ += length;
+    }
+
+    void readQuoted(std::u16string& into)
+    {
+        for (++at_; at_ < line_.size(); ++at_) {
+            if (line_[at_] == u'"') {
+                ++at_;
+                return;
+            }
+            into += line_[at_] == u'\\' ? escape() : line_[at_];
+        }
+        notACommand("a quote is not closed");
+    }
+
+    // Stands on the backslash; ends on the escape's last character.
+    char16_t escape()
+    {
+        if (++at_ == line_.size())
+            notACommand("a quote is not closed");
+        switch (line_[at_]) {
+        case u'"': return u'"';
+        case u'\\': return u'\\';
+        case u'n': return u'\n';
+        case u'r': return u'\r';
+        case u't': return u'\t';
+        case u'u': return unitByNumber();
+        default: notACommand("an unknown escape");
+        }
+    }
+
+    char16_t unitByNumber()
+    {
+        int unit = 0;
+        for (int i = 0; i < 4; ++i) {
+            const int digit = ++at_ < line_.size() ? hexDigit(line_[at_]) : -1;
+            if (digit < 0)
+                notACommand("\\u wants four hexadecimal digits");
+            unit = unit * 16 + digit;
+        }
+        return static_cast<char16_t>(unit);
+    }
+
+    // "#2024-02-29#" or "#2024-02-29 14:05:33#" that stands here and ends a word; 0: none.
+    [[nodiscard]] std::size_t dateLiteralLength() const
+    {
+        for (const std::u16string_view picture : {u"#0000-00-00#", u"#0000-00-00 00:00:00#"}) {
+            const std::u16string_view here = line_.substr(at_, picture.size());
+            const std::size_t end = at_ + picture.size();
+            if (matches(here, picture) && (end == line_.size() || isBlank(line_[end])))
+                return picture.size();
+        }
+        return 0;
+    }
+
+    static bool matches(std::u16string_view text, std::u16string_view picture)
+    {
+        if (text.size() != picture.size())
+            return false;
+        for (std::size_t i = 0; i < text.size(); ++i)
+            if (picture[i] == u'0' ? !isDigit(text[i]) : text[i] != picture[i])
+                return false;
+        return true;
+    }
+
+    std::u16string_view line_;
+    std::size_t at_ = 0;
+};
+
+// One character of at most four bytes; nothing for what is no UTF-8. Surrogates and overlong forms are none.
+std::optional<char32_t> decode(std::string_view bytes, std::size_t& at)
+{
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+    const unsigned first = byte(at);
+    const std::size_t length = first < 0x80 ? 1 : first < 0xC2 ? 0 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+    if (length == 0 || first > 0xF4 || bytes.size() - at < length)
+        return std::nullopt;
+    char32_t character = length == 1 ? first : first & (0xFFU >> (length + 1));
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byte(at + i) & 0xC0U) != 0x80U)
+            return std::nullopt;
+        character = (character << 6) | (byte(at + i) & 0x3FU);
+    }
+    const bool overlong = (length == 3 && character < 0x800) || (length == 4 && character < 0x10000);
+    if (overlong || character > 0x10FFFF || (character >= 0xD800 && character < 0xE000))
+        return std::nullopt;
+    at += length;
+    return character;
+}
+
+void appendUtf8(std::string& into, char32_t character)
+{
+    const auto tail = [&](int shift) { return static_cast<char>(0x80 | ((character >> shift) & 0x3F)); };
+    if (character < 0x80) {
+        into += static_cast<char>(character);
+    } else if (character < 0x800) {
+        into += static_cast<char>(0xC0 | (character >> 6));
+        into += tail(0);
+    } else if (character < 0x10000) {
+        into += static_cast<char>(0xE0 | (character >> 12));
+        into += tail(6);
+        into += tail(0);
+    } else {
+        into += static_cast<char>(0xF0 | (character >> 18));
+        into += tail(12);
+        into += tail(6);
+        into += tail(0);
+    }
+}
+
+} // namespace
+
+void notACommand(std::string why)
+{
+    throw NotACommand{std::move(why)};
+}
+
+std::vector<Word> splitWords(std::string_view line)
+{
+    const std::u16string text = fromUtf8(line);
+    return Splitter(text).words();
+}
+
+const std::u16string& textOf(const Word& word)
+{
+    if (!word.isText())
+        notACommand("a text in quotes is wanted");
+    return word.text;
+}
+
+int integerOf(const Word& word)
+{
+    const std::string digits = word.quoted ? std::string() : toUtf8(word.bare);
+    int number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (digits.empty() || error != std::errc() || end != digits.data() + digits.size())
+        notACommand("a whole number is wanted");
+    return number;
+}
+
+void requireWords(Words words, std::size_t least, std::size_t most)
+{
+    if (words.size() < least)
+        notACommand("words are missing");
+    if (words.size() > most)
+        notACommand("too many words");
+}
+
+std::u16string fromUtf8(std::string_view bytes)
+{
+    std::u16string text;
+    text.reserve(bytes.size());
+    for (std::size_t at = 0; at < bytes.size();) {
+        const std::optional<char32_t> character = decode(bytes, at);
+        if (!character)
+            notACommand("the line is not UTF-8");
+        if (*character < 0x10000) {
+            text += static_cast<char16_t>(*character);
+        } else {
+            text += static_cast<char16_t>(0xD7C0 + (*character >> 10));
+            text += static_cast<char16_t>(0xDC00 + (*character & 0x3FF));
+        }
+    }
+    return text;
+}
+
+std::string toUtf8(std::u16string_view text)
+{
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        char32_t character = text[at];
+        const bool high = (character & 0xFC00) == 0xD800;
+        if (high && at + 1 < text.size() && (text[at + 1] & 0xFC00) == 0xDC00)
+            character = 0x10000 + ((character - 0xD800) << 10) + (text[++at] - 0xDC00U);
+        appendUtf8(bytes, character);
+    }
+    return bytes;
+}
+
+} // namespace vela::console
