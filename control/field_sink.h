@@ -9,7 +9,7 @@ namespace vela::control {
 // A key typed at the box.
 class Vela::BoxSink final : public engine::KeystrokeSink {
 public:
-    explicit BoxSink(Vela& field) : field_(field), text_(field) {}
+    explicit BoxSink(Vela& field) : field_(field), alive_(field.life_), text_(field) {}
 
     [[nodiscard]] engine::KeystrokeSettings settings() const override { return field_.keystrokeSettings(); }
     [[nodiscard]] std::u16string_view text() override
@@ -24,16 +24,21 @@ public:
 
     void writeText(std::u16string_view text, int caret) override;
     void validateMask(int& key) override { field_.validateMask(key); }
-    [[nodiscard]] bool raiseKeyPress(std::int16_t& key) override { return field_.raiseKeyPress(key); }
+    [[nodiscard]] bool raiseKeyPress(std::int16_t& key) override { return alive_ && field_.raiseKeyPress(key); }
     void sendTab() override { field_.environment_.desktop.sendKeys(u"{TAB}"); }
     void tabKeyDown() override { field_.environment_.desktop.keyDown(tabKey); }
-    void logNumericFailure(const engine::Error& error) override { field_.log(error, label::number); }
+    void logNumericFailure(const engine::Error& error) override
+    {
+        if (alive_)
+            field_.log(error, label::number);
+    }
 
     static constexpr int tabKey = 9;
 
 private:
     Vela& field_;
-    Scratch text_; // as last read
+    Liveness::Probe alive_; // a text written can be the control's last
+    Scratch text_;          // as last read
 };
 
 // The keys of a pasted text, typed one by one at a copy of the box's text; the box is written once, by finish().
