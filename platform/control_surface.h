@@ -9,6 +9,8 @@
 
 namespace vela::platform {
 
+enum class ButtonGlyph { calendar, calculator };
+
 // How the surface paints its border. `line` is eEstiloBorda: 0 solid, 1 dashes, 2 dots, 3 dash-dot, 4 3D, 5 XP.
 struct SurfaceLook {
     int line = 0;
@@ -16,6 +18,7 @@ struct SurfaceLook {
     engine::Colour border{0x00FFFFFF};
     engine::Colour back{0x00FFFFFF};
     bool button = false;    // cmdCalendario is visible
+    ButtonGlyph glyph = ButtonGlyph::calendar; // what its picture shows
     friend bool operator==(const SurfaceLook&, const SurfaceLook&) = default;
 };
 

@@ -16,9 +16,9 @@ namespace vela::win32 {
 // What the owner of a surface wants to know beyond what the control does. May destroy the surface.
 class SurfaceListener {
 public:
-    virtual void focusEntered() {}         // the focus came into the surface or one of its windows, before gotFocus()
-    virtual void focusLeft() {}            // after lostFocus()
-    virtual void windowDestroyed() {}      // by another than destroy()
+    virtual void focusEntered() {}    // the focus came into the surface or one of its windows, before gotFocus()
+    virtual void focusLeft() {}       // after lostFocus()
+    virtual void windowDestroyed() {} // by another than destroy()
     // A key message for the edit box, before the control sees it; true: handled, the control shall not.
     virtual bool preTranslate(MSG&) { return false; }
 
@@ -43,9 +43,9 @@ public:
     void reparent(HWND parent, const RECT& place);
     void place(const RECT& place); // moves and resizes, with a window or without; resized() when the size changed
     void show(bool visible);
-    void putDpi(int dpi);          // while there is no window
+    void putDpi(int dpi); // while there is no window
     void setAccessibleName(std::u16string_view name);
-    void refreshDpi();             // reads the window's dpi again; resized() when it changed
+    void refreshDpi(); // reads the window's dpi again; resized() when it changed
     // Draws the field as it looks into any device context (design mode, print, metafile).
     void draw(HDC dc, const RECT& place) const;
 
@@ -81,6 +81,9 @@ private:
     void paint();
     void drawButton(const DRAWITEMSTRUCT& item) const;
     void sizeChanged();
+    void tick(WPARAM timer);
+    void surfaceFocus(bool arrived);
+    void boxRebuilt();
     void placeParts();
     void showButton();
     void applyRegion();
@@ -105,6 +108,7 @@ private:
     bool visible_ = true;
     bool destroying_ = false;
     bool timer_ = false;
+    bool rounded_ = false;
     std::u16string accessibleName_;
 };
 

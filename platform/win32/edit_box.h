@@ -12,6 +12,8 @@
 namespace vela::win32 {
 
 class ControlSurface;
+class EditDropTarget;
+class FocusArbiter;
 
 class EditBox final : public platform::EditBox {
 public:
@@ -36,13 +38,82 @@ public:
 
     [[nodiscard]] HWND handle() const noexcept { return edit_; }
     [[nodiscard]] platform::EditBoxKind kind() const noexcept { return kind_; }
+    [[nodiscard]] static EditBox* withFocus() noexcept; // null when the focus is in no field of this thread
+
+    // For the surface.
+    void createWindow(const RECT& place, bool visible);
+    void destroyWindow();
+    void fontScaleChanged();
+    void editChanged() noexcept; // EN_CHANGE
+    void settleLoan() noexcept;  // the focus leaves a part of the field that is no box
+    [[nodiscard]] bool isEntered() const noexcept { return entered_; }
+    [[nodiscard]] bool ownsWindow(HWND window) const noexcept; // one of its field's
+    // For the focus arbiter.
+    void enter();
+    void leave(HWND next);
+    bool regainFocus(); // false when it may not have it
+    // For the drop target: the text falls at a point of the screen.
+    void dropped(std::u16string_view text, POINT point);
 
 private:
-    friend class ControlSurface;
-    friend class FocusArbiter;
-    friend class EditDropTarget;
-
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept;
+    LRESULT handle(UINT message, WPARAM first, LPARAM second);
+    LRESULT onKeyDown(UINT message, WPARAM code, LPARAM data);
+    LRESULT onKeyUp(UINT message, WPARAM code, LPARAM data);
+    LRESULT onChar(WPARAM unit, LPARAM data);
+    LRESULT onUnicode(WPARAM codePoint, LPARAM data);
+    LRESULT onComposition(WPARAM first, LPARAM flags);
+    LRESULT onFocus(WPARAM first, LPARAM second);
+    LRESULT onFocusLost(HWND next, LPARAM second);
+    LRESULT onButtonUp(WPARAM first, LPARAM second);
+    LRESULT onDoubleClick(WPARAM first, LPARAM second);
+    LRESULT onMove(WPARAM first, LPARAM second);
+    LRESULT onMenu(LPARAM point);
+    LRESULT onSetText(WPARAM first, LPARAM second);
+    LRESULT onDestroyed(WPARAM first, LPARAM second);
+    LRESULT dialogCode(WPARAM first, LPARAM second);
+    bool shortcut(int code, int shift);
+    void command(UINT command);
+    void paste();
+    void cut(bool copy);
+    void moveToNext(bool back);
+
+    LRESULT pass(UINT message, WPARAM first, LPARAM second); // to the EDIT, then reports what it changed
+    LRESULT native(UINT message, WPARAM first, LPARAM second) const noexcept;
+    void refresh() const; // text_ is what the window shows
+    [[nodiscard]] bool sameText() const;
+    void reportChange();
+    void keepState();
+    void rebuild();
+    [[nodiscard]] DWORD style(bool visible) const noexcept;
+    void applyFont();
+    void applyPassword() const;
+    void applyLimit() const;
+    [[nodiscard]] platform::EditBoxEvents* events() const noexcept;
+    [[nodiscard]] bool isSingle() const noexcept { return kind_ == platform::EditBoxKind::singleLine; }
+
+    Life life_;
+    ControlSurface& surface_;
+    platform::EditBoxKind kind_;
+    bool entered_ = false;     // gotFocus() reported, lostFocus() not yet
+    bool quiet_ = false;       // the text is being written by the control
+    bool typing_ = false;      // what changes now cannot give the same text
+    bool changed_ = false;     // to be reported when the EDIT has returned
+    bool swallowChar_ = false; // the key-down handler took the key
+    bool skipClick_ = false;   // the button's way up after a double click
+    bool rebuilding_ = false;
+    bool dropTarget_ = false;
+    mutable bool stale_ = false; // the window holds a newer text than text_
+    int passing_ = 0;
+    HWND edit_ = nullptr;
+    WNDPROC original_ = nullptr;
+    FocusArbiter& arbiter_;
+    platform::EditColours colours_;
+    platform::EditTraits traits_;
+    SharedFont font_;
+    mutable std::u16string text_;
+    mutable std::u16string scratch_;
+    platform::Selection kept_; // while there is no window
 };
 
 } // namespace vela::win32

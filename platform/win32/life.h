@@ -11,7 +11,7 @@ public:
     Life() noexcept = default;
     Life(const Life&) = delete;
     Life& operator=(const Life&) = delete;
-    inline ~Life();
+    ~Life();
 
 private:
     friend class Watch;
@@ -21,14 +21,10 @@ private:
 // `Watch watch(life_); events->changed(); if (!watch.alive()) return;`
 class Watch {
 public:
-    explicit Watch(Life& life) noexcept : life_(&life), outer_(life.innermost_) { life.innermost_ = this; }
+    explicit Watch(Life& life) noexcept;
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
-    ~Watch()
-    {
-        if (life_)
-            life_->innermost_ = outer_;
-    }
+    ~Watch();
     [[nodiscard]] bool alive() const noexcept { return life_ != nullptr; }
 
 private:
@@ -36,11 +32,5 @@ private:
     Life* life_;
     Watch* outer_;
 };
-
-inline Life::~Life()
-{
-    for (Watch* watch = innermost_; watch; watch = watch->outer_)
-        watch->life_ = nullptr;
-}
 
 } // namespace vela::win32

@@ -12,8 +12,14 @@ static_assert(sizeof(wchar_t) == sizeof(char16_t));
 {
     return reinterpret_cast<const wchar_t*>(text);
 }
-[[nodiscard]] inline wchar_t* wide(char16_t* text) noexcept { return reinterpret_cast<wchar_t*>(text); }
-[[nodiscard]] inline std::wstring wide(std::u16string_view text) { return {wide(text.data()), text.size()}; }
+[[nodiscard]] inline wchar_t* wide(char16_t* text) noexcept
+{
+    return reinterpret_cast<wchar_t*>(text);
+}
+[[nodiscard]] inline std::wstring wide(std::u16string_view text)
+{
+    return {wide(text.data()), text.size()};
+}
 [[nodiscard]] inline std::u16string utf16(std::wstring_view text)
 {
     return {reinterpret_cast<const char16_t*>(text.data()), text.size()};

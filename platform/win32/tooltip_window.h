@@ -14,6 +14,9 @@ namespace vela::win32 {
 class TooltipWindow final : public platform::TooltipWindow {
 public:
     TooltipWindow();
+    ~TooltipWindow() override;
+    TooltipWindow(const TooltipWindow&) = delete;
+    TooltipWindow& operator=(const TooltipWindow&) = delete;
 
     bool create(platform::WindowId parent) override;
     void destroy() override;
@@ -27,7 +30,7 @@ public:
     void trackPosition(std::int32_t packed) override;
     void trackActivate(bool active) override;
     [[nodiscard]] std::pair<int, int> clientToScreen(platform::WindowId window, int x, int y) const override;
-    [[nodiscard]] HWND handle() const noexcept;
+    [[nodiscard]] HWND handle() const noexcept { return window_; }
 
 private:
     LRESULT send(UINT message, WPARAM first, LPARAM second) const noexcept;

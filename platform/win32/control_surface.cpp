@@ -1,0 +1,465 @@
+// The surface's life, parts and messages.
+#include "platform/win32/control_surface.h"
+
+#include "engine/error.h"
+#include "platform/win32/accessible_name.h"
+#include "platform/win32/activation_context.h"
+#include "platform/win32/colours.h"
+#include "platform/win32/dpi.h"
+#include "platform/win32/focus_arbiter.h"
+#include "platform/win32/module.h"
+#include "platform/win32/owners.h"
+#include "platform/win32/paint.h"
+#include "platform/win32/tooltip_window.h"
+
+#include <commctrl.h>
+
+namespace vela::win32 {
+namespace {
+
+constexpr UINT_PTR hoverTimer = 1;
+constexpr UINT hoverMilliseconds = 50;
+constexpr UINT dpiChangedAfterParent = 0x02E3; // WM_DPICHANGED_AFTERPARENT
+constexpr UINT_PTR buttonId = 1;
+
+RECT rectOf(const engine::RectPixels& place) noexcept
+{
+    return {place.left, place.top, place.right(), place.bottom()};
+}
+
+bool sameSize(const RECT& one, const RECT& other) noexcept
+{
+    return one.right - one.left == other.right - other.left && one.bottom - one.top == other.bottom - other.top;
+}
+
+const wchar_t* captionOf(platform::ButtonGlyph glyph) noexcept
+{
+    switch (glyph) {
+    case platform::ButtonGlyph::calendar: return L"Calendário";
+    case platform::ButtonGlyph::calculator: return L"Calculadora";
+    }
+    return L"";
+}
+
+} // namespace
+
+ControlSurface::ControlSurface() : dpi_(dpiOf(nullptr))
+{
+    boxes_[0] = std::make_unique<EditBox>(*this, platform::EditBoxKind::singleLine);
+}
+
+ControlSurface::~ControlSurface()
+{
+    setEvents(nullptr, nullptr);
+    listener_ = nullptr;
+    destroy();
+}
+
+void ControlSurface::setEvents(platform::SurfaceEvents* surface, platform::EditBoxEvents* edit) noexcept
+{
+    events_ = surface;
+    editEvents_ = edit;
+}
+
+void ControlSurface::create(HWND parent, const RECT& place)
+{
+    if (window_)
+        return reparent(parent, place);
+    const DWORD style =
+        WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | (visible_ ? WS_VISIBLE : 0U) | (enabled_ ? 0U : WS_DISABLED);
+    const HWND made = createBound(surfaceClass(), *this, WS_EX_CONTROLPARENT, style, place, parent);
+    if (!made)
+        engine::raise(engine::error_number::outOfMemory);
+    window_ = made;
+    const bool resized = !sameSize(place, place_) || dpiOf(made) != dpi_;
+    place_ = place;
+    dpi_ = dpiOf(made);
+    Watch watch(life_);
+    if (resized && events_)
+        events_->resized(); // the layout first, so that the parts are made in their places
+    if (!watch.alive() || window_ != made)
+        return;
+    for (std::size_t i = 0; i < boxes_.size(); ++i)
+        if (boxes_[i] && i == active_)
+            boxes_[i]->createWindow(rectOf(layout_.edit), true);
+    showButton();
+    applyRegion();
+    if (timer_)
+        SetTimer(window_, hoverTimer, hoverMilliseconds, nullptr);
+    if (!accessibleName_.empty())
+        setAccessibleName(accessibleName_);
+}
+
+void ControlSurface::destroy()
+{
+    if (!window_)
+        return;
+    destroying_ = true;
+    for (auto& box : boxes_)
+        if (box)
+            box->destroyWindow();
+    const HWND window = std::exchange(window_, nullptr);
+    button_ = nullptr;
+    unbind(window);
+    DestroyWindow(window);
+    destroying_ = false;
+}
+
+void ControlSurface::reparent(HWND parent, const RECT& place)
+{
+    if (!window_)
+        return;
+    SetParent(window_, parent);
+    this->place(place);
+}
+
+void ControlSurface::place(const RECT& place)
+{
+    const bool resized = !sameSize(place, place_);
+    place_ = place;
+    if (window_)
+        SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE); // WM_SIZE reports
+    else if (resized && events_)
+        events_->resized();
+}
+
+void ControlSurface::show(bool visible)
+{
+    visible_ = visible;
+    if (window_)
+        ShowWindow(window_, visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void ControlSurface::putDpi(int dpi)
+{
+    if (window_ || dpi <= 0 || dpi == dpi_)
+        return;
+    dpi_ = dpi;
+    if (events_)
+        events_->resized();
+}
+
+void ControlSurface::refreshDpi()
+{
+    const int dpi = window_ ? dpiOf(window_) : dpi_;
+    if (dpi == dpi_)
+        return;
+    dpi_ = dpi;
+    for (auto& box : boxes_)
+        if (box)
+            box->fontScaleChanged();
+    if (events_)
+        events_->resized();
+}
+
+void ControlSurface::setAccessibleName(std::u16string_view name)
+{
+    accessibleName_ = name;
+    if (const HWND window = edit().handle())
+        win32::setAccessibleName(window, accessibleName_);
+}
+
+void ControlSurface::boxRebuilt()
+{
+    if (!accessibleName_.empty())
+        setAccessibleName(accessibleName_);
+}
+
+void ControlSurface::draw(HDC dc, const RECT& place) const
+{
+    std::u16string text;
+    edit().text(text);
+    const engine::RectPixels client = clientRect();
+    paintField(dc, place,
+               {text, look_, layout_, edit().traits(), edit().colours(), SIZE{client.width, client.height}, dpi_,
+                edit().kind() == platform::EditBoxKind::multiLine});
+}
+
+EditBox& ControlSurface::box(platform::EditBoxKind kind)
+{
+    auto& box = boxes_[static_cast<std::size_t>(kind)];
+    if (!box)
+        box = std::make_unique<EditBox>(*this, kind);
+    return *box;
+}
+
+platform::EditBox& ControlSurface::activate(platform::EditBoxKind kind)
+{
+    EditBox& wanted = box(kind);
+    EditBox& before = edit();
+    if (&wanted == &before)
+        return wanted;
+    active_ = static_cast<std::size_t>(kind);
+    if (!window_)
+        return wanted;
+    if (!wanted.handle())
+        wanted.createWindow(rectOf(layout_.edit), true);
+    else
+        ShowWindow(wanted.handle(), SW_SHOWNA);
+    placeParts();
+    if (GetFocus() == before.handle())
+        SetFocus(wanted.handle());
+    ShowWindow(before.handle(), SW_HIDE);
+    boxRebuilt();
+    return wanted;
+}
+
+void ControlSurface::putEnabled(bool enabled)
+{
+    enabled_ = enabled;
+    if (window_)
+        EnableWindow(window_, enabled);
+    if (button_)
+        EnableWindow(button_, enabled);
+}
+
+void ControlSurface::putLook(const platform::SurfaceLook& look)
+{
+    const bool glyphChanged = look.glyph != look_.glyph;
+    look_ = look;
+    if (!window_)
+        return;
+    if (glyphChanged && button_)
+        SetWindowTextW(button_, captionOf(look_.glyph));
+    showButton();
+    repaint();
+}
+
+void ControlSurface::arrange(const platform::SurfaceLayout& layout)
+{
+    if (layout == layout_)
+        return;
+    layout_ = layout;
+    if (!window_)
+        return;
+    placeParts();
+    showButton();
+    applyRegion();
+    repaint();
+}
+
+void ControlSurface::clear()
+{
+    frame_.reset();
+    repaint();
+}
+
+void ControlSurface::drawRectangle(engine::Colour colour, int width)
+{
+    frame_ = Frame{colour, width};
+    repaint();
+}
+
+void ControlSurface::enableHoverTimer(bool enabled)
+{
+    timer_ = enabled;
+    if (!window_)
+        return;
+    if (enabled)
+        SetTimer(window_, hoverTimer, hoverMilliseconds, nullptr);
+    else
+        KillTimer(window_, hoverTimer);
+}
+
+engine::RectPixels ControlSurface::clientRect() const
+{
+    return {0, 0, static_cast<int>(place_.right - place_.left), static_cast<int>(place_.bottom - place_.top)};
+}
+
+engine::RectPixels ControlSurface::screenRect() const
+{
+    RECT place = place_;
+    if (window_)
+        GetWindowRect(window_, &place);
+    return {static_cast<int>(place.left), static_cast<int>(place.top), static_cast<int>(place.right - place.left),
+            static_cast<int>(place.bottom - place.top)};
+}
+
+platform::WindowId ControlSurface::window() const
+{
+    return {reinterpret_cast<std::uintptr_t>(window_)};
+}
+
+std::unique_ptr<platform::TooltipWindow> ControlSurface::makeTooltip()
+{
+    return std::make_unique<TooltipWindow>();
+}
+
+void ControlSurface::repaint() const
+{
+    if (window_)
+        InvalidateRect(window_, nullptr, FALSE);
+}
+
+void ControlSurface::placeParts()
+{
+    const engine::RectPixels& place = layout_.edit;
+    if (const HWND window = edit().handle())
+        SetWindowPos(window, nullptr, place.left, place.top, place.width, place.height,
+                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+}
+
+// A button of the system's, made when it is first wanted. Clicked, it never keeps the focus; Tab passes it by.
+void ControlSurface::showButton()
+{
+    const bool wanted = look_.button && layout_.button.width > 0;
+    if (!wanted) {
+        if (button_)
+            ShowWindow(button_, SW_HIDE);
+        return;
+    }
+    const engine::RectPixels& place = layout_.button;
+    if (!button_) {
+        const ActivationContext controls;
+        button_ = CreateWindowExW(0, WC_BUTTONW, captionOf(look_.glyph),
+                                  WS_CHILD | BS_OWNERDRAW | BS_NOTIFY | (enabled_ ? 0U : WS_DISABLED), place.left,
+                                  place.top, place.width, place.height, window_, reinterpret_cast<HMENU>(buttonId),
+                                  thisModule(), nullptr);
+    }
+    SetWindowPos(button_, HWND_TOP, place.left, place.top, place.width, place.height, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+}
+
+void ControlSurface::applyRegion()
+{
+    if (layout_.cornerRadius <= 0) {
+        if (rounded_)
+            SetWindowRgn(window_, nullptr, TRUE);
+        rounded_ = false;
+        return;
+    }
+    const engine::RectPixels client = clientRect();
+    const int diameter = layout_.cornerRadius * 2;
+    // The system owns the region from then on. A rounded region leaves out its last row and column.
+    SetWindowRgn(window_, CreateRoundRectRgn(0, 0, client.width + 1, client.height + 1, diameter, diameter), TRUE);
+    rounded_ = true;
+}
+
+LRESULT ControlSurface::handle(HWND window, UINT message, WPARAM first, LPARAM second)
+{
+    if (!window_) // still being made
+        return DefWindowProcW(window, message, first, second);
+    switch (message) {
+    case WM_COMMAND: return command(first, second);
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORSTATIC: return colourOf(reinterpret_cast<HDC>(first), reinterpret_cast<HWND>(second));
+    case WM_PAINT: paint(); return 0;
+    case WM_ERASEBKGND: return TRUE;
+    case WM_DRAWITEM: drawButton(*reinterpret_cast<const DRAWITEMSTRUCT*>(second)); return TRUE;
+    case WM_SIZE: sizeChanged(); return 0;
+    case WM_TIMER: tick(first); return 0;
+    case WM_SETFOCUS: surfaceFocus(true); return 0;
+    case WM_KILLFOCUS: surfaceFocus(false); return 0;
+    case WM_LBUTTONDOWN: edit().takeFocus(); return 0;
+    case dpiChangedAfterParent: refreshDpi(); return 0;
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED: repaint(); return DefWindowProcW(window, message, first, second);
+    default: return DefWindowProcW(window, message, first, second);
+    }
+}
+
+void ControlSurface::unbound()
+{
+    window_ = nullptr;
+    button_ = nullptr;
+    rounded_ = false;
+    if (listener_ && !destroying_)
+        listener_->windowDestroyed();
+}
+
+LRESULT ControlSurface::command(WPARAM first, LPARAM second)
+{
+    const HWND from = reinterpret_cast<HWND>(second);
+    const UINT code = HIWORD(first);
+    if (from && from == button_) {
+        if (code == BN_CLICKED)
+            buttonPressed();
+        else if (code == BN_KILLFOCUS)
+            edit().settleLoan();
+    } else if (code == EN_CHANGE && from == edit().handle()) {
+        edit().editChanged();
+    }
+    return 0;
+}
+
+// The field has the focus before its pop-up opens, and the button gives it back.
+void ControlSurface::buttonPressed()
+{
+    Watch watch(life_);
+    if (const HWND window = edit().handle())
+        SetFocus(window);
+    if (watch.alive() && events_)
+        events_->buttonClicked();
+}
+
+LRESULT ControlSurface::colourOf(HDC dc, HWND child) const
+{
+    for (const auto& box : boxes_) {
+        if (!box || box->handle() != child)
+            continue;
+        const COLORREF back = resolve(box->colours().back, ColourRole::back);
+        SetTextColor(dc, box->traits().enabled ? resolve(box->colours().fore, ColourRole::fore)
+                                               : GetSysColor(COLOR_GRAYTEXT));
+        SetBkColor(dc, back);
+        SetDCBrushColor(dc, back);
+        return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
+    }
+    return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
+}
+
+void ControlSurface::paint()
+{
+    const PaintDc dc(window_);
+    RECT client{};
+    GetClientRect(window_, &client);
+    const UniqueGdi<HBRUSH> back(CreateSolidBrush(resolve(look_.back, ColourRole::back)));
+    FillRect(dc.get(), &client, back.get());
+    const int line = scaled(1, dpi_);
+    if (look_.ownBorder)
+        paintBorder(dc.get(), client, {look_.line, look_.border, line, layout_.cornerRadius});
+    if (frame_)
+        paintBorder(dc.get(), client, {look_.line, frame_->colour, line * frame_->width, layout_.cornerRadius});
+}
+
+void ControlSurface::drawButton(const DRAWITEMSTRUCT& item) const
+{
+    paintButton(item.hDC, item.rcItem, look_.glyph, item.itemState, window_);
+}
+
+void ControlSurface::sizeChanged()
+{
+    RECT client{};
+    GetClientRect(window_, &client);
+    const bool resized = !sameSize(client, place_) || dpiOf(window_) != dpi_;
+    GetWindowRect(window_, &place_);
+    MapWindowPoints(nullptr, GetParent(window_), reinterpret_cast<POINT*>(&place_), 2);
+    if (!resized)
+        return;
+    if (dpiOf(window_) != dpi_) {
+        refreshDpi();
+        return;
+    }
+    Watch watch(life_);
+    if (events_)
+        events_->resized();
+    if (watch.alive() && window_)
+        applyRegion();
+}
+
+void ControlSurface::tick(WPARAM timer)
+{
+    if (timer == hoverTimer && events_)
+        events_->hoverTick();
+}
+
+void ControlSurface::surfaceFocus(bool arrived)
+{
+    if (!events_)
+        return;
+    if (arrived)
+        events_->surfaceGotFocus();
+    else
+        events_->surfaceLostFocus();
+}
+
+} // namespace vela::win32

@@ -1,0 +1,465 @@
+// The EDIT's messages as the field's events: keys, characters, focus, mouse, clipboard, menu.
+#include "platform/win32/clipboard.h"
+#include "platform/win32/control_surface.h"
+#include "platform/win32/drop_target.h"
+#include "platform/win32/edit_box.h"
+#include "platform/win32/edit_menu.h"
+#include "platform/win32/focus_arbiter.h"
+#include "platform/win32/guard.h"
+#include "platform/win32/keyboard.h"
+#include "platform/win32/text.h"
+
+#include <imm.h>
+
+#include <string>
+
+namespace vela::win32 {
+namespace {
+
+// The characters that the Control key makes of these letters.
+constexpr WPARAM controlA = 1, controlC = 3, controlV = 22, controlX = 24, controlY = 25, controlZ = 26;
+constexpr WPARAM controlBackspace = 127;
+constexpr int shiftKey = 1, controlKey = 2, altKey = 4;
+
+// From the window up to its top level, every container lets the Tab key in.
+bool tabReaches(HWND window)
+{
+    const HWND top = GetAncestor(window, GA_ROOT);
+    for (HWND parent = GetAncestor(window, GA_PARENT); parent && parent != top; parent = GetAncestor(parent, GA_PARENT))
+        if (!(GetWindowLongPtrW(parent, GWL_EXSTYLE) & WS_EX_CONTROLPARENT))
+            return false;
+    return true;
+}
+
+bool sameForm(HWND one, HWND other) noexcept
+{
+    return one && other && GetAncestor(one, GA_ROOT) == GetAncestor(other, GA_ROOT);
+}
+
+std::u16string composed(HWND window)
+{
+    std::u16string text;
+    const HIMC context = ImmGetContext(window);
+    if (!context)
+        return text;
+    if (const LONG bytes = ImmGetCompositionStringW(context, GCS_RESULTSTR, nullptr, 0); bytes > 0) {
+        text.resize(static_cast<std::size_t>(bytes) / sizeof(char16_t));
+        ImmGetCompositionStringW(context, GCS_RESULTSTR, text.data(), static_cast<DWORD>(bytes));
+    }
+    ImmReleaseContext(window, context);
+    return text;
+}
+
+} // namespace
+
+LRESULT CALLBACK EditBox::procedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
+{
+    auto* box = reinterpret_cast<EditBox*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!box)
+        return DefWindowProcW(window, message, first, second);
+    return guarded([&] { return box->handle(message, first, second); }, LRESULT{0});
+}
+
+EditBox* EditBox::withFocus() noexcept
+{
+    const HWND focus = GetFocus();
+    if (!focus || reinterpret_cast<WNDPROC>(GetWindowLongPtrW(focus, GWLP_WNDPROC)) != &EditBox::procedure)
+        return nullptr;
+    return reinterpret_cast<EditBox*>(GetWindowLongPtrW(focus, GWLP_USERDATA));
+}
+
+LRESULT EditBox::handle(UINT message, WPARAM first, LPARAM second)
+{
+    switch (message) {
+    case WM_CHAR: return onChar(first, second);
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN: return onKeyDown(message, first, second);
+    case WM_KEYUP:
+    case WM_SYSKEYUP: return onKeyUp(message, first, second);
+    case WM_MOUSEMOVE: return onMove(first, second);
+    case WM_SETFOCUS: return onFocus(first, second);
+    case WM_KILLFOCUS: return onFocusLost(reinterpret_cast<HWND>(first), second);
+    case WM_LBUTTONUP: return onButtonUp(first, second);
+    case WM_LBUTTONDBLCLK: return onDoubleClick(first, second);
+    case WM_GETDLGCODE: return dialogCode(first, second);
+    case WM_UNICHAR: return onUnicode(first, second);
+    case WM_IME_COMPOSITION: return onComposition(first, second);
+    case WM_CONTEXTMENU: return onMenu(second);
+    case WM_SETTEXT: return onSetText(first, second);
+    case EM_REPLACESEL: refresh(); return pass(message, first, second);
+    case WM_PASTE: paste(); return 0;
+    case WM_CUT: cut(true); return 0;
+    case WM_CLEAR: cut(false); return 0;
+    case WM_UNDO:
+    case EM_UNDO: command(editUndo); return TRUE;
+    case EM_CANUNDO: return TRUE;
+    case WM_PAINT: registerDropTarget(*this, dropTarget_); return pass(message, first, second);
+    case WM_DESTROY:
+        revokeDropTarget(edit_, dropTarget_);
+        keepState();
+        return native(message, first, second);
+    case WM_NCDESTROY: return onDestroyed(first, second);
+    default: return pass(message, first, second);
+    }
+}
+
+LRESULT EditBox::onDestroyed(WPARAM first, LPARAM second)
+{
+    const HWND window = std::exchange(edit_, nullptr);
+    const WNDPROC original = original_;
+    SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+    if (!rebuilding_) {
+        entered_ = false;
+        arbiter_.forget(*this);
+    }
+    return CallWindowProcW(original, window, WM_NCDESTROY, first, second);
+}
+
+LRESULT EditBox::onSetText(WPARAM first, LPARAM second)
+{
+    refresh();
+    const LRESULT result = native(WM_SETTEXT, first, second);
+    // A box of several lines says nothing of a text put so.
+    Watch watch(life_);
+    if (result && !sameText()) {
+        changed_ = false;
+        stale_ = true;
+        reportChange();
+    }
+    if (watch.alive())
+        changed_ = false;
+    return result;
+}
+
+LRESULT EditBox::onKeyDown(UINT message, WPARAM code, LPARAM data)
+{
+    Watch watch(life_);
+    const HWND window = edit_;
+    swallowChar_ = false;
+    if (SurfaceListener* listener = surface_.listener_) {
+        MSG key{window, message, code, data, 0, {0, 0}};
+        if (listener->preTranslate(key))
+            return 0;
+        if (!watch.alive() || edit_ != window)
+            return 0;
+    }
+    int key = static_cast<int>(code);
+    int shift = shiftState();
+    if (key == VK_TAB && !(shift & (controlKey | altKey))) {
+        moveToNext((shift & shiftKey) != 0);
+        return 0;
+    }
+    if (platform::EditBoxEvents* listener = events(); listener && key != VK_PROCESSKEY)
+        listener->keyDown(key, shift);
+    if (!watch.alive() || edit_ != window)
+        return 0;
+    swallowChar_ = key == 0;
+    if (key == 0 || shortcut(key, shift))
+        return 0;
+    typing_ = true; // Delete: there is no EN_CHANGE unless something went
+    const LRESULT result = pass(message, static_cast<WPARAM>(key), data);
+    if (watch.alive())
+        typing_ = false;
+    return result;
+}
+
+LRESULT EditBox::onKeyUp(UINT message, WPARAM code, LPARAM data)
+{
+    Watch watch(life_);
+    const HWND window = edit_;
+    if (platform::EditBoxEvents* listener = events(); listener && code != VK_PROCESSKEY && code != VK_TAB)
+        listener->keyUp(static_cast<int>(code), shiftState());
+    return watch.alive() && edit_ == window ? pass(message, code, data) : 0;
+}
+
+// "ab[c]" + 'c' is the one case in which a character typed gives the same text.
+LRESULT EditBox::onChar(WPARAM unit, LPARAM data)
+{
+    if (swallowChar_)
+        return 0;
+    switch (unit) {
+    case controlA: return 0; // selected at the key's way down
+    case controlC: command(editCopy); return 0;
+    case controlV: command(editPaste); return 0;
+    case controlX: command(editCut); return 0;
+    case controlY: command(editRedo); return 0;
+    case controlZ: command(editUndo); return 0;
+    case VK_TAB:
+    case controlBackspace: return 0;
+    default: break;
+    }
+    Watch watch(life_);
+    const HWND window = edit_;
+    int key = static_cast<int>(unit);
+    if (platform::EditBoxEvents* listener = events())
+        listener->keyPress(key);
+    if (!watch.alive() || edit_ != window || key == 0)
+        return 0;
+    if (isSingle() && (key == VK_RETURN || key == '\n' || key == VK_ESCAPE))
+        return 0; // the EDIT would only beep
+    const LRESULT selected = native(EM_GETSEL, 0, 0);
+    typing_ = key == VK_BACK || (selected != -1 && LOWORD(selected) == HIWORD(selected));
+    if (!typing_)
+        refresh();
+    const LRESULT result = pass(WM_CHAR, static_cast<WPARAM>(key), data);
+    if (watch.alive())
+        typing_ = false;
+    return result;
+}
+
+LRESULT EditBox::onUnicode(WPARAM codePoint, LPARAM data)
+{
+    if (codePoint == UNICODE_NOCHAR)
+        return TRUE;
+    if (codePoint < 0x10000)
+        return onChar(codePoint, data);
+    Watch watch(life_);
+    const WPARAM beyond = codePoint - 0x10000;
+    onChar(0xD800 + (beyond >> 10), data);
+    if (watch.alive() && edit_)
+        onChar(0xDC00 + (beyond & 0x3FF), data);
+    return FALSE;
+}
+
+// What was composed is typed unit by unit, through the same filter; the rest of the composition is the system's.
+LRESULT EditBox::onComposition(WPARAM first, LPARAM flags)
+{
+    Watch watch(life_);
+    if (flags & GCS_RESULTSTR)
+        for (const char16_t unit : composed(edit_)) {
+            onChar(unit, 1);
+            if (!watch.alive() || !edit_)
+                return 0;
+        }
+    const LPARAM rest = flags & ~LPARAM{GCS_RESULTSTR};
+    return rest || !flags ? pass(WM_IME_COMPOSITION, first, rest) : 0;
+}
+
+LRESULT EditBox::onFocus(WPARAM first, LPARAM second)
+{
+    Watch watch(life_);
+    const LRESULT result = pass(WM_SETFOCUS, first, second);
+    if (watch.alive() && edit_ && !rebuilding_)
+        enter();
+    return result;
+}
+
+LRESULT EditBox::onFocusLost(HWND next, LPARAM second)
+{
+    Watch watch(life_);
+    const LRESULT result = pass(WM_KILLFOCUS, reinterpret_cast<WPARAM>(next), second);
+    if (!watch.alive() || !entered_ || rebuilding_)
+        return result;
+    if (arbiter_.borrows(next) || (next && ownsWindow(next)))
+        arbiter_.lend(*this);
+    else
+        leave(next);
+    return result;
+}
+
+void EditBox::enter()
+{
+    if (entered_) {
+        arbiter_.regained(*this);
+        return;
+    }
+    Watch watch(life_);
+    arbiter_.entering(*this);
+    if (!watch.alive() || arbiter_.suppresses(*this))
+        return;
+    entered_ = true;
+    const FocusArbiter::Change change(arbiter_, true);
+    if (SurfaceListener* listener = surface_.listener_)
+        listener->focusEntered();
+    if (!watch.alive())
+        return;
+    if (platform::EditBoxEvents* listener = events())
+        listener->gotFocus();
+}
+
+// The focus is given back only within the same form: closing or deactivating one is never held up.
+void EditBox::leave(HWND next)
+{
+    Watch watch(life_);
+    entered_ = false;
+    const FocusArbiter::Change change(arbiter_, sameForm(next, edit_));
+    if (platform::EditBoxEvents* listener = events())
+        listener->lostFocus();
+    if (!watch.alive() || arbiter_.returnsTo(*this))
+        return;
+    if (SurfaceListener* listener = surface_.listener_)
+        listener->focusLeft();
+}
+
+void EditBox::takeFocus()
+{
+    if (!edit_ || (entered_ && GetFocus() == edit_))
+        return;
+    if (arbiter_.changing())
+        arbiter_.askReturn(*this);
+    else
+        SetFocus(edit_);
+}
+
+bool EditBox::regainFocus()
+{
+    if (!edit_ || !IsWindowVisible(edit_) || !IsWindowEnabled(edit_) ||
+        GetActiveWindow() != GetAncestor(edit_, GA_ROOT))
+        return false;
+    if (GetFocus() == edit_)
+        enter();
+    else
+        SetFocus(edit_);
+    return true;
+}
+
+void EditBox::settleLoan() noexcept
+{
+    arbiter_.settleLater();
+}
+
+bool EditBox::hasFocus() const
+{
+    return entered_;
+}
+
+bool EditBox::ownsWindow(HWND window) const noexcept
+{
+    return window && (window == surface_.handle() || IsChild(surface_.handle(), window));
+}
+
+LRESULT EditBox::onMove(WPARAM first, LPARAM second)
+{
+    Watch watch(life_);
+    const LRESULT result = pass(WM_MOUSEMOVE, first, second);
+    if (watch.alive())
+        if (platform::EditBoxEvents* listener = events())
+            listener->pointerMoved();
+    return result;
+}
+
+LRESULT EditBox::onButtonUp(WPARAM first, LPARAM second)
+{
+    Watch watch(life_);
+    const bool click = !std::exchange(skipClick_, false);
+    const LRESULT result = pass(WM_LBUTTONUP, first, second);
+    // Where the focus was not granted there is no click.
+    if (watch.alive() && click && entered_)
+        if (platform::EditBoxEvents* listener = events())
+            listener->clicked();
+    return result;
+}
+
+LRESULT EditBox::onDoubleClick(WPARAM first, LPARAM second)
+{
+    Watch watch(life_);
+    skipClick_ = true;
+    const LRESULT result = pass(WM_LBUTTONDBLCLK, first, second);
+    if (watch.alive() && entered_)
+        if (platform::EditBoxEvents* listener = events())
+            listener->doubleClicked();
+    return result;
+}
+
+// Without DLGC_HASSETSEL: a dialog would select all after the field has placed its caret. Enter is the field's.
+LRESULT EditBox::dialogCode(WPARAM first, LPARAM second)
+{
+    const auto* message = reinterpret_cast<const MSG*>(second);
+    LRESULT code = native(WM_GETDLGCODE, first, second) & ~LRESULT{DLGC_HASSETSEL | DLGC_WANTTAB | DLGC_WANTALLKEYS};
+    code |= DLGC_WANTCHARS | DLGC_WANTARROWS;
+    if (message && (message->message == WM_KEYDOWN || message->message == WM_CHAR) && message->wParam == VK_RETURN)
+        code |= DLGC_WANTMESSAGE;
+    return code;
+}
+
+LRESULT EditBox::onMenu(LPARAM point)
+{
+    Watch watch(life_);
+    const platform::Selection marked = selection();
+    const EditMenuState state{marked.length > 0, traits_.passwordChar != 0, textLength() > 0};
+    const UINT chosen = showEditMenu(edit_, point, state);
+    if (watch.alive() && chosen)
+        command(chosen);
+    return 0;
+}
+
+bool EditBox::shortcut(int code, int shift)
+{
+    if (code == 'A' && shift == controlKey)
+        command(editSelectAll);
+    else if (code == VK_INSERT && shift == controlKey)
+        command(editCopy);
+    else if (code == VK_INSERT && shift == shiftKey)
+        command(editPaste);
+    else if (code == VK_DELETE && shift == shiftKey)
+        command(editCut);
+    else if (code == VK_BACK && shift == altKey)
+        command(editUndo);
+    else
+        return false;
+    return true;
+}
+
+void EditBox::command(UINT command)
+{
+    platform::EditBoxEvents* listener = events();
+    switch (command) {
+    case editCopy: native(WM_COPY, 0, 0); break;
+    case editCut: cut(true); break;
+    case editDelete: cut(false); break;
+    case editPaste: paste(); break;
+    case editSelectAll: native(EM_SETSEL, 0, -1); break;
+    case editUndo:
+        if (listener)
+            listener->undo();
+        break;
+    case editRedo:
+        if (listener)
+            listener->redo();
+        break;
+    default: break;
+    }
+}
+
+void EditBox::paste()
+{
+    const std::u16string text = clipboardText(edit_);
+    if (platform::EditBoxEvents* listener = events(); listener && !text.empty())
+        listener->pasted(text);
+}
+
+// A password is never copied, and so not cut either.
+void EditBox::cut(bool copy)
+{
+    if (selection().length == 0 || (copy && traits_.passwordChar))
+        return;
+    if (copy)
+        native(WM_COPY, 0, 0);
+    if (platform::EditBoxEvents* listener = events())
+        listener->cut();
+}
+
+void EditBox::dropped(std::u16string_view text, POINT point)
+{
+    Watch watch(life_);
+    ScreenToClient(edit_, &point);
+    takeFocus();
+    if (!watch.alive() || !edit_)
+        return;
+    const LRESULT position = native(EM_CHARFROMPOS, 0, MAKELPARAM(point.x, point.y));
+    native(EM_SETSEL, LOWORD(position), LOWORD(position));
+    if (platform::EditBoxEvents* listener = events())
+        listener->pasted(text);
+}
+
+void EditBox::moveToNext(bool back)
+{
+    if (!tabReaches(edit_))
+        return;
+    const HWND next = GetNextDlgTabItem(GetAncestor(edit_, GA_ROOT), edit_, back);
+    if (next && next != edit_)
+        SetFocus(next);
+}
+
+} // namespace vela::win32

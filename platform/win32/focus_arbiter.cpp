@@ -1,0 +1,181 @@
+// The order of a settled change: the focus goes back, a loan ends, then what had to wait is run.
+#include "platform/win32/focus_arbiter.h"
+
+#include "platform/win32/edit_box.h"
+#include "platform/win32/guard.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vela::win32 {
+namespace {
+
+constexpr UINT settleMessage = WM_APP + 1;
+
+thread_local FocusArbiter* current = nullptr;
+
+} // namespace
+
+FocusArbiter& FocusArbiter::retain()
+{
+    if (!current)
+        current = new FocusArbiter;
+    ++current->users_;
+    return *current;
+}
+
+void FocusArbiter::release() noexcept
+{
+    if (current && --current->users_ == 0)
+        delete std::exchange(current, nullptr);
+}
+
+FocusArbiter* FocusArbiter::ofThread() noexcept
+{
+    return current;
+}
+
+FocusArbiter::FocusArbiter() : window_(createBound(messageClass(), *this, 0, 0, RECT{0, 0, 0, 0}, HWND_MESSAGE)) {}
+
+FocusArbiter::~FocusArbiter()
+{
+    if (window_) {
+        unbind(window_);
+        DestroyWindow(window_);
+    }
+}
+
+FocusArbiter::Change::Change(FocusArbiter& arbiter, bool mayReturn) noexcept
+    : arbiter_(arbiter), mayReturnBefore_(std::exchange(arbiter.mayReturn_, mayReturn))
+{
+    ++retain().depth_;
+}
+
+FocusArbiter::Change::~Change()
+{
+    arbiter_.mayReturn_ = mayReturnBefore_;
+    if (--arbiter_.depth_ == 0 && (arbiter_.returning_ || !arbiter_.later_.empty()))
+        arbiter_.settleLater();
+    release();
+}
+
+FocusArbiter::Hold::Hold() noexcept : arbiter_(retain())
+{
+    ++arbiter_.holds_;
+}
+
+FocusArbiter::Hold::~Hold()
+{
+    if (--arbiter_.holds_ == 0)
+        arbiter_.settleLater();
+    release();
+}
+
+void FocusArbiter::askReturn(EditBox& box)
+{
+    if (mayReturn_)
+        returning_ = &box;
+}
+
+bool FocusArbiter::suppresses(const EditBox& entering) const noexcept
+{
+    return returning_ != nullptr && returning_ != &entering;
+}
+
+void FocusArbiter::entering(EditBox& box)
+{
+    if (EditBox* lender = std::exchange(lender_, nullptr); lender && lender != &box)
+        lender->leave(box.handle());
+}
+
+void FocusArbiter::regained(EditBox& box) noexcept
+{
+    if (lender_ == &box)
+        lender_ = nullptr;
+}
+
+bool FocusArbiter::borrows(HWND next) const noexcept
+{
+    if (holds_ > 0)
+        return true;
+    const HWND topLevel = next ? GetAncestor(next, GA_ROOT) : nullptr;
+    return topLevel && std::ranges::find(borrowers_, topLevel) != borrowers_.end();
+}
+
+void FocusArbiter::lend(EditBox& box) noexcept
+{
+    lender_ = &box;
+}
+
+void FocusArbiter::addBorrower(HWND topLevel)
+{
+    if (std::ranges::find(borrowers_, topLevel) == borrowers_.end())
+        borrowers_.push_back(topLevel);
+}
+
+void FocusArbiter::removeBorrower(HWND topLevel) noexcept
+{
+    std::erase(borrowers_, topLevel);
+    settleLater();
+}
+
+void FocusArbiter::settleLater() noexcept
+{
+    PostMessageW(window_, settleMessage, 0, 0);
+}
+
+void FocusArbiter::forget(EditBox& box) noexcept
+{
+    if (returning_ == &box)
+        returning_ = nullptr;
+    if (lender_ == &box)
+        lender_ = nullptr;
+}
+
+void FocusArbiter::later(std::function<void()> work)
+{
+    later_.push_back(std::move(work));
+    settleLater();
+}
+
+LRESULT FocusArbiter::handle(HWND window, UINT message, WPARAM first, LPARAM second)
+{
+    if (message != settleMessage)
+        return DefWindowProcW(window, message, first, second);
+    static_cast<void>(retain()); // the last field may go while it is entered
+    guarded([this] { settle(); });
+    release();
+    return 0;
+}
+
+// Inside a change (a message loop of a handler's own) the next settling message, posted at its end, does the work.
+void FocusArbiter::settle()
+{
+    if (depth_ > 0)
+        return;
+    giveBack();
+    endLoan();
+    runLater();
+}
+
+void FocusArbiter::giveBack()
+{
+    if (EditBox* box = std::exchange(returning_, nullptr); box && !box->regainFocus())
+        if (EditBox* visited = EditBox::withFocus())
+            visited->enter(); // the return is off, so the visit was an entry
+}
+
+void FocusArbiter::endLoan()
+{
+    const HWND focus = GetFocus();
+    if (lender_ && !borrows(focus) && !lender_->ownsWindow(focus))
+        std::exchange(lender_, nullptr)->leave(focus);
+}
+
+void FocusArbiter::runLater()
+{
+    for (auto& work : std::exchange(later_, {}))
+        guarded(work);
+}
+
+} // namespace vela::win32

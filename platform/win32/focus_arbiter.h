@@ -1,0 +1,87 @@
+// Settles the focus among the fields of one thread: returns, suppressed visits, and focus lent to the fields' own
+// boxes.
+#pragma once
+
+#include "platform/win32/window.h"
+
+#include <windows.h>
+
+#include <functional>
+#include <vector>
+
+namespace vela::win32 {
+
+class EditBox;
+
+// A field that is being left may ask for the focus back. The change goes on to its end; then a message of the
+// arbiter's own gives it back. The field that had it in between neither entered nor left.
+// A pop-up or box of a field borrows the focus: the field has not been left until the focus goes elsewhere.
+class FocusArbiter final : private WindowHandler {
+public:
+    // Lives as long as anybody of the thread holds it.
+    [[nodiscard]] static FocusArbiter& retain();
+    static void release() noexcept;
+    [[nodiscard]] static FocusArbiter* ofThread() noexcept; // null when nobody holds it
+
+    // A notification of the focus is running, for a scope.
+    class Change {
+    public:
+        Change(FocusArbiter& arbiter, bool mayReturn) noexcept;
+        Change(const Change&) = delete;
+        Change& operator=(const Change&) = delete;
+        ~Change();
+
+    private:
+        FocusArbiter& arbiter_;
+        bool mayReturnBefore_;
+    };
+    // The focus leaves for a box of our own, for a scope.
+    class Hold {
+    public:
+        Hold() noexcept;
+        Hold(const Hold&) = delete;
+        Hold& operator=(const Hold&) = delete;
+        ~Hold();
+
+    private:
+        FocusArbiter& arbiter_;
+    };
+
+    [[nodiscard]] bool changing() const noexcept { return depth_ > 0 || returning_ != nullptr; }
+    void askReturn(EditBox& box);
+    [[nodiscard]] bool returnsTo(const EditBox& box) const noexcept { return returning_ == &box; }
+    [[nodiscard]] bool suppresses(const EditBox& entering) const noexcept;
+    void entering(EditBox& box); // a lender that is another leaves first
+    void regained(EditBox& box) noexcept;
+    [[nodiscard]] bool borrows(HWND next) const noexcept;
+    void lend(EditBox& box) noexcept;
+    void addBorrower(HWND topLevel);
+    void removeBorrower(HWND topLevel) noexcept;
+    void settleLater() noexcept;
+    void forget(EditBox& box) noexcept;
+    // Run by the message loop, after the change that is going on and its return.
+    void later(std::function<void()> work);
+
+private:
+    FocusArbiter();
+    ~FocusArbiter();
+
+    LRESULT handle(HWND window, UINT message, WPARAM first, LPARAM second) override;
+    void unbound() override { window_ = nullptr; }
+    void settle();
+    void giveBack();
+    void endLoan();
+    void runLater();
+
+    HWND window_ = nullptr;
+    EditBox* returning_ = nullptr;
+    EditBox* lender_ = nullptr;
+    std::vector<HWND> borrowers_;
+    std::vector<std::function<void()>> later_;
+    int users_ = 0;
+    int depth_ = 0;
+    int holds_ = 0;
+    bool mayReturn_ = true;
+};
+
+} // namespace vela::win32

@@ -1,0 +1,99 @@
+// Registers the window classes and passes each message to the bound handler, behind the guard.
+#include "platform/win32/window.h"
+
+#include "platform/win32/guard.h"
+#include "platform/win32/module.h"
+
+#include <array>
+
+namespace vela::win32 {
+namespace {
+
+LRESULT dispatch(HWND window, UINT message, WPARAM first, LPARAM second)
+{
+    if (message == WM_NCCREATE) {
+        const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(second);
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
+        return DefWindowProcW(window, message, first, second);
+    }
+    auto* handler = reinterpret_cast<WindowHandler*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!handler)
+        return DefWindowProcW(window, message, first, second);
+    if (message == WM_NCDESTROY) {
+        unbind(window);
+        handler->unbound();
+        return DefWindowProcW(window, message, first, second);
+    }
+    return handler->handle(window, message, first, second);
+}
+
+LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
+{
+    return guarded([&] { return dispatch(window, message, first, second); }, LRESULT{0});
+}
+
+struct WindowClass {
+    const wchar_t* name;
+    UINT style;
+    bool registered = false;
+};
+
+// A class name is per module, so that two copies of this library in one process do not meet.
+std::array<WindowClass, 3>& classes() noexcept
+{
+    static std::array<WindowClass, 3> all{{{L"VelaControl", CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW},
+                                           {L"VelaForm", CS_DBLCLKS | CS_DROPSHADOW},
+                                           {L"VelaMessages", 0}}};
+    return all;
+}
+
+const wchar_t* registered(WindowClass& wanted) noexcept
+{
+    if (!wanted.registered) {
+        WNDCLASSEXW description{};
+        description.cbSize = sizeof description;
+        description.style = wanted.style;
+        description.lpfnWndProc = procedure;
+        description.hInstance = thisModule();
+        description.hCursor = LoadCursorW(nullptr, reinterpret_cast<const wchar_t*>(IDC_ARROW));
+        description.lpszClassName = wanted.name;
+        wanted.registered = RegisterClassExW(&description) != 0 || GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
+    }
+    return wanted.name;
+}
+
+} // namespace
+
+const wchar_t* surfaceClass() noexcept
+{
+    return registered(classes()[0]);
+}
+const wchar_t* formClass() noexcept
+{
+    return registered(classes()[1]);
+}
+const wchar_t* messageClass() noexcept
+{
+    return registered(classes()[2]);
+}
+
+void unregisterClasses() noexcept
+{
+    for (WindowClass& each : classes())
+        if (each.registered && UnregisterClassW(each.name, thisModule()))
+            each.registered = false;
+}
+
+HWND createBound(const wchar_t* windowClass, WindowHandler& handler, DWORD extendedStyle, DWORD style,
+                 const RECT& place, HWND parent) noexcept
+{
+    return CreateWindowExW(extendedStyle, windowClass, L"", style, place.left, place.top, place.right - place.left,
+                           place.bottom - place.top, parent, nullptr, thisModule(), &handler);
+}
+
+void unbind(HWND window) noexcept
+{
+    SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+}
+
+} // namespace vela::win32
