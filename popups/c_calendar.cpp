@@ -79,8 +79,8 @@ void cCalendar::chooseYear(int index)
 void cCalendar::pick(int cell)
 {
     clickDay(cell);
-    if (picked)
-        picked();
+    if (const auto tell = picked) // a copy: the host may take the function away while it runs
+        tell();
 }
 
 void cCalendar::clicked(platform::WidgetId widget)
