@@ -131,7 +131,7 @@ std::u16string lowerCase(std::u16string_view text)
 bool containsIgnoringCase(std::u16string_view text, std::u16string_view part) noexcept
 {
     const auto same = [](char16_t a, char16_t b) { return a == b || lowerCase(a) == lowerCase(b); };
-    return !std::ranges::search(text, part, same).empty() || part.empty();
+    return part.empty() || std::search(text.begin(), text.end(), part.begin(), part.end(), same) != text.end();
 }
 
 void properCase(std::u16string_view text, std::u16string& into)
