@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -46,6 +47,17 @@ CalculatorAnswer press(CalculatorModel& model, const std::u16string& display, in
     }
 }
 
+// A text whose decimals do not fit is not handed over.
+void handOver(CalculatorModel& model, std::u16string& display, std::u16string text)
+{
+    try {
+        model.handOver(vela::popups::hasDecimals(text));
+        display = std::move(text);
+    } catch (const vela::engine::Error& error) {
+        require(error.number == vela::engine::error_number::overflow);
+    }
+}
+
 void checkBounds(const CalculatorModel& model)
 {
     require(model.operandCount() >= 0 && model.operandCount() <= 1);
@@ -65,8 +77,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (std::size_t at = 1; at < size; ++at) {
         if (data[at] == 255 && at + 1 < size) {
             const std::size_t length = std::min<std::size_t>(data[at + 1], size - at - 2);
-            display.assign(data + at + 2, data + at + 2 + length);
-            model.handOver(vela::popups::hasDecimals(display));
+            handOver(model, display, std::u16string(data + at + 2, data + at + 2 + length));
             at += 1 + length;
             continue;
         }

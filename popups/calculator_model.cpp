@@ -17,11 +17,6 @@ double fitting(double number)
     return number;
 }
 
-double readOperand(std::u16string_view display)
-{
-    return fitting(engine::leadingNumber(display));
-}
-
 } // namespace
 
 void CalculatorModel::handOver(bool decimalFlag) noexcept
@@ -70,9 +65,9 @@ CalculatorAnswer CalculatorModel::operation(std::u16string_view display, int ind
     if (next.last == LastInput::number)
         ++next.count;
     if (next.count == 1)
-        next.first = readOperand(display);
+        next.first = engine::leadingNumber(display);
     if (next.count == 2) {
-        next.second = readOperand(display);
+        next.second = engine::leadingNumber(display);
         answer.dividedByZero = !applyPending(next);
         answer.display = engine::numberToText(next.first, locale);
         next.count = 1;
@@ -103,7 +98,7 @@ bool CalculatorModel::applyPending(State& state)
 
 CalculatorAnswer CalculatorModel::percent(std::u16string_view display, const engine::Locale& locale) const
 {
-    return {engine::numberToText(fitting(readOperand(display) * state_.first) / 100, locale)};
+    return {engine::numberToText(fitting(engine::leadingNumber(display) * state_.first) / 100, locale)};
 }
 
 CalculatorAnswer CalculatorModel::eraseLast(std::u16string_view display)
@@ -134,7 +129,7 @@ CalculatorAnswer CalculatorModel::clearAll()
     return {u"0.", CalculatorFocus::zero};
 }
 
-bool hasDecimals(std::u16string_view text) noexcept
+bool hasDecimals(std::u16string_view text)
 {
     const std::size_t comma = text.find(u',');
     return comma != std::u16string_view::npos && engine::leadingNumber(text.substr(comma + 1)) != 0;

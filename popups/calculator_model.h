@@ -61,7 +61,8 @@ private:
     State state_;
 };
 
-// What the digits after the first "," say: "12,00" false, "12,50" true, "12" false.
-[[nodiscard]] bool hasDecimals(std::u16string_view text) noexcept;
+// What the digits after the first "," say: "12,00" false, "12,50" true, "12" false. Raises 6 beyond a double:
+// "0,1e999".
+[[nodiscard]] bool hasDecimals(std::u16string_view text);
 
 } // namespace vela::popups
