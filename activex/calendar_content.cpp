@@ -1,0 +1,212 @@
+// The free-standing calendar between its shell and its form.
+#include "activex/calendar_content.h"
+
+#include "activex/com/guard.h"
+#include "activex/form_picture.h"
+#include "activex/guids.h"
+#include "activex/ole/browsing.h"
+#include "platform/win32/dpi.h"
+#include "popups/calendar_layout.h"
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <olectl.h>
+
+namespace vela::activex {
+
+namespace {
+
+enum Operation : std::size_t { selected, start, highlight };
+
+constexpr Member calendarMembers[] = {
+    {.name = u"DateInitial",
+     .id = DISPID_VALUE,
+     .access = DISPATCH_PROPERTYGET,
+     .bindable = true,
+     .category = category::data,
+     .row = selected},
+    {.name = u"IniciaCalendario", .id = 1, .access = DISPATCH_METHOD, .parameters = 1, .row = start},
+    {.name = u"IncluiDataRealcada", .id = 2, .access = DISPATCH_METHOD, .parameters = 1, .row = highlight},
+};
+
+// A click into the calendar makes it the active object of its form.
+LRESULT CALLBACK watchClicks(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id, DWORD_PTR shell)
+{
+    if (message == WM_NCDESTROY)
+        RemoveWindowSubclass(window, watchClicks, id);
+    const LRESULT result = DefSubclassProc(window, message, first, second);
+    if (message == WM_MOUSEACTIVATE)
+        reinterpret_cast<Shell*>(shell)->focusMoved(true);
+    return result;
+}
+
+} // namespace
+
+const ClassFacts& calendarFacts() noexcept
+{
+    static const ClassFacts facts{
+        calendarClass, calendarInterface, &calendarEvents, u"Vela.cCalendar.1", u"cCalendar", {}, {}, {184, 167}};
+    return facts;
+}
+
+CalendarContent::CalendarContent(Shell& shell)
+    : shell_(shell), session_(Session::current()),
+      calendar_(session_->environment, session_->forms, session_->popups.colours), size_(calendarFacts().size)
+{
+    calendar_.picked = [this] { picked(); };
+}
+
+CalendarContent::~CalendarContent()
+{
+    terminate();
+}
+
+win32::Form& CalendarContent::form() const
+{
+    return static_cast<win32::Form&>(calendar_.form());
+}
+
+void CalendarContent::picked()
+{
+    const Shell::Hold hold(shell_);
+    shell_.propertyChanged(DISPID_VALUE);
+    shell_.fire(DISPID_CLICK);
+}
+
+std::span<const Member> CalendarContent::members() const noexcept
+{
+    return calendarMembers;
+}
+
+Variant CalendarContent::get(const Member&)
+{
+    return variantFromValue(calendar_.selectedDate());
+}
+
+void CalendarContent::put(const Member&, const VARIANT&)
+{
+    engine::raise(engine::error_number::unsupportedMember);
+}
+
+Variant CalendarContent::call(const Member& member, const Arguments& arguments)
+{
+    const engine::Value date = valueFromVariant(arguments[0]);
+    if (member.row == highlight)
+        return variantFromValue(calendar_.IncluiDataRealcada(date));
+    Variant result = variantFromValue(calendar_.IniciaCalendario(date));
+    shell_.propertyChanged(DISPID_VALUE);
+    return result;
+}
+
+void CalendarContent::initNew()
+{
+    calendar_.initNew();
+}
+
+void CalendarContent::load(platform::PropertyBag& bag)
+{
+    calendar_.load(bag);
+}
+
+void CalendarContent::save(platform::PropertyBag& bag)
+{
+    calendar_.save(bag);
+}
+
+void CalendarContent::terminate() noexcept
+{
+    calendar_.picked = nullptr;
+    detach();
+}
+
+HWND CalendarContent::window() const noexcept
+{
+    return attached_ ? form().handle() : nullptr;
+}
+
+void CalendarContent::attach(HWND parent, const RECT& place)
+{
+    form().showChild(parent, place);
+    if (!attached_)
+        SetWindowSubclass(form().handle(), watchClicks, 0, reinterpret_cast<DWORD_PTR>(&shell_));
+    attached_ = true;
+    size_ = {place.right - place.left, place.bottom - place.top};
+}
+
+void CalendarContent::detach() noexcept
+{
+    if (!std::exchange(attached_, false))
+        return;
+    RemoveWindowSubclass(form().handle(), watchClicks, 0);
+    contained([&] { form().leaveParent(); });
+}
+
+void CalendarContent::place(const RECT& place)
+{
+    form().moveChild(place);
+    size_ = {place.right - place.left, place.bottom - place.top};
+}
+
+void CalendarContent::show(bool visible)
+{
+    if (attached_)
+        form().showChildWindow(visible);
+}
+
+FieldSize CalendarContent::size()
+{
+    return size_;
+}
+
+void CalendarContent::resize(FieldSize size)
+{
+    size_ = size;
+}
+
+void CalendarContent::takeFocus()
+{
+    if (attached_)
+        SetFocus(GetWindow(form().handle(), GW_CHILD));
+}
+
+bool CalendarContent::hasFocus() const
+{
+    const HWND focus = GetFocus();
+    return attached_ && focus && (focus == form().handle() || IsChild(form().handle(), focus));
+}
+
+bool CalendarContent::wantsKey(const MSG& message) const
+{
+    if (message.message != WM_KEYDOWN)
+        return false;
+    switch (message.wParam) {
+    case VK_LEFT:
+    case VK_RIGHT:
+    case VK_UP:
+    case VK_DOWN:
+    case VK_PRIOR:
+    case VK_NEXT:
+    case VK_HOME:
+    case VK_END:
+    case VK_RETURN: return true;
+    default: return false;
+    }
+}
+
+int CalendarContent::dpi()
+{
+    return win32::dpiOf(window());
+}
+
+void CalendarContent::draw(HDC dc, const RECT& bounds)
+{
+    drawForm(dc, bounds, popups::calendarControlLayout(), form(), session_->popups.colours.form);
+}
+
+std::u16string CalendarContent::plainText()
+{
+    return calendar_.grid().selectedText();
+}
+
+} // namespace vela::activex

@@ -1,0 +1,87 @@
+// Enumerators of COM over a list fixed when they are made: connection points, connections, formats, verbs.
+#pragma once
+
+#include "activex/com/guard.h"
+#include "activex/com/module_lock.h"
+
+#include <memory>
+#include <vector>
+
+namespace vela::activex {
+
+// Copy: `static void give(const Kept&, Given&)` writes an element the caller will own.
+template <class Interface, class Given, class Kept, class Copy>
+class Enumerator final : public Interface {
+public:
+    using List = std::shared_ptr<const std::vector<Kept>>;
+
+    [[nodiscard]] static ComPtr<Interface> make(List list, std::size_t next = 0)
+    {
+        return ComPtr<Interface>::adopt(new Enumerator(std::move(list), next));
+    }
+    Enumerator(const Enumerator&) = delete;
+    Enumerator& operator=(const Enumerator&) = delete;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override
+    {
+        if (!object)
+            return E_POINTER;
+        *object = nullptr;
+        if (iid != IID_IUnknown && iid != __uuidof(Interface))
+            return E_NOINTERFACE;
+        *object = static_cast<Interface*>(this);
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() noexcept override
+    {
+        const ULONG left = --references_;
+        if (left == 0)
+            delete this;
+        return left;
+    }
+
+    HRESULT STDMETHODCALLTYPE Next(ULONG wanted, Given* into, ULONG* fetched) noexcept override
+    {
+        if (!into || (!fetched && wanted != 1))
+            return E_POINTER;
+        ULONG given = 0;
+        const HRESULT result = guarded([&] {
+            for (; given < wanted && next_ < list_->size(); ++given, ++next_)
+                Copy::give((*list_)[next_], into[given]);
+            return given == wanted ? S_OK : S_FALSE;
+        });
+        if (fetched)
+            *fetched = given;
+        return result;
+    }
+    HRESULT STDMETHODCALLTYPE Skip(ULONG count) noexcept override
+    {
+        const std::size_t left = list_->size() - next_;
+        next_ += count < left ? count : left;
+        return count <= left ? S_OK : S_FALSE;
+    }
+    HRESULT STDMETHODCALLTYPE Reset() noexcept override
+    {
+        next_ = 0;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE Clone(Interface** copy) noexcept override
+    {
+        if (!copy)
+            return E_POINTER;
+        return guarded([&] { *copy = make(list_, next_).release(); });
+    }
+
+private:
+    Enumerator(List list, std::size_t next) : list_(std::move(list)), next_(next) {}
+    ~Enumerator() = default;
+
+    ModuleLock lock_;
+    ULONG references_ = 1;
+    List list_;
+    std::size_t next_;
+};
+
+} // namespace vela::activex

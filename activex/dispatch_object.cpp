@@ -1,0 +1,50 @@
+// Late-bound reading and writing of properties.
+#include "activex/dispatch_object.h"
+
+#include "activex/com/guard.h"
+#include "activex/com/variants.h"
+
+namespace vela::activex {
+
+namespace {
+
+void invoke(IDispatch& object, DISPID id, WORD flags, DISPPARAMS& parameters, VARIANT* result)
+{
+    EXCEPINFO info{};
+    const HRESULT outcome =
+        object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, result, &info, nullptr);
+    if (outcome == DISP_E_EXCEPTION)
+        throw errorFromException(info);
+    if (FAILED(outcome))
+        throw errorFromHresult(outcome);
+}
+
+} // namespace
+
+DISPID DispatchObject::find(std::u16string_view name) const
+{
+    const std::u16string text(name);
+    auto* wanted = const_cast<wchar_t*>(asWide(text));
+    DISPID id = DISPID_UNKNOWN;
+    if (FAILED(object_->GetIDsOfNames(IID_NULL, &wanted, 1, LOCALE_USER_DEFAULT, &id)))
+        engine::raise(engine::error_number::unsupportedMember);
+    return id;
+}
+
+engine::Value DispatchObject::get(std::u16string_view name)
+{
+    DISPPARAMS none{};
+    Variant result;
+    invoke(*object_.get(), find(name), DISPATCH_PROPERTYGET, none, result.put());
+    return valueFromVariant(result.get());
+}
+
+void DispatchObject::put(std::u16string_view name, const engine::Value& value)
+{
+    Variant given = variantFromValue(value);
+    DISPID valueName = DISPID_PROPERTYPUT;
+    DISPPARAMS parameters{&given.ref(), &valueName, 1, 1};
+    invoke(*object_.get(), find(name), DISPATCH_PROPERTYPUT, parameters, nullptr);
+}
+
+} // namespace vela::activex

@@ -1,0 +1,192 @@
+// Fonts of the control as font objects of the system.
+#include "activex/font_object.h"
+
+#include "activex/com/guard.h"
+
+#include <olectl.h>
+
+#include <cmath>
+
+namespace vela::activex {
+
+namespace {
+
+constexpr double sizeUnits = 10000; // a size in points is a currency value
+
+void check(HRESULT result)
+{
+    if (FAILED(result))
+        throw errorFromHresult(result);
+}
+
+platform::FontDescription describe(IFont& font)
+{
+    Bstr name;
+    CY size{};
+    BOOL bold = FALSE;
+    BOOL italic = FALSE;
+    BOOL underline = FALSE;
+    BOOL strikethrough = FALSE;
+    check(font.get_Name(name.put()));
+    check(font.get_Size(&size));
+    check(font.get_Bold(&bold));
+    check(font.get_Italic(&italic));
+    check(font.get_Underline(&underline));
+    check(font.get_Strikethrough(&strikethrough));
+    return {std::u16string(name.text()),
+            static_cast<double>(size.int64) / sizeUnits,
+            bold != FALSE,
+            italic != FALSE,
+            underline != FALSE,
+            strikethrough != FALSE};
+}
+
+CY sizeOf(const platform::FontDescription& description)
+{
+    CY size;
+    size.int64 = std::llround(description.size * sizeUnits);
+    return size;
+}
+
+ComPtr<IFont> makeFont(const platform::FontDescription& description)
+{
+    FONTDESC wanted{};
+    wanted.cbSizeofstruct = sizeof wanted;
+    wanted.lpstrName = const_cast<wchar_t*>(asWide(description.name));
+    wanted.cySize = sizeOf(description);
+    wanted.sWeight = description.bold ? FW_BOLD : FW_NORMAL;
+    wanted.sCharset = DEFAULT_CHARSET;
+    wanted.fItalic = description.italic;
+    wanted.fUnderline = description.underline;
+    wanted.fStrikethrough = description.strikethrough;
+    ComPtr<IFont> font;
+    check(OleCreateFontIndirect(&wanted, IID_IFont, font.putVoid()));
+    return font;
+}
+
+void write(IFont& font, const platform::FontDescription& description)
+{
+    check(font.put_Name(Bstr(description.name).get()));
+    check(font.put_Size(sizeOf(description)));
+    check(font.put_Bold(description.bold));
+    check(font.put_Italic(description.italic));
+    check(font.put_Underline(description.underline));
+    check(font.put_Strikethrough(description.strikethrough));
+}
+
+} // namespace
+
+class FontObject::Sink final : public IPropertyNotifySink {
+public:
+    explicit Sink(FontObject& owner) noexcept : owner_(&owner) {}
+    Sink(const Sink&) = delete;
+    Sink& operator=(const Sink&) = delete;
+
+    void forget() noexcept { owner_ = nullptr; } // the font object may outlive the control
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override
+    {
+        if (!object)
+            return E_POINTER;
+        *object = nullptr;
+        if (iid != IID_IUnknown && iid != IID_IPropertyNotifySink)
+            return E_NOINTERFACE;
+        *object = static_cast<IPropertyNotifySink*>(this);
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() noexcept override
+    {
+        const ULONG left = --references_;
+        if (left == 0)
+            delete this;
+        return left;
+    }
+    HRESULT STDMETHODCALLTYPE OnChanged(DISPID) noexcept override
+    {
+        if (owner_)
+            owner_->heard();
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) noexcept override { return S_OK; }
+
+private:
+    ~Sink() = default;
+    FontObject* owner_;
+    ULONG references_ = 1;
+};
+
+std::optional<platform::FontDescription> describeFont(IUnknown* object)
+{
+    const auto font = ComPtr<IFont>::from(object);
+    if (!font)
+        return std::nullopt;
+    return describe(*font.get());
+}
+
+FontObject::FontObject(Changed changed) : changed_(std::move(changed)) {}
+
+FontObject::~FontObject()
+{
+    forget();
+}
+
+ComPtr<IFontDisp> FontObject::object(const platform::FontDescription& description)
+{
+    if (!font_) {
+        font_ = makeFont(description);
+        listen();
+    } else if (describe(*font_.get()) != description) {
+        writing_ = true;
+        const HRESULT written = guarded([&] { write(*font_.get(), description); });
+        writing_ = false;
+        check(written);
+    }
+    auto object = ComPtr<IFontDisp>::from(font_.get());
+    if (!object)
+        engine::raise(engine::error_number::outOfMemory);
+    return object;
+}
+
+platform::FontDescription FontObject::adopt(IUnknown* object)
+{
+    auto font = ComPtr<IFont>::from(object);
+    if (!font)
+        engine::raise(engine::error_number::typeMismatch);
+    platform::FontDescription description = describe(*font.get());
+    forget();
+    font_ = std::move(font);
+    listen();
+    return description;
+}
+
+void FontObject::listen()
+{
+    const auto container = ComPtr<IConnectionPointContainer>::from(font_.get());
+    if (!container || FAILED(container->FindConnectionPoint(IID_IPropertyNotifySink, point_.put())))
+        return; // a font that never changes
+    sink_ = ComPtr<Sink>::adopt(new Sink(*this));
+    if (FAILED(point_->Advise(sink_.get(), &cookie_)))
+        forget();
+}
+
+void FontObject::forget() noexcept
+{
+    if (sink_)
+        sink_->forget();
+    if (point_ && cookie_ != 0)
+        point_->Unadvise(cookie_);
+    cookie_ = 0;
+    sink_.reset();
+    point_.reset();
+}
+
+void FontObject::heard() noexcept
+{
+    if (writing_ || !font_)
+        return;
+    contained([&] { changed_(describe(*font_.get())); });
+}
+
+} // namespace vela::activex

@@ -1,0 +1,46 @@
+// The font object that a control hands out and takes: the system's own, heard when somebody changes it.
+#pragma once
+
+#include "activex/com/owners.h"
+#include "platform/edit_box.h"
+
+#include <ocidl.h>
+
+#include <functional>
+#include <optional>
+
+namespace vela::activex {
+
+// Nothing for an object that is no font. 8.25 points stay 8.25.
+[[nodiscard]] std::optional<platform::FontDescription> describeFont(IUnknown* font);
+
+class FontObject {
+public:
+    using Changed = std::function<void(const platform::FontDescription&)>;
+
+    explicit FontObject(Changed changed);
+    FontObject(const FontObject&) = delete;
+    FontObject& operator=(const FontObject&) = delete;
+    ~FontObject();
+
+    // The object that stands for the control's font, brought up to this description. Raises 7 when there can be none.
+    [[nodiscard]] ComPtr<IFontDisp> object(const platform::FontDescription& description);
+    // From now on this one stands for it. Raises 13 for an object that is no font.
+    platform::FontDescription adopt(IUnknown* font);
+
+private:
+    class Sink;
+
+    void listen();
+    void forget() noexcept;
+    void heard() noexcept;
+
+    Changed changed_;
+    ComPtr<IFont> font_;
+    ComPtr<IConnectionPoint> point_;
+    ComPtr<Sink> sink_;
+    DWORD cookie_ = 0;
+    bool writing_ = false; // the change is the control's own
+};
+
+} // namespace vela::activex

@@ -1,0 +1,169 @@
+// In-place activation and its undoing. A host may close the control inside any call made here.
+#include "activex/ole/activation.h"
+
+#include "activex/com/guard.h"
+#include "activex/ole/shell.h"
+
+namespace vela::activex {
+
+namespace {
+
+bool contains(const RECT& outer, const RECT& inner) noexcept
+{
+    return outer.left <= inner.left && outer.top <= inner.top && outer.right >= inner.right &&
+           outer.bottom >= inner.bottom;
+}
+
+} // namespace
+
+HRESULT Activation::activate()
+{
+    if (inPlace_) {
+        shell_.content().show(true);
+        return S_OK;
+    }
+    auto site = shell_.site().offers<IOleInPlaceSite>();
+    if (!site)
+        return shell_.site() ? E_FAIL : OLE_E_NOT_INPLACEACTIVE;
+    if (const HRESULT may = site->CanInPlaceActivate(); may != S_OK)
+        return FAILED(may) ? may : E_FAIL;
+    if (const HRESULT begun = begin(*site.get()); FAILED(begun)) {
+        deactivate();
+        return begun;
+    }
+    if (inPlace_)
+        if (const auto client = ComPtr<IOleClientSite>::share(shell_.site().client()))
+            client->ShowObject();
+    return S_OK;
+}
+
+HRESULT Activation::begin(IOleInPlaceSite& site)
+{
+    if (const HRESULT told = site.OnInPlaceActivate(); FAILED(told))
+        return told;
+    site_ = ComPtr<IOleInPlaceSite>::share(&site);
+    inPlace_ = true;
+    HWND parent = nullptr;
+    if (const HRESULT known = site.GetWindow(&parent); FAILED(known))
+        return known;
+    RECT place{};
+    RECT bounds{};
+    OLEINPLACEFRAMEINFO info{};
+    info.cb = sizeof info;
+    if (const HRESULT context = site.GetWindowContext(frame_.put(), document_.put(), &place, &bounds, &info);
+        FAILED(context))
+        return context;
+    if (!inPlace_)
+        return E_FAIL; // closed inside the call
+    try {
+        shell_.content().attach(parent, place);
+    } catch (...) {
+        return reportCurrentException();
+    }
+    clip(place, bounds);
+    shell_.followWindow();
+    return S_OK;
+}
+
+HRESULT Activation::activateInterface(bool takeFocus)
+{
+    if (const HRESULT active = activate(); FAILED(active))
+        return active;
+    if (!interface_ && inPlace_) {
+        interface_ = true;
+        const auto site = site_.shared();
+        if (const HRESULT told = site->OnUIActivate(); FAILED(told)) {
+            interface_ = false;
+            return told;
+        }
+        if (interface_)
+            if (const auto active = ComPtr<IOleInPlaceActiveObject>::from(&shell_))
+                offer(active.get());
+    }
+    if (takeFocus && inPlace_ && !shell_.content().hasFocus())
+        shell_.content().takeFocus();
+    return inPlace_ ? S_OK : E_FAIL;
+}
+
+void Activation::offer(IOleInPlaceActiveObject* active) noexcept
+{
+    const wchar_t* const name = active ? asWide(shell_.facts().name.data()) : nullptr;
+    if (const auto frame = frame_.shared()) {
+        frame->SetActiveObject(active, name);
+        if (active)
+            frame->SetBorderSpace(nullptr);
+    }
+    if (const auto document = document_.shared()) {
+        document->SetActiveObject(active, name);
+        if (active)
+            document->SetBorderSpace(nullptr);
+    }
+}
+
+void Activation::deactivateInterface() noexcept
+{
+    if (!interface_)
+        return;
+    interface_ = false;
+    offer(nullptr);
+    if (const auto site = site_.shared())
+        site->OnUIDeactivate(FALSE);
+}
+
+void Activation::deactivate() noexcept
+{
+    if (!inPlace_)
+        return;
+    deactivateInterface();
+    if (!inPlace_) // the host was quicker
+        return;
+    inPlace_ = false;
+    clipped_ = false;
+    if (Content* content = shell_.made())
+        content->detach();
+    frame_.reset();
+    document_.reset();
+    if (const auto site = std::move(site_))
+        site->OnInPlaceDeactivate();
+}
+
+void Activation::putRects(const RECT& place, const RECT& bounds)
+{
+    if (!inPlace_)
+        return;
+    shell_.content().place(place);
+    clip(place, bounds);
+    shell_.followWindow();
+}
+
+// The host's own window cuts its children already; a region is needed only where the host wants less shown.
+void Activation::clip(const RECT& place, const RECT& bounds) noexcept
+{
+    Content* const content = shell_.made();
+    const HWND window = content ? content->window() : nullptr;
+    if (!window || IsRectEmpty(&bounds))
+        return;
+    RECT shown{};
+    if (contains(bounds, place)) {
+        if (clipped_)
+            SetWindowRgn(window, nullptr, TRUE);
+        clipped_ = false;
+        return;
+    }
+    IntersectRect(&shown, &place, &bounds);
+    OffsetRect(&shown, -place.left, -place.top);
+    clipped_ = SetWindowRgn(window, CreateRectRgnIndirect(&shown), TRUE) != 0; // the window owns the region now
+}
+
+void Activation::enableModeless(bool enable) noexcept
+{
+    if (const auto frame = frame_.shared())
+        frame->EnableModeless(enable);
+}
+
+void Activation::windowLost() noexcept
+{
+    deactivate();
+}
+
+} // namespace vela::activex

@@ -1,0 +1,42 @@
+// The states of a control in its host: loaded, in place, with the user interface. Every step asks the site first.
+#pragma once
+
+#include "activex/com/owners.h"
+
+#include <ocidl.h>
+
+namespace vela::activex {
+
+class Shell;
+
+class Activation {
+public:
+    explicit Activation(Shell& shell) noexcept : shell_(shell) {}
+
+    [[nodiscard]] bool inPlace() const noexcept { return inPlace_; }
+    [[nodiscard]] bool withInterface() const noexcept { return interface_; }
+
+    // Raises what making the window raises; answers what the site refused with.
+    HRESULT activate();
+    HRESULT activateInterface(bool takeFocus);
+    void deactivateInterface() noexcept;
+    void deactivate() noexcept;
+    void putRects(const RECT& place, const RECT& clip);
+    void enableModeless(bool enable) noexcept;
+    void windowLost() noexcept; // the host destroyed the window without a word
+
+private:
+    HRESULT begin(IOleInPlaceSite& site);
+    void offer(IOleInPlaceActiveObject* active) noexcept;
+    void clip(const RECT& place, const RECT& clip) noexcept;
+
+    Shell& shell_;
+    ComPtr<IOleInPlaceSite> site_;
+    ComPtr<IOleInPlaceFrame> frame_;
+    ComPtr<IOleInPlaceUIWindow> document_;
+    bool inPlace_ = false;
+    bool interface_ = false;
+    bool clipped_ = false;
+};
+
+} // namespace vela::activex

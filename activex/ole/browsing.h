@@ -1,0 +1,58 @@
+// What property lists show of single properties: values by name, the page that edits one, categories.
+#pragma once
+
+#include "activex/com/part.h"
+
+#include <ocidl.h>
+
+namespace vela::activex {
+
+class Shell;
+
+class Browsing final : public Part<IPerPropertyBrowsing> {
+public:
+    explicit Browsing(Shell& shell) noexcept;
+
+    HRESULT STDMETHODCALLTYPE GetDisplayString(DISPID id, BSTR* text) noexcept override;
+    HRESULT STDMETHODCALLTYPE MapPropertyToPage(DISPID id, CLSID* page) noexcept override;
+    HRESULT STDMETHODCALLTYPE GetPredefinedStrings(DISPID id, CALPOLESTR* texts, CADWORD* cookies) noexcept override;
+    HRESULT STDMETHODCALLTYPE GetPredefinedValue(DISPID id, DWORD cookie, VARIANT* value) noexcept override;
+
+private:
+    Shell& shell_;
+};
+
+// The system's headers here do not declare it.
+struct ICategorizeProperties : public IUnknown {
+    virtual HRESULT STDMETHODCALLTYPE MapPropertyToCategory(DISPID id, int* category) noexcept = 0;
+    virtual HRESULT STDMETHODCALLTYPE GetCategoryName(int category, LCID locale, BSTR* name) noexcept = 0;
+
+protected:
+    ~ICategorizeProperties() = default;
+};
+// {4D07FC10-F931-11CE-B001-00AA006884E5}
+inline constexpr IID categorizePropertiesId{
+    0x4d07fc10, 0xf931, 0x11ce, {0xb0, 0x01, 0x00, 0xaa, 0x00, 0x68, 0x84, 0xe5}};
+
+// The hosts' own categories; those of a class count from 1.
+namespace category {
+inline constexpr int misc = -2;
+inline constexpr int font = -3;
+inline constexpr int appearance = -5;
+inline constexpr int behaviour = -6;
+inline constexpr int data = -7;
+inline constexpr int text = -9;
+} // namespace category
+
+class Categories final : public Part<ICategorizeProperties> {
+public:
+    explicit Categories(Shell& shell) noexcept;
+
+    HRESULT STDMETHODCALLTYPE MapPropertyToCategory(DISPID id, int* category) noexcept override;
+    HRESULT STDMETHODCALLTYPE GetCategoryName(int category, LCID locale, BSTR* name) noexcept override;
+
+private:
+    Shell& shell_;
+};
+
+} // namespace vela::activex

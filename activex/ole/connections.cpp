@@ -1,0 +1,197 @@
+// Connecting sinks, and telling them.
+#include "activex/ole/connections.h"
+
+#include "activex/com/enumerator.h"
+
+#include <olectl.h>
+
+#include <algorithm>
+
+namespace vela::activex {
+
+namespace {
+
+struct KeptConnection {
+    DWORD cookie;
+    ComPtr<IUnknown> sink;
+};
+
+struct CopyConnection {
+    static void give(const KeptConnection& from, CONNECTDATA& into)
+    {
+        into.dwCookie = from.cookie;
+        into.pUnk = from.sink.shared().release();
+    }
+};
+
+struct CopyPoint {
+    static void give(const ComPtr<IConnectionPoint>& from, IConnectionPoint*& into) { into = from.shared().release(); }
+};
+
+using ConnectionEnumerator = Enumerator<IEnumConnections, CONNECTDATA, KeptConnection, CopyConnection>;
+using PointEnumerator = Enumerator<IEnumConnectionPoints, IConnectionPoint*, ComPtr<IConnectionPoint>, CopyPoint>;
+
+constexpr std::size_t mostArguments = 2;
+
+// One call of one sink, the arguments by reference and, as automation wants them, last first.
+void invoke(IDispatch& sink, DISPID event, std::span<std::int16_t* const> arguments)
+{
+    VARIANTARG given[mostArguments];
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        VARIANTARG& argument = given[arguments.size() - 1 - i];
+        argument.vt = VT_BYREF | VT_I2;
+        argument.piVal = arguments[i];
+    }
+    DISPPARAMS parameters{given, nullptr, static_cast<UINT>(arguments.size()), 0};
+    Variant result;
+    EXCEPINFO info{};
+    if (sink.Invoke(event, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, result.put(), &info, nullptr) ==
+        DISP_E_EXCEPTION)
+        throw errorFromException(info);
+}
+
+} // namespace
+
+void Sinks::clear() noexcept
+{
+    const auto gone = std::move(sinks_); // a sink that goes may come back here
+    sinks_.clear();
+}
+
+ComPtr<IUnknown> Sinks::after(DWORD& told, DWORD newest) const noexcept
+{
+    for (const Connection& connection : sinks_)
+        if (connection.cookie > told && connection.cookie <= newest) {
+            told = connection.cookie;
+            return connection.sink.shared();
+        }
+    return {};
+}
+
+HRESULT Sinks::QueryInterface(REFIID iid, void** object) noexcept
+{
+    if (!object)
+        return E_POINTER;
+    *object = nullptr;
+    if (iid != IID_IUnknown && iid != IID_IConnectionPoint)
+        return E_NOINTERFACE;
+    *object = static_cast<IConnectionPoint*>(this);
+    AddRef();
+    return S_OK;
+}
+
+HRESULT Sinks::GetConnectionInterface(IID* iid) noexcept
+{
+    if (!iid)
+        return E_POINTER;
+    *iid = iid_ ? *iid_ : IID_NULL;
+    return S_OK;
+}
+
+HRESULT Sinks::GetConnectionPointContainer(IConnectionPointContainer** container) noexcept
+{
+    if (!container)
+        return E_POINTER;
+    container_.AddRef();
+    *container = &container_;
+    return S_OK;
+}
+
+HRESULT Sinks::Advise(IUnknown* sink, DWORD* cookie) noexcept
+{
+    if (!sink || !cookie)
+        return E_POINTER;
+    *cookie = 0;
+    if (!iid_)
+        return CONNECT_E_CANNOTCONNECT;
+    // Sinks of a dispinterface often answer to IDispatch alone.
+    const bool dispatched = *iid_ != IID_IPropertyNotifySink;
+    auto own = ComPtr<IUnknown>::from(sink, *iid_);
+    if (!own && dispatched)
+        own = ComPtr<IUnknown>::from(sink, IID_IDispatch);
+    if (!own)
+        return CONNECT_E_CANNOTCONNECT;
+    return guarded([&] {
+        sinks_.push_back({lastCookie_ + 1, std::move(own)});
+        *cookie = ++lastCookie_;
+    });
+}
+
+HRESULT Sinks::Unadvise(DWORD cookie) noexcept
+{
+    const auto found = std::find_if(sinks_.begin(), sinks_.end(),
+                                    [&](const Connection& connection) { return connection.cookie == cookie; });
+    if (found == sinks_.end())
+        return CONNECT_E_NOCONNECTION;
+    const auto gone = std::move(found->sink);
+    sinks_.erase(found);
+    return S_OK;
+}
+
+HRESULT Sinks::EnumConnections(IEnumConnections** connections) noexcept
+{
+    if (!connections)
+        return E_POINTER;
+    *connections = nullptr;
+    return guarded([&] {
+        auto list = std::make_shared<std::vector<KeptConnection>>();
+        for (const Connection& connection : sinks_)
+            list->push_back({connection.cookie, connection.sink.shared()});
+        *connections = ConnectionEnumerator::make(std::move(list)).release();
+    });
+}
+
+void Connections::clear() noexcept
+{
+    events_.clear();
+    properties_.clear();
+}
+
+void Connections::fire(DISPID event, std::span<std::int16_t* const> arguments)
+{
+    events_.each([&](IUnknown& sink) { invoke(static_cast<IDispatch&>(sink), event, arguments); });
+}
+
+void Connections::changed(DISPID property) noexcept
+{
+    properties_.each([&](IUnknown& sink) { static_cast<IPropertyNotifySink&>(sink).OnChanged(property); });
+}
+
+bool Connections::mayChange(DISPID property) noexcept
+{
+    bool may = true;
+    properties_.each([&](IUnknown& sink) {
+        may = may && static_cast<IPropertyNotifySink&>(sink).OnRequestEdit(property) != S_FALSE;
+    });
+    return may;
+}
+
+HRESULT Connections::EnumConnectionPoints(IEnumConnectionPoints** points) noexcept
+{
+    if (!points)
+        return E_POINTER;
+    *points = nullptr;
+    return guarded([&] {
+        auto list = std::make_shared<std::vector<ComPtr<IConnectionPoint>>>();
+        for (Sinks* sinks : {&events_, &properties_})
+            if (sinks->interfaceId())
+                list->push_back(ComPtr<IConnectionPoint>::share(sinks));
+        *points = PointEnumerator::make(std::move(list)).release();
+    });
+}
+
+HRESULT Connections::FindConnectionPoint(REFIID iid, IConnectionPoint** point) noexcept
+{
+    if (!point)
+        return E_POINTER;
+    *point = nullptr;
+    for (Sinks* sinks : {&events_, &properties_})
+        if (sinks->interfaceId() && *sinks->interfaceId() == iid) {
+            sinks->AddRef();
+            *point = sinks;
+            return S_OK;
+        }
+    return CONNECT_E_NOCONNECTION;
+}
+
+} // namespace vela::activex

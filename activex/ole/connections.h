@@ -1,0 +1,85 @@
+// The connection points of a control: its events and the notifications of changed properties.
+#pragma once
+
+#include "activex/com/owners.h"
+#include "activex/com/part.h"
+
+#include <ocidl.h>
+
+#include <span>
+#include <vector>
+
+namespace vela::activex {
+
+// The sinks of one interface. A sink may come or go while another is being told.
+class Sinks final : public IConnectionPoint {
+public:
+    // `iid` null: there is no such point.
+    Sinks(IConnectionPointContainer& container, const IID* iid) noexcept : container_(container), iid_(iid) {}
+    Sinks(const Sinks&) = delete;
+    Sinks& operator=(const Sinks&) = delete;
+
+    [[nodiscard]] const IID* interfaceId() const noexcept { return iid_; }
+    [[nodiscard]] bool empty() const noexcept { return sinks_.empty(); }
+    void clear() noexcept;
+    // Tells each sink that stands there when its turn comes, in the order of their coming; those that come meanwhile
+    // are not told. `tell` takes the sink's own interface, as IUnknown&.
+    template <class Tell>
+    void each(Tell&& tell)
+    {
+        const DWORD newest = lastCookie_;
+        for (DWORD told = 0; const auto sink = after(told, newest);)
+            tell(*sink.get());
+    }
+
+    // A connection point is an object of its own, kept by the whole's references.
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override;
+    ULONG STDMETHODCALLTYPE AddRef() noexcept override { return container_.AddRef(); }
+    ULONG STDMETHODCALLTYPE Release() noexcept override { return container_.Release(); }
+    HRESULT STDMETHODCALLTYPE GetConnectionInterface(IID* iid) noexcept override;
+    HRESULT STDMETHODCALLTYPE GetConnectionPointContainer(IConnectionPointContainer** container) noexcept override;
+    HRESULT STDMETHODCALLTYPE Advise(IUnknown* sink, DWORD* cookie) noexcept override;
+    HRESULT STDMETHODCALLTYPE Unadvise(DWORD cookie) noexcept override;
+    HRESULT STDMETHODCALLTYPE EnumConnections(IEnumConnections** connections) noexcept override;
+
+private:
+    struct Connection {
+        DWORD cookie;
+        ComPtr<IUnknown> sink;
+    };
+
+    // The first connection behind the cookie `told`, which becomes its cookie; none beyond `newest`.
+    [[nodiscard]] ComPtr<IUnknown> after(DWORD& told, DWORD newest) const noexcept;
+
+    IConnectionPointContainer& container_;
+    const IID* iid_;
+    std::vector<Connection> sinks_; // by cookie, rising
+    DWORD lastCookie_ = 0;
+};
+
+class Connections final : public Part<IConnectionPointContainer> {
+public:
+    Connections(IUnknown& whole, const IID* events) noexcept
+        : Part(whole), events_(*this, events), properties_(*this, &IID_IPropertyNotifySink)
+    {
+    }
+
+    [[nodiscard]] Sinks& events() noexcept { return events_; }
+    [[nodiscard]] Sinks& properties() noexcept { return properties_; }
+    void clear() noexcept;
+
+    // Raises what a handler raised; sinks that do not know the event are passed over. The handlers may write the
+    // arguments, which stand in the order of the event's parameters.
+    void fire(DISPID event, std::span<std::int16_t* const> arguments);
+    void changed(DISPID property) noexcept;
+    [[nodiscard]] bool mayChange(DISPID property) noexcept; // no sink refuses
+
+    HRESULT STDMETHODCALLTYPE EnumConnectionPoints(IEnumConnectionPoints** points) noexcept override;
+    HRESULT STDMETHODCALLTYPE FindConnectionPoint(REFIID iid, IConnectionPoint** point) noexcept override;
+
+private:
+    Sinks events_;
+    Sinks properties_;
+};
+
+} // namespace vela::activex

@@ -1,0 +1,234 @@
+// IDataObject of the shell.
+#include "activex/ole/data_object.h"
+
+#include "activex/com/enumerator.h"
+#include "activex/ole/shell.h"
+
+#include <cstring>
+#include <iterator>
+
+namespace vela::activex {
+
+namespace {
+
+constexpr FORMATETC formats[] = {
+    {CF_METAFILEPICT, nullptr, DVASPECT_CONTENT, -1, TYMED_MFPICT},
+    {CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1, TYMED_ENHMF},
+    {CF_UNICODETEXT, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL},
+    {CF_TEXT, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL},
+};
+
+struct CopyFormat {
+    static void give(const FORMATETC& from, FORMATETC& into) { into = from; }
+};
+using FormatEnumerator = Enumerator<IEnumFORMATETC, FORMATETC, FORMATETC, CopyFormat>;
+
+// Metafiles under construction; close() gives the handle away.
+class MetafileDc {
+public:
+    MetafileDc() noexcept : dc_(CreateMetaFileW(nullptr)) {}
+    MetafileDc(const MetafileDc&) = delete;
+    MetafileDc& operator=(const MetafileDc&) = delete;
+    ~MetafileDc()
+    {
+        if (dc_)
+            DeleteMetaFile(CloseMetaFile(dc_));
+    }
+    [[nodiscard]] HDC get() const noexcept { return dc_; }
+    [[nodiscard]] HMETAFILE close() noexcept { return CloseMetaFile(std::exchange(dc_, nullptr)); }
+
+private:
+    HDC dc_;
+};
+
+class EnhancedMetafileDc {
+public:
+    explicit EnhancedMetafileDc(const RECT& himetric) noexcept
+        : dc_(CreateEnhMetaFileW(nullptr, nullptr, &himetric, nullptr))
+    {
+    }
+    EnhancedMetafileDc(const EnhancedMetafileDc&) = delete;
+    EnhancedMetafileDc& operator=(const EnhancedMetafileDc&) = delete;
+    ~EnhancedMetafileDc()
+    {
+        if (dc_)
+            DeleteEnhMetaFile(CloseEnhMetaFile(dc_));
+    }
+    [[nodiscard]] HDC get() const noexcept { return dc_; }
+    [[nodiscard]] HENHMETAFILE close() noexcept { return CloseEnhMetaFile(std::exchange(dc_, nullptr)); }
+
+private:
+    HDC dc_;
+};
+
+HGLOBAL newBlock(const void* from, std::size_t size)
+{
+    const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, size);
+    void* const into = block ? GlobalLock(block) : nullptr;
+    if (!into)
+        throw std::bad_alloc();
+    std::memcpy(into, from, size);
+    GlobalUnlock(block);
+    return block;
+}
+
+void drawScaled(Shell& shell, HDC dc)
+{
+    const FieldSize size = shell.content().size();
+    SetMapMode(dc, MM_ANISOTROPIC);
+    SetWindowOrgEx(dc, 0, 0, nullptr);
+    SetWindowExtEx(dc, size.width, size.height, nullptr);
+    shell.content().draw(dc, {0, 0, size.width, size.height});
+}
+
+HRESULT giveMetafile(Shell& shell, STGMEDIUM& medium)
+{
+    MetafileDc dc;
+    if (!dc.get())
+        return E_OUTOFMEMORY;
+    drawScaled(shell, dc.get());
+    const SIZEL extent = shell.extent();
+    METAFILEPICT picture{MM_ANISOTROPIC, extent.cx, extent.cy, dc.close()};
+    medium.hMetaFilePict = newBlock(&picture, sizeof picture);
+    return S_OK;
+}
+
+HRESULT giveEnhancedMetafile(Shell& shell, STGMEDIUM& medium)
+{
+    const SIZEL extent = shell.extent();
+    EnhancedMetafileDc dc({0, 0, extent.cx, extent.cy});
+    if (!dc.get())
+        return E_OUTOFMEMORY;
+    const FieldSize size = shell.content().size();
+    shell.content().draw(dc.get(), {0, 0, size.width, size.height});
+    medium.hEnhMetaFile = dc.close();
+    return S_OK;
+}
+
+HRESULT giveText(Shell& shell, STGMEDIUM& medium)
+{
+    const std::u16string text = shell.content().plainText();
+    medium.hGlobal = newBlock(text.c_str(), (text.size() + 1) * sizeof(char16_t));
+    return S_OK;
+}
+
+HRESULT giveNarrowText(Shell& shell, STGMEDIUM& medium)
+{
+    const std::u16string text = shell.content().plainText();
+    const int length = static_cast<int>(text.size()) + 1;
+    const int size = WideCharToMultiByte(CP_ACP, 0, asWide(text), length, nullptr, 0, nullptr, nullptr);
+    std::string narrow(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(CP_ACP, 0, asWide(text), length, narrow.data(), size, nullptr, nullptr);
+    medium.hGlobal = newBlock(narrow.data(), narrow.size());
+    return S_OK;
+}
+
+HRESULT give(Shell& shell, const FORMATETC& format, STGMEDIUM& medium)
+{
+    switch (format.cfFormat) {
+    case CF_METAFILEPICT: return giveMetafile(shell, medium);
+    case CF_ENHMETAFILE: return giveEnhancedMetafile(shell, medium);
+    case CF_UNICODETEXT: return giveText(shell, medium);
+    default: return giveNarrowText(shell, medium);
+    }
+}
+
+const FORMATETC* find(const FORMATETC& wanted) noexcept
+{
+    for (const FORMATETC& format : formats)
+        if (format.cfFormat == wanted.cfFormat && (format.tymed & wanted.tymed))
+            return &format;
+    return nullptr;
+}
+
+} // namespace
+
+DataObject::DataObject(Shell& shell) noexcept : Part(shell), shell_(shell) {}
+
+void DataObject::changed() noexcept
+{
+    if (const auto advised = advised_.shared())
+        advised->SendOnDataChange(this, 0, 0);
+}
+
+HRESULT DataObject::GetData(FORMATETC* format, STGMEDIUM* medium) noexcept
+{
+    if (!format || !medium)
+        return E_POINTER;
+    *medium = {};
+    if (const HRESULT has = QueryGetData(format); has != S_OK)
+        return has;
+    return guarded([&] {
+        const FORMATETC& found = *find(*format);
+        const HRESULT given = give(shell_, found, *medium);
+        if (SUCCEEDED(given))
+            medium->tymed = found.tymed;
+        return given;
+    });
+}
+
+HRESULT DataObject::GetDataHere(FORMATETC*, STGMEDIUM*) noexcept
+{
+    return E_NOTIMPL;
+}
+
+HRESULT DataObject::QueryGetData(FORMATETC* format) noexcept
+{
+    if (!format)
+        return E_POINTER;
+    if (format->dwAspect != DVASPECT_CONTENT)
+        return DV_E_DVASPECT;
+    if (format->lindex != -1)
+        return DV_E_LINDEX;
+    return find(*format) ? S_OK : DV_E_FORMATETC;
+}
+
+HRESULT DataObject::GetCanonicalFormatEtc(FORMATETC* from, FORMATETC* into) noexcept
+{
+    if (!from || !into)
+        return E_POINTER;
+    *into = *from;
+    into->ptd = nullptr;
+    return DATA_S_SAMEFORMATETC;
+}
+
+HRESULT DataObject::SetData(FORMATETC*, STGMEDIUM*, BOOL) noexcept
+{
+    return E_NOTIMPL;
+}
+
+HRESULT DataObject::EnumFormatEtc(DWORD direction, IEnumFORMATETC** list) noexcept
+{
+    if (!list)
+        return E_POINTER;
+    *list = nullptr;
+    if (direction != DATADIR_GET)
+        return E_NOTIMPL;
+    return guarded([&] {
+        *list = FormatEnumerator::make(std::make_shared<std::vector<FORMATETC>>(std::begin(formats), std::end(formats)))
+                    .release();
+    });
+}
+
+HRESULT DataObject::DAdvise(FORMATETC* format, DWORD flags, IAdviseSink* sink, DWORD* connection) noexcept
+{
+    if (!advised_)
+        if (const HRESULT made = CreateDataAdviseHolder(advised_.put()); FAILED(made))
+            return made;
+    return advised_->Advise(this, format, flags, sink, connection);
+}
+
+HRESULT DataObject::DUnadvise(DWORD connection) noexcept
+{
+    return advised_ ? advised_->Unadvise(connection) : OLE_E_NOCONNECTION;
+}
+
+HRESULT DataObject::EnumDAdvise(IEnumSTATDATA** connections) noexcept
+{
+    if (!connections)
+        return E_POINTER;
+    *connections = nullptr;
+    return advised_ ? advised_->EnumAdvise(connections) : S_OK;
+}
+
+} // namespace vela::activex

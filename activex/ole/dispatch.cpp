@@ -1,0 +1,137 @@
+// IDispatch of the shell.
+#include "activex/ole/dispatch.h"
+
+#include "activex/com/guard.h"
+#include "activex/com/type_library.h"
+#include "activex/ole/shell.h"
+
+#include <algorithm>
+
+namespace vela::activex {
+
+namespace {
+
+constexpr WORD puts = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
+
+// The public names are of ASCII letters, digits and "_".
+constexpr char16_t lower(char16_t unit) noexcept
+{
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
+}
+
+bool sameName(std::u16string_view left, std::u16string_view right) noexcept
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](char16_t a, char16_t b) { return lower(a) == lower(b); });
+}
+
+} // namespace
+
+const Member* findMember(std::span<const Member> members, DISPID id) noexcept
+{
+    const auto found = std::lower_bound(members.begin(), members.end(), id,
+                                        [](const Member& member, DISPID wanted) { return member.id < wanted; });
+    return found != members.end() && found->id == id ? &*found : nullptr;
+}
+
+const Member* findMember(std::span<const Member> members, std::u16string_view name) noexcept
+{
+    const auto found =
+        std::find_if(members.begin(), members.end(), [&](const Member& member) { return sameName(member.name, name); });
+    return found != members.end() ? &*found : nullptr;
+}
+
+Dispatch::Dispatch(Shell& shell) noexcept : Part(shell), shell_(shell) {}
+
+HRESULT Dispatch::GetTypeInfoCount(UINT* count) noexcept
+{
+    if (!count)
+        return E_POINTER;
+    *count = 1;
+    return S_OK;
+}
+
+HRESULT Dispatch::GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept
+{
+    if (!info)
+        return E_POINTER;
+    *info = nullptr;
+    return index == 0 ? loadTypeInfo(shell_.facts().members, info) : DISP_E_BADINDEX;
+}
+
+// Parameters have no names to be passed by.
+HRESULT Dispatch::GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept
+{
+    if (iid != IID_NULL)
+        return DISP_E_UNKNOWNINTERFACE;
+    if (!names || !ids || count == 0)
+        return E_INVALIDARG;
+    std::fill_n(ids, count, DISPID_UNKNOWN);
+    return guarded([&]() -> HRESULT {
+        const std::wstring_view name(names[0] ? names[0] : L"");
+        const Member* const member = findMember(shell_.content().members(), asText(name.data(), name.size()));
+        if (!member)
+            return DISP_E_UNKNOWNNAME;
+        ids[0] = member->id;
+        return count == 1 ? S_OK : DISP_E_UNKNOWNNAME;
+    });
+}
+
+HRESULT Dispatch::Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+                         EXCEPINFO* exception, UINT* argument) noexcept
+{
+    if (iid != IID_NULL)
+        return DISP_E_UNKNOWNINTERFACE;
+    if (!parameters)
+        return E_INVALIDARG;
+    if (result)
+        VariantInit(result);
+    if (argument)
+        *argument = 0;
+    const Shell::Hold hold(shell_);
+    try {
+        const Member* const member = findMember(shell_.content().members(), id);
+        if (!member || (member->access & flags) == 0)
+            return DISP_E_MEMBERNOTFOUND;
+        const Arguments arguments(*parameters);
+        if (arguments.named())
+            return DISP_E_NONAMEDARGS;
+        if (flags & member->access & puts)
+            return put(*member, arguments);
+        return member->access & DISPATCH_METHOD ? call(*member, arguments, result) : get(*member, arguments, result);
+    } catch (...) {
+        return exception ? describeCurrentException(exception) : reportCurrentException();
+    }
+}
+
+HRESULT Dispatch::get(const Member& member, const Arguments& arguments, VARIANT* result)
+{
+    if (arguments.count() != 0)
+        return DISP_E_BADPARAMCOUNT;
+    Variant value = shell_.content().get(member);
+    if (result)
+        *result = value.release();
+    return S_OK;
+}
+
+HRESULT Dispatch::put(const Member& member, const Arguments& arguments)
+{
+    if (arguments.count() != 1)
+        return DISP_E_BADPARAMCOUNT;
+    if (member.bindable)
+        shell_.requestEdit(member);
+    shell_.content().put(member, arguments[0]);
+    return S_OK;
+}
+
+HRESULT Dispatch::call(const Member& member, const Arguments& arguments, VARIANT* result)
+{
+    if (arguments.count() != static_cast<std::size_t>(member.parameters))
+        return DISP_E_BADPARAMCOUNT;
+    Variant value = shell_.content().call(member, arguments);
+    if (result)
+        *result = value.release();
+    return S_OK;
+}
+
+} // namespace vela::activex

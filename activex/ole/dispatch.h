@@ -1,0 +1,34 @@
+// Automation: names to DISPIDs, and calls by DISPID, from the content's list of members.
+#pragma once
+
+#include "activex/com/part.h"
+#include "activex/ole/content.h"
+
+namespace vela::activex {
+
+class Shell;
+
+// Null when there is none.
+[[nodiscard]] const Member* findMember(std::span<const Member> members, DISPID id) noexcept;
+[[nodiscard]] const Member* findMember(std::span<const Member> members, std::u16string_view name) noexcept; // any case
+
+class Dispatch final : public Part<IDispatch> {
+public:
+    explicit Dispatch(Shell& shell) noexcept;
+
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override;
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) noexcept override;
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale,
+                                            DISPID* ids) noexcept override;
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* parameters,
+                                     VARIANT* result, EXCEPINFO* exception, UINT* argument) noexcept override;
+
+private:
+    HRESULT get(const Member& member, const Arguments& arguments, VARIANT* result);
+    HRESULT put(const Member& member, const Arguments& arguments);
+    HRESULT call(const Member& member, const Arguments& arguments, VARIANT* result);
+
+    Shell& shell_;
+};
+
+} // namespace vela::activex

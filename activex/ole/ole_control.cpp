@@ -1,0 +1,44 @@
+// IOleControl of the shell.
+#include "activex/ole/ole_control.h"
+
+#include "activex/com/guard.h"
+#include "activex/ole/shell.h"
+
+namespace vela::activex {
+
+OleControl::OleControl(Shell& shell) noexcept : Part(shell), shell_(shell) {}
+
+// A field has no access key of its own: its label's leads to it.
+HRESULT OleControl::GetControlInfo(CONTROLINFO* info) noexcept
+{
+    if (!info)
+        return E_POINTER;
+    return guarded([&] {
+        const ULONG size = info->cb;
+        *info = {};
+        info->cb = size;
+        info->dwFlags = shell_.content().eatsReturn() ? CTRLINFO_EATS_RETURN : 0;
+    });
+}
+
+HRESULT OleControl::OnMnemonic(MSG*) noexcept
+{
+    const Shell::Hold hold(shell_);
+    return guarded([&] { return shell_.activation().activateInterface(true); });
+}
+
+HRESULT OleControl::OnAmbientPropertyChange(DISPID id) noexcept
+{
+    return guarded([&] {
+        if (Content* content = shell_.made())
+            content->ambientChanged(id);
+    });
+}
+
+HRESULT OleControl::FreezeEvents(BOOL freeze) noexcept
+{
+    shell_.freeze(freeze != FALSE);
+    return S_OK;
+}
+
+} // namespace vela::activex

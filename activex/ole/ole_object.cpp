@@ -1,0 +1,243 @@
+// IOleObject of the shell.
+#include "activex/ole/ole_object.h"
+
+#include "activex/com/enumerator.h"
+#include "activex/ole/shell.h"
+
+#include <olectl.h>
+
+namespace vela::activex {
+
+namespace {
+
+struct Verb {
+    LONG id;
+    std::u16string_view name;
+    DWORD attributes;
+};
+constexpr DWORD onMenu = OLEVERBATTRIB_ONCONTAINERMENU;
+constexpr Verb verbs[] = {
+    {OLEIVERB_PROPERTIES, u"&Propriedades...", onMenu},
+    {OLEIVERB_PRIMARY, u"&Editar", 0},
+    {OLEIVERB_SHOW, u"&Mostrar", 0},
+    {OLEIVERB_HIDE, u"&Ocultar", 0},
+    {OLEIVERB_UIACTIVATE, u"&Ativar", 0},
+    {OLEIVERB_INPLACEACTIVATE, u"A&brir", 0},
+};
+
+struct CopyVerb {
+    static void give(const Verb& from, OLEVERB& into) { into = {from.id, newTaskText(from.name), 0, from.attributes}; }
+};
+using VerbEnumerator = Enumerator<IEnumOLEVERB, OLEVERB, Verb, CopyVerb>;
+
+} // namespace
+
+OleObject::OleObject(Shell& shell) noexcept : Part(shell), shell_(shell) {}
+
+void OleObject::saved() noexcept
+{
+    if (advised_)
+        advised_->SendOnSave();
+}
+
+void OleObject::closed() noexcept
+{
+    if (const auto advised = advised_.shared())
+        advised->SendOnClose();
+}
+
+HRESULT OleObject::SetClientSite(IOleClientSite* site) noexcept
+{
+    return guarded([&] { shell_.putSite(site); });
+}
+
+HRESULT OleObject::GetClientSite(IOleClientSite** site) noexcept
+{
+    if (!site)
+        return E_POINTER;
+    *site = ComPtr<IOleClientSite>::share(shell_.site().client()).release();
+    return S_OK;
+}
+
+HRESULT OleObject::SetHostNames(LPCOLESTR, LPCOLESTR) noexcept
+{
+    return S_OK;
+}
+
+HRESULT OleObject::Close(DWORD option) noexcept
+{
+    const Shell::Hold hold(shell_);
+    if (shell_.dirty() && option != OLECLOSE_NOSAVE)
+        if (const auto client = ComPtr<IOleClientSite>::share(shell_.site().client()))
+            client->SaveObject();
+    shell_.activation().deactivate();
+    closed();
+    return S_OK;
+}
+
+HRESULT OleObject::SetMoniker(DWORD, IMoniker*) noexcept
+{
+    return E_NOTIMPL;
+}
+
+HRESULT OleObject::GetMoniker(DWORD assign, DWORD which, IMoniker** moniker) noexcept
+{
+    if (!moniker)
+        return E_POINTER;
+    *moniker = nullptr;
+    const auto client = ComPtr<IOleClientSite>::share(shell_.site().client());
+    return client ? client->GetMoniker(assign, which, moniker) : E_UNEXPECTED;
+}
+
+HRESULT OleObject::InitFromData(IDataObject*, BOOL, DWORD) noexcept
+{
+    return E_NOTIMPL;
+}
+
+HRESULT OleObject::GetClipboardData(DWORD, IDataObject** data) noexcept
+{
+    if (!data)
+        return E_POINTER;
+    *data = nullptr;
+    return E_NOTIMPL;
+}
+
+HRESULT OleObject::DoVerb(LONG verb, LPMSG, IOleClientSite*, LONG, HWND parent, LPCRECT) noexcept
+{
+    const Shell::Hold hold(shell_);
+    return guarded([&]() -> HRESULT {
+        Activation& activation = shell_.activation();
+        switch (verb) {
+        case OLEIVERB_SHOW:
+        case OLEIVERB_INPLACEACTIVATE: return activation.activate();
+        case OLEIVERB_PRIMARY:
+        case OLEIVERB_UIACTIVATE: return activation.activateInterface(true);
+        case OLEIVERB_HIDE:
+            activation.deactivateInterface();
+            if (shell_.made())
+                shell_.content().show(false);
+            return S_OK;
+        case OLEIVERB_DISCARDUNDOSTATE: return S_OK;
+        case OLEIVERB_PROPERTIES: return showProperties(parent);
+        default: break;
+        }
+        if (verb < 0)
+            return E_NOTIMPL; // a verb of the system that the control does not know
+        const HRESULT done = activation.activateInterface(true);
+        return SUCCEEDED(done) ? OLEOBJ_S_INVALIDVERB : done;
+    });
+}
+
+// The host's own frame when it has one.
+HRESULT OleObject::showProperties(HWND parent)
+{
+    if (const auto host = shell_.site().offers<IOleControlSite>(); host && host->ShowPropertyFrame() == S_OK)
+        return S_OK;
+    const auto pages = shell_.facts().pages;
+    if (pages.empty())
+        return S_OK;
+    Activation& activation = shell_.activation();
+    activation.enableModeless(false);
+    IUnknown* object = &shell_;
+    const HRESULT shown = OleCreatePropertyFrame(parent, 0, 0, asWide(shell_.facts().name.data()), 1, &object,
+                                                 static_cast<ULONG>(pages.size()), const_cast<CLSID*>(pages.data()),
+                                                 GetUserDefaultLCID(), 0, nullptr);
+    activation.enableModeless(true);
+    return shown;
+}
+
+HRESULT OleObject::EnumVerbs(IEnumOLEVERB** list) noexcept
+{
+    if (!list)
+        return E_POINTER;
+    *list = nullptr;
+    return guarded([&] {
+        const bool pages = !shell_.facts().pages.empty();
+        auto kept = std::make_shared<std::vector<Verb>>();
+        for (const Verb& verb : verbs)
+            if (pages || verb.id != OLEIVERB_PROPERTIES)
+                kept->push_back(verb);
+        *list = VerbEnumerator::make(std::move(kept)).release();
+    });
+}
+
+HRESULT OleObject::Update() noexcept
+{
+    return S_OK;
+}
+
+HRESULT OleObject::IsUpToDate() noexcept
+{
+    return S_OK;
+}
+
+HRESULT OleObject::GetUserClassID(CLSID* id) noexcept
+{
+    if (!id)
+        return E_POINTER;
+    *id = shell_.facts().clsid;
+    return S_OK;
+}
+
+HRESULT OleObject::GetUserType(DWORD, LPOLESTR* type) noexcept
+{
+    if (!type)
+        return E_POINTER;
+    *type = nullptr;
+    return guarded([&] { *type = newTaskText(shell_.facts().name); });
+}
+
+HRESULT OleObject::SetExtent(DWORD aspect, SIZEL* extent) noexcept
+{
+    if (aspect != DVASPECT_CONTENT)
+        return DV_E_DVASPECT;
+    if (!extent)
+        return E_POINTER;
+    return guarded([&] { shell_.putExtent(*extent); });
+}
+
+HRESULT OleObject::GetExtent(DWORD aspect, SIZEL* extent) noexcept
+{
+    if (aspect != DVASPECT_CONTENT)
+        return DV_E_DVASPECT;
+    if (!extent)
+        return E_POINTER;
+    *extent = shell_.extent();
+    return S_OK;
+}
+
+HRESULT OleObject::Advise(IAdviseSink* sink, DWORD* connection) noexcept
+{
+    if (!advised_)
+        if (const HRESULT made = CreateOleAdviseHolder(advised_.put()); FAILED(made))
+            return made;
+    return advised_->Advise(sink, connection);
+}
+
+HRESULT OleObject::Unadvise(DWORD connection) noexcept
+{
+    return advised_ ? advised_->Unadvise(connection) : OLE_E_NOCONNECTION;
+}
+
+HRESULT OleObject::EnumAdvise(IEnumSTATDATA** connections) noexcept
+{
+    if (!connections)
+        return E_POINTER;
+    *connections = nullptr;
+    return advised_ ? advised_->EnumAdvise(connections) : S_OK;
+}
+
+HRESULT OleObject::GetMiscStatus(DWORD aspect, DWORD* status) noexcept
+{
+    if (!status)
+        return E_POINTER;
+    *status = aspect == DVASPECT_CONTENT ? miscStatus : 0;
+    return aspect == DVASPECT_CONTENT ? S_OK : DV_E_DVASPECT;
+}
+
+HRESULT OleObject::SetColorScheme(LOGPALETTE*) noexcept
+{
+    return E_NOTIMPL;
+}
+
+} // namespace vela::activex

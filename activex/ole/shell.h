@@ -1,0 +1,123 @@
+// A control as hosts see it: one object with every interface they ask for, around a content that does the work.
+#pragma once
+
+#include "activex/com/module_lock.h"
+#include "activex/ole/activation.h"
+#include "activex/ole/browsing.h"
+#include "activex/ole/class_info.h"
+#include "activex/ole/connections.h"
+#include "activex/ole/content.h"
+#include "activex/ole/data_object.h"
+#include "activex/ole/dispatch.h"
+#include "activex/ole/in_place.h"
+#include "activex/ole/ole_control.h"
+#include "activex/ole/ole_object.h"
+#include "activex/ole/persistence.h"
+#include "activex/ole/quick_activate.h"
+#include "activex/ole/site.h"
+#include "activex/ole/view_object.h"
+
+#include <memory>
+#include <span>
+
+namespace vela::activex {
+
+class Shell final : public IUnknown {
+public:
+    using Maker = std::unique_ptr<Content> (*)(Shell&);
+
+    // `facts` outlive every shell; the content is made at its first use.
+    Shell(const ClassFacts& facts, Maker make) noexcept;
+    Shell(const Shell&) = delete;
+    Shell& operator=(const Shell&) = delete;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override;
+    ULONG STDMETHODCALLTYPE AddRef() noexcept override;
+    ULONG STDMETHODCALLTYPE Release() noexcept override;
+
+    // Keeps the shell for a scope that calls the host. When the host has let go by its end, what the host closed stays
+    // closed at once, and the memory goes when the thread next looks for messages: routines of the content may still be
+    // on the stack.
+    class Hold {
+    public:
+        explicit Hold(Shell& shell) noexcept : shell_(shell) { shell_.AddRef(); }
+        Hold(const Hold&) = delete;
+        Hold& operator=(const Hold&) = delete;
+        ~Hold() { shell_.releaseLater(); }
+
+    private:
+        Shell& shell_;
+    };
+
+    [[nodiscard]] const ClassFacts& facts() const noexcept { return facts_; }
+    // Made at its first use; a new instance until a host loads it. Raises what that raises, 91 after the end.
+    [[nodiscard]] Content& content();
+    void initNew();
+    void load(platform::PropertyBag& bag);                                  // raises; the content stays usable
+    [[nodiscard]] Content* made() const noexcept { return content_.get(); } // null before its first use
+
+    [[nodiscard]] Site& site() noexcept { return site_; }
+    void putSite(IOleClientSite* client) noexcept;
+    [[nodiscard]] Activation& activation() noexcept { return activation_; }
+    [[nodiscard]] Connections& connections() noexcept { return connections_; }
+    [[nodiscard]] ViewObject& view() noexcept { return view_; }
+    [[nodiscard]] DataObject& data() noexcept { return data_; }
+    [[nodiscard]] OleObject& object() noexcept { return object_; }
+
+    [[nodiscard]] bool dirty() const noexcept { return dirty_; }
+    void putDirty(bool dirty) noexcept { dirty_ = dirty; }
+    void freeze(bool on) noexcept { frozen_ += on ? 1 : (frozen_ > 0 ? -1 : 0); }
+
+    // HIMETRIC, of the content's own dots per inch.
+    [[nodiscard]] SIZEL extent() const noexcept { return extent_; }
+    void putExtent(SIZEL extent);
+    void followWindow() noexcept; // the extent becomes the window's size
+
+    // From the content.
+    void fire(DISPID event, std::span<std::int16_t* const> arguments = {}); // raises what a handler raised
+    void propertyChanged(DISPID property) noexcept;                         // the settings are to be saved
+    void boundChanged(DISPID property) noexcept;                            // tells bound sinks only
+    void requestEdit(const Member& member);                                 // raises 387 when a sink refuses
+    void focusMoved(bool has) noexcept;
+    void looksChanged() noexcept; // views are to be drawn again
+
+private:
+    ~Shell();
+    void releaseLater() noexcept;
+    void end() noexcept; // closes everything; the object is not to be used any more
+    [[nodiscard]] Content& bareContent();
+    [[nodiscard]] IUnknown* part(REFIID iid) noexcept;
+
+    ModuleLock lock_;
+    const ClassFacts& facts_;
+    Maker make_;
+    ULONG references_ = 1;
+    int frozen_ = 0;
+    bool dirty_ = false;
+    bool initialised_ = false;
+    bool ended_ = false;
+    SIZEL extent_;
+
+    Site site_;
+    Connections connections_;
+    Activation activation_;
+    OleObject object_;
+    OleControl control_;
+    InPlaceObject inPlace_;
+    ActiveObject active_;
+    ViewObject view_;
+    DataObject data_;
+    StreamPersistence stream_;
+    StoragePersistence storage_;
+    BagPersistence bag_;
+    Dispatch dispatch_;
+    ClassInfo classInfo_;
+    ErrorSupport errors_;
+    PageList pages_;
+    Browsing browsing_;
+    Categories categories_;
+    FastActivation quick_;
+    std::unique_ptr<Content> content_;
+};
+
+} // namespace vela::activex

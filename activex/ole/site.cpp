@@ -1,0 +1,91 @@
+// Questions to the host through its client site.
+#include "activex/ole/site.h"
+
+#include <olectl.h>
+
+namespace vela::activex {
+
+namespace {
+
+std::optional<Variant> propertyOf(IDispatch* object, DISPID id) noexcept
+{
+    if (!object)
+        return std::nullopt;
+    DISPPARAMS none{};
+    Variant value;
+    if (FAILED(object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, value.put(), nullptr,
+                              nullptr)))
+        return std::nullopt;
+    return value;
+}
+
+std::optional<Variant> propertyOf(IDispatch* object, const wchar_t* name) noexcept
+{
+    DISPID id = DISPID_UNKNOWN;
+    auto* const text = const_cast<wchar_t*>(name);
+    if (!object || FAILED(object->GetIDsOfNames(IID_NULL, const_cast<wchar_t**>(&text), 1, LOCALE_USER_DEFAULT, &id)))
+        return std::nullopt;
+    return propertyOf(object, id);
+}
+
+ComPtr<IDispatch> objectIn(const std::optional<Variant>& value) noexcept
+{
+    if (!value || (value->get().vt != VT_DISPATCH && value->get().vt != VT_UNKNOWN))
+        return {};
+    return ComPtr<IDispatch>::from(value->get().punkVal);
+}
+
+// Shift 1, Control 2, Alt 4, as IOleControlSite counts them.
+DWORD keyModifiers() noexcept
+{
+    return (GetKeyState(VK_SHIFT) < 0 ? 1u : 0u) | (GetKeyState(VK_CONTROL) < 0 ? 2u : 0u) |
+           (GetKeyState(VK_MENU) < 0 ? 4u : 0u);
+}
+
+} // namespace
+
+void Site::put(IOleClientSite* client) noexcept
+{
+    auto next = ComPtr<IOleClientSite>::share(client);
+    ambients_ = ComPtr<IDispatch>::from(client);
+    control_ = ComPtr<IOleControlSite>::from(client);
+    client_ = std::move(next);
+}
+
+std::optional<Variant> Site::ambient(DISPID id) const noexcept
+{
+    return propertyOf(ambients_.get(), id);
+}
+
+bool Site::runMode() const noexcept
+{
+    auto value = ambient(DISPID_AMBIENT_USERMODE);
+    if (!value || FAILED(VariantChangeType(&value->ref(), &value->ref(), 0, VT_BOOL)))
+        return true;
+    return value->get().boolVal != VARIANT_FALSE;
+}
+
+std::u16string Site::containerName() const
+{
+    ComPtr<IDispatch> extender;
+    if (!control_ || FAILED(control_->GetExtendedControl(extender.put())))
+        return {};
+    const auto container = objectIn(propertyOf(extender.get(), L"Container"));
+    auto name = propertyOf(container.get(), L"Name");
+    if (!name || name->get().vt != VT_BSTR)
+        return {};
+    return std::u16string(asText(name->get().bstrVal, SysStringLen(name->get().bstrVal)));
+}
+
+bool Site::translate(MSG* message) const noexcept
+{
+    return control_ && control_->TranslateAccelerator(message, keyModifiers()) == S_OK;
+}
+
+void Site::focusChanged(bool has) const noexcept
+{
+    if (const auto control = control_.shared())
+        control->OnFocus(has);
+}
+
+} // namespace vela::activex

@@ -1,0 +1,265 @@
+// IPropertyPage2 around a page of the library.
+#include "activex/property_page.h"
+
+#include "activex/com/guard.h"
+#include "activex/com/module_lock.h"
+#include "activex/dispatch_object.h"
+#include "activex/ole/dispatch.h"
+#include "activex/page_map.h"
+#include "activex/session.h"
+#include "activex/vela_members.h"
+#include "pages/frm_paleta.h"
+#include "platform/win32/dpi.h"
+
+#include <olectl.h>
+
+#include <memory>
+#include <vector>
+
+namespace vela::activex {
+
+namespace {
+
+class PropertyPage final : public IPropertyPage2, private pages::PageSite {
+public:
+    explicit PropertyPage(pages::PageKind kind)
+        : kind_(kind), session_(Session::current()),
+          palette_(session_->forms), services_{session_->environment, session_->settings, session_->forms, palette_}
+    {
+    }
+    PropertyPage(const PropertyPage&) = delete;
+    PropertyPage& operator=(const PropertyPage&) = delete;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override;
+    ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() noexcept override;
+
+    HRESULT STDMETHODCALLTYPE SetPageSite(IPropertyPageSite* site) noexcept override;
+    HRESULT STDMETHODCALLTYPE Activate(HWND parent, LPCRECT place, BOOL modal) noexcept override;
+    HRESULT STDMETHODCALLTYPE Deactivate() noexcept override;
+    HRESULT STDMETHODCALLTYPE GetPageInfo(PROPPAGEINFO* info) noexcept override;
+    HRESULT STDMETHODCALLTYPE SetObjects(ULONG count, IUnknown** objects) noexcept override;
+    HRESULT STDMETHODCALLTYPE Show(UINT command) noexcept override;
+    HRESULT STDMETHODCALLTYPE Move(LPCRECT place) noexcept override;
+    HRESULT STDMETHODCALLTYPE IsPageDirty() noexcept override;
+    HRESULT STDMETHODCALLTYPE Apply() noexcept override;
+    HRESULT STDMETHODCALLTYPE Help(LPCOLESTR folder) noexcept override;
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG message) noexcept override;
+    HRESULT STDMETHODCALLTYPE EditProperty(DISPID id) noexcept override;
+
+private:
+    ~PropertyPage() = default;
+
+    void changed(bool dirty) override;
+    [[nodiscard]] win32::Form& form() const { return static_cast<win32::Form&>(page_->form()); }
+    void openSelection();
+    void showFailure(const engine::Error& error);
+    [[nodiscard]] bool leaves(const MSG& message) const; // Tab beyond the page's ends
+
+    ModuleLock lock_;
+    ULONG references_ = 1;
+    pages::PageKind kind_;
+    std::shared_ptr<Session> session_;
+    pages::PaletteChooser palette_;
+    pages::PageServices services_;
+    ComPtr<IPropertyPageSite> site_;
+    std::vector<std::unique_ptr<DispatchObject>> objects_;
+    std::unique_ptr<pages::Page> page_; // between Activate and Deactivate
+};
+
+HRESULT PropertyPage::QueryInterface(REFIID iid, void** object) noexcept
+{
+    if (!object)
+        return E_POINTER;
+    *object = nullptr;
+    if (iid != IID_IUnknown && iid != IID_IPropertyPage && iid != IID_IPropertyPage2)
+        return E_NOINTERFACE;
+    *object = static_cast<IPropertyPage2*>(this);
+    AddRef();
+    return S_OK;
+}
+
+ULONG PropertyPage::Release() noexcept
+{
+    const ULONG left = --references_;
+    if (left == 0) {
+        references_ = 1; // the windows' last words reach a living object
+        Deactivate();
+        delete this;
+    }
+    return left;
+}
+
+HRESULT PropertyPage::SetPageSite(IPropertyPageSite* site) noexcept
+{
+    if (site && site_)
+        return E_UNEXPECTED;
+    site_ = ComPtr<IPropertyPageSite>::share(site);
+    return S_OK;
+}
+
+HRESULT PropertyPage::Activate(HWND parent, LPCRECT place, BOOL) noexcept
+{
+    if (!place)
+        return E_POINTER;
+    if (page_)
+        return E_UNEXPECTED;
+    return guarded([&] {
+        page_ = pages::makePage(kind_, services_, *this);
+        form().showChild(parent, *place);
+        form().showChildWindow(false); // the frame calls Show
+        try {
+            openSelection();
+        } catch (const engine::Error& error) {
+            showFailure(error);
+        }
+    });
+}
+
+void PropertyPage::openSelection()
+{
+    if (objects_.empty())
+        return;
+    std::vector<pages::PropertyObject*> selection;
+    for (const auto& object : objects_)
+        selection.push_back(object.get());
+    page_->open(selection);
+}
+
+void PropertyPage::showFailure(const engine::Error& error)
+{
+    session_->environment.desktop.messageBox(platform::BoxIcon::exclamation, platform::BoxButtons::ok,
+                                             pages::pageLayout(kind_).caption, error.description);
+}
+
+HRESULT PropertyPage::Deactivate() noexcept
+{
+    if (const auto page = std::move(page_))
+        contained([&] {
+            page->release();
+            static_cast<win32::Form&>(page->form()).leaveParent();
+        });
+    return S_OK;
+}
+
+HRESULT PropertyPage::GetPageInfo(PROPPAGEINFO* info) noexcept
+{
+    if (!info)
+        return E_POINTER;
+    return guarded([&] {
+        const platform::FormLayout& layout = pages::pageLayout(kind_);
+        const int dpi = win32::dpiOf(nullptr);
+        const ULONG size = info->cb;
+        *info = {};
+        info->cb = size;
+        info->pszTitle = newTaskText(layout.caption);
+        info->size = {engine::twipsToPixels(layout.width, dpi), engine::twipsToPixels(layout.height, dpi)};
+    });
+}
+
+HRESULT PropertyPage::SetObjects(ULONG count, IUnknown** objects) noexcept
+{
+    if (count != 0 && !objects)
+        return E_POINTER;
+    return guarded([&]() -> HRESULT {
+        std::vector<std::unique_ptr<DispatchObject>> selection;
+        for (ULONG i = 0; i < count; ++i) {
+            auto object = ComPtr<IDispatch>::from(objects[i]);
+            if (!object)
+                return E_NOINTERFACE;
+            selection.push_back(std::make_unique<DispatchObject>(std::move(object)));
+        }
+        if (page_)
+            page_->release();
+        objects_ = std::move(selection);
+        if (page_)
+            openSelection();
+        return S_OK;
+    });
+}
+
+HRESULT PropertyPage::Show(UINT command) noexcept
+{
+    if (!page_)
+        return E_UNEXPECTED;
+    return guarded([&] { form().showChildWindow(command != SW_HIDE); });
+}
+
+HRESULT PropertyPage::Move(LPCRECT place) noexcept
+{
+    if (!place)
+        return E_POINTER;
+    if (!page_)
+        return E_UNEXPECTED;
+    return guarded([&] { form().moveChild(*place); });
+}
+
+HRESULT PropertyPage::IsPageDirty() noexcept
+{
+    return page_ && page_->changed() ? S_OK : S_FALSE;
+}
+
+HRESULT PropertyPage::Apply() noexcept
+{
+    if (!page_ || objects_.empty())
+        return E_UNEXPECTED;
+    return guarded([&] { return page_->apply() ? S_OK : E_FAIL; });
+}
+
+HRESULT PropertyPage::Help(LPCOLESTR) noexcept
+{
+    return E_NOTIMPL; // the pages carry help buttons of their own
+}
+
+HRESULT PropertyPage::TranslateAccelerator(LPMSG message) noexcept
+{
+    if (!message)
+        return E_POINTER;
+    if (!page_)
+        return S_FALSE;
+    return guarded([&]() -> HRESULT {
+        if (leaves(*message))
+            return site_ ? site_->TranslateAccelerator(message) : S_FALSE;
+        return form().translate(*message) ? S_OK : S_FALSE;
+    });
+}
+
+bool PropertyPage::leaves(const MSG& message) const
+{
+    if (message.message != WM_KEYDOWN || message.wParam != VK_TAB)
+        return false;
+    const HWND page = form().handle();
+    const bool backwards = GetKeyState(VK_SHIFT) < 0;
+    const HWND first = GetNextDlgTabItem(page, nullptr, FALSE);
+    const HWND last = first ? GetNextDlgTabItem(page, first, TRUE) : nullptr;
+    return first && GetFocus() == (backwards ? first : last);
+}
+
+HRESULT PropertyPage::EditProperty(DISPID id) noexcept
+{
+    return guarded([&]() -> HRESULT {
+        const Member* const member = findMember(velaMembers(), id);
+        const PageEntry* const entry = member ? findPageEntry(member->name) : nullptr;
+        if (!entry || entry->page != kind_)
+            return E_INVALIDARG;
+        if (!page_)
+            return E_UNEXPECTED;
+        form().focus(platform::findWidget(page_->layout(), entry->widget, entry->index));
+        return S_OK;
+    });
+}
+
+void PropertyPage::changed(bool dirty)
+{
+    if (const auto site = site_.shared())
+        site->OnStatusChange(dirty ? PROPPAGESTATUS_DIRTY : PROPPAGESTATUS_CLEAN);
+}
+
+} // namespace
+
+ComPtr<IUnknown> makePropertyPage(pages::PageKind kind)
+{
+    return ComPtr<IUnknown>::adopt(static_cast<IPropertyPage2*>(new PropertyPage(kind)));
+}
+
+} // namespace vela::activex

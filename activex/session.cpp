@@ -1,0 +1,57 @@
+// One session a thread, so that windows are used only by the thread that made them; the calendar colours outlive it.
+#include "activex/session.h"
+
+#include <windows.h>
+
+#include <map>
+#include <mutex>
+
+namespace vela::activex {
+
+namespace {
+
+struct Registry {
+    std::mutex mutex;
+    std::map<DWORD, std::weak_ptr<Session>> sessions; // by thread
+    popups::CalendarColours colours;                  // of the process, kept between two sessions
+};
+
+Registry& registry()
+{
+    static Registry one;
+    return one;
+}
+
+} // namespace
+
+std::shared_ptr<Session> Session::current()
+{
+    Registry& all = registry();
+    const DWORD thread = GetCurrentThreadId();
+    {
+        const std::lock_guard lock(all.mutex);
+        if (auto session = all.sessions[thread].lock())
+            return session;
+    }
+    const std::shared_ptr<Session> session(new Session);
+    const std::lock_guard lock(all.mutex);
+    std::erase_if(all.sessions, [](const auto& entry) { return entry.second.expired(); });
+    all.sessions[thread] = session;
+    return session;
+}
+
+Session::Session() : environment{clock_, locales, log_, desktop_, system_}, popups(environment, forms)
+{
+    Registry& all = registry();
+    const std::lock_guard lock(all.mutex);
+    popups.colours = all.colours;
+}
+
+Session::~Session()
+{
+    Registry& all = registry();
+    const std::lock_guard lock(all.mutex);
+    all.colours = popups.colours;
+}
+
+} // namespace vela::activex

@@ -1,0 +1,339 @@
+// The Vela control between its shell, its surface and its host.
+#include "activex/vela_content.h"
+
+#include "activex/com/guard.h"
+#include "activex/guids.h"
+#include "activex/vela_members.h"
+#include "platform/win32/dpi.h"
+
+#include <olectl.h>
+
+namespace vela::activex {
+
+namespace {
+
+constexpr CLSID pages[] = {principalPage, geralPage, errosPage, fontePage, calendarioPage};
+
+bool isWindowMember(const Member& member) noexcept
+{
+    return member.name == u"hwnd" || member.name == u"HwndCtl";
+}
+
+IUnknown* objectIn(const VARIANT& value)
+{
+    switch (value.vt) {
+    case VT_DISPATCH:
+    case VT_UNKNOWN: return value.punkVal;
+    case VT_DISPATCH | VT_BYREF:
+    case VT_UNKNOWN | VT_BYREF: return *value.ppunkVal;
+    case VT_VARIANT | VT_BYREF: return objectIn(*value.pvarVal);
+    default: engine::raise(engine::error_number::typeMismatch);
+    }
+}
+
+// Not the container's: the caret's keys, what erases, and the clipboard's and undo's combinations.
+bool isEditKey(WPARAM key, bool control) noexcept
+{
+    if (control && (key == 'A' || key == 'C' || key == 'V' || key == 'X' || key == 'Y' || key == 'Z'))
+        return true;
+    switch (key) {
+    case VK_LEFT:
+    case VK_RIGHT:
+    case VK_UP:
+    case VK_DOWN:
+    case VK_HOME:
+    case VK_END:
+    case VK_PRIOR:
+    case VK_NEXT:
+    case VK_INSERT:
+    case VK_DELETE:
+    case VK_BACK: return true;
+    default: return false;
+    }
+}
+
+} // namespace
+
+const ClassFacts& velaFacts() noexcept
+{
+    static const ClassFacts facts{velaClass, velaInterface, &velaEvents,      u"Vela.Vela.1",
+                                  u"Vela",   pages,         velaCategories(), {120, 21}};
+    return facts;
+}
+
+VelaContent::VelaContent(Shell& shell)
+    : shell_(shell), session_(Session::current()), vela_(*this, surface_, session_->environment, session_->popups),
+      font_([this](const platform::FontDescription& font) { vela_.Font(font); })
+{
+    surface_.putDpi(win32::dpiOf(nullptr));
+    surface_.setEvents(&vela_, &vela_);
+    surface_.setListener(this);
+}
+
+VelaContent::~VelaContent()
+{
+    terminate();
+}
+
+std::span<const Member> VelaContent::members() const noexcept
+{
+    return velaMembers();
+}
+
+Variant VelaContent::get(const Member& member)
+{
+    const control::Property& property = control::properties()[member.row];
+    if (property.type == control::PropertyType::font) {
+        Variant result;
+        result.ref().pdispVal = font_.object(vela_.Font()).release();
+        result.ref().vt = VT_DISPATCH;
+        return result;
+    }
+    if (isWindowMember(member))
+        needWindow();
+    return propertyVariant(property, control::getProperty(vela_, property));
+}
+
+void VelaContent::put(const Member& member, const VARIANT& value)
+{
+    const control::Property& property = control::properties()[member.row];
+    switch (property.type) {
+    case control::PropertyType::font:
+        if (IUnknown* const font = objectIn(value))
+            vela_.Font(font_.adopt(font));
+        else
+            engine::raise(engine::error_number::objectNotSet);
+        break;
+    case control::PropertyType::colour: control::putProperty(vela_, property, colourFromVariant(value)); break;
+    default: control::putProperty(vela_, property, valueFromVariant(value)); break;
+    }
+}
+
+Variant VelaContent::call(const Member& member, const Arguments&)
+{
+    control::methods()[member.row].call(vela_);
+    return {};
+}
+
+void VelaContent::initNew()
+{
+    vela_.initNew();
+    takeAmbientFont();
+}
+
+// A new field looks as its form; what a form saved has its own font.
+void VelaContent::takeAmbientFont()
+{
+    const auto ambient = shell_.site().ambient(DISPID_AMBIENT_FONT);
+    if (!ambient || (ambient->get().vt != VT_DISPATCH && ambient->get().vt != VT_UNKNOWN))
+        return;
+    if (auto font = describeFont(ambient->get().punkVal)) {
+        platform::EditTraits traits = surface_.edit().traits();
+        traits.font = std::move(*font);
+        surface_.edit().putTraits(traits);
+    }
+}
+
+void VelaContent::load(platform::PropertyBag& bag)
+{
+    vela_.load(bag);
+}
+
+void VelaContent::save(platform::PropertyBag& bag)
+{
+    vela_.save(bag);
+}
+
+void VelaContent::terminate() noexcept
+{
+    contained([&] { vela_.terminate(); });
+    surface_.setListener(nullptr);
+    surface_.setEvents(nullptr, nullptr);
+    contained([&] { surface_.destroy(); });
+}
+
+void VelaContent::attach(HWND parent, const RECT& place)
+{
+    if (surface_.handle())
+        surface_.reparent(parent, place);
+    else
+        surface_.create(parent, place);
+    surface_.show(true);
+    parking_ = {};
+}
+
+void VelaContent::detach() noexcept
+{
+    contained([&] { surface_.destroy(); });
+}
+
+// Scripts that have no window for the control still find one when they ask for its handle.
+void VelaContent::needWindow()
+{
+    if (surface_.handle())
+        return;
+    if (!parking_)
+        parking_ = win32::UniqueWindow(CreateWindowExW(WS_EX_TOOLWINDOW, L"STATIC", nullptr, WS_POPUP, 0, 0, 0, 0,
+                                                       nullptr, nullptr, nullptr, nullptr));
+    if (!parking_)
+        engine::raise(engine::error_number::outOfMemory);
+    const FieldSize now = size();
+    surface_.create(parking_.get(), {0, 0, now.width, now.height});
+}
+
+void VelaContent::place(const RECT& place)
+{
+    surface_.refreshDpi(); // some hosts move a window to another screen without a word
+    surface_.place(place);
+}
+
+void VelaContent::show(bool visible)
+{
+    surface_.show(visible);
+}
+
+FieldSize VelaContent::size()
+{
+    const engine::RectPixels client = surface_.clientRect();
+    return {client.width, client.height};
+}
+
+void VelaContent::resize(FieldSize size)
+{
+    surface_.place({0, 0, size.width, size.height});
+}
+
+void VelaContent::takeFocus()
+{
+    surface_.edit().takeFocus();
+}
+
+bool VelaContent::hasFocus() const
+{
+    const HWND window = surface_.handle();
+    const HWND focus = GetFocus();
+    return window && focus && (focus == window || IsChild(window, focus));
+}
+
+bool VelaContent::wantsKey(const MSG& message) const
+{
+    if (message.message != WM_KEYDOWN)
+        return false;
+    if (message.wParam == VK_RETURN)
+        return eatsReturn();
+    return isEditKey(message.wParam, GetKeyState(VK_CONTROL) < 0);
+}
+
+bool VelaContent::eatsReturn() const
+{
+    return vela_.EnterAsTab() || vela_.MultLine();
+}
+
+void VelaContent::ambientChanged(DISPID id)
+{
+    if (id == DISPID_AMBIENT_LOCALEID || id == DISPID_UNKNOWN)
+        session_->locales.refresh();
+}
+
+void VelaContent::draw(HDC dc, const RECT& bounds)
+{
+    surface_.draw(dc, bounds);
+}
+
+// A password leaves the field only through its own properties.
+std::u16string VelaContent::plainText()
+{
+    const std::u16string text = vela_.Text();
+    const std::u16string shown = vela_.PasswordChar();
+    return shown.empty() ? text : std::u16string(text.size(), shown.front());
+}
+
+void VelaContent::propertyChanged(std::u16string_view name)
+{
+    const control::Property* const property = control::findProperty(name);
+    shell_.propertyChanged(property ? property->dispid : DISPID_UNKNOWN);
+}
+
+bool VelaContent::runMode() const
+{
+    return shell_.site().runMode();
+}
+
+std::u16string VelaContent::containerName() const
+{
+    return shell_.site().containerName();
+}
+
+// The form is the nearest MDI child above the field, else the window at the top. It is modal when it holds its owner.
+platform::ParentForm VelaContent::parentForm() const
+{
+    const HWND top = GetAncestor(surface_.handle(), GA_ROOT);
+    HWND form = surface_.handle();
+    while (form && form != top && !(GetWindowLongPtrW(form, GWL_EXSTYLE) & WS_EX_MDICHILD))
+        form = GetAncestor(form, GA_PARENT);
+    if (!form || form == surface_.handle())
+        form = top;
+    const HWND owner = top ? GetWindow(top, GW_OWNER) : nullptr;
+    return {form != top, owner && !IsWindowEnabled(owner), {reinterpret_cast<std::uintptr_t>(form)}};
+}
+
+void VelaContent::raiseChange()
+{
+    static const DISPID change = eventId(u"Change");
+    const Shell::Hold hold(shell_);
+    for (const Member& member : members())
+        if (member.bindable)
+            shell_.boundChanged(member.id);
+    shell_.fire(change);
+}
+
+void VelaContent::raiseClick()
+{
+    static const DISPID click = eventId(u"Click");
+    shell_.fire(click);
+}
+
+void VelaContent::raiseKeyPress(std::int16_t& key)
+{
+    static const DISPID keyPress = eventId(u"KeyPress");
+    std::int16_t* const arguments[] = {&key};
+    shell_.fire(keyPress, arguments);
+}
+
+void VelaContent::raiseKeyDown(std::int16_t& code, std::int16_t& shift)
+{
+    static const DISPID keyDown = eventId(u"KeyDown");
+    std::int16_t* const arguments[] = {&code, &shift};
+    shell_.fire(keyDown, arguments);
+}
+
+void VelaContent::raiseKeyUp(std::int16_t& code, std::int16_t& shift)
+{
+    static const DISPID keyUp = eventId(u"KeyUp");
+    std::int16_t* const arguments[] = {&code, &shift};
+    shell_.fire(keyUp, arguments);
+}
+
+void VelaContent::raiseMouseOut()
+{
+    static const DISPID mouseOut = eventId(u"MouseOut");
+    shell_.fire(mouseOut);
+}
+
+void VelaContent::focusEntered()
+{
+    shell_.focusMoved(true);
+}
+
+void VelaContent::focusLeft()
+{
+    shell_.focusMoved(false);
+}
+
+void VelaContent::windowDestroyed()
+{
+    const Shell::Hold hold(shell_);
+    shell_.activation().windowLost();
+}
+
+} // namespace vela::activex

@@ -1,0 +1,77 @@
+// The Vela control in its shell: the neutral control on a real surface, with a host behind a client site.
+#pragma once
+
+#include "activex/font_object.h"
+#include "activex/ole/shell.h"
+#include "activex/session.h"
+#include "control/vela.h"
+#include "platform/win32/control_surface.h"
+#include "platform/win32/owners.h"
+
+namespace vela::activex {
+
+[[nodiscard]] const ClassFacts& velaFacts() noexcept;
+
+class VelaContent final : public Content, private platform::ControlHost, private win32::SurfaceListener {
+public:
+    explicit VelaContent(Shell& shell);
+    ~VelaContent() override;
+    [[nodiscard]] static std::unique_ptr<Content> make(Shell& shell) { return std::make_unique<VelaContent>(shell); }
+
+    [[nodiscard]] std::span<const Member> members() const noexcept override;
+    [[nodiscard]] Variant get(const Member& member) override;
+    void put(const Member& member, const VARIANT& value) override;
+    [[nodiscard]] Variant call(const Member& member, const Arguments& arguments) override;
+
+    void initNew() override;
+    void load(platform::PropertyBag& bag) override;
+    void save(platform::PropertyBag& bag) override;
+    void terminate() noexcept override;
+
+    [[nodiscard]] HWND window() const noexcept override { return surface_.handle(); }
+    void attach(HWND parent, const RECT& place) override;
+    void detach() noexcept override;
+    void place(const RECT& place) override;
+    void show(bool visible) override;
+    [[nodiscard]] FieldSize size() override;
+    void resize(FieldSize size) override;
+    void takeFocus() override;
+    [[nodiscard]] bool hasFocus() const override;
+    [[nodiscard]] bool wantsKey(const MSG& message) const override;
+    [[nodiscard]] bool eatsReturn() const override;
+    [[nodiscard]] int dpi() override { return surface_.dpi(); }
+    void ambientChanged(DISPID id) override;
+
+    void draw(HDC dc, const RECT& bounds) override;
+    [[nodiscard]] std::u16string plainText() override;
+
+private:
+    // platform::ControlHost
+    void propertyChanged(std::u16string_view name) override;
+    [[nodiscard]] bool runMode() const override;
+    [[nodiscard]] std::u16string containerName() const override;
+    [[nodiscard]] platform::ParentForm parentForm() const override;
+    void raiseChange() override;
+    void raiseClick() override;
+    void raiseKeyPress(std::int16_t& key) override;
+    void raiseKeyDown(std::int16_t& code, std::int16_t& shift) override;
+    void raiseKeyUp(std::int16_t& code, std::int16_t& shift) override;
+    void raiseMouseOut() override;
+
+    // win32::SurfaceListener
+    void focusEntered() override;
+    void focusLeft() override;
+    void windowDestroyed() override;
+
+    void takeAmbientFont();
+    void needWindow();
+
+    Shell& shell_;
+    std::shared_ptr<Session> session_;
+    win32::UniqueWindow parking_; // the surface's parent while a host has none, from the first need of a window
+    win32::ControlSurface surface_;
+    control::Vela vela_;
+    FontObject font_;
+};
+
+} // namespace vela::activex

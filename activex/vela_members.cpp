@@ -1,0 +1,151 @@
+// From rows of the property table to members of the automation interface.
+#include "activex/vela_members.h"
+
+#include "activex/ole/browsing.h"
+#include "activex/page_map.h"
+
+#include <olectl.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace vela::activex {
+
+namespace {
+
+using control::PropertyType;
+
+constexpr std::u16string_view ownCategories[] = {u"Calendário", u"Data e hora", u"Erros", u"Máscara", u"Número"};
+enum OwnCategory { calendar = 1, date, errors, mask, number };
+
+struct Prefix {
+    std::u16string_view text;
+    int category;
+};
+// The first that a name begins with.
+constexpr Prefix prefixes[] = {
+    {u"Calendar_", calendar},
+    {u"ShowButton", category::behaviour},
+    {u"Font", category::font},
+    {u"Error", errors},
+    {u"Msg", errors},
+    {u"Mask", mask},
+    {u"PromptChar", mask},
+    {u"CaractLiberados", mask},
+    {u"TextoLivre", mask},
+    {u"DateFormat", date},
+    {u"Formato", date},
+    {u"Simbol", number},
+    {u"CorValor", number},
+    {u"QtdCasasDec", number},
+    {u"InserirZeros", number},
+    {u"AceitaNegativos", number},
+    {u"Text", category::text},
+    {u"tipoLetra", category::text},
+    {u"Sel", category::text},
+    {u"Value", category::data},
+    {u"ValorPadrao", category::data},
+    {u"Delimitador", category::data},
+    {u"EsquemaRetornoAtual", category::data},
+    {u"IF_IsEmpty", category::data},
+    {u"NomeCampo", category::data},
+    {u"CampoRequerido", category::data},
+    {u"Alignment", category::appearance},
+    {u"Appearance", category::appearance},
+    {u"Border", category::appearance},
+};
+
+int categoryOf(const control::Property& property)
+{
+    for (const Prefix& prefix : prefixes)
+        if (property.name.starts_with(prefix.text))
+            return prefix.category;
+    return property.type == PropertyType::colour ? category::appearance : category::behaviour;
+}
+
+WORD accessOf(const control::Property& property)
+{
+    switch (property.access) {
+    case control::Access::read: return DISPATCH_PROPERTYGET;
+    case control::Access::readWrite: return DISPATCH_PROPERTYGET | DISPATCH_PROPERTYPUT;
+    case control::Access::readWriteReference: break;
+    }
+    return DISPATCH_PROPERTYGET | DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
+}
+
+// Colours and the font go to the system's pages; what is chosen from a list needs none.
+const CLSID* pageOf(const control::Property& property)
+{
+    switch (property.type) {
+    case PropertyType::colour: return &CLSID_CColorPropPage;
+    case PropertyType::font: return &CLSID_CFontPropPage;
+    case PropertyType::enumeration:
+    case PropertyType::boolean: return nullptr;
+    default: break;
+    }
+    const PageEntry* const entry = findPageEntry(property.name);
+    return entry ? &pageClass(entry->page) : nullptr;
+}
+
+Member memberOf(const control::Property& property, std::size_t row)
+{
+    return {.name = property.name,
+            .id = property.dispid,
+            .access = accessOf(property),
+            .bindable = property.bindable,
+            .enumeration = property.enumeration,
+            .page = pageOf(property),
+            .category = categoryOf(property),
+            .row = row};
+}
+
+std::vector<Member> makeMembers()
+{
+    std::vector<Member> members;
+    for (std::size_t row = 0; row < control::properties().size(); ++row)
+        members.push_back(memberOf(control::properties()[row], row));
+    for (std::size_t row = 0; row < control::methods().size(); ++row)
+        members.push_back({.name = control::methods()[row].name,
+                           .id = control::methods()[row].dispid,
+                           .access = DISPATCH_METHOD,
+                           .row = row});
+    std::ranges::sort(members, {}, &Member::id);
+    return members;
+}
+
+} // namespace
+
+std::span<const Member> velaMembers()
+{
+    static const std::vector<Member> members = makeMembers();
+    return members;
+}
+
+Variant propertyVariant(const control::Property& property, const engine::Value& value)
+{
+    Variant result = variantFromValue(value);
+    const LONG whole = result.get().vt == VT_I4 ? result.get().lVal : 0;
+    if (property.type == PropertyType::byte) {
+        result.ref().vt = VT_UI1;
+        result.ref().bVal = static_cast<BYTE>(whole);
+    } else if (property.type == PropertyType::integer) {
+        result.ref().vt = VT_I2;
+        result.ref().iVal = static_cast<SHORT>(whole);
+    }
+    return result;
+}
+
+std::span<const std::u16string_view> velaCategories() noexcept
+{
+    return ownCategories;
+}
+
+DISPID eventId(std::u16string_view name) noexcept
+{
+    for (const control::Event& event : control::events())
+        if (event.name == name)
+            return event.dispid;
+    return DISPID_UNKNOWN;
+}
+
+} // namespace vela::activex
