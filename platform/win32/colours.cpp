@@ -12,6 +12,7 @@ int systemColourOf(ColourRole role) noexcept
     case ColourRole::fore: return COLOR_WINDOWTEXT;
     case ColourRole::back: return COLOR_WINDOW;
     case ColourRole::border: return COLOR_WINDOWFRAME;
+    case ColourRole::face: return COLOR_BTNFACE;
     }
     return COLOR_WINDOWTEXT;
 }

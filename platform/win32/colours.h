@@ -7,7 +7,7 @@
 
 namespace vela::win32 {
 
-enum class ColourRole { fore, back, border };
+enum class ColourRole { fore, back, border, face };
 
 // &H80000005 -> what the person chose for windows; &H0000FF00 -> itself.
 [[nodiscard]] COLORREF resolve(engine::Colour colour) noexcept;

@@ -33,13 +33,7 @@ private:
         if (widget == ok_ || widget == cancel_)
             form_->close();
     }
-    void keyPress(platform::WidgetId, int& key) override
-    {
-        if (key == '\r')
-            clicked(ok_);
-        else if (key == 27)
-            form_->close();
-    }
+    void keyPress(platform::WidgetId, int&) override {}
     void doubleClicked(platform::WidgetId) override {}
     void changed(platform::WidgetId) override {}
     void gotFocus(platform::WidgetId) override {}

@@ -26,7 +26,8 @@ FocusArbiter& FocusArbiter::retain()
 
 void FocusArbiter::release() noexcept
 {
-    if (current && --current->users_ == 0)
+    // What waits for the message loop keeps it alive until then.
+    if (current && --current->users_ == 0 && current->later_.empty())
         delete std::exchange(current, nullptr);
 }
 

@@ -55,6 +55,7 @@ public:
     void regained(EditBox& box) noexcept;
     [[nodiscard]] bool borrows(HWND next) const noexcept;
     void lend(EditBox& box) noexcept;
+    [[nodiscard]] bool holding() const noexcept { return holds_ > 0; }
     void addBorrower(HWND topLevel);
     void removeBorrower(HWND topLevel) noexcept;
     void settleLater() noexcept;

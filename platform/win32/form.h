@@ -1,4 +1,4 @@
-// Forms of real BUTTON, COMBOBOX, LISTBOX and EDIT windows from the neutral table; labels and swatches are painted.
+// Forms of real BUTTON, COMBOBOX, LISTBOX and EDIT windows from the neutral table; labels and frames are painted.
 #pragma once
 
 #include "platform/form.h"
@@ -9,22 +9,20 @@
 
 namespace vela::win32 {
 
-// The window exists from the start, hidden; how it is shown decides what it becomes.
+// Keeps all values itself. Its windows are made when it is shown and go when it is closed or leaves its parent.
 class Form : public platform::Form {
 public:
-    // As a child of `parent` (a property page of a frame): fills this place, in pixels. Tab goes through it.
+    // As a child of `parent` (a property page of a frame), at this place, in pixels, at the natural size's scale.
     virtual void showChild(HWND parent, const RECT& place) = 0;
-    virtual void hide() = 0;
-    virtual void move(const RECT& place) = 0; // of a child
-    // Back to a hidden window of its own; the values stay.
-    virtual void leaveParent() = 0;
-    // Tab, arrows and access keys among its widgets; true when the message was one of them.
+    virtual void showChildWindow(bool visible) = 0;
+    virtual void moveChild(const RECT& place) = 0;
+    virtual void leaveParent() = 0; // the windows go, the values stay
+    // Tab, arrows and access keys among its widgets; true when the message was one of them. Enter and Esc are left
+    // to the frame.
     [[nodiscard]] virtual bool translate(MSG& message) = 0;
     // Of its client area as the table gives it, at this many dots per inch.
     [[nodiscard]] virtual SIZE naturalSize(int dpi) const = 0;
     [[nodiscard]] virtual HWND handle() const noexcept = 0;
-    // Draws the form as it stands (print, picture).
-    virtual void draw(HDC dc, const RECT& place) const = 0;
 };
 
 class FormFactory final : public platform::FormFactory {

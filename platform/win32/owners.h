@@ -64,6 +64,10 @@ struct LibraryTraits {
     using Handle = HMODULE;
     static void close(HMODULE library) noexcept { FreeLibrary(library); }
 };
+struct MemoryDcTraits {
+    using Handle = HDC;
+    static void close(HDC dc) noexcept { DeleteDC(dc); }
+};
 template <class Object>
 struct GdiTraits {
     using Handle = Object;
@@ -73,6 +77,7 @@ struct GdiTraits {
 using UniqueWindow = Unique<WindowTraits>;
 using UniqueMenu = Unique<MenuTraits>;
 using UniqueKey = Unique<KeyTraits>;
+using UniqueMemoryDc = Unique<MemoryDcTraits>;
 using UniqueFile = Unique<FileTraits>;
 using UniqueLibrary = Unique<LibraryTraits>;
 template <class Object>

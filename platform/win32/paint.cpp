@@ -184,6 +184,25 @@ void paintBorder(HDC dc, const RECT& place, const BorderPen& pen)
     }
 }
 
+// Painted four times as large over what is there, and drawn smaller with the system's averaging.
+void paintEllipse(HDC dc, const RECT& place, COLORREF colour)
+{
+    constexpr int fine = 4;
+    const int width = place.right - place.left;
+    const int height = place.bottom - place.top;
+    const UniqueMemoryDc memory(CreateCompatibleDC(dc));
+    const UniqueGdi<HBITMAP> picture(CreateCompatibleBitmap(dc, width * fine, height * fine));
+    const SelectedObject canvas(memory.get(), picture.get());
+    StretchBlt(memory.get(), 0, 0, width * fine, height * fine, dc, place.left, place.top, width, height, SRCCOPY);
+    const UniqueGdi<HBRUSH> brush(CreateSolidBrush(colour));
+    const SelectedObject inside(memory.get(), brush.get());
+    const SelectedObject outline(memory.get(), GetStockObject(NULL_PEN));
+    Ellipse(memory.get(), 0, 0, width * fine + 1, height * fine + 1);
+    SetStretchBltMode(dc, HALFTONE);
+    SetBrushOrgEx(dc, 0, 0, nullptr);
+    StretchBlt(dc, place.left, place.top, width, height, memory.get(), 0, 0, width * fine, height * fine, SRCCOPY);
+}
+
 void paintGlyph(HDC dc, const RECT& place, platform::ButtonGlyph glyph, COLORREF colour)
 {
     const RECT box = inner(place, 5, 8);

@@ -23,6 +23,9 @@ void paintGlyph(HDC dc, const RECT& place, platform::ButtonGlyph glyph, COLORREF
 // The whole button: the theme's, or the classic one.
 void paintButton(HDC dc, const RECT& place, platform::ButtonGlyph glyph, UINT itemState, HWND themed);
 
+// A filled ellipse with smooth edges.
+void paintEllipse(HDC dc, const RECT& place, COLORREF colour);
+
 // A field as it looks without its windows. `client` is the size that `layout` was made for.
 struct FieldPicture {
     std::u16string_view text;

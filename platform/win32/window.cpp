@@ -5,9 +5,13 @@
 #include "platform/win32/module.h"
 
 #include <array>
+#include <atomic>
 
 namespace vela::win32 {
 namespace {
+
+constexpr UINT destroyMessage = WM_APP + 0x56;
+std::atomic<long> waiting{0};
 
 LRESULT dispatch(HWND window, UINT message, WPARAM first, LPARAM second)
 {
@@ -17,6 +21,11 @@ LRESULT dispatch(HWND window, UINT message, WPARAM first, LPARAM second)
         return DefWindowProcW(window, message, first, second);
     }
     auto* handler = reinterpret_cast<WindowHandler*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!handler && message == destroyMessage) {
+        DestroyWindow(window);
+        --waiting;
+        return 0;
+    }
     if (!handler)
         return DefWindowProcW(window, message, first, second);
     if (message == WM_NCDESTROY) {
@@ -89,6 +98,20 @@ HWND createBound(const wchar_t* windowClass, WindowHandler& handler, DWORD exten
 {
     return CreateWindowExW(extendedStyle, windowClass, L"", style, place.left, place.top, place.right - place.left,
                            place.bottom - place.top, parent, nullptr, thisModule(), &handler);
+}
+
+void destroyLater(HWND window) noexcept
+{
+    ++waiting;
+    if (PostMessageW(window, destroyMessage, 0, 0))
+        return;
+    --waiting;
+    DestroyWindow(window);
+}
+
+long windowsToDestroy() noexcept
+{
+    return waiting;
 }
 
 void unbind(HWND window) noexcept

@@ -1,0 +1,394 @@
+// What a person does at a form's windows, as the form's events.
+#include "platform/win32/focus_arbiter.h"
+#include "platform/win32/form_window.h"
+#include "platform/win32/keyboard.h"
+#include "platform/win32/text.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <utility>
+
+namespace vela::win32 {
+namespace {
+
+using platform::WidgetId;
+using platform::WidgetKind;
+
+// Counts the procedures under way of a form that may go meanwhile.
+class Running {
+public:
+    Running(int& count, Life& life) noexcept : count_(count), watch_(life) { ++count_; }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+    ~Running()
+    {
+        if (watch_.alive())
+            --count_;
+    }
+    [[nodiscard]] bool alive() const noexcept { return watch_.alive(); }
+
+private:
+    int& count_;
+    Watch watch_;
+};
+
+std::u16string textOf(HWND window)
+{
+    std::u16string text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, u'\0');
+    const int read = GetWindowTextW(window, wide(text.data()), static_cast<int>(text.size()));
+    text.resize(static_cast<std::size_t>(read));
+    return text;
+}
+
+wchar_t upper(wchar_t letter) noexcept
+{
+    CharUpperBuffW(&letter, 1);
+    return letter;
+}
+
+} // namespace
+
+LRESULT FormWindow::widgetMessage(Widget& widget, HWND window, UINT message, WPARAM first, LPARAM second)
+{
+    const Running running(running_, life_);
+    const WNDPROC original = window == widget.inner ? widget.innerOriginal : widget.original;
+    const auto gone = [&] { return !running.alive() || (widget.window != window && widget.inner != window); };
+    switch (message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+        if (keyDown(&widget, first) || gone())
+            return 0;
+        break;
+    case WM_CHAR:
+        if (keyPress(&widget, first) || gone())
+            return 0;
+        break;
+    case WM_SYSCHAR:
+        if (accessKey(static_cast<wchar_t>(first)))
+            return 0;
+        break;
+    case WM_SETFOCUS: {
+        const LRESULT result = CallWindowProcW(original, window, message, first, second);
+        if (!gone())
+            focusArrived(widget);
+        return result;
+    }
+    case WM_NCDESTROY:
+        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+        (window == widget.inner ? widget.inner : widget.window) = nullptr;
+        break;
+    default: break;
+    }
+    return CallWindowProcW(original, window, message, first, second);
+}
+
+LRESULT FormWindow::handle(HWND window, UINT message, WPARAM first, LPARAM second)
+{
+    if (!window_) // still being made
+        return DefWindowProcW(window, message, first, second);
+    const Running running(running_, life_);
+    switch (message) {
+    case WM_COMMAND: return command(first, second);
+    case WM_NOTIFY: return notify(*reinterpret_cast<const NMHDR*>(second));
+    case WM_PAINT: paint(); return 0;
+    case WM_ERASEBKGND: return TRUE;
+    case WM_DRAWITEM: drawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(second)); return TRUE;
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN: return colourOf(message, reinterpret_cast<HDC>(first), reinterpret_cast<HWND>(second));
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_LBUTTONDBLCLK: return pointer(message, second);
+    case WM_CAPTURECHANGED: pressed_ = nullptr; return 0;
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+        if (keyDown(nullptr, first))
+            return 0;
+        break;
+    case WM_CHAR: keyPress(nullptr, first); return 0;
+    case WM_SYSCHAR:
+        if (accessKey(static_cast<wchar_t>(first)))
+            return 0;
+        break;
+    case WM_ACTIVATE: {
+        const LRESULT result = DefWindowProcW(window, message, first, second); // gives the focus to the form
+        if (running.alive())
+            activation(LOWORD(first) != WA_INACTIVE);
+        return result;
+    }
+    case WM_SETFOCUS: focusFirst(); return 0;
+    case WM_TIMER: timer(); return 0;
+    case WM_CLOSE: close(); return 0;
+    default: break;
+    }
+    return running.alive() ? DefWindowProcW(window, message, first, second) : 0;
+}
+
+// Destroyed with its parent or owner: the values stay, and a form of its own is closed.
+void FormWindow::unbound()
+{
+    arbiter_.removeBorrower(std::exchange(window_, nullptr));
+    shown_ = false;
+    for (const auto& widget : widgets_)
+        widget->window = widget->inner = nullptr;
+    if (role_ != Role::child && !std::exchange(closed_, true))
+        events_.closed();
+}
+
+LRESULT FormWindow::command(WPARAM first, LPARAM second)
+{
+    const UINT code = HIWORD(first);
+    if (!second) { // a dialog's Enter and Esc
+        if (LOWORD(first) == IDOK)
+            pressButton(u"OK");
+        else if (LOWORD(first) == IDCANCEL)
+            pressButton(u"Cancelar");
+        return 0;
+    }
+    Widget* widget = quiet_ ? nullptr : ofWindow(reinterpret_cast<HWND>(second));
+    if (!widget)
+        return 0;
+    switch (widget->kind()) {
+    case WidgetKind::button:
+    case WidgetKind::checkBox:
+    case WidgetKind::optionButton:
+    case WidgetKind::swatch:
+        if (code == BN_CLICKED)
+            press(*widget);
+        else if (code == BN_DBLCLK)
+            events_.doubleClicked(widget->id);
+        break;
+    case WidgetKind::comboBox:
+    case WidgetKind::dropDownList:
+        if (code == CBN_SELCHANGE)
+            clickedWindow(*widget);
+        else if (code == CBN_EDITCHANGE)
+            typedInto(*widget);
+        break;
+    case WidgetKind::listBox:
+        if (code == LBN_SELCHANGE)
+            clickedWindow(*widget);
+        else if (code == LBN_DBLCLK)
+            events_.doubleClicked(widget->id);
+        break;
+    case WidgetKind::textBox:
+        if (code == EN_CHANGE)
+            typedInto(*widget);
+        break;
+    case WidgetKind::label:
+    case WidgetKind::frame:
+    case WidgetKind::preview:
+    case WidgetKind::tabStrip: break;
+    }
+    return 0;
+}
+
+// The combo puts the chosen text into its box only after this notification.
+void FormWindow::clickedWindow(Widget& widget)
+{
+    widget.list->readFromWindow();
+    if (widget.kind() == WidgetKind::comboBox && widget.list->chosen() >= 0) {
+        const std::u16string chosen = widget.list->at(widget.list->chosen());
+        const bool before = std::exchange(quiet_, true);
+        SetWindowTextW(widget.window, wide(chosen.c_str()));
+        quiet_ = before;
+    }
+    itemChosen(widget);
+}
+
+void FormWindow::typedInto(Widget& widget)
+{
+    std::u16string text = textOf(widget.window);
+    if (text == widget.text)
+        return;
+    widget.text = std::move(text);
+    if (widget.list && widget.list->chosen() >= 0)
+        widget.list->readFromWindow(); // the combo has let go of its choice
+    events_.changed(widget.id);
+}
+
+LRESULT FormWindow::notify(const NMHDR& header)
+{
+    Widget* widget = ofWindow(header.hwndFrom);
+    if (!quiet_ && widget && widget->kind() == WidgetKind::tabStrip &&
+        header.code == static_cast<UINT>(TCN_SELCHANGE)) {
+        widget->list->readFromWindow();
+        itemChosen(*widget);
+    }
+    return 0;
+}
+
+// As a click of the person does.
+void FormWindow::press(Widget& widget)
+{
+    if (!widget.enabled || !showing(widget))
+        return;
+    if (widget.kind() == WidgetKind::checkBox) {
+        setCheck(widget, !widget.checked);
+    } else if (widget.kind() == WidgetKind::optionButton) {
+        chooseOption(widget);
+        setCheck(widget, true);
+    }
+    events_.clicked(widget.id);
+}
+
+// The form's button of this caption; without one for Esc the form is closed.
+void FormWindow::pressButton(std::u16string_view caption)
+{
+    for (const auto& widget : widgets_)
+        if (widget->kind() == WidgetKind::button && withoutAccessKey(widget->text) == caption) {
+            press(*widget);
+            return;
+        }
+    if (caption == u"Cancelar")
+        close();
+}
+
+LRESULT FormWindow::pointer(UINT message, LPARAM where)
+{
+    Widget* label = labelAt({GET_X_LPARAM(where), GET_Y_LPARAM(where)});
+    if (message == WM_LBUTTONDOWN) {
+        pressed_ = label;
+        if (label)
+            SetCapture(window_);
+        return 0;
+    }
+    if (message == WM_LBUTTONDBLCLK) {
+        if (label)
+            events_.doubleClicked(label->id);
+        return 0;
+    }
+    Widget* pressed = std::exchange(pressed_, nullptr);
+    ReleaseCapture();
+    if (label && label == pressed)
+        events_.clicked(label->id);
+    return 0;
+}
+
+// The topmost one: painted last.
+Widget* FormWindow::labelAt(POINT point)
+{
+    for (auto widget = widgets_.rbegin(); widget != widgets_.rend(); ++widget) {
+        if (isWindow((*widget)->kind()) || (*widget)->kind() == WidgetKind::frame)
+            continue;
+        const RECT place = rectOf(**widget);
+        if ((*widget)->enabled && showing(**widget) && PtInRect(&place, point))
+            return widget->get();
+    }
+    return nullptr;
+}
+
+// A box of our own over the form does not make it an inactive one.
+void FormWindow::activation(bool active)
+{
+    if (closed_ || !shown_ || role_ == Role::child || arbiter_.holding())
+        return;
+    if (active)
+        events_.activated();
+    else
+        events_.deactivated();
+}
+
+void FormWindow::timer()
+{
+    if (timer_ > 0 && !closed_ && !arbiter_.holding())
+        events_.tick();
+}
+
+// True when the key shall go no further.
+bool FormWindow::keyDown(Widget* widget, WPARAM code)
+{
+    const Running running(running_, life_);
+    swallowChar_ = false;
+    if (code == VK_TAB)
+        return role_ == Role::popup && navigate(code);
+    int key = static_cast<int>(code);
+    int shift = shiftState();
+    events_.keyDown(widget ? widget->id : WidgetId{}, key, shift);
+    if (!running.alive())
+        return true;
+    swallowChar_ = key == 0;
+    return key == 0;
+}
+
+bool FormWindow::keyPress(Widget* widget, WPARAM unit)
+{
+    const Running running(running_, life_);
+    if (swallowChar_)
+        return true;
+    if (unit == VK_TAB)
+        return role_ == Role::popup;
+    int key = static_cast<int>(unit);
+    events_.keyPress(widget ? widget->id : WidgetId{}, key);
+    if (!running.alive() || key == 0)
+        return true;
+    const bool single = widget && widget->kind() == WidgetKind::textBox &&
+                        !(GetWindowLongPtrW(widget->window, GWL_STYLE) & ES_MULTILINE);
+    const bool beeps = (single || (widget && widget->inner)) && (key == VK_RETURN || key == VK_ESCAPE);
+    if (beeps || key == static_cast<int>(unit))
+        return beeps;
+    // The handler put another character in its place.
+    if (widget && widget->window)
+        CallWindowProcW(widget->inner ? widget->innerOriginal : widget->original,
+                        widget->inner ? widget->inner : widget->window, WM_CHAR, static_cast<WPARAM>(key), 1);
+    return true;
+}
+
+bool FormWindow::navigate(WPARAM)
+{
+    nextWidget((shiftState() & 1) != 0);
+    return true;
+}
+
+void FormWindow::nextWidget(bool back)
+{
+    if (const HWND next = GetNextDlgTabItem(window_, GetFocus(), back))
+        SetFocus(next);
+}
+
+// A button's access key clicks it; a label's leads to the widget behind it.
+bool FormWindow::accessKey(wchar_t letter)
+{
+    for (std::size_t i = 0; i < widgets_.size(); ++i) {
+        Widget& widget = *widgets_[i];
+        const char16_t key = widget.list || isTyped(widget.kind()) ? u'\0' : accessKeyOf(widget.text);
+        if (!key || upper(static_cast<wchar_t>(key)) != upper(letter) || !widget.enabled || !showing(widget))
+            continue;
+        Widget& target = takesFocus(widget.kind()) || i + 1 == widgets_.size() ? widget : *widgets_[i + 1];
+        if (!target.window || !target.enabled || !showing(target))
+            continue;
+        const Running running(running_, life_);
+        SetFocus(target.window);
+        if (running.alive() && &target == &widget)
+            press(widget);
+        return true;
+    }
+    return false;
+}
+
+bool FormWindow::translate(MSG& message)
+{
+    if (!window_ || (message.hwnd != window_ && !IsChild(window_, message.hwnd)))
+        return false;
+    if (message.message == WM_SYSCHAR && accessKey(static_cast<wchar_t>(message.wParam)))
+        return true;
+    if (role_ == Role::child && message.message == WM_KEYDOWN) {
+        if (message.wParam == VK_RETURN || message.wParam == VK_ESCAPE)
+            return false;
+        if (message.wParam == VK_TAB && leavesPage((shiftState() & 1) != 0))
+            return false;
+    }
+    return IsDialogMessageW(window_, &message) != 0;
+}
+
+// Tab at the page's last widget, or Shift+Tab at its first, goes on to the frame.
+bool FormWindow::leavesPage(bool back) const
+{
+    const Widget* from = ofWindow(GetFocus());
+    const Widget* to = ofWindow(GetNextDlgTabItem(window_, GetFocus(), back));
+    return from && to && (back ? to->id.value >= from->id.value : to->id.value <= from->id.value);
+}
+
+} // namespace vela::win32

@@ -1,0 +1,208 @@
+// How a form is shown: as a pop-up, as a modal dialog, as a child of a frame.
+#include "engine/error.h"
+#include "platform/win32/dpi.h"
+#include "platform/win32/focus_arbiter.h"
+#include "platform/win32/form_window.h"
+#include "platform/win32/text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vela::win32 {
+namespace {
+
+constexpr UINT_PTR formTimer = 1;
+constexpr DWORD modalStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
+constexpr DWORD modalExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
+
+// The middle of the owner, or of the screen's work area, kept on the screen.
+POINT centred(SIZE size, HWND owner)
+{
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoW(MonitorFromWindow(owner, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    RECT around = monitor.rcWork;
+    if (owner)
+        GetWindowRect(owner, &around);
+    const LONG x = (around.left + around.right - size.cx) / 2;
+    const LONG y = (around.top + around.bottom - size.cy) / 2;
+    return {std::clamp(x, monitor.rcWork.left, std::max(monitor.rcWork.left, monitor.rcWork.right - size.cx)),
+            std::clamp(y, monitor.rcWork.top, std::max(monitor.rcWork.top, monitor.rcWork.bottom - size.cy))};
+}
+
+} // namespace
+
+SIZE FormWindow::naturalSize(int dpi) const
+{
+    return {engine::twipsToPixels(layout_.width, dpi), engine::twipsToPixels(layout_.height, dpi)};
+}
+
+void FormWindow::makeTopLevel(Role role, HWND owner, RECT place, DWORD style, DWORD extendedStyle)
+{
+    dropWindows();
+    role_ = role;
+    owner_ = owner;
+    const HWND made = createBound(formClass(), *this, extendedStyle, style, place, owner);
+    if (!made)
+        engine::raise(engine::error_number::outOfMemory);
+    window_ = made;
+    SetWindowTextW(window_, std::wstring(wide(layout_.caption)).c_str());
+    makeWindows();
+    if (timer_ > 0)
+        SetTimer(window_, formTimer, static_cast<UINT>(timer_), nullptr);
+}
+
+// The place's size is that at 96 dpi; the window takes the owner's dpi and the table fills it.
+void FormWindow::showPopup(engine::RectPixels place, platform::WindowId owner)
+{
+    const HWND top = GetAncestor(reinterpret_cast<HWND>(owner.value), GA_ROOT);
+    const int dpi = dpiOf(top);
+    const int width = scaled(place.width, dpi);
+    const int height = scaled(place.height, dpi);
+    scale_ = std::min(static_cast<double>(width) / layout_.width, static_cast<double>(height) / layout_.height);
+    if (role_ == Role::popup && window_ && owner_ == top) {
+        SetWindowPos(window_, HWND_TOP, place.left, place.top, width, height, SWP_NOACTIVATE);
+        layOut();
+    } else {
+        makeTopLevel(Role::popup, top, {place.left, place.top, place.left + width, place.top + height},
+                     WS_POPUP | WS_CLIPCHILDREN, WS_EX_TOOLWINDOW | WS_EX_CONTROLPARENT);
+        returnTo_ = GetFocus();
+    }
+    arbiter_.addBorrower(window_);
+    Watch watch(life_);
+    const bool again = std::exchange(shown_, true);
+    ShowWindow(window_, SW_SHOW);
+    if (watch.alive() && window_ && GetActiveWindow() != window_)
+        SetForegroundWindow(window_);
+    else if (watch.alive() && window_ && again)
+        activation(true); // it stayed active, so the system says nothing
+}
+
+void FormWindow::showModal()
+{
+    const HWND active = GetActiveWindow();
+    const HWND owner = active ? GetAncestor(active, GA_ROOT) : nullptr;
+    const int dpi = dpiOf(owner);
+    scale_ = static_cast<double>(dpi) / engine::twipsPerInch;
+    const SIZE client = naturalSize(dpi);
+    RECT frame{0, 0, client.cx, client.cy};
+    AdjustWindowRectEx(&frame, modalStyle, FALSE, modalExtendedStyle);
+    const SIZE size{frame.right - frame.left, frame.bottom - frame.top};
+    const POINT corner = centred(size, owner);
+    returnTo_ = GetFocus();
+    makeTopLevel(Role::modal, owner, {corner.x, corner.y, corner.x + size.cx, corner.y + size.cy}, modalStyle,
+                 modalExtendedStyle);
+    arbiter_.addBorrower(window_);
+    if (owner)
+        EnableWindow(owner, FALSE);
+    shown_ = true;
+    Watch watch(life_);
+    ShowWindow(window_, SW_SHOW);
+    if (watch.alive() && shown_)
+        SetForegroundWindow(window_);
+    if (watch.alive())
+        runModalLoop();
+}
+
+void FormWindow::runModalLoop()
+{
+    Watch watch(life_);
+    MSG message{};
+    while (watch.alive() && shown_) {
+        if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
+            PostQuitMessage(static_cast<int>(message.wParam)); // the host's loop is to see it
+            close();
+            return;
+        }
+        if (!translate(message)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
+}
+
+void FormWindow::showChild(HWND parent, const RECT& place)
+{
+    scale_ = static_cast<double>(dpiOf(parent)) / engine::twipsPerInch;
+    makeTopLevel(Role::child, parent, place, WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | WS_VISIBLE,
+                 WS_EX_CONTROLPARENT);
+    shown_ = true;
+}
+
+void FormWindow::showChildWindow(bool visible)
+{
+    if (window_)
+        ShowWindow(window_, visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void FormWindow::moveChild(const RECT& place)
+{
+    if (window_)
+        SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void FormWindow::leaveParent()
+{
+    shown_ = false;
+    role_ = Role::none;
+    dropWindows();
+}
+
+void FormWindow::focusFirst()
+{
+    if (focused_ && at(focused_).window) {
+        SetFocus(at(focused_).window);
+        return;
+    }
+    if (role_ != Role::popup)
+        nextWidget(false);
+}
+
+void FormWindow::startTimer(int milliseconds)
+{
+    timer_ = std::max(milliseconds, 0);
+    if (!window_)
+        return;
+    if (timer_ > 0)
+        SetTimer(window_, formTimer, static_cast<UINT>(timer_), nullptr);
+    else
+        KillTimer(window_, formTimer);
+}
+
+void FormWindow::close()
+{
+    if (std::exchange(closed_, true))
+        return;
+    Watch watch(life_);
+    timer_ = 0;
+    endShowing();
+    if (watch.alive())
+        events_.closed();
+}
+
+// The one that had the focus gets it back, unless it went elsewhere meanwhile.
+void FormWindow::endShowing()
+{
+    if (!std::exchange(shown_, false))
+        return;
+    Watch watch(life_);
+    const HWND window = window_;
+    if (role_ == Role::modal && owner_)
+        EnableWindow(owner_, TRUE);
+    if (window && role_ != Role::child && GetActiveWindow() == window) {
+        if (returnTo_ && IsWindow(returnTo_))
+            SetFocus(returnTo_);
+        else if (owner_)
+            SetActiveWindow(owner_);
+    }
+    if (!watch.alive())
+        return;
+    if (window)
+        ShowWindow(window, SW_HIDE);
+    arbiter_.removeBorrower(window);
+    if (watch.alive())
+        dropWindows();
+}
+
+} // namespace vela::win32

@@ -1,0 +1,238 @@
+// The windows of a form's widgets: made from the table, placed by its scale, dropped when the form goes.
+#include "platform/win32/activation_context.h"
+#include "platform/win32/form_window.h"
+#include "platform/win32/guard.h"
+#include "platform/win32/module.h"
+#include "platform/win32/text.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace vela::win32 {
+namespace {
+
+using platform::WidgetKind;
+
+constexpr int tallBox = 600;       // twips; a text box of this height has several lines
+constexpr int dropHeight = 200;    // pixels at 96 dpi of a combo's list
+constexpr UINT dontClick = 0x00F8; // BM_SETDONTCLICK: a button chosen by Tab is not clicked
+
+struct Recipe {
+    const wchar_t* windowClass = nullptr;
+    DWORD style = 0;
+    DWORD extendedStyle = 0;
+};
+
+Recipe textBoxRecipe(const platform::WidgetRow& row) noexcept
+{
+    const DWORD several = ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL;
+    return {WC_EDITW, row.place.height >= tallBox ? several : DWORD{ES_AUTOHSCROLL}, WS_EX_CLIENTEDGE};
+}
+
+Recipe recipeOf(const platform::WidgetRow& row) noexcept
+{
+    switch (row.kind) {
+    case WidgetKind::button: return {WC_BUTTONW, BS_PUSHBUTTON | BS_NOTIFY, 0};
+    case WidgetKind::comboBox: return {WC_COMBOBOXW, CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL, 0};
+    case WidgetKind::dropDownList: return {WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL, 0};
+    case WidgetKind::listBox:
+        return {WC_LISTBOXW, LBS_MULTIPLESEL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL, WS_EX_CLIENTEDGE};
+    case WidgetKind::checkBox: return {WC_BUTTONW, BS_CHECKBOX | BS_NOTIFY, 0};
+    case WidgetKind::optionButton: return {WC_BUTTONW, BS_RADIOBUTTON | BS_NOTIFY, 0};
+    case WidgetKind::textBox: return textBoxRecipe(row);
+    case WidgetKind::swatch: return {WC_BUTTONW, BS_OWNERDRAW | BS_NOTIFY, 0};
+    case WidgetKind::tabStrip: return {WC_TABCONTROLW, TCS_FOCUSNEVER, 0};
+    case WidgetKind::label:
+    case WidgetKind::frame:
+    case WidgetKind::preview: break;
+    }
+    return {};
+}
+
+bool isCombo(WidgetKind kind) noexcept
+{
+    return kind == WidgetKind::comboBox || kind == WidgetKind::dropDownList;
+}
+
+LRESULT CALLBACK widgetProcedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
+{
+    auto* widget = reinterpret_cast<Widget*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!widget)
+        return DefWindowProcW(window, message, first, second);
+    return guarded([&] { return widget->form->widgetMessage(*widget, window, message, first, second); }, LRESULT{0});
+}
+
+WNDPROC subclass(HWND window, Widget& widget) noexcept
+{
+    const auto original = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window, GWLP_WNDPROC));
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&widget));
+    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&widgetProcedure));
+    return original;
+}
+
+void unsubclass(HWND& window, WNDPROC original) noexcept
+{
+    if (const HWND known = std::exchange(window, nullptr)) {
+        SetWindowLongPtrW(known, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+        SetWindowLongPtrW(known, GWLP_USERDATA, 0);
+    }
+}
+
+HWND editOf(HWND combo) noexcept
+{
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    if (GetComboBoxInfo(combo, &info) && info.hwndItem && info.hwndItem != combo)
+        return info.hwndItem;
+    return nullptr;
+}
+
+} // namespace
+
+int FormWindow::pixels(int twips) const noexcept
+{
+    return static_cast<int>(std::lround(twips * scale_));
+}
+
+POINT FormWindow::offsetOf(std::u16string_view frame) const
+{
+    const platform::WidgetId id = frame.empty() ? platform::WidgetId{} : platform::findWidget(layout_, frame);
+    if (!id)
+        return {0, 0};
+    const Widget& found = at(id);
+    const POINT outer = offsetOf(found.row->parent);
+    return {outer.x + found.look.left, outer.y + found.look.top};
+}
+
+RECT FormWindow::rectOf(const Widget& widget) const
+{
+    const POINT offset = offsetOf(widget.row->parent);
+    const int left = static_cast<int>(offset.x) + widget.look.left;
+    const int top = static_cast<int>(offset.y) + widget.look.top;
+    return {pixels(left), pixels(top), pixels(left + widget.row->place.width), pixels(top + widget.row->place.height)};
+}
+
+platform::FontDescription FormWindow::fontOf(const Widget& widget) const
+{
+    if (widget.font)
+        return *widget.font;
+    platform::FontDescription font;
+    font.name = layout_.fontName;
+    font.size = widget.row->fontSize > 0 ? widget.row->fontSize : layout_.fontSize;
+    font.bold = widget.row->bold;
+    return font;
+}
+
+void FormWindow::applyFont(Widget& widget)
+{
+    const int dpi = std::max(1, static_cast<int>(std::lround(scale_ * engine::twipsPerInch)));
+    SharedFont font = sharedFont(fontOf(widget), dpi);
+    if (widget.window)
+        SendMessageW(widget.window, WM_SETFONT, reinterpret_cast<WPARAM>(font->get()), TRUE);
+    widget.shared = std::move(font);
+}
+
+void FormWindow::makeWindows()
+{
+    const ActivationContext controls;
+    const bool before = std::exchange(quiet_, true);
+    for (const auto& widget : widgets_)
+        makeWidget(*widget);
+    quiet_ = before;
+    layOut();
+    applyVisibility();
+}
+
+void FormWindow::makeWidget(Widget& widget)
+{
+    const Recipe recipe = recipeOf(*widget.row);
+    if (!recipe.windowClass || widget.window)
+        return;
+    const bool firstOption = widget.kind() == WidgetKind::optionButton &&
+                             (widget.id.value == 0 || widgets_[static_cast<std::size_t>(widget.id.value - 1)]->kind() !=
+                                                          WidgetKind::optionButton);
+    const bool groups = firstOption || widget.kind() != WidgetKind::optionButton;
+    const DWORD style = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS | recipe.style | (groups ? WS_GROUP : 0U) |
+                        (widget.enabled ? 0U : WS_DISABLED);
+    widget.window =
+        CreateWindowExW(recipe.extendedStyle, recipe.windowClass, wide(widget.text.c_str()), style, 0, 0, 0, 0, window_,
+                        reinterpret_cast<HMENU>(INT_PTR{100} + widget.id.value), thisModule(), nullptr);
+    if (!widget.window)
+        return;
+    widget.original = subclass(widget.window, widget);
+    if (widget.kind() == WidgetKind::comboBox) {
+        widget.inner = editOf(widget.window);
+        if (widget.inner)
+            widget.innerOriginal = subclass(widget.inner, widget);
+    }
+    if (widget.list)
+        widget.list->fill();
+    if (widget.kind() == WidgetKind::comboBox)
+        SetWindowTextW(widget.window, wide(widget.text.c_str()));
+    if (widget.kind() == WidgetKind::optionButton)
+        SendMessageW(widget.window, dontClick, TRUE, 0);
+    if (widget.checked)
+        SendMessageW(widget.window, BM_SETCHECK, BST_CHECKED, 0);
+    rememberSpokenName(widget);
+}
+
+void FormWindow::layOut()
+{
+    for (const auto& widget : widgets_) {
+        applyFont(*widget);
+        placeWidget(*widget);
+    }
+}
+
+// Combos are given the height of their list too; a tab strip stands on its captions' height alone, because the
+// form paints what lies on the tabs.
+void FormWindow::placeWidget(Widget& widget)
+{
+    if (!widget.window)
+        return;
+    const RECT place = rectOf(widget);
+    int height = place.bottom - place.top;
+    if (isCombo(widget.kind())) {
+        const int edges = pixels(90); // the closed combo is its item and this much
+        SendMessageW(widget.window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), std::max(height - edges, 1));
+        height += MulDiv(dropHeight, static_cast<int>(std::lround(scale_ * engine::twipsPerInch)), 96);
+    } else if (widget.kind() == WidgetKind::tabStrip) {
+        RECT caption{};
+        SendMessageW(widget.window, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&caption));
+        height = caption.bottom + 1;
+    }
+    SetWindowPos(widget.window, nullptr, place.left, place.top, place.right - place.left, height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void FormWindow::applyVisibility()
+{
+    if (!window_)
+        return;
+    for (const auto& widget : widgets_)
+        if (widget->window)
+            ShowWindow(widget->window, showing(*widget) ? SW_SHOWNA : SW_HIDE);
+    InvalidateRect(window_, nullptr, FALSE);
+}
+
+// A window may be dropped by what its own procedure called: then it is destroyed when that has returned.
+void FormWindow::dropWindows()
+{
+    for (const auto& widget : widgets_) {
+        unsubclass(widget->inner, widget->innerOriginal);
+        unsubclass(widget->window, widget->original);
+    }
+    pressed_ = nullptr;
+    const HWND window = std::exchange(window_, nullptr);
+    if (!window)
+        return;
+    unbind(window);
+    if (running_ > 0)
+        destroyLater(window);
+    else
+        DestroyWindow(window);
+}
+
+} // namespace vela::win32
