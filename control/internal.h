@@ -6,6 +6,7 @@
 #include "control/trap.h"
 #include "control/vela.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <utility>
@@ -43,18 +44,18 @@ private:
 };
 
 // A text buffer borrowed from the control for one routine, empty at first; it goes back with its room. Routines may
-// nest: what the control has no buffer for starts with none.
+// nest: what the control has no buffer left for starts with none.
 class Vela::Scratch {
 public:
     explicit Scratch(Vela& control) noexcept : control_(control), alive_(control.life_)
     {
-        text_.swap(control.scratch_[roomier()]);
+        text_.swap(*std::ranges::max_element(control.scratch_, {}, &Text16::capacity));
         text_.clear();
     }
     ~Scratch()
     {
         if (alive_ && text_.capacity() <= largestKept)
-            text_.swap(control_.scratch_[1 - roomier()]);
+            text_.swap(*std::ranges::min_element(control_.scratch_, {}, &Text16::capacity));
     }
     Scratch(const Scratch&) = delete;
     Scratch& operator=(const Scratch&) = delete;
@@ -64,11 +65,6 @@ public:
 
 private:
     static constexpr std::size_t largestKept = 1024; // units; a long text's buffer is not kept
-
-    [[nodiscard]] std::size_t roomier() const noexcept
-    {
-        return control_.scratch_[1].capacity() > control_.scratch_[0].capacity() ? 1 : 0;
-    }
 
     Vela& control_;
     Liveness::Probe alive_;

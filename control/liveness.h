@@ -4,51 +4,34 @@
 namespace vela::control {
 
 // One per control. A probe on the stack stays true until the control is terminated or destroyed.
-//     Liveness::Probe alive(life_);
+//     const Liveness::Probe alive(life_);
 //     host_.raiseChange();
 //     if (!alive) return; // no member may be touched
 class Liveness {
 public:
+    // Probes end in the reverse order of their making, as locals do.
     class Probe {
     public:
-        explicit Probe(Liveness& life) noexcept : life_(life.ended_ ? nullptr : &life), outer_(life.innermost_)
-        {
-            life.innermost_ = this;
-            owner_ = &life;
-        }
-        ~Probe()
-        {
-            if (owner_ != nullptr)
-                owner_->innermost_ = outer_;
-        }
+        explicit Probe(Liveness& life) noexcept;
+        ~Probe();
         Probe(const Probe&) = delete;
         Probe& operator=(const Probe&) = delete;
-        explicit operator bool() const noexcept { return life_ != nullptr; }
+        explicit operator bool() const noexcept { return alive_; }
 
     private:
         friend class Liveness;
-        Liveness* life_;            // null once the control is no longer to be used
-        Liveness* owner_ = nullptr; // null once the object itself is gone
+        Liveness* life_; // null once the object itself is gone
         Probe* outer_;
+        bool alive_;
     };
 
     Liveness() = default;
-    ~Liveness()
-    {
-        end();
-        for (Probe* probe = innermost_; probe != nullptr; probe = probe->outer_)
-            probe->owner_ = nullptr;
-    }
+    ~Liveness();
     Liveness(const Liveness&) = delete;
     Liveness& operator=(const Liveness&) = delete;
 
     [[nodiscard]] bool ended() const noexcept { return ended_; }
-    void end() noexcept
-    {
-        ended_ = true;
-        for (Probe* probe = innermost_; probe != nullptr; probe = probe->outer_)
-            probe->life_ = nullptr;
-    }
+    void end() noexcept;
 
 private:
     Probe* innermost_ = nullptr;
