@@ -1,8 +1,8 @@
 // The rules of the date check and the time check.
 #include "engine/date_check.h"
 
+#include "engine/characters.h"
 #include "engine/conversions.h"
-#include "engine/letter_case.h"
 
 #include <algorithm>
 #include <array>
@@ -29,9 +29,14 @@ int decimalDigits(int value) noexcept
     return count;
 }
 
+// A part with one more character, or the number of the error that its conversion raised.
+struct Appended {
+    int value = 0;
+    int error = 0;
+};
+
 // The text of `value` followed by the unit, read as a number: 1 and "." are 1 where "." groups, 0 and "_" are none.
-// Answers the number of an error, 0 when it was read.
-int appendOther(int& value, char16_t unit, const Locale& locale) noexcept
+Appended appendOther(int value, char16_t unit, const Locale& locale) noexcept
 {
     std::array<char, 8> narrow{};
     const auto end = std::to_chars(narrow.data(), narrow.data() + narrow.size(), value).ptr;
@@ -41,40 +46,43 @@ int appendOther(int& value, char16_t unit, const Locale& locale) noexcept
     const auto length = static_cast<std::size_t>(last - digits.begin()) + 1;
     const auto number = tryParseDouble({digits.data(), length}, locale);
     if (!number)
-        return error_number::typeMismatch;
+        return {0, error_number::typeMismatch};
     const double rounded = std::nearbyint(*number);
     if (!(rounded >= std::numeric_limits<std::int16_t>::min() && rounded <= std::numeric_limits<std::int16_t>::max()))
-        return error_number::overflow;
-    value = static_cast<int>(rounded);
-    return 0;
+        return {0, error_number::overflow};
+    return {static_cast<int>(rounded), 0};
 }
 
-int append(int& value, char16_t unit, const Locale& locale) noexcept
+Appended append(int value, char16_t unit, const Locale& locale) noexcept
 {
-    if (unit < u'0' || unit > u'9' || value < 0)
+    if (!isDigit(unit) || value < 0)
         return appendOther(value, unit, locale);
     const int appended = value * 10 + (unit - u'0');
-    if (appended > std::numeric_limits<std::int16_t>::max())
-        return error_number::overflow;
-    value = appended;
-    return 0;
+    return {appended, appended > std::numeric_limits<std::int16_t>::max() ? error_number::overflow : 0};
 }
 
-// Gathers the text's characters that stand under the three letters of the format, whatever their case.
-// Answers the number of an error, 0 when all were read.
-int gather(std::u16string_view text, const DateCheckSettings& settings, std::u16string_view letters,
+// Gathers the text's characters that stand under the three letters (small) of the format, whatever their case.
+// Answers the number of an error, 0 when all were read. Runs of a letter ("yyyy") are gathered at one go.
+int gather(std::u16string_view text, const DateCheckSettings& settings, const std::array<char16_t, 3>& letters,
            std::array<Part, 3>& parts) noexcept
 {
-    for (std::size_t i = 0; i < settings.dateFormat.size(); ++i) {
-        const auto which = letters.find(lowerCase(settings.dateFormat[i]));
-        if (which == std::u16string_view::npos)
+    const auto format = settings.dateFormat;
+    for (std::size_t i = 0; i < format.size();) {
+        const char16_t letter = lowerLetter(format[i]);
+        const std::size_t which = letter == letters[0] ? 0 : letter == letters[1] ? 1 : letter == letters[2] ? 2 : 3;
+        if (which == parts.size()) {
+            ++i;
             continue;
-        Part& part = parts[which];
-        if (part.first == std::u16string_view::npos)
-            part.first = i;
-        if (i < text.size())
-            if (const int number = append(part.value, text[i], settings.locale))
-                return number;
+        }
+        parts[which].first = std::min(parts[which].first, i);
+        Appended gathered{parts[which].value, 0};
+        for (; i < format.size() && lowerLetter(format[i]) == letter; ++i) {
+            if (i < text.size())
+                gathered = append(gathered.value, text[i], settings.locale);
+            if (gathered.error != 0)
+                return gathered.error;
+        }
+        parts[which].value = gathered.value;
     }
     return 0;
 }
@@ -82,7 +90,7 @@ int gather(std::u16string_view text, const DateCheckSettings& settings, std::u16
 // A prompt in the first place, or none at all, lets a check go on; kept.
 bool isIncomplete(std::u16string_view text, std::u16string_view promptChar) noexcept
 {
-    const auto found = text.find(promptChar);
+    const auto found = promptChar.size() == 1 ? text.find(promptChar.front()) : text.find(promptChar);
     return found != std::u16string_view::npos && found >= 1;
 }
 
@@ -156,7 +164,7 @@ DateVerdict checkDate(std::u16string_view text, const DateCheckSettings& setting
     if (isIncomplete(text, settings.promptChar))
         return refused(incompleteMessage);
     std::array<Part, 3> parts; // day, month, year
-    if (const int number = gather(text, settings, u"dmy", parts))
+    if (const int number = gather(text, settings, {u'd', u'm', u'y'}, parts))
         return failed(incompleteMessage, number);
     const auto& [day, month, year] = parts;
     const Rule rule = brokenRule(day.value, month.value, year.value);
@@ -173,7 +181,7 @@ DateVerdict checkTime(std::u16string_view text, const DateCheckSettings& setting
     if (text == settings.mask || isIncomplete(text, settings.promptChar))
         return refused({});
     std::array<Part, 3> parts; // hour, minute, second
-    if (const int number = gather(text, settings, u"hns", parts))
+    if (const int number = gather(text, settings, {u'h', u'n', u's'}, parts))
         return failed({}, number);
     const auto& [hour, minute, second] = parts;
     if (hour.value > 23 || minute.value > 59 || second.value >= 60)

@@ -18,6 +18,8 @@ struct DateCheckSettings {
 };
 
 struct DateVerdict {
+    DateVerdict() noexcept {} // written out: the generated one clears the room for a failure first
+
     bool accepted = true;
     std::u16string_view message;  // why not; the time check has none
     bool corrected = false;       // the text with prompts put back is in the caller's buffer: write it to the box

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 namespace vela::engine {
 namespace {
@@ -70,6 +71,11 @@ char16_t lowerBeyondLatin1(char16_t unit) noexcept
     return unit;
 }
 
+inline char16_t lowered(char16_t unit) noexcept
+{
+    return unit < latin1Lower.size() ? latin1Lower[unit] : lowerBeyondLatin1(unit);
+}
+
 // A letter of a lowered text, for where words begin. By plain comparison of units: the division sign counts as a
 // letter, y acute, thorn and y diaeresis do not; kept.
 constexpr bool isWordLetter(char16_t unit) noexcept
@@ -77,24 +83,50 @@ constexpr bool isWordLetter(char16_t unit) noexcept
     return (unit >= u'a' && unit <= u'z') || (unit >= 0xE0 && unit <= 0xFC);
 }
 
-constexpr std::array<std::u16string_view, 16> particles = {
-    u"di ",  u"de ", u"da ", u"do ", u"du ", u"ou ", u"com ", u"das ",
-    u"dos ", u"a ",  u"e ",  u"o ",  u"i ",  u"u ",  u"um ",  u"em ",
-};
+// Up to three small letters as one number, for comparison at once.
+constexpr std::uint64_t packed(std::u16string_view letters) noexcept
+{
+    std::uint64_t number = 0;
+    for (const char16_t unit : letters)
+        number = number << 16 | unit;
+    return number;
+}
+
+constexpr bool isParticle(std::uint64_t word) noexcept
+{
+    switch (word) {
+    case packed(u"di"):
+    case packed(u"de"):
+    case packed(u"da"):
+    case packed(u"do"):
+    case packed(u"du"):
+    case packed(u"ou"):
+    case packed(u"com"):
+    case packed(u"das"):
+    case packed(u"dos"):
+    case packed(u"a"):
+    case packed(u"e"):
+    case packed(u"o"):
+    case packed(u"i"):
+    case packed(u"u"):
+    case packed(u"um"):
+    case packed(u"em"): return true;
+    default: return false;
+    }
+}
 
 // Whether the word that begins at `at` (its letters still in any case) stays small: one of the particles, with a
 // blank on both sides.
-bool isParticle(std::u16string_view text, std::size_t at) noexcept
+bool startsParticle(std::u16string_view text, std::size_t at) noexcept
 {
     if (at == 0 || text[at - 1] != u' ')
         return false;
-    std::array<char16_t, 4> word{};
-    std::size_t length = 0;
-    while (length < word.size() && at + length < text.size()) {
-        const char16_t unit = lowerCase(text[at + length]);
-        word[length++] = unit;
-        if (unit == u' ')
-            return std::ranges::find(particles, std::u16string_view(word.data(), length)) != particles.end();
+    std::uint64_t word = 0;
+    const std::size_t end = std::min(text.size(), at + 4); // three letters and the blank
+    for (std::size_t i = at; i < end; ++i) {
+        if (text[i] == u' ')
+            return isParticle(word);
+        word = word << 16 | lowered(text[i]);
     }
     return false;
 }
@@ -115,7 +147,7 @@ char16_t upperCase(char16_t unit) noexcept
 
 char16_t lowerCase(char16_t unit) noexcept
 {
-    return unit < latin1Lower.size() ? latin1Lower[unit] : lowerBeyondLatin1(unit);
+    return lowered(unit);
 }
 
 std::u16string upperCase(std::u16string_view text)
@@ -130,18 +162,25 @@ std::u16string lowerCase(std::u16string_view text)
 
 bool containsIgnoringCase(std::u16string_view text, std::u16string_view part) noexcept
 {
-    const auto same = [](char16_t a, char16_t b) { return a == b || lowerCase(a) == lowerCase(b); };
+    if (part.size() == 1) {
+        const char16_t sought = lowered(part.front());
+        return std::ranges::any_of(text, [sought](char16_t unit) { return lowered(unit) == sought; });
+    }
+    const auto same = [](char16_t a, char16_t b) { return lowered(a) == lowered(b); };
     return part.empty() || std::search(text.begin(), text.end(), part.begin(), part.end(), same) != text.end();
 }
 
 void properCase(std::u16string_view text, std::u16string& into)
 {
     into.resize(text.size());
+    char16_t* out = into.data();
     bool wordStart = true;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const char16_t unit = lowerCase(text[i]);
+        char16_t unit = lowered(text[i]);
         const bool letter = isWordLetter(unit);
-        into[i] = letter && wordStart && !isParticle(text, i) ? upperCase(unit) : unit;
+        if (letter && wordStart && !startsParticle(text, i))
+            unit = latin1Upper[unit];
+        out[i] = unit;
         wordStart = !letter;
     }
 }

@@ -1,7 +1,9 @@
 // The number field's texts: display on exit, symbol, sign, entry form and live re-format.
 #include "engine/number_display.h"
 
+#include "engine/characters.h"
 #include "engine/conversions.h"
+#include "engine/text_writer.h"
 
 #include <algorithm>
 #include <array>
@@ -11,11 +13,6 @@ namespace {
 
 constexpr std::u16string_view wholePattern = u"###,###,###,###,###,###,###,###,###,###,###,###,###,###,##0";
 constexpr std::size_t npos = std::u16string_view::npos;
-
-constexpr bool isDigit(char16_t unit) noexcept
-{
-    return unit >= u'0' && unit <= u'9';
-}
 
 void removeAll(std::u16string_view part, std::u16string_view text, std::u16string& into)
 {
@@ -30,44 +27,81 @@ void removeAll(std::u16string_view part, std::u16string_view text, std::u16strin
     into.append(text);
 }
 
-// Up to 15 digits, perhaps behind a sign: texts whose grouping needs no arithmetic.
-bool isPlainWhole(std::u16string_view whole) noexcept
+// A number in its plainest writing, which needs no arithmetic to be grouped: "-1234567,5".
+struct PlainNumber {
+    bool negative = false;
+    std::u16string_view whole;    // 0 to 15 digits
+    std::u16string_view fraction; // digits
+};
+
+constexpr std::size_t countedDigits = 15; // of a double
+
+std::size_t leadingDigits(std::u16string_view text) noexcept
 {
-    if (whole.starts_with(u'-'))
-        whole.remove_prefix(1);
-    return !whole.empty() && whole.size() <= 15 && std::ranges::all_of(whole, isDigit);
+    std::size_t count = 0;
+    while (count < text.size() && isDigit(text[count]))
+        ++count;
+    return count;
 }
 
-// "-0012345" -> "-12.345"; a zero has no sign.
-void appendPlainWhole(std::u16string_view whole, const Locale& locale, std::u16string& into)
+// Nothing for every other writing, numeric or not, and in locales with signs and symbols of another kind.
+std::optional<PlainNumber> plainNumber(std::u16string_view text, const Locale& locale) noexcept
 {
-    const bool negative = whole.starts_with(u'-');
-    if (negative)
-        whole.remove_prefix(1);
-    whole.remove_prefix(std::min(whole.find_first_not_of(u'0'), whole.size() - 1));
-    if (negative && whole != u"0")
-        into += locale.negativeSign;
-    const std::size_t lead = (whole.size() - 1) % 3 + 1;
-    into.append(whole.substr(0, lead));
-    for (std::size_t i = lead; i < whole.size(); i += 3) {
-        into += locale.grouping;
-        into.append(whole.substr(i, 3));
+    if (locale.decimal.size() != 1 || locale.grouping.size() != 1 || locale.negativeSign != u"-")
+        return {};
+    PlainNumber number;
+    number.negative = text.starts_with(u'-');
+    if (number.negative)
+        text.remove_prefix(1);
+    number.whole = text.substr(0, leadingDigits(text));
+    text.remove_prefix(number.whole.size());
+    if (!text.empty()) {
+        number.fraction = text.substr(1);
+        if (text.front() != locale.decimal.front() || number.fraction.empty() ||
+            leadingDigits(number.fraction) != number.fraction.size())
+            return {};
+    }
+    if (number.whole.size() > countedDigits || number.whole.size() + number.fraction.size() == 0)
+        return {};
+    return number;
+}
+
+bool isZero(std::u16string_view digits) noexcept
+{
+    return digits.find_first_not_of(u'0') == npos;
+}
+
+// "0012345" -> "12.345", "" -> "0"; `grouping` 0: no grouping.
+void putWhole(std::u16string_view digits, char16_t grouping, TextWriter& writer)
+{
+    digits.remove_prefix(std::min(digits.find_first_not_of(u'0'), digits.size()));
+    if (digits.empty())
+        writer.put(u'0');
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+        if (grouping != 0 && i != 0 && (digits.size() - i) % 3 == 0)
+            writer.put(grouping);
+        writer.put(digits[i]);
     }
 }
 
 // The whole part is read as a locale-independent leading number, so that "1.234" is a fraction and groups as "1".
-void appendGrouped(std::u16string_view whole, std::u16string_view fraction, const Locale& locale, std::u16string& into)
+void putGrouped(std::u16string_view whole, std::u16string_view fraction, const Locale& locale, TextWriter& writer,
+                std::u16string& into)
 {
-    const bool plain = isPlainWhole(whole);
-    const bool fractionCounts = fraction.find_first_of(u"123456789") != npos;
-    if (whole.starts_with(u'-') && fractionCounts && leadingNumber(whole) == 0)
-        into.push_back(u'-'); // "-0,5": the sign would be lost with the zero
-    if (plain) {
-        appendPlainWhole(whole, locale, into);
+    const bool negative = whole.starts_with(u'-');
+    const auto plain = plainNumber(whole, locale);
+    if (plain && plain->fraction.empty()) {
+        if (negative && !(isZero(plain->whole) && isZero(fraction)))
+            writer.put(u'-'); // of "-0,5" too
+        putWhole(plain->whole, locale.grouping.front(), writer);
         return;
     }
+    const double number = leadingNumber(whole);
+    if (negative && number == 0 && fraction.find_first_of(u"123456789") != npos)
+        writer.put(u'-'); // "-,5": the sign would be lost with the zero
+    writer.flush();
     static const Pattern pattern(wholePattern);
-    pattern.format(leadingNumber(whole), locale, into);
+    pattern.format(number, locale, into);
 }
 
 struct SymbolParts {
@@ -120,31 +154,107 @@ std::optional<char16_t> symbolCharacter(std::u16string_view symbol) noexcept
     return {};
 }
 
+// The digits of an amount as a person keys it into a fixed-point field, "1.234,567" or "-12345", where the digits
+// before the shifted point and behind it stand in their places whatever symbols are between them.
+struct KeyedAmount {
+    bool negative = false;
+    std::array<char16_t, countedDigits> digits{};
+    std::size_t count = 0;
+};
+
+// Nothing for every other writing, numeric or not, and for settings whose pattern does more than group two places.
+std::optional<KeyedAmount> keyedAmount(std::u16string_view text, const NumberSettings& settings) noexcept
+{
+    const Locale& locale = settings.locale;
+    if (settings.decimals != 2 || settings.decimal != u"," || settings.grouping == u"," || locale.decimal != u"," ||
+        locale.grouping != u"." || locale.negativeSign != u"-")
+        return {};
+    KeyedAmount amount;
+    amount.negative = text.starts_with(u'-');
+    if (amount.negative)
+        text.remove_prefix(1);
+    if (text.empty() || !isDigit(text.front()))
+        return {};
+    std::size_t sinceGrouping = 0;
+    bool decimal = false;
+    for (const char16_t unit : text) {
+        if (isDigit(unit) && amount.count < amount.digits.size()) {
+            amount.digits[amount.count++] = unit;
+            ++sinceGrouping;
+        } else if (unit == u'.') {
+            sinceGrouping = 0;
+        } else if (unit == u',' && !decimal) {
+            decimal = true;
+        } else {
+            return {};
+        }
+    }
+    if (sinceGrouping < 2 || amount.count < 3)
+        return {};
+    return amount;
+}
+
+void putAmount(const KeyedAmount& amount, const NumberSettings& settings, std::u16string& into)
+{
+    const std::u16string_view digits(amount.digits.data(), amount.count);
+    into.clear();
+    TextWriter writer(into);
+    if (amount.negative && !isZero(digits))
+        writer.put(u'-');
+    putWhole(digits.substr(0, digits.size() - 2), settings.grouping.empty() ? u'\0' : u'.', writer);
+    writer.put(u',');
+    writer.put(digits.substr(digits.size() - 2));
+    writer.flush();
+}
+
+// The live re-format's text; false, when it is not for this text.
+bool putLive(std::u16string_view text, const NumberSettings& settings, LivePattern& patterns, std::u16string& into)
+{
+    if (const auto amount = keyedAmount(text, settings)) {
+        putAmount(*amount, settings, into);
+        return true;
+    }
+    if (text.empty() || !isNumeric(text, settings.locale))
+        return false;
+    const Pattern* pattern = patterns.of(settings.decimal, settings.grouping, settings.decimals);
+    if (pattern == nullptr)
+        return false;
+    removeAll(settings.decimal, text, into);
+    shiftPoint(into, settings.decimals);
+    if (const auto number = tryParseDouble(into, settings.locale)) { // what is no number stays as it stands
+        into.clear();
+        pattern->format(*number, settings.locale, into);
+    }
+    return true;
+}
+
 } // namespace
 
 void displayNumber(std::u16string_view text, const NumberSettings& settings, std::u16string& into)
 {
     into.clear();
-    if (!isNumeric(text, settings.locale))
+    if (!plainNumber(text, settings.locale) && !isNumeric(text, settings.locale))
         return;
     if (settings.decimal.empty()) {
         into.assign(text);
         return;
     }
-    const auto symbol = text.find(settings.decimal);
+    const auto symbol = text.find(settings.decimal.front());
     const auto whole = text.substr(0, symbol);
-    const auto typed = symbol == npos ? std::u16string_view() : text.substr(symbol + settings.decimal.size());
+    const auto typed = symbol == npos ? std::u16string_view() : text.substr(symbol + 1);
+    TextWriter writer(into);
     if (settings.grouping.empty())
-        into.assign(whole);
+        writer.put(whole);
     else
-        appendGrouped(whole, typed, settings.locale, into);
+        putGrouped(whole, typed, settings.locale, writer, into);
     const auto places = static_cast<std::size_t>(std::max(settings.decimals, 0));
     const bool padded = settings.insertZeros && places > typed.size();
     if (symbol != npos || padded)
-        into.append(settings.decimal);
-    into.append(typed);
+        writer.put(settings.decimal.front());
+    writer.put(typed);
     if (padded)
-        into.append(places - typed.size(), u'0');
+        writer.repeat(u'0', places - typed.size());
+    writer.flush();
     if (settings.grouping == u",") // the decimal point turns with the rest; kept
         std::ranges::replace(into, u'.', u',');
 }
@@ -202,18 +312,9 @@ const Pattern* LivePattern::of(std::u16string_view decimal, std::u16string_view 
 std::optional<int> liveFormat(std::u16string_view text, int caret, const NumberSettings& settings,
                               LivePattern& patterns, std::u16string& into)
 {
-    if (text.empty() || !isNumeric(text, settings.locale))
-        return {};
-    const Pattern* pattern = patterns.of(settings.decimal, settings.grouping, settings.decimals);
-    if (pattern == nullptr)
-        return {};
     const int fromEnd = static_cast<int>(text.size()) - caret;
-    removeAll(settings.decimal, text, into);
-    shiftPoint(into, settings.decimals);
-    if (const auto number = tryParseDouble(into, settings.locale)) { // what is no number stays as it stands
-        into.clear();
-        pattern->format(*number, settings.locale, into);
-    }
+    if (!putLive(text, settings, patterns, into))
+        return {};
     if (into == text)
         return {};
     const int length = static_cast<int>(into.size());

@@ -1,4 +1,5 @@
 // The number field's display, symbol, sign, entry form and live re-format.
+#include "engine/conversions.h"
 #include "engine/error.h"
 #include "engine/number_display.h"
 #include "field_text.h"
@@ -192,6 +193,45 @@ TEST(LiveFormat, Keystrokes)
         const auto caret = liveFormat(before.text, before.caret, row.settings, patterns, after);
         EXPECT_EQ(caret ? test::marked(after, *caret) : test::marked(before.text, before.caret), row.after) << row.rule;
     }
+}
+
+// What the rule makes of a keyed amount, with the pattern: the short way must not differ.
+std::u16string byPattern(std::u16string digits, std::u16string_view grouping)
+{
+    digits.erase(std::remove(digits.begin(), digits.end(), u','), digits.end());
+    digits.insert(digits.size() - 2, 1, u',');
+    LivePattern patterns;
+    std::u16string shown;
+    patterns.of(u",", grouping, 2)->format(toDouble(std::u16string_view(digits), ptBr()), ptBr(), shown);
+    return shown;
+}
+
+TEST(LiveFormat, TheShortWayFormatsAsThePatternDoes)
+{
+    const std::u16string_view texts[] = {
+        u"000",
+        u"-000",
+        u"0,001",
+        u"-0,001",
+        u"1.234,567",
+        u"-1.234,567",
+        u"0000012",
+        u"1.2345,6",
+        u"1..2345",
+        u"12.345",
+        u"1.234.567,8",
+        u"123456789012345",
+        u"-9.999.999.999.999,99",
+        u"12,.345",
+        u"1.23,45",
+    };
+    for (const auto text : texts)
+        for (const std::u16string_view grouping : {u"", u"."}) {
+            LivePattern patterns;
+            std::u16string shown(text);
+            static_cast<void>(liveFormat(text, 0, settings(u",", grouping, 2, false), patterns, shown));
+            EXPECT_EQ(shown, byPattern(std::u16string(text), grouping)) << testing::PrintToString(text);
+        }
 }
 
 TEST(LiveFormat, ThePatternFollowsItsSymbols)
