@@ -8,6 +8,8 @@ namespace vela::console {
 
 namespace {
 
+constexpr char32_t replacementCharacter = 0xFFFD;
+
 constexpr bool isBlank(char16_t unit) noexcept
 {
     return unit == u' ' || unit == u'\t';
@@ -249,6 +251,8 @@ std::string toUtf8(std::u16string_view text)
         const bool high = (character & 0xFC00) == 0xD800;
         if (high && at + 1 < text.size() && (text[at + 1] & 0xFC00) == 0xDC00)
             character = 0x10000 + ((character - 0xD800) << 10) + (text[++at] - 0xDC00U);
+        else if ((character & 0xF800) == 0xD800)
+            character = replacementCharacter;
         appendUtf8(bytes, character);
     }
     return bytes;

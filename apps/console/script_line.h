@@ -38,6 +38,6 @@ using Words = std::span<const Word>;
 void requireWords(Words words, std::size_t least, std::size_t most); // the command's own name counts
 
 [[nodiscard]] std::u16string fromUtf8(std::string_view bytes); // raises NotACommand
-[[nodiscard]] std::string toUtf8(std::u16string_view text);    // a lone surrogate as its three bytes
+[[nodiscard]] std::string toUtf8(std::u16string_view text);    // a lone surrogate as U+FFFD
 
 } // namespace vela::console

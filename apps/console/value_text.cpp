@@ -138,6 +138,36 @@ std::string printedDate(engine::Date date)
     return text + "#";
 }
 
+bool isHighSurrogate(char16_t unit) noexcept
+{
+    return (unit & 0xFC00) == 0xD800;
+}
+
+bool isLowSurrogate(char16_t unit) noexcept
+{
+    return (unit & 0xFC00) == 0xDC00;
+}
+
+char16_t escapeLetter(char16_t unit) noexcept // 0: none of its own
+{
+    switch (unit) {
+    case u'"':
+    case u'\\': return unit;
+    case u'\n': return u'n';
+    case u'\r': return u'r';
+    case u'\t': return u't';
+    default: return 0;
+    }
+}
+
+void appendNumbered(std::u16string& into, char16_t unit) // 0x1F -> \u001F
+{
+    constexpr std::u16string_view hex = u"0123456789ABCDEF";
+    into += u"\\u";
+    for (const int shift : {12, 8, 4, 0})
+        into += hex[(unit >> shift) & 15U];
+}
+
 struct Printer {
     std::string operator()(engine::Empty) const { return "Empty"; }
     std::string operator()(bool value) const { return printed(value); }
@@ -204,23 +234,21 @@ std::string printed(bool value)
     return value ? "True" : "False";
 }
 
+// A lone surrogate has no UTF-8: it is escaped, so that the text reads back as it was.
 std::string quoted(std::u16string_view text)
 {
-    constexpr std::u16string_view hex = u"0123456789ABCDEF";
     std::u16string escaped = u"\"";
-    for (const char16_t unit : text) {
-        switch (unit) {
-        case u'"': escaped += u"\\\""; break;
-        case u'\\': escaped += u"\\\\"; break;
-        case u'\n': escaped += u"\\n"; break;
-        case u'\r': escaped += u"\\r"; break;
-        case u'\t': escaped += u"\\t"; break;
-        default:
-            if (unit < 0x20)
-                escaped += std::u16string(u"\\u00") + hex[unit >> 4] + hex[unit & 15];
-            else
-                escaped += unit;
-        }
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const char16_t unit = text[at];
+        const bool pair = isHighSurrogate(unit) && at + 1 < text.size() && isLowSurrogate(text[at + 1]);
+        if (pair)
+            escaped.append(text.substr(at++, 2));
+        else if (const char16_t letter = escapeLetter(unit))
+            escaped.append({u'\\', letter});
+        else if (unit < 0x20 || isHighSurrogate(unit) || isLowSurrogate(unit))
+            appendNumbered(escaped, unit);
+        else
+            escaped += unit;
     }
     return toUtf8(escaped + u"\"");
 }

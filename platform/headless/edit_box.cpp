@@ -63,9 +63,10 @@ int EditBox::textLength() const
 
 void EditBox::part(Selection part, std::u16string& into) const
 {
+    surface_.form().faults().pass();
     const int start = std::clamp(part.start, 0, length());
-    const int units = std::clamp(part.length, 0, length() - start);
-    into.assign(text_, static_cast<std::size_t>(start), static_cast<std::size_t>(units));
+    const int count = std::clamp(part.length, 0, length() - start);
+    into.assign(text_, static_cast<std::size_t>(start), static_cast<std::size_t>(count));
 }
 
 void EditBox::putText(std::u16string_view text)

@@ -28,7 +28,8 @@ public:
     // The field's own operations: each may be made to fail.
     void text(std::u16string& into) const override;
     [[nodiscard]] int textLength() const override;
-    void part(platform::Selection part, std::u16string& into) const override; // never fails
+    // Reads for the field's history alone: a failure planned for the text stays for the field's own next reading.
+    void part(platform::Selection part, std::u16string& into) const override;
     void putText(std::u16string_view text) override;
     void insert(std::u16string_view text) override;
     [[nodiscard]] platform::Selection selection() const override { return selection_; }
