@@ -44,7 +44,7 @@ public:
     // A whole number of at least `width` digits: 7, 2 -> "07".
     void number(int value, int width)
     {
-        std::array<char16_t, 12> digits;
+        std::array<char16_t, 12> digits{};
         std::size_t first = digits.size();
         for (int place = 0; value > 0 || place < width; ++place, value /= 10) {
             digits[--first] = static_cast<char16_t>(u'0' + value % 10);
