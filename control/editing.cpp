@@ -224,49 +224,56 @@ History& Vela::history()
     return *history_;
 }
 
-// The box is about to insert a key it was left with.
-void Vela::expectTyping(int key)
+// What cannot be read cannot be undone, and hurts nobody else.
+template <class Describe>
+void Vela::expectEdit(Describe describe)
 {
-    if (key == 0 || masked() || box().traits().locked)
-        return;
-    if (key == engine::key_code::backspace) {
-        expectErasing(true);
-        return;
+    History::Expected& edit = history().expected;
+    edit.removed.clear();
+    edit.inserted.clear();
+    try {
+        edit.before = box().selection();
+        edit.at = edit.before.start;
+        describe(edit);
+        history_->expecting = true;
+    } catch (const engine::Error&) {
+        history_->clear();
     }
-    if (key < u' ' && key != u'\t' && key != engine::key_code::enter)
-        return;
-    History::Expected& expected = history().expected;
-    expected.before = box().selection();
-    expected.at = expected.before.start;
-    expected.erasing = false;
-    expected.removed.clear();
-    if (expected.before.length > 0)
-        box().part(expected.before, expected.removed);
-    if (key == engine::key_code::enter)
-        expected.inserted = lineBreak;
-    else
-        expected.inserted.assign(1, static_cast<char16_t>(key));
-    history_->expecting = true;
 }
 
-// The box is about to remove its selection, or the character on one side of the caret.
+// The box is about to do with a key what boxes do.
+void Vela::expectTyping(int key)
+{
+    const bool typed = key >= u' ' || key == u'\t' || key == engine::key_code::enter;
+    if (key == engine::key_code::backspace)
+        expectErasing(true);
+    else if (typed && !masked() && !box().traits().locked)
+        expectEdit([&](History::Expected& edit) {
+            edit.erasing = false;
+            if (edit.before.length > 0)
+                box().part(edit.before, edit.removed);
+            if (key == engine::key_code::enter)
+                edit.inserted = lineBreak;
+            else
+                edit.inserted.assign(1, static_cast<char16_t>(key));
+        });
+}
+
+// The selection goes, or the character on one side of the caret: at most two units, for a pair goes as one.
 void Vela::expectErasing(bool backwards)
 {
     if (masked() || box().traits().locked)
         return;
-    History::Expected& expected = history().expected;
-    expected.before = box().selection();
-    expected.at = expected.before.start;
-    expected.inserted.clear();
-    expected.erasing = expected.before.length == 0;
-    expected.backwards = backwards;
-    platform::Selection gone = expected.before;
-    if (expected.erasing) { // at most two units: a pair goes as one
-        const int units = backwards ? std::min(2, gone.start) : 2;
-        gone = {backwards ? gone.start - units : gone.start, units};
-    }
-    box().part(gone, expected.removed);
-    history_->expecting = true;
+    expectEdit([&](History::Expected& edit) {
+        edit.erasing = edit.before.length == 0;
+        edit.backwards = backwards;
+        platform::Selection gone = edit.before;
+        if (edit.erasing) {
+            gone.length = backwards ? std::min(2, gone.start) : 2;
+            gone.start -= backwards ? gone.length : 0;
+        }
+        box().part(gone, edit.removed);
+    });
 }
 
 // The box has reported a change: the edit that was expected, or one that nobody announced.
@@ -280,23 +287,31 @@ void Vela::keepTyped()
     }
     history_->expecting = false;
     History::Expected& edit = history_->expected;
-    if (edit.erasing) {
-        std::size_t units = std::min<std::size_t>(1, edit.removed.size());
-        if (edit.removed.size() == 2 && isPair(edit.removed[0], edit.removed[1])) {
-            const int caret = box().selection().start;
-            std::u16string next;
-            box().part({edit.at, 1}, next);
-            const bool both = edit.backwards ? edit.at - caret == 2 : next != edit.removed.substr(1);
-            units = both ? 2 : 1;
-        }
-        if (edit.backwards) {
-            edit.removed.erase(0, edit.removed.size() - units);
-            edit.at -= static_cast<int>(units);
-        } else {
-            edit.removed.resize(units);
-        }
+    try {
+        if (edit.erasing)
+            measureErased(edit);
+        history_->add(edit.at, edit.removed, edit.inserted, edit.before, false);
+    } catch (const engine::Error&) {
+        history_->clear();
     }
-    history_->add(edit.at, edit.removed, edit.inserted, edit.before, false);
+}
+
+// "a\r\n|" + Backspace takes one unit or two, as the platform's box has it: what stands there now tells.
+void Vela::measureErased(History::Expected& edit) const
+{
+    std::size_t units = std::min<std::size_t>(1, edit.removed.size());
+    if (edit.removed.size() == 2 && isPair(edit.removed[0], edit.removed[1])) {
+        std::u16string next;
+        box().part({edit.at, 1}, next);
+        const bool both = edit.backwards ? edit.at - box().selection().start == 2 : next != edit.removed.substr(1);
+        units = both ? 2 : 1;
+    }
+    if (edit.backwards) {
+        edit.removed.erase(0, edit.removed.size() - units);
+        edit.at -= static_cast<int>(units);
+    } else {
+        edit.removed.resize(units);
+    }
 }
 
 // A text that a key or a paste makes the control write. The live re-format belongs to the key before it; where that

@@ -17,20 +17,22 @@ void Vela::gotFocus()
 {
     if (deaf())
         return;
-    firstClick_ = true;
-    const auto failure = failureOf(life_, [&](int& step) {
-        step = 1;
-        enterColours();
-        showEntryTip();
-        step = 2;
-        enterText();
-        step = 3;
-        enterSelection();
-        step = 4;
-        popups_.closeAll();
+    whileAlive(life_, [&] {
+        firstClick_ = true;
+        const auto failure = failureOf(life_, [&](int& step) {
+            step = 1;
+            enterColours();
+            showEntryTip();
+            step = 2;
+            enterText();
+            step = 3;
+            enterSelection();
+            step = 4;
+            popups_.closeAll();
+        });
+        if (failure)
+            showBox(platform::BoxIcon::information, u"Vela.GotFocus", gotFocusFailureText(*failure));
     });
-    if (failure)
-        showBox(platform::BoxIcon::information, u"Vela.GotFocus", gotFocusFailureText(*failure));
 }
 
 // Someone held by an own wrong entry goes on seeing it in the error colour.
@@ -98,13 +100,15 @@ void Vela::clicked()
 {
     if (deaf())
         return;
-    const auto failure = failureOf(life_, [&](int&) {
-        placeCaretByClick();
-        raise(&platform::ControlHost::raiseClick);
+    whileAlive(life_, [&] {
+        const auto failure = failureOf(life_, [&](int&) {
+            placeCaretByClick();
+            raise(&platform::ControlHost::raiseClick);
+        });
+        if (failure)
+            showBox(platform::BoxIcon::exclamation, u"Vela.ErrNumber: " + decimalText(failure->number),
+                    clickFailureText(*failure));
     });
-    if (failure)
-        showBox(platform::BoxIcon::exclamation, u"Vela.ErrNumber: " + decimalText(failure->number),
-                clickFailureText(*failure));
 }
 
 // The back end reports both clicks of a double click; the second runs the click handler again.
@@ -131,20 +135,22 @@ void Vela::changed()
 {
     if (deaf())
         return;
-    const Writer writer = writer_;
-    if (writer == Writer::person)
-        keepTyped();
-    const auto failure = failureOf(life_, [&](int& step) {
-        step = 1;
-        raise(&platform::ControlHost::raiseChange);
-        step = 2;
-        if (!liveNumber() || (writer != Writer::person && writer != Writer::host))
-            return;
-        step = 3;
-        reformatLive();
+    whileAlive(life_, [&] {
+        const Writer writer = writer_;
+        if (writer == Writer::person)
+            keepTyped();
+        const auto failure = failureOf(life_, [&](int& step) {
+            step = 1;
+            raise(&platform::ControlHost::raiseChange);
+            step = 2;
+            if (!liveNumber() || (writer != Writer::person && writer != Writer::host))
+                return;
+            step = 3;
+            reformatLive();
+        });
+        if (failure)
+            showBox(platform::BoxIcon::exclamation, u"", changeFailureText(*failure));
     });
-    if (failure)
-        showBox(platform::BoxIcon::exclamation, u"", changeFailureText(*failure));
 }
 
 // As a cash register shows an amount: "0,001" -> "0,01", the caret as far from the end as it was. What is written

@@ -18,10 +18,12 @@ void Vela::lostFocus()
 {
     if (deaf())
         return;
-    held_ = false;
-    const auto failure = failureOf(life_, [&](int&) { leave(); });
-    if (failure && failure->number != engine::error_number::invalidCall)
-        log(*failure, label::lostFocus);
+    whileAlive(life_, [&] {
+        held_ = false;
+        const auto failure = failureOf(life_, [&](int&) { leave(); });
+        if (failure && failure->number != engine::error_number::invalidCall)
+            log(*failure, label::lostFocus);
+    });
 }
 
 void Vela::leave()

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "control/error_log.h"
-#include "control/history.h"
 #include "control/trap.h"
 #include "control/vela.h"
 

@@ -1,7 +1,6 @@
 // The life of a control: made, given its settings, told about, ended.
 #include "control/internal.h"
 
-#include "control/history.h"
 #include "control/persistence.h"
 #include "engine/error.h"
 #include "tooltip/about_box.h"

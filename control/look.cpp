@@ -62,11 +62,13 @@ void Vela::pointerMoved()
 {
     if (deaf())
         return;
-    trapToLog(label::mouseMove, [&] {
-        putBackColours(settings_.backColorMouseMove);
-        border_ = settings_.borderColorMouseMove;
-        layOut();
-        surface_.enableHoverTimer(true);
+    whileAlive(life_, [&] {
+        trapToLog(label::mouseMove, [&] {
+            putBackColours(settings_.backColorMouseMove);
+            border_ = settings_.borderColorMouseMove;
+            layOut();
+            surface_.enableHoverTimer(true);
+        });
     });
 }
 
@@ -75,18 +77,20 @@ void Vela::hoverTick()
 {
     if (life_.ended())
         return;
-    const auto failure = failureOf(life_, [&](int&) {
-        if (environment_.desktop.windowUnderPointer() == box().window())
-            return;
-        raise(&platform::ControlHost::raiseMouseOut);
-        const bool focused = box().hasFocus();
-        putBackColours(focused ? settings_.backColorGotFocus : settings_.backColorLostFocus);
-        border_ = focused ? settings_.borderColorGotfocus : settings_.borderColorLostfocus;
-        layOut();
-        surface_.enableHoverTimer(false);
+    whileAlive(life_, [&] {
+        const auto failure = failureOf(life_, [&](int&) {
+            if (environment_.desktop.windowUnderPointer() == box().window())
+                return;
+            raise(&platform::ControlHost::raiseMouseOut);
+            const bool focused = box().hasFocus();
+            putBackColours(focused ? settings_.backColorGotFocus : settings_.backColorLostFocus);
+            border_ = focused ? settings_.borderColorGotfocus : settings_.borderColorLostfocus;
+            layOut();
+            surface_.enableHoverTimer(false);
+        });
+        if (failure && failure->number != ignoredTimerFailure)
+            log(*failure, label::timer);
     });
-    if (failure && failure->number != ignoredTimerFailure)
-        log(*failure, label::timer);
 }
 
 void Vela::surfaceGotFocus()
@@ -102,8 +106,9 @@ void Vela::surfaceLostFocus()
 
 void Vela::resized()
 {
-    if (!life_.ended())
-        layOut();
+    if (life_.ended())
+        return;
+    whileAlive(life_, [&] { layOut(); });
 }
 
 } // namespace vela::control

@@ -11,8 +11,8 @@
 
 namespace vela::control {
 
-// The error that `body` ends with, its step as counted by `step`; nothing after a normal end, for error 0, and when
-// the control has not survived the body. What the body had done before it failed stays done.
+// The error that `body` ends with, its step as counted by `step`; nothing after a normal end and for error 0. What the
+// body had done before it failed stays done. When the control has not survived the body, 91 goes on to the caller.
 template <class Body>
 [[nodiscard]] std::optional<engine::Error> failureOf(Liveness& life, Body&& body)
 {
@@ -28,13 +28,15 @@ template <class Body>
         failure.number = engine::error_number::outOfMemory;
         failure.description = engine::errorDescription(failure.number);
     }
-    if (!alive || failure.number == 0)
+    if (!alive)
+        engine::raise(engine::error_number::objectNotSet);
+    if (failure.number == 0)
         return std::nullopt;
     failure.step = step;
     return failure;
 }
 
-// Runs a routine that has no trap of its own: its failure reaches the caller unless the control is gone.
+// Runs what the platform has called: its failure reaches the platform unless the control is gone.
 template <class Body>
 void whileAlive(Liveness& life, Body&& body)
 {

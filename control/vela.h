@@ -1,6 +1,7 @@
 // The control: a text box that knows what kind of data it holds. Platform-neutral; a back end brings the windows.
 #pragma once
 
+#include "control/history.h"
 #include "control/liveness.h"
 #include "control/settings.h"
 #include "engine/date_check.h"
@@ -25,7 +26,6 @@
 
 namespace vela::control {
 
-class History;
 struct StoredState;
 
 // A host may destroy or terminate the control inside any event that it raises, any notification and any box that it
@@ -272,7 +272,10 @@ private:
     [[nodiscard]] History& history();
     void expectTyping(int key);
     void expectErasing(bool backwards);
+    template <class Describe>
+    void expectEdit(Describe describe);
     void keepTyped();
+    void measureErased(History::Expected& edit) const;
     void keepWritten(View before, View after, platform::Selection selection, bool joined);
     void restore(bool backwards);
 
