@@ -46,7 +46,7 @@ public:
     {
         std::array<char16_t, 12> digits{};
         std::size_t first = digits.size();
-        for (int place = 0; value > 0 || place < width; ++place, value /= 10) {
+        for (int place = 0; first > 0 && (value > 0 || place < width); ++place, value /= 10) {
             digits[--first] = static_cast<char16_t>(u'0' + value % 10);
         }
         put(std::u16string_view(digits.data() + first, digits.size() - first));
