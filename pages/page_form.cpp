@@ -246,6 +246,16 @@ void PageForm::show(std::u16string_view control, bool on)
     form_->show(id(control), on);
 }
 
+void PageForm::focus(std::u16string_view control)
+{
+    const WidgetId widget = id(control);
+    const int tab = layout_.rows[static_cast<std::size_t>(widget.value)].tab;
+    const auto strip = std::ranges::find(layout_.rows, WidgetKind::tabStrip, &platform::WidgetRow::kind);
+    if (tab >= 0 && strip != layout_.rows.end())
+        items(strip->name).choose(tab);
+    form_->focus(widget);
+}
+
 void PageForm::putBackColour(WidgetId control, Colour colour)
 {
     platform::WidgetLook look = form_->look(control);

@@ -52,6 +52,7 @@ public:
     void check(std::u16string_view control, bool on);
     void enable(std::u16string_view control, bool on);
     void show(std::u16string_view control, bool on);
+    void focus(std::u16string_view control); // with its tab brought to the front
     void putBackColour(platform::WidgetId control, engine::Colour colour);
     [[nodiscard]] platform::ItemList& items(std::u16string_view control);
 

@@ -156,7 +156,7 @@ bool ppPrincipal::acceptDateFormat()
     page_.inform(u"Formato da Data inválido");
     page_.putText(u"cboFormatoData", u"dd/MM/yy");
     static_cast<void>(isDateFormatAccepted());
-    page_.form().focus(page_.id(u"cboFormatoData"));
+    page_.focus(u"cboFormatoData");
     return false;
 }
 

@@ -71,6 +71,7 @@ TEST_F(Principal, ARefusedDateFormatWritesNothingAndResetsItsBox)
         EXPECT_TRUE(bench.page->changed());
         EXPECT_EQ(bench.text(u"cboFormatoData"), u"dd/MM/yy");
         EXPECT_EQ(bench.form().focused(), bench.id(u"cboFormatoData"));
+        EXPECT_EQ(bench.form().items(bench.id(u"tabPrincipal")).chosen(), 1);
     }
     EXPECT_TRUE(bench.page->apply());
     EXPECT_FALSE(bench.page->changed());
