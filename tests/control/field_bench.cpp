@@ -129,6 +129,8 @@ std::string FieldBench::told()
 
 void FieldBench::trace(const headless::TraceEntry& entry)
 {
+    if (!listening)
+        return;
     if (const auto* changed = std::get_if<trace::Changed>(&entry))
         append(told_, narrow(changed->property));
     else

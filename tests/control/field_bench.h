@@ -78,6 +78,7 @@ public:
     headless::Machine machine;
     headless::FormWindow form;
     popups::Popups popups;
+    bool listening = true;
 
 private:
     void trace(const headless::TraceEntry& entry) override;
