@@ -8,6 +8,7 @@
 #include "pages/pp_geral.h"
 #include "pages/pp_principal.h"
 
+#include <algorithm>
 #include <array>
 
 namespace vela::pages {
@@ -49,6 +50,15 @@ std::unique_ptr<Page> makePage(PageKind kind, const PageServices& services, Page
     case PageKind::ppCalendario: return std::make_unique<ppCalendario>(services, site);
     }
     return nullptr;
+}
+
+void focusControl(platform::Form& form, const platform::FormLayout& layout, platform::WidgetId control)
+{
+    const int tab = layout.rows[static_cast<std::size_t>(control.value)].tab;
+    const auto strip = std::ranges::find(layout.rows, platform::WidgetKind::tabStrip, &platform::WidgetRow::kind);
+    if (tab >= 0 && strip != layout.rows.end())
+        form.items(platform::findWidget(layout, strip->name)).choose(tab);
+    form.focus(control);
 }
 
 } // namespace vela::pages

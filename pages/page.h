@@ -47,6 +47,9 @@ public:
 [[nodiscard]] const platform::FormLayout& pageLayout(PageKind kind) noexcept;
 [[nodiscard]] std::optional<PageKind> findPageKind(std::u16string_view name) noexcept; // "ppGeral", as written
 // Makes the page's form in `services.forms`; the site hears of every change of the changed flag.
+// The host keeps the page, its services and its site alive while an act on its form or an apply() runs.
 [[nodiscard]] std::unique_ptr<Page> makePage(PageKind kind, const PageServices& services, PageSite& site);
+// Gives a control of the form the focus, with its tab brought to the front.
+void focusControl(platform::Form& form, const platform::FormLayout& layout, platform::WidgetId control);
 
 } // namespace vela::pages

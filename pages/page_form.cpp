@@ -248,12 +248,7 @@ void PageForm::show(std::u16string_view control, bool on)
 
 void PageForm::focus(std::u16string_view control)
 {
-    const WidgetId widget = id(control);
-    const int tab = layout_.rows[static_cast<std::size_t>(widget.value)].tab;
-    const auto strip = std::ranges::find(layout_.rows, WidgetKind::tabStrip, &platform::WidgetRow::kind);
-    if (tab >= 0 && strip != layout_.rows.end())
-        items(strip->name).choose(tab);
-    form_->focus(widget);
+    focusControl(*form_, layout_, id(control));
 }
 
 void PageForm::putBackColour(WidgetId control, Colour colour)
