@@ -17,13 +17,13 @@ constexpr engine::RectTwips pixels(int left, int top, int width, int height)
     return {left * 15, top * 15, width * 15, height * 15};
 }
 
-// Columns stand 24 pixels apart, rows 18. A day is 20 x 16 pixels, so that the frame around it, 6 pixels wider and 2
+// Columns stand 24 pixels apart, rows 18. A day is 18 x 16 pixels, so that the frame around it, 6 pixels wider and 2
 // higher on each side, stays clear of its neighbours' numbers and within the panel.
 constexpr int columnPitch = 24;
 constexpr int rowPitch = 18;
-constexpr int firstColumn = 10;
+constexpr int firstColumn = 11;
 constexpr int firstRow = 52;
-constexpr int dayWidth = 20;
+constexpr int dayWidth = 18;
 constexpr int dayHeight = 16;
 
 constexpr std::size_t fixedRows = 6;
@@ -44,12 +44,13 @@ std::array<WidgetRow, rowCount> makeRows()
     }};
     std::size_t at = fixedRows;
     for (int column = 0; column < 7; ++column)
-        rows[at++] = {.kind = WidgetKind::label,
-                      .name = u"LblDiaSemana",
-                      .index = column,
-                      .caption = weekdayNames()[static_cast<std::size_t>(column)],
-                      .place = pixels(firstColumn - 2 + column * columnPitch, 32, columnPitch, 15),
-                      .alignment = platform::TextAlignment::center};
+        rows[at++] = {
+            .kind = WidgetKind::label,
+            .name = u"LblDiaSemana",
+            .index = column,
+            .caption = weekdayNames()[static_cast<std::size_t>(column)],
+            .place = pixels(firstColumn - (columnPitch - dayWidth) / 2 + column * columnPitch, 32, columnPitch, 15),
+            .alignment = platform::TextAlignment::center};
     for (int cell = 0; cell < cellCount; ++cell)
         rows[at++] = {
             .kind = WidgetKind::label,

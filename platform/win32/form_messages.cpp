@@ -41,6 +41,12 @@ std::u16string textOf(HWND window)
     return text;
 }
 
+bool listIsDown(const Widget& widget) noexcept
+{
+    const bool combo = widget.kind() == WidgetKind::comboBox || widget.kind() == WidgetKind::dropDownList;
+    return combo && widget.window && SendMessageW(widget.window, CB_GETDROPPEDSTATE, 0, 0) != 0;
+}
+
 wchar_t upper(wchar_t letter) noexcept
 {
     CharUpperBuffW(&letter, 1);
@@ -304,6 +310,8 @@ bool FormWindow::keyDown(Widget* widget, WPARAM code)
     swallowChar_ = false;
     if (code == VK_TAB)
         return role_ == Role::popup && navigate(code);
+    if (widget && listIsDown(*widget))
+        return false; // its keys move in the list
     int key = static_cast<int>(code);
     int shift = shiftState();
     events_.keyDown(widget ? widget->id : WidgetId{}, key, shift);
