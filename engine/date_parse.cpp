@@ -50,14 +50,14 @@ unsigned possibleOrders(std::span<const DateField> fields) noexcept
     return three ? mdy | dmy | ymd | ydm : mdy | dmy;
 }
 
-// First the locale's own order, then those akin to it, then the rest.
+// First the locale's own order, then the year in front, then the rest.
 std::array<unsigned, 3> preference(DateOrder order) noexcept
 {
     constexpr unsigned all = mdy | ymd | ydm | dmy | myd;
     switch (order) {
-    case DateOrder::dayMonthYear: return {dmy, dmy | ydm, all};
-    case DateOrder::monthDayYear: return {mdy, mdy | ymd | myd, all};
-    case DateOrder::yearMonthDay: return {ymd, mdy | ymd | myd, all};
+    case DateOrder::dayMonthYear: return {dmy, ymd, all};
+    case DateOrder::monthDayYear: return {mdy, ymd, all};
+    case DateOrder::yearMonthDay: return {ymd, mdy, all};
     }
     return {};
 }

@@ -133,9 +133,12 @@ private:
     [[nodiscard]] bool takeSeparator(char16_t unit) noexcept
     {
         const bool atEnd = ++at_ == text_.size();
+        if (DateField* const field = last()) {
+            field->point = unit == u'.' && ++field->separators == 1;
+        }
         switch (unit) {
         case u':':
-        case u'.': return markTime(unit == u'.', atEnd);
+        case u'.': return markTime(atEnd);
         case u'-':
         case u'/': return markDate(atEnd);
         case u',': return !atEnd;
@@ -143,14 +146,13 @@ private:
         }
     }
 
-    [[nodiscard]] bool markTime(bool point, bool atEnd) noexcept
+    [[nodiscard]] bool markTime(bool atEnd) noexcept
     {
         DateField* const field = last();
         if (field == nullptr || atEnd) {
             return false;
         }
         field->timeSeparator = true;
-        field->point = point;
         return true;
     }
 

@@ -14,8 +14,9 @@ namespace vela::engine {
 struct DateField {
     std::uint32_t value = 0;
     bool timeSeparator = false; // ":" or "."
-    bool point = false;         // "." itself
+    bool point = false;         // "." and nothing else
     bool dateSeparator = false; // "/" or "-"
+    int separators = 0;         // with blanks and commas
     bool month = false;         // read from a name
     bool morning = false, afternoon = false;
     bool hasHalf() const noexcept { return morning || afternoon; }

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <string_view>
 
 namespace vela::engine {
 namespace {
@@ -67,6 +68,37 @@ void takeScientific(Decimal& decimal, const char* first, const char* last) noexc
     decimal.point = exponent + 1;
 }
 
+void takeDigits(Decimal& decimal, double magnitude, int digits) noexcept
+{
+    std::array<char, 96> text;
+    const auto last =
+        std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific, digits - 1).ptr;
+    takeScientific(decimal, text.data(), last);
+}
+
+// Exactly half way between two decimals of 15 digits: 15048581.80078125.
+bool isTie(double magnitude) noexcept
+{
+    std::array<char, 96> text;
+    const auto last = std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific,
+                                    significantDigits + 40)
+                          .ptr;
+    const std::string_view digits(text.data(), static_cast<std::size_t>(last - text.data()));
+    const std::string_view beyond = digits.substr(significantDigits + 1, 41); // behind "d." and 14 digits
+    return beyond.front() == '5' && beyond.find_first_not_of('0', 1) == std::string_view::npos;
+}
+
+// More than 15 digits become 15; ties away from zero.
+void takeRounded(Decimal& decimal, double magnitude) noexcept
+{
+    const bool sixteen = decimal.count == significantDigits + 1 && decimal.digits[significantDigits] == '5';
+    if (sixteen && isTie(magnitude)) {
+        roundTo(decimal, significantDigits);
+    } else {
+        takeDigits(decimal, magnitude, significantDigits);
+    }
+}
+
 } // namespace
 
 Decimal decimalOf(double number)
@@ -84,12 +116,11 @@ Decimal decimalOf(double number)
         return decimal;
     }
     std::array<char, 32> text;
-    char* const end = text.data() + text.size();
-    auto last = std::to_chars(text.data(), end, magnitude, std::chars_format::scientific).ptr;
+    const auto last =
+        std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific).ptr;
     takeScientific(decimal, text.data(), last);
     if (decimal.count > significantDigits || magnitude < std::numeric_limits<double>::min()) {
-        last = std::to_chars(text.data(), end, magnitude, std::chars_format::scientific, significantDigits - 1).ptr;
-        takeScientific(decimal, text.data(), last);
+        takeRounded(decimal, magnitude);
     }
     trimZeros(decimal);
     return decimal;

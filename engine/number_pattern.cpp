@@ -54,9 +54,10 @@ private:
             roundTo(number_, number_.point + fraction);
             return;
         }
+        const int point = number_.point;
         roundTo(number_, whole + fraction);
-        exponent_ = number_.isZero() ? 0 : number_.point - whole;
-        number_.point = number_.isZero() ? 0 : whole;
+        exponent_ = (number_.isZero() ? point : number_.point) - whole;
+        number_.point = whole;
     }
 
     void putDigits(const Token& token)

@@ -172,12 +172,6 @@ bool NumberScanner::takeBlanks() noexcept
     return at_ > start;
 }
 
-bool NumberScanner::takeCurrency() noexcept
-{
-    currency_ = !currency_ && take(locale_.currencySymbol);
-    return currency_;
-}
-
 bool NumberScanner::takeLeading() noexcept
 {
     if (takeBlanks()) {
@@ -192,18 +186,21 @@ bool NumberScanner::takeLeading() noexcept
     if (!parenthesis_ && take(u"(")) {
         return parenthesis_ = true;
     }
-    return !currency_ && takeCurrency();
+    if (!currency_ && take(locale_.currencySymbol)) {
+        return currency_ = true;
+    }
+    return false;
 }
 
 bool NumberScanner::takeTrailing() noexcept
 {
-    if (takeBlanks() || (!leadingPlus_ && take(u"+"))) {
+    if (takeBlanks() || (!leadingPlus_ && take(u"+")) || (!radix_ && take(locale_.grouping))) {
         return true;
     }
     if ((!leadingMinus_ && take(locale_.negativeSign)) || (parenthesis_ && take(u")"))) {
         return negative_ = true;
     }
-    return !currency_ && takeCurrency();
+    return take(locale_.currencySymbol);
 }
 
 // "&H" and "&O": true when one stands here, `radix_` when digits of it follow.
@@ -245,7 +242,7 @@ bool NumberScanner::scanDecimalDigits() noexcept
             fraction ? digits_.addFraction(unit) : digits_.addWhole(unit);
             anyDigit = true;
             ++at_;
-        } else if (anyDigit && take(locale_.grouping)) {
+        } else if ((anyDigit || fraction) && take(locale_.grouping)) {
             continue;
         } else if (!fraction && !exponent && take(locale_.decimal)) {
             fraction = true;

@@ -38,8 +38,8 @@ private:
 
 enum class ScanVerdict { number, notNumber, overflow };
 
-// The value of a text that is a number as a whole: blanks and signs before and behind, the currency symbol once,
-// parentheses for negatives, grouping symbols anywhere among the digits, exponents with e or d, "&H" and "&O".
+// The value of a text that is a number as a whole: blanks, signs and the currency symbol before and behind, parentheses
+// for negatives, grouping symbols anywhere behind the first digit, exponents with e or d, "&H" and "&O".
 class NumberScanner {
 public:
     NumberScanner(std::u16string_view text, const Locale& locale) noexcept;
@@ -51,7 +51,6 @@ public:
 private:
     [[nodiscard]] bool take(std::u16string_view symbol) noexcept;
     [[nodiscard]] bool takeBlanks() noexcept;
-    [[nodiscard]] bool takeCurrency() noexcept;
     [[nodiscard]] bool takeLeading() noexcept;
     [[nodiscard]] bool takeTrailing() noexcept;
     [[nodiscard]] bool takeRadix() noexcept;

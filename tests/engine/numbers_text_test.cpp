@@ -38,6 +38,8 @@ TEST(NumberToText, FifteenDigits)
         {-1e300, u"-1E+300"},
         {std::numeric_limits<double>::max(), u"1,79769313486232E+308"},
         {std::numeric_limits<double>::denorm_min(), u"4,94065645841247E-324"},
+        {15048581.80078125, u"15048581,8007813"}, // exactly half way
+        {15048581.84765625, u"15048581,8476563"},
         {1.005, u"1,005"},
         {0.07, u"0,07"},
         {4.35, u"4,35"},
