@@ -64,16 +64,6 @@ ComPtr<IFont> makeFont(const platform::FontDescription& description)
     return font;
 }
 
-void write(IFont& font, const platform::FontDescription& description)
-{
-    check(font.put_Name(Bstr(description.name).get()));
-    check(font.put_Size(sizeOf(description)));
-    check(font.put_Bold(description.bold));
-    check(font.put_Italic(description.italic));
-    check(font.put_Underline(description.underline));
-    check(font.put_Strikethrough(description.strikethrough));
-}
-
 } // namespace
 
 class FontObject::Sink final : public IPropertyNotifySink {
@@ -103,10 +93,10 @@ public:
             delete this;
         return left;
     }
-    HRESULT STDMETHODCALLTYPE OnChanged(DISPID) noexcept override
+    HRESULT STDMETHODCALLTYPE OnChanged(DISPID part) noexcept override
     {
         if (owner_)
-            owner_->heard();
+            owner_->heard(part);
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) noexcept override { return S_OK; }
@@ -125,6 +115,22 @@ std::optional<platform::FontDescription> describeFont(IUnknown* object)
     return describe(*font.get());
 }
 
+platform::FontDescription withPart(platform::FontDescription font, DISPID part, const platform::FontDescription& other)
+{
+    switch (part) {
+    case DISPID_FONT_NAME: font.name = other.name; break;
+    case DISPID_FONT_SIZE: font.size = other.size; break;
+    case DISPID_FONT_BOLD:
+    case DISPID_FONT_WEIGHT: font.bold = other.bold; break;
+    case DISPID_FONT_ITALIC: font.italic = other.italic; break;
+    case DISPID_FONT_UNDER: font.underline = other.underline; break;
+    case DISPID_FONT_STRIKE: font.strikethrough = other.strikethrough; break;
+    case DISPID_FONT_CHARSET: break;
+    default: return other;
+    }
+    return font;
+}
+
 FontObject::FontObject(Changed changed) : changed_(std::move(changed)) {}
 
 FontObject::~FontObject()
@@ -136,12 +142,13 @@ ComPtr<IFontDisp> FontObject::object(const platform::FontDescription& descriptio
 {
     if (!font_) {
         font_ = makeFont(description);
+        written_ = description;
         listen();
-    } else if (describe(*font_.get()) != description) {
+    } else if (written_ != description) {
         writing_ = true;
-        const HRESULT written = guarded([&] { write(*font_.get(), description); });
+        const HRESULT result = guarded([&] { write(description); });
         writing_ = false;
-        check(written);
+        check(result);
     }
     auto object = ComPtr<IFontDisp>::from(font_.get());
     if (!object)
@@ -157,8 +164,27 @@ platform::FontDescription FontObject::adopt(IUnknown* object)
     platform::FontDescription description = describe(*font.get());
     forget();
     font_ = std::move(font);
+    written_ = description;
     listen();
     return description;
+}
+
+// Only what differs: each put makes the object look again for what the system has.
+void FontObject::write(const platform::FontDescription& description)
+{
+    if (description.name != written_.name)
+        check(font_->put_Name(Bstr(description.name).get()));
+    if (description.size != written_.size)
+        check(font_->put_Size(sizeOf(description)));
+    if (description.bold != written_.bold)
+        check(font_->put_Bold(description.bold));
+    if (description.italic != written_.italic)
+        check(font_->put_Italic(description.italic));
+    if (description.underline != written_.underline)
+        check(font_->put_Underline(description.underline));
+    if (description.strikethrough != written_.strikethrough)
+        check(font_->put_Strikethrough(description.strikethrough));
+    written_ = description;
 }
 
 void FontObject::listen()
@@ -182,11 +208,15 @@ void FontObject::forget() noexcept
     point_.reset();
 }
 
-void FontObject::heard() noexcept
+void FontObject::heard(DISPID part) noexcept
 {
     if (writing_ || !font_)
         return;
-    contained([&] { changed_(describe(*font_.get())); });
+    contained([&] {
+        const platform::FontDescription now = describe(*font_.get());
+        written_ = withPart(written_, part, now);
+        changed_(part, now);
+    });
 }
 
 } // namespace vela::activex

@@ -13,10 +13,14 @@ namespace vela::activex {
 
 // Nothing for an object that is no font. 8.25 points stay 8.25.
 [[nodiscard]] std::optional<platform::FontDescription> describeFont(IUnknown* font);
+// `font` with that part taken from `other`: the font object may have replaced the other parts by what the system has.
+[[nodiscard]] platform::FontDescription withPart(platform::FontDescription font, DISPID part,
+                                                 const platform::FontDescription& other);
 
 class FontObject {
 public:
-    using Changed = std::function<void(const platform::FontDescription&)>;
+    // Told which part of the font changed (DISPID_FONT_...) and the font as it now is.
+    using Changed = std::function<void(DISPID part, const platform::FontDescription& font)>;
 
     explicit FontObject(Changed changed);
     FontObject(const FontObject&) = delete;
@@ -33,14 +37,16 @@ private:
 
     void listen();
     void forget() noexcept;
-    void heard() noexcept;
+    void heard(DISPID part) noexcept;
+    void write(const platform::FontDescription& description);
 
     Changed changed_;
     ComPtr<IFont> font_;
     ComPtr<IConnectionPoint> point_;
     ComPtr<Sink> sink_;
     DWORD cookie_ = 0;
-    bool writing_ = false; // the change is the control's own
+    bool writing_ = false;              // the change is the control's own
+    platform::FontDescription written_; // what the object was last made to be: it may show another that exists
 };
 
 } // namespace vela::activex

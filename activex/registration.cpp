@@ -67,6 +67,11 @@ std::wstring wide(std::string_view text)
     return {text.begin(), text.end()};
 }
 
+std::wstring decimal(long number)
+{
+    return wide(std::string_view(std::to_string(number)));
+}
+
 std::wstring classKey(std::string_view id)
 {
     return L"CLSID\\" + keyOf(id);
@@ -111,8 +116,8 @@ void addControl(std::vector<Entry>& entries, const ControlKeys& control, const s
     entries.push_back({key + L"\\Control", nullptr, {}});
     entries.push_back({key + L"\\Programmable", nullptr, {}});
     entries.push_back({key + L"\\MiscStatus", nullptr, L"0"});
-    entries.push_back({key + L"\\MiscStatus\\1", nullptr, std::to_wstring(miscStatus)});
-    entries.push_back({key + L"\\ToolboxBitmap32", nullptr, module + L", " + std::to_wstring(VELA_TOOLBOX_BITMAP)});
+    entries.push_back({key + L"\\MiscStatus\\1", nullptr, decimal(miscStatus)});
+    entries.push_back({key + L"\\ToolboxBitmap32", nullptr, module + L", " + decimal(VELA_TOOLBOX_BITMAP)});
     entries.push_back({key + L"\\Verb\\0", nullptr, L"&Editar,0,2"});
     entries.push_back({key + L"\\Implemented Categories\\" + controlCategory, nullptr, {}});
     entries.push_back({key + L"\\Implemented Categories\\" + programmableCategory, nullptr, {}});
@@ -265,7 +270,7 @@ HRESULT report(HKEY root, const Failure& failure)
                 : L"Pe\u00E7a ao administrador permiss\u00E3o para gravar nesta chave.";
     const std::wstring text = L"N\u00E3o foi poss\u00EDvel alterar a chave " +
                               std::wstring(machine ? L"HKEY_LOCAL_MACHINE\\" : L"HKEY_CURRENT_USER\\") + classes +
-                              failure.key + L" (erro " + std::to_wstring(failure.status) + L").\r\n" + cure;
+                              failure.key + L" (erro " + decimal(failure.status) + L").\r\n" + cure;
     reportError({engine::error_number::permissionDenied, std::u16string(text.begin(), text.end())});
     if (!wantsSilence())
         MessageBoxW(nullptr, text.c_str(), L"Vela", MB_OK | MB_ICONEXCLAMATION);

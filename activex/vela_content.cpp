@@ -63,7 +63,9 @@ const ClassFacts& velaFacts() noexcept
 
 VelaContent::VelaContent(Shell& shell)
     : shell_(shell), session_(Session::current()), vela_(*this, surface_, session_->environment, session_->popups),
-      font_([this](const platform::FontDescription& font) { vela_.Font(font); })
+      font_([this](DISPID part, const platform::FontDescription& font) {
+          vela_.Font(withPart(vela_.Font(), part, font));
+      })
 {
     surface_.putDpi(win32::dpiOf(nullptr));
     surface_.setEvents(&vela_, &vela_);

@@ -1,0 +1,312 @@
+// In-place activation, focus and keys, in the tests' own container and in the system's.
+#include "container.h"
+
+#include <gtest/gtest.h>
+#include <olectl.h>
+
+namespace vela::test {
+
+namespace {
+
+TEST(Activation, AsksTheSiteStepByStep)
+{
+    const LeakCheck leaks;
+    Form form;
+    Site& site = form.addActive();
+    EXPECT_EQ(site.log.size() >= 4 ? std::vector<std::string>(site.log.end() - 4, site.log.end()) : site.log,
+              (std::vector<std::string>{"CanInPlaceActivate", "OnInPlaceActivate", "GetWindowContext", "ShowObject"}));
+    EXPECT_EQ(GetParent(site.window()), form.window());
+    EXPECT_TRUE(IsWindowVisible(site.edit()));
+    RECT place{};
+    GetWindowRect(site.window(), &place);
+    MapWindowPoints(nullptr, form.window(), reinterpret_cast<POINT*>(&place), 2);
+    EXPECT_EQ(place.left, 10);
+    EXPECT_EQ(place.right, 210);
+
+    const RECT elsewhere{20, 50, 120, 80};
+    EXPECT_EQ(site.as<IOleInPlaceObject>()->SetObjectRects(&elsewhere, &elsewhere), S_OK);
+    GetWindowRect(site.window(), &place);
+    EXPECT_EQ(place.right - place.left, 100);
+    SIZEL extent{};
+    EXPECT_EQ(site.as<IOleObject>()->GetExtent(DVASPECT_CONTENT, &extent), S_OK);
+    EXPECT_NEAR(static_cast<double>(extent.cx), 2646, 30) << "100 pixels at 96 dots per inch, in HIMETRIC";
+
+    EXPECT_EQ(site.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(site.log.back(), "OnInPlaceDeactivate");
+    EXPECT_EQ(site.window(), nullptr);
+}
+
+TEST(Activation, WhatWasSetBeforeIsOnShowAndStaysAfterwards)
+{
+    Form form;
+    Site& site = form.add();
+    ASSERT_EQ(site.automation().put(u"Text", text(u"antes")).result, S_OK);
+    ASSERT_EQ(site.activate({10, 10, 110, 34}), S_OK);
+    wchar_t shown[32]{};
+    GetWindowTextW(site.edit(), shown, 32);
+    EXPECT_STREQ(shown, L"antes");
+    form.focus(site);
+    form.type(u"X");
+    const std::u16string typed = site.automation().textOf(u"Text");
+    ASSERT_EQ(site.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(site.automation().textOf(u"Text"), typed);
+    ASSERT_EQ(site.activate({10, 10, 110, 34}), S_OK);
+    GetWindowTextW(site.edit(), shown, 32);
+    EXPECT_EQ(asText(shown, wcslen(shown)), typed);
+}
+
+TEST(Activation, AClickGivesTheUserInterface)
+{
+    Form form;
+    Site& first = form.addActive();
+    Site& second = form.addActive();
+    SetForegroundWindow(form.window());
+    SendMessageW(first.edit(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+    SendMessageW(first.edit(), WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+    form.run();
+    EXPECT_EQ(first.count("OnUIActivate"), 1);
+    EXPECT_EQ(first.count("OnFocus 1"), 1);
+    HWND active = nullptr;
+    ASSERT_NE(form.active(), nullptr);
+    form.active()->GetWindow(&active);
+    EXPECT_EQ(active, first.window());
+
+    EXPECT_EQ(second.activateInterface(), S_OK);
+    form.run();
+    EXPECT_EQ(GetFocus(), second.edit());
+    EXPECT_EQ(first.count("OnUIDeactivate"), 1);
+    EXPECT_EQ(first.count("OnFocus 0"), 1);
+}
+
+TEST(Activation, TabGoesFromControlToControlBothWays)
+{
+    Form form;
+    Site& first = form.addActive();
+    Site& second = form.addActive();
+    form.focus(first);
+    form.press(VK_TAB);
+    EXPECT_EQ(GetFocus(), second.edit());
+    form.type(u"2");
+    EXPECT_EQ(second.automation().textOf(u"Text"), u"2");
+    BYTE keys[256]{};
+    GetKeyboardState(keys);
+    keys[VK_SHIFT] = 0x80;
+    SetKeyboardState(keys);
+    form.press(VK_TAB);
+    keys[VK_SHIFT] = 0;
+    SetKeyboardState(keys);
+    EXPECT_EQ(GetFocus(), first.edit());
+}
+
+TEST(Activation, KeysGoToTheSiteFirst)
+{
+    Form form;
+    Site& site = form.addActive();
+    form.focus(site);
+    ASSERT_NE(form.active(), nullptr);
+    site.onKey = [](MSG* message) { return message->wParam == VK_HOME ? S_OK : S_FALSE; };
+    MSG message{GetFocus(), WM_KEYDOWN, VK_HOME, 1, 0, {}};
+    EXPECT_EQ(form.active()->TranslateAccelerator(&message), S_OK) << "taken by the host";
+    message.wParam = VK_TAB;
+    EXPECT_EQ(form.active()->TranslateAccelerator(&message), S_FALSE) << "left to the container";
+    message.wParam = VK_LEFT;
+    EXPECT_EQ(form.active()->TranslateAccelerator(&message), S_OK) << "the edit box's own";
+    message.wParam = VK_RETURN;
+    EXPECT_EQ(form.active()->TranslateAccelerator(&message), S_FALSE) << "the default button's";
+    site.automation().put(u"EnterAsTab", truth(true));
+    CONTROLINFO info{};
+    info.cb = sizeof info;
+    EXPECT_EQ(site.as<IOleControl>()->GetControlInfo(&info), S_OK);
+    EXPECT_EQ(info.dwFlags, static_cast<DWORD>(CTRLINFO_EATS_RETURN));
+    EXPECT_EQ(form.active()->TranslateAccelerator(nullptr), E_POINTER);
+}
+
+TEST(Activation, EnterAsTabLeavesTheField)
+{
+    Form form;
+    Site& first = form.addActive();
+    Site& second = form.addActive();
+    first.automation().put(u"EnterAsTab", truth(true));
+    form.focus(first);
+    form.press(VK_RETURN);
+    pump();
+    form.run();
+    EXPECT_EQ(GetFocus(), second.edit());
+}
+
+TEST(Activation, AMaskIsTypedIntoAWindow)
+{
+    Form form;
+    Site& site = form.addActive();
+    const Automation field = site.automation();
+    field.put(u"PromptChar", text(u"_"));
+    field.put(u"Mask", text(u"___.___.___-__"));
+    field.put(u"MaskRules", text(u"###.###.###-##"));
+    field.put(u"TextType", number(3));
+    form.focus(site);
+    form.type(u"123a45678909");
+    EXPECT_EQ(field.textOf(u"Text"), u"123.456.789-09");
+    EXPECT_EQ(field.textOf(u"Value"), u"12345678909");
+}
+
+TEST(Activation, ModeComesFromTheHost)
+{
+    Form form;
+    Site& designed = form.add({.initialise = false});
+    designed.ambients.emplace(DISPID_AMBIENT_USERMODE, truth(false));
+    ASSERT_EQ(designed.as<IPersistStreamInit>()->InitNew(), S_OK);
+    EXPECT_EQ(designed.automation().put(u"MultLine", truth(true)).result, S_OK);
+    Site& run = form.add();
+    EXPECT_EQ(run.automation().put(u"MultLine", truth(true)).error, 1002) << "no UserMode ambient";
+}
+
+class Named final : public ComObject<IDispatch> {
+public:
+    explicit Named(bool extender) : extender_(extender) {}
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* id) override
+    {
+        *id = 7;
+        return std::wstring_view(*names) == (extender_ ? L"Container" : L"Name") ? S_OK : DISP_E_UNKNOWNNAME;
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
+                                     UINT*) override
+    {
+        if (extender_) {
+            result->vt = VT_DISPATCH;
+            result->pdispVal = new Named(false);
+        } else {
+            *result = text(u"Quadro1").release();
+        }
+        return S_OK;
+    }
+
+private:
+    bool extender_;
+};
+
+TEST(Activation, TheContainersNameComesFromTheExtender)
+{
+    const LeakCheck leaks;
+    Form form;
+    Site& site = form.add();
+    EXPECT_EQ(site.automation().textOf(u"nomeContainer"), u"");
+    site.extender = ComPtr<IDispatch>::adopt(new Named(true));
+    EXPECT_EQ(site.automation().textOf(u"nomeContainer"), u"Quadro1");
+    site.extender.reset();
+}
+
+TEST(Activation, ANewFieldHasTheFormsFont)
+{
+    Form form;
+    Site& site = form.add({.initialise = false});
+    FONTDESC description{};
+    description.cbSizeofstruct = sizeof description;
+    description.lpstrName = const_cast<wchar_t*>(L"Tahoma");
+    description.cySize.int64 = 100000;
+    description.sWeight = FW_BOLD;
+    ComPtr<IFontDisp> font;
+    ASSERT_EQ(OleCreateFontIndirect(&description, IID_IFontDisp, font.putVoid()), S_OK);
+    Variant ambient;
+    ambient.ref().vt = VT_DISPATCH;
+    ambient.ref().pdispVal = font.release();
+    site.ambients.emplace(DISPID_AMBIENT_FONT, std::move(ambient));
+    ASSERT_EQ(site.as<IPersistStreamInit>()->InitNew(), S_OK);
+    EXPECT_EQ(site.automation().textOf(u"FontBold"), u"True");
+    EXPECT_EQ(site.automation().textOf(u"FontSize"), u"10");
+}
+
+// A site that offers nothing else still hosts a control; only activation is refused.
+TEST(Activation, HostsWithoutTheServices)
+{
+    const LeakCheck leaks;
+    Form form;
+    Site& site = form.add({.inPlace = false, .controlSite = false, .ambients = false});
+    EXPECT_EQ(site.automation().put(u"Text", text(u"a")).result, S_OK);
+    EXPECT_TRUE(FAILED(site.activate({0, 0, 10, 10})));
+    EXPECT_EQ(site.window(), nullptr);
+    Site& keysOnly = form.add({.controlSite = false});
+    EXPECT_EQ(keysOnly.activate({0, 0, 100, 24}), S_OK);
+    form.focus(keysOnly);
+    form.type(u"ok");
+    EXPECT_EQ(keysOnly.automation().textOf(u"Text"), u"ok");
+}
+
+TEST(Activation, TheFormMayGoFirst)
+{
+    const LeakCheck leaks;
+    Form form;
+    Site& site = form.addActive();
+    site.automation().put(u"Text", text(u"fica"));
+    form.destroyWindow();
+    EXPECT_EQ(site.count("OnInPlaceDeactivate"), 1) << "the control says that it has no window any more";
+    EXPECT_EQ(site.automation().textOf(u"Text"), u"fica");
+    EXPECT_EQ(site.automation().put(u"BorderStyle", number(2)).result, S_OK);
+}
+
+// The system's own container, as quick form programs use it.
+class AtlHost {
+public:
+    AtlHost()
+    {
+        module_ = LoadLibraryW(L"atl100.dll");
+        if (const auto start = entry<BOOL(WINAPI*)()>("AtlAxWinInit"))
+            start();
+        window_ = CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", nullptr, WS_POPUP | WS_VISIBLE, 0, 0, 300, 100,
+                                  nullptr, nullptr, nullptr, nullptr);
+    }
+    AtlHost(const AtlHost&) = delete;
+    AtlHost& operator=(const AtlHost&) = delete;
+    ~AtlHost() { DestroyWindow(window_); }
+
+    [[nodiscard]] bool available() const { return module_ != nullptr; }
+    [[nodiscard]] HWND window() const { return window_; }
+    ComPtr<IUnknown> add(int top)
+    {
+        const HWND place = CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", nullptr, WS_CHILD | WS_VISIBLE, 0, top, 200,
+                                           24, window_, nullptr, nullptr, nullptr);
+        const auto make = entry<HRESULT(WINAPI*)(LPCOLESTR, HWND, IStream*, IUnknown**, IUnknown**, REFIID, IUnknown*)>(
+            "AtlAxCreateControlEx");
+        ComPtr<IUnknown> container;
+        ComPtr<IUnknown> control;
+        EXPECT_EQ(make(L"Vela.Vela", place, nullptr, container.put(), control.put(), IID_NULL, nullptr), S_OK);
+        return control;
+    }
+
+private:
+    template <class Function>
+    Function entry(const char* name)
+    {
+        return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module_, name)));
+    }
+    HMODULE module_;
+    HWND window_;
+};
+
+TEST(Activation, TheSystemsContainer)
+{
+    const LeakCheck leaks;
+    AtlHost host;
+    if (!host.available())
+        GTEST_SKIP() << "no atl100.dll here";
+    const ComPtr<IUnknown> first = host.add(0);
+    const ComPtr<IUnknown> second = host.add(40);
+    ASSERT_TRUE(first && second);
+    const auto editOf = [](IUnknown* control) {
+        return reinterpret_cast<HWND>(static_cast<LONG_PTR>(Automation(control).get(u"hwnd").value.get().lVal));
+    };
+    ASSERT_TRUE(IsWindowVisible(editOf(first.get())));
+    SetForegroundWindow(host.window());
+    SetFocus(editOf(first.get()));
+    for (const wchar_t unit : {L'o', L'i'})
+        SendMessageW(GetFocus(), WM_CHAR, static_cast<WPARAM>(unit), 1);
+    EXPECT_EQ(Automation(first.get()).textOf(u"Text"), u"oi");
+    MSG tab{GetFocus(), WM_KEYDOWN, VK_TAB, 1, 0, {}};
+    IsDialogMessageW(host.window(), &tab);
+    EXPECT_EQ(GetFocus(), editOf(second.get()));
+}
+
+} // namespace
+
+} // namespace vela::test

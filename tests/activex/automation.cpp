@@ -1,0 +1,101 @@
+// Calling an object through IDispatch.
+#include "automation.h"
+
+#include <algorithm>
+
+namespace vela::test {
+
+Variant text(std::u16string_view value)
+{
+    Variant result;
+    result.ref().bstrVal = Bstr(value).release();
+    result.ref().vt = VT_BSTR;
+    return result;
+}
+
+Variant number(std::int32_t value)
+{
+    Variant result;
+    result.ref().vt = VT_I4;
+    result.ref().lVal = value;
+    return result;
+}
+
+Variant fraction(double value)
+{
+    Variant result;
+    result.ref().vt = VT_R8;
+    result.ref().dblVal = value;
+    return result;
+}
+
+Variant truth(bool value)
+{
+    Variant result;
+    result.ref().vt = VT_BOOL;
+    result.ref().boolVal = value ? VARIANT_TRUE : VARIANT_FALSE;
+    return result;
+}
+
+Automation::Automation(IUnknown* object) : object_(ComPtr<IDispatch>::from(object)) {}
+
+std::optional<DISPID> Automation::id(std::u16string_view name) const
+{
+    const std::u16string kept(name);
+    auto* wanted = const_cast<wchar_t*>(asWide(kept));
+    DISPID found = DISPID_UNKNOWN;
+    if (object_->GetIDsOfNames(IID_NULL, &wanted, 1, LOCALE_USER_DEFAULT, &found) != S_OK)
+        return std::nullopt;
+    return found;
+}
+
+Outcome Automation::invoke(DISPID id, WORD flags, std::vector<Variant> arguments) const
+{
+    std::vector<VARIANT> given;
+    std::for_each(arguments.rbegin(), arguments.rend(), [&](Variant& one) { given.push_back(one.get()); });
+    DISPID valueName = DISPID_PROPERTYPUT;
+    const bool put = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
+    DISPPARAMS parameters{given.data(), put ? &valueName : nullptr, static_cast<UINT>(given.size()), put ? 1u : 0u};
+    EXCEPINFO info{};
+    Outcome outcome;
+    outcome.result =
+        object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, outcome.value.put(), &info, nullptr);
+    if (outcome.result == DISP_E_EXCEPTION) {
+        Bstr source;
+        Bstr description;
+        *source.put() = info.bstrSource;
+        *description.put() = info.bstrDescription;
+        outcome.error = info.scode & 0xFFFF;
+        outcome.source = source.text();
+        outcome.description = description.text();
+    }
+    return outcome;
+}
+
+Outcome Automation::get(std::u16string_view name) const
+{
+    return invoke(id(name).value_or(DISPID_UNKNOWN), DISPATCH_PROPERTYGET);
+}
+
+Outcome Automation::put(std::u16string_view name, Variant value) const
+{
+    std::vector<Variant> arguments;
+    arguments.push_back(std::move(value));
+    return invoke(id(name).value_or(DISPID_UNKNOWN), DISPATCH_PROPERTYPUT, std::move(arguments));
+}
+
+Outcome Automation::call(std::u16string_view name, std::vector<Variant> arguments) const
+{
+    return invoke(id(name).value_or(DISPID_UNKNOWN), DISPATCH_METHOD, std::move(arguments));
+}
+
+std::u16string Automation::textOf(std::u16string_view name) const
+{
+    Outcome outcome = get(name);
+    if (FAILED(outcome.result) ||
+        FAILED(VariantChangeType(&outcome.value.ref(), &outcome.value.ref(), VARIANT_ALPHABOOL, VT_BSTR)))
+        return u"?";
+    return std::u16string(asText(outcome.value.get().bstrVal, SysStringLen(outcome.value.get().bstrVal)));
+}
+
+} // namespace vela::test

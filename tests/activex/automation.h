@@ -1,0 +1,43 @@
+// Late-bound access to an object, as scripts have it.
+#pragma once
+
+#include "com_object.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vela::test {
+
+[[nodiscard]] Variant text(std::u16string_view value);
+[[nodiscard]] Variant number(std::int32_t value);
+[[nodiscard]] Variant fraction(double value);
+[[nodiscard]] Variant truth(bool value);
+
+struct Outcome {
+    HRESULT result = S_OK;
+    int error = 0; // of the exception information: 1001; 0 without one
+    std::u16string source;
+    std::u16string description;
+    Variant value;
+};
+
+class Automation {
+public:
+    explicit Automation(IUnknown* object);
+
+    [[nodiscard]] std::optional<DISPID> id(std::u16string_view name) const;
+    Outcome invoke(DISPID id, WORD flags, std::vector<Variant> arguments = {}) const;
+    Outcome get(std::u16string_view name) const;
+    Outcome put(std::u16string_view name, Variant value) const;
+    Outcome call(std::u16string_view name, std::vector<Variant> arguments = {}) const;
+
+    [[nodiscard]] std::u16string textOf(std::u16string_view name) const; // converted to text, "?" when it fails
+    [[nodiscard]] IDispatch* dispatch() const noexcept { return object_.get(); }
+
+private:
+    ComPtr<IDispatch> object_;
+};
+
+} // namespace vela::test

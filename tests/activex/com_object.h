@@ -1,0 +1,69 @@
+// A COM object of the tests: counts its references and all objects alive.
+#pragma once
+
+#include "activex/com/owners.h"
+
+#include <ocidl.h>
+
+#include <atomic>
+#include <tuple>
+
+namespace vela::test {
+
+using activex::asText;
+using activex::asWide;
+using activex::Bstr;
+using activex::ComPtr;
+using activex::Variant;
+
+inline std::atomic<int> liveObjects{0};
+
+template <class First, class... Rest>
+class ComObject : public First, public Rest... {
+public:
+    ComObject() { ++liveObjects; }
+    ComObject(const ComObject&) = delete;
+    ComObject& operator=(const ComObject&) = delete;
+    virtual ~ComObject() { --liveObjects; }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override
+    {
+        *object = nullptr;
+        if (!offers(iid))
+            return E_NOINTERFACE;
+        if (iid == IID_IUnknown || iid == __uuidof(First))
+            *object = static_cast<First*>(this);
+        else
+            ((iid == __uuidof(Rest) ? void(*object = static_cast<Rest*>(this)) : void()), ...);
+        if (!*object)
+            *object = also(iid);
+        if (!*object)
+            return E_NOINTERFACE;
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+    ULONG STDMETHODCALLTYPE Release() override
+    {
+        const ULONG left = --references_;
+        if (left == 0)
+            delete this;
+        return left;
+    }
+    [[nodiscard]] ULONG references() const noexcept { return references_; }
+
+protected:
+    virtual bool offers(REFIID) { return true; }   // hides an interface from the control
+    virtual void* also(REFIID) { return nullptr; } // under another identity
+
+private:
+    ULONG references_ = 1;
+};
+
+template <class Object, class... Arguments>
+ComPtr<Object> make(Arguments&&... arguments)
+{
+    return ComPtr<Object>::adopt(new Object(std::forward<Arguments>(arguments)...));
+}
+
+} // namespace vela::test

@@ -1,0 +1,336 @@
+// The tests' own OLE container.
+#include "container.h"
+
+#include <gtest/gtest.h>
+#include <olectl.h>
+
+#include <algorithm>
+
+namespace vela::test {
+
+class Form::Frame final : public ComObject<IOleInPlaceFrame> {
+public:
+    explicit Frame(HWND window) : window_(window) {}
+    ComPtr<IOleInPlaceActiveObject> active;
+
+    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override
+    {
+        *window = window_;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE GetBorder(LPRECT) override { return INPLACE_E_NOTOOLSPACE; }
+    HRESULT STDMETHODCALLTYPE RequestBorderSpace(LPCBORDERWIDTHS) override { return INPLACE_E_NOTOOLSPACE; }
+    HRESULT STDMETHODCALLTYPE SetBorderSpace(LPCBORDERWIDTHS) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR) override
+    {
+        active = ComPtr<IOleInPlaceActiveObject>::share(object);
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE InsertMenus(HMENU, LPOLEMENUGROUPWIDTHS) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetMenu(HMENU, HOLEMENU, HWND) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE RemoveMenus(HMENU) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetStatusText(LPCOLESTR) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
+
+private:
+    HWND window_;
+};
+
+namespace {
+
+constexpr wchar_t formClass[] = L"VelaTestForm";
+
+// Takes the events; separate from the site's own IDispatch, which answers for the ambients.
+class EventSink final : public ComObject<IDispatch> {
+public:
+    explicit EventSink(Site& site) : site_(site) {}
+
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO* info,
+                                     UINT*) override
+    {
+        const HRESULT result = site_.eventResult;
+        site_.log.push_back("event " + std::to_string(id));
+        if (site_.onEvent)
+            site_.onEvent(id, *parameters);
+        if (result == DISP_E_EXCEPTION && info) {
+            info->scode = static_cast<SCODE>(0x800A0000u + 1234);
+            info->bstrDescription = SysAllocString(L"handler");
+            info->bstrSource = SysAllocString(L"test");
+        }
+        return result;
+    }
+
+private:
+    Site& site_;
+};
+
+ComPtr<IConnectionPoint> pointOf(IUnknown* control, REFIID iid)
+{
+    ComPtr<IConnectionPoint> point;
+    if (const auto container = ComPtr<IConnectionPointContainer>::from(control))
+        container->FindConnectionPoint(iid, point.put());
+    return point;
+}
+
+} // namespace
+
+HRESULT Site::note(std::string word)
+{
+    const ComPtr<Site> alive = ComPtr<Site>::share(this);
+    log.push_back(word);
+    if (onCall)
+        onCall(word.c_str());
+    return S_OK;
+}
+
+bool Site::offers(REFIID iid)
+{
+    if (iid == IID_IOleInPlaceSite || iid == IID_IOleWindow)
+        return options_.inPlace;
+    if (iid == IID_IOleControlSite)
+        return options_.controlSite;
+    if (iid == IID_IDispatch)
+        return options_.ambients;
+    return true;
+}
+
+void Site::hold(ComPtr<IUnknown> control)
+{
+    control_ = std::move(control);
+    ASSERT_TRUE(control_) << "the control could not be created";
+    if (const auto object = as<IOleObject>())
+        object->SetClientSite(this);
+    if (options_.initialise) {
+        ASSERT_EQ(as<IPersistStreamInit>()->InitNew(), S_OK);
+    }
+    if (options_.connectEvents)
+        connect();
+}
+
+void Site::connect()
+{
+    IID source{};
+    if (const auto info = as<IProvideClassInfo2>())
+        info->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &source);
+    events_ = pointOf(control_.get(), source);
+    if (events_)
+        events_->Advise(make<EventSink>(*this).get(), &eventCookie_);
+    properties_ = pointOf(control_.get(), IID_IPropertyNotifySink);
+    if (properties_)
+        properties_->Advise(static_cast<IPropertyNotifySink*>(this), &propertyCookie_);
+}
+
+void Site::disconnect()
+{
+    if (events_ && eventCookie_)
+        events_->Unadvise(eventCookie_);
+    if (properties_ && propertyCookie_)
+        properties_->Unadvise(propertyCookie_);
+    eventCookie_ = propertyCookie_ = 0;
+    events_.reset();
+    properties_.reset();
+}
+
+HRESULT Site::activate(RECT place)
+{
+    place_ = place;
+    const auto object = as<IOleObject>();
+    return object->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, this, 0, form_.window(), &place);
+}
+
+HRESULT Site::activateInterface()
+{
+    return as<IOleObject>()->DoVerb(OLEIVERB_UIACTIVATE, nullptr, this, 0, form_.window(), &place_);
+}
+
+void Site::close()
+{
+    const ComPtr<Site> alive = ComPtr<Site>::share(this);
+    disconnect();
+    if (const auto object = as<IOleObject>()) {
+        object->Close(OLECLOSE_NOSAVE);
+        object->SetClientSite(nullptr);
+    }
+    control_.reset();
+}
+
+HWND Site::window() const
+{
+    HWND found = nullptr;
+    if (const auto window = as<IOleWindow>())
+        window->GetWindow(&found);
+    return found;
+}
+
+HWND Site::edit() const
+{
+    const Outcome outcome = automation().get(u"hwnd");
+    return reinterpret_cast<HWND>(static_cast<LONG_PTR>(outcome.value.get().lVal));
+}
+
+int Site::count(std::string_view word) const
+{
+    return static_cast<int>(std::count(log.begin(), log.end(), word));
+}
+
+HRESULT Site::GetContainer(IOleContainer** container)
+{
+    *container = nullptr;
+    return E_NOINTERFACE;
+}
+
+HRESULT Site::GetWindow(HWND* window)
+{
+    *window = form_.window();
+    return S_OK;
+}
+
+// One control has the user interface at a time.
+HRESULT Site::OnUIActivate()
+{
+    if (IOleInPlaceActiveObject* const other = form_.active())
+        if (const auto object = ComPtr<IOleInPlaceObject>::from(other))
+            object->UIDeactivate();
+    return note("OnUIActivate");
+}
+
+HRESULT Site::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT place, LPRECT clip,
+                               LPOLEINPLACEFRAMEINFO)
+{
+    *frame = form_.frame();
+    (*frame)->AddRef();
+    *document = nullptr;
+    *place = place_;
+    GetClientRect(form_.window(), clip);
+    return note("GetWindowContext");
+}
+
+HRESULT Site::GetExtendedControl(IDispatch** object)
+{
+    *object = extender.shared().release();
+    return *object ? S_OK : E_NOTIMPL;
+}
+
+HRESULT Site::TranslateAccelerator(LPMSG message, DWORD)
+{
+    return onKey ? onKey(message) : S_FALSE;
+}
+
+HRESULT Site::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*)
+{
+    const auto found = ambients.find(id);
+    if (found == ambients.end())
+        return DISP_E_MEMBERNOTFOUND;
+    return VariantCopy(result, const_cast<VARIANT*>(&found->second.get()));
+}
+
+HRESULT Site::OnChanged(DISPID id)
+{
+    return note("changed " + std::to_string(id));
+}
+
+HRESULT Site::OnRequestEdit(DISPID id)
+{
+    note("request " + std::to_string(id));
+    return refuseEdits ? S_FALSE : S_OK;
+}
+
+Form::Form()
+{
+    WNDCLASSW description{};
+    description.lpfnWndProc = DefWindowProcW;
+    description.hInstance = GetModuleHandleW(nullptr);
+    description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    description.lpszClassName = formClass;
+    RegisterClassW(&description); // a second time it stands already
+    window_ = CreateWindowExW(WS_EX_CONTROLPARENT, formClass, L"Vela", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 300,
+                              nullptr, nullptr, description.hInstance, nullptr);
+    frame_ = make<Frame>(window_);
+}
+
+Form::~Form()
+{
+    for (const auto& site : sites_)
+        site->close();
+    frame_->active.reset();
+    destroyWindow();
+    pump();
+}
+
+void Form::destroyWindow()
+{
+    if (window_)
+        DestroyWindow(std::exchange(window_, nullptr));
+}
+
+Site& Form::add(SiteOptions options, const wchar_t* progId)
+{
+    sites_.push_back(make<Site>(*this, options));
+    Site& site = *sites_.back().get();
+    site.hold(create(progId));
+    return site;
+}
+
+Site& Form::addActive(const wchar_t* progId)
+{
+    Site& site = add({}, progId);
+    const LONG top = 10 + static_cast<LONG>(sites_.size() - 1) * 40;
+    EXPECT_EQ(site.activate({10, top, 210, top + 24}), S_OK);
+    return site;
+}
+
+IOleInPlaceFrame* Form::frame() const noexcept
+{
+    return frame_.get();
+}
+
+IOleInPlaceActiveObject* Form::active() const noexcept
+{
+    return frame_->active.get();
+}
+
+void Form::run()
+{
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        const bool key = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+        const auto active = frame_->active.shared();
+        if (key && active && active->TranslateAccelerator(&message) == S_OK)
+            continue;
+        if (window_ && IsDialogMessageW(window_, &message))
+            continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+void Form::press(WPARAM key)
+{
+    const UINT scan = MapVirtualKeyW(static_cast<UINT>(key), MAPVK_VK_TO_VSC);
+    PostMessageW(GetFocus(), WM_KEYDOWN, key, static_cast<LPARAM>(1 | (scan << 16)));
+    run();
+    PostMessageW(GetFocus(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001u | (scan << 16)));
+    run();
+}
+
+void Form::type(std::u16string_view text)
+{
+    for (const char16_t unit : text) {
+        PostMessageW(GetFocus(), WM_CHAR, unit, 1);
+        run();
+    }
+}
+
+void Form::focus(Site& site)
+{
+    SetForegroundWindow(window_);
+    SetFocus(site.edit());
+    run();
+}
+
+} // namespace vela::test

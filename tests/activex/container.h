@@ -1,0 +1,142 @@
+// A minimal OLE container of the tests: a real form window with sites whose every service can be left out.
+#pragma once
+
+#include "automation.h"
+#include "library.h"
+
+#include <oleidl.h>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace vela::test {
+
+struct SiteOptions {
+    bool inPlace = true;     // IOleInPlaceSite
+    bool controlSite = true; // IOleControlSite
+    bool ambients = true;    // IDispatch
+    bool connectEvents = true;
+    bool initialise = true; // IPersistStreamInit::InitNew
+};
+
+class Form;
+
+// One control and its site. What the control asks and tells is kept in `log`, one word each.
+class Site final : public ComObject<IOleClientSite, IOleInPlaceSite, IOleControlSite, IDispatch, IPropertyNotifySink> {
+public:
+    Site(Form& form, SiteOptions options) : form_(form), options_(options) {}
+
+    void hold(ComPtr<IUnknown> control); // SetClientSite, InitNew, events
+    HRESULT activate(RECT place);        // as visible controls are
+    HRESULT activateInterface();
+    void close(); // Close, SetClientSite(null), release
+
+    template <class Interface>
+    [[nodiscard]] ComPtr<Interface> as() const
+    {
+        return ComPtr<Interface>::from(control_.get());
+    }
+    [[nodiscard]] IUnknown* control() const noexcept { return control_.get(); }
+    [[nodiscard]] Automation automation() const { return Automation(control_.get()); }
+    [[nodiscard]] HWND window() const; // of the control
+    [[nodiscard]] HWND edit() const;   // its edit box
+
+    std::vector<std::string> log;
+    std::map<DISPID, Variant> ambients;
+    std::function<void(DISPID, DISPPARAMS&)> onEvent;
+    std::function<void(const char*)> onCall; // inside each call that is logged
+    std::function<HRESULT(MSG*)> onKey;      // IOleControlSite::TranslateAccelerator
+    ComPtr<IDispatch> extender;
+    bool refuseEdits = false;
+    HRESULT eventResult = S_OK;
+
+    [[nodiscard]] int count(std::string_view word) const;
+
+    // IOleClientSite
+    HRESULT STDMETHODCALLTYPE SaveObject() override { return note("SaveObject"); }
+    HRESULT STDMETHODCALLTYPE GetMoniker(DWORD, DWORD, IMoniker**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetContainer(IOleContainer** container) override;
+    HRESULT STDMETHODCALLTYPE ShowObject() override { return note("ShowObject"); }
+    HRESULT STDMETHODCALLTYPE OnShowWindow(BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE RequestNewObjectLayout() override { return E_NOTIMPL; }
+    // IOleInPlaceSite
+    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override;
+    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE CanInPlaceActivate() override { return note("CanInPlaceActivate"); }
+    HRESULT STDMETHODCALLTYPE OnInPlaceActivate() override { return note("OnInPlaceActivate"); }
+    HRESULT STDMETHODCALLTYPE OnUIActivate() override;
+    HRESULT STDMETHODCALLTYPE GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT place,
+                                               LPRECT clip, LPOLEINPLACEFRAMEINFO info) override;
+    HRESULT STDMETHODCALLTYPE Scroll(SIZE) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE OnUIDeactivate(BOOL) override { return note("OnUIDeactivate"); }
+    HRESULT STDMETHODCALLTYPE OnInPlaceDeactivate() override { return note("OnInPlaceDeactivate"); }
+    HRESULT STDMETHODCALLTYPE DiscardUndoState() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE DeactivateAndUndo() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnPosRectChange(LPCRECT) override { return S_OK; }
+    // IOleControlSite
+    HRESULT STDMETHODCALLTYPE OnControlInfoChanged() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE LockInPlaceActive(BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE GetExtendedControl(IDispatch** object) override;
+    HRESULT STDMETHODCALLTYPE TransformCoords(POINTL*, POINTF*, DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG message, DWORD modifiers) override;
+    HRESULT STDMETHODCALLTYPE OnFocus(BOOL has) override { return note(has ? "OnFocus 1" : "OnFocus 0"); }
+    HRESULT STDMETHODCALLTYPE ShowPropertyFrame() override { return E_NOTIMPL; }
+    // IDispatch: ambients; another identity takes the events
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
+                                     UINT*) override;
+    // IPropertyNotifySink
+    HRESULT STDMETHODCALLTYPE OnChanged(DISPID id) override;
+    HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID id) override;
+
+protected:
+    bool offers(REFIID iid) override;
+
+private:
+    HRESULT note(std::string word);
+    void connect();
+    void disconnect();
+
+    Form& form_;
+    SiteOptions options_;
+    ComPtr<IUnknown> control_;
+    ComPtr<IConnectionPoint> events_;
+    ComPtr<IConnectionPoint> properties_;
+    DWORD eventCookie_ = 0;
+    DWORD propertyCookie_ = 0;
+    RECT place_{};
+};
+
+// The window with its sites, a dialog-like message loop, and the frame's side of in-place activation.
+class Form {
+public:
+    Form();
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+    ~Form();
+
+    Site& add(SiteOptions options = {}, const wchar_t* progId = L"Vela.Vela");
+    Site& addActive(const wchar_t* progId = L"Vela.Vela"); // in place, one below the other
+    [[nodiscard]] HWND window() const noexcept { return window_; }
+    [[nodiscard]] IOleInPlaceFrame* frame() const noexcept;
+    [[nodiscard]] IOleInPlaceActiveObject* active() const noexcept;
+
+    // A key to the focused window through the form's loop: the active object first, then the dialog keys.
+    void press(WPARAM key);
+    void type(std::u16string_view text); // characters, composed
+    void run();                          // what waits in the queue
+    void focus(Site& site);
+    void destroyWindow();
+
+private:
+    class Frame;
+    HWND window_ = nullptr;
+    ComPtr<Frame> frame_;
+    std::vector<ComPtr<Site>> sites_;
+};
+
+} // namespace vela::test

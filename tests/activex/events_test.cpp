@@ -1,0 +1,262 @@
+// Events and property notifications: by-reference arguments, script handlers, and hosts that do harm inside them.
+#include "container.h"
+#include "script_host.h"
+
+#include <gtest/gtest.h>
+#include <olectl.h>
+
+namespace vela::test {
+
+namespace {
+
+constexpr DISPID change = 1;
+
+std::u16string textIn(Site& site)
+{
+    return site.automation().textOf(u"Text");
+}
+
+TEST(Events, KeysArriveInOrderAndTheirCodesMayBeChanged)
+{
+    Form form;
+    Site& site = form.addActive();
+    form.focus(site);
+    site.log.clear();
+    site.onEvent = [](DISPID id, DISPPARAMS& parameters) {
+        if (id != DISPID_KEYPRESS)
+            return;
+        ASSERT_EQ(parameters.cArgs, 1u);
+        ASSERT_EQ(parameters.rgvarg[0].vt, VT_BYREF | VT_I2);
+        if (*parameters.rgvarg[0].piVal == 'a')
+            *parameters.rgvarg[0].piVal = 'B';
+        else if (*parameters.rgvarg[0].piVal == 'x')
+            *parameters.rgvarg[0].piVal = 0;
+    };
+    form.press('A'); // its character comes from the key
+    EXPECT_EQ(textIn(site), u"B");
+    EXPECT_EQ(site.count("event -602"), 1);
+    EXPECT_EQ(site.count("event -603"), 1);
+    EXPECT_EQ(site.count("event 1"), 1);
+    EXPECT_EQ(site.count("event -604"), 1);
+    form.type(u"xc\u00E7");
+    EXPECT_EQ(textIn(site), u"Bc\u00E7");
+}
+
+TEST(Events, KeyDownHasCodeAndShiftInTheirOrder)
+{
+    Form form;
+    Site& site = form.addActive();
+    form.focus(site);
+    int code = 0;
+    int shift = -1;
+    site.onEvent = [&](DISPID id, DISPPARAMS& parameters) {
+        if (id == DISPID_KEYDOWN && parameters.cArgs == 2) {
+            code = *parameters.rgvarg[1].piVal; // the last argument stands first
+            shift = *parameters.rgvarg[0].piVal;
+        }
+    };
+    form.press(VK_F5);
+    EXPECT_EQ(code, VK_F5);
+    EXPECT_EQ(shift, 0);
+}
+
+TEST(Events, ScriptHandlersTakeAndChangeThem)
+{
+    Form form;
+    Site& site = form.addActive();
+    form.focus(site);
+    const ScriptHost script(L"Dim changes : changes = 0\n"
+                            L"Sub campo_Change : changes = changes + 1 : End Sub\n"
+                            L"Sub campo_KeyPress(KeyAscii)\n"
+                            L"  If KeyAscii = 65 Then KeyAscii = 66\n"
+                            L"End Sub\n",
+                            L"campo", site.control());
+    ASSERT_TRUE(script.running());
+    form.type(u"AA1");
+    EXPECT_EQ(textIn(site), u"BB1");
+    EXPECT_EQ(script.failure(), u"");
+    Variant changes = script.variable(L"changes");
+    EXPECT_EQ(SUCCEEDED(VariantChangeType(&changes.ref(), &changes.ref(), 0, VT_I4)) ? changes.get().lVal : -1, 3);
+}
+
+TEST(Events, ScriptsSeeTheControlsErrors)
+{
+    Form form;
+    Site& site = form.addActive();
+    const ScriptHost script(L"Dim n, s, d\nOn Error Resume Next\ncampo.PasswordChar = \"ab\"\n"
+                            L"n = Err.Number : s = Err.Source : d = Err.Description\n",
+                            L"campo", site.control());
+    Variant number = script.variable(L"n");
+    EXPECT_EQ(SUCCEEDED(VariantChangeType(&number.ref(), &number.ref(), 0, VT_I4)) ? number.get().lVal : -1, 380);
+    EXPECT_STREQ(script.variable(L"s").get().bstrVal, L"Vela");
+    EXPECT_STREQ(script.variable(L"d").get().bstrVal, L"Invalid property value");
+}
+
+TEST(Events, BoundPropertiesAskBeforeAndTellAfter)
+{
+    Form form;
+    Site& site = form.addActive();
+    site.log.clear();
+    ASSERT_EQ(site.automation().put(u"Text", text(u"um")).result, S_OK);
+    EXPECT_EQ(site.count("request 0"), 1);
+    EXPECT_EQ(site.count("changed 0"), 1);
+    EXPECT_EQ(site.count("request -1"), 0);
+    site.refuseEdits = true;
+    const Outcome refused = site.automation().put(u"Text", text(u"dois"));
+    EXPECT_EQ(refused.error, 387);
+    EXPECT_EQ(textIn(site), u"um");
+    site.log.clear();
+    EXPECT_EQ(site.automation().put(u"NomeCampo", text(u"n")).result, S_OK) << "only bound properties ask";
+    EXPECT_EQ(site.automation().put(u"UpTAB", truth(false)).result, S_OK);
+    EXPECT_EQ(site.count("request 0"), 0);
+    EXPECT_EQ(site.count("changed " + std::to_string(*site.automation().id(u"UpTAB"))), 1);
+    EXPECT_EQ(site.count("changed " + std::to_string(*site.automation().id(u"NomeCampo"))), 0) << "not marked";
+}
+
+TEST(Events, FrozenControlsAreSilent)
+{
+    Form form;
+    Site& site = form.addActive();
+    const auto control = site.as<IOleControl>();
+    site.log.clear();
+    ASSERT_EQ(control->FreezeEvents(TRUE), S_OK);
+    ASSERT_EQ(control->FreezeEvents(TRUE), S_OK);
+    ASSERT_EQ(control->FreezeEvents(FALSE), S_OK);
+    site.automation().put(u"Text", text(u"a"));
+    EXPECT_EQ(site.count("event 1"), 0);
+    ASSERT_EQ(control->FreezeEvents(FALSE), S_OK);
+    site.automation().put(u"Text", text(u"b"));
+    EXPECT_EQ(site.count("event 1"), 1);
+}
+
+TEST(Events, AHandlersErrorReachesTheCaller)
+{
+    Form form;
+    Site& site = form.addActive();
+    site.eventResult = DISP_E_EXCEPTION;
+    const Outcome put = site.automation().put(u"Text", text(u"a"));
+    site.eventResult = S_OK;
+    if (put.result != S_OK) { // a control that traps its own events reports nothing
+        EXPECT_EQ(put.error, 1234);
+        EXPECT_EQ(put.source, u"test");
+        EXPECT_EQ(put.description, u"handler");
+    }
+    EXPECT_EQ(site.automation().put(u"Text", text(u"b")).result, S_OK);
+}
+
+TEST(Events, SinksThatKnowNoEventAreNoFailure)
+{
+    Form form;
+    Site& site = form.addActive();
+    for (const HRESULT answer : {DISP_E_MEMBERNOTFOUND, E_NOTIMPL, E_FAIL}) {
+        site.eventResult = answer;
+        EXPECT_EQ(site.automation().put(u"Text", number(answer)).result, S_OK);
+    }
+}
+
+TEST(Events, ASinkMayGoInsideItsEvent)
+{
+    const LeakCheck leaks;
+    Form form;
+    Site& site = form.addActive();
+    const auto container = site.as<IConnectionPointContainer>();
+    ComPtr<IConnectionPoint> point;
+    ASSERT_EQ(container->FindConnectionPoint(IID_IPropertyNotifySink, point.put()), S_OK);
+    class Sink final : public ComObject<IPropertyNotifySink> {
+    public:
+        IConnectionPoint* point = nullptr;
+        DWORD cookie = 0;
+        int told = 0;
+        HRESULT STDMETHODCALLTYPE OnChanged(DISPID) override
+        {
+            ++told;
+            return point->Unadvise(cookie);
+        }
+        HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) override { return S_OK; }
+    };
+    const auto sink = make<Sink>();
+    sink->point = point.get();
+    ASSERT_EQ(point->Advise(sink.get(), &sink->cookie), S_OK);
+    site.automation().put(u"UpTAB", truth(false));
+    site.automation().put(u"UpTAB", truth(true));
+    EXPECT_EQ(sink->told, 1);
+    EXPECT_EQ(point->Unadvise(sink->cookie), CONNECT_E_NOCONNECTION);
+}
+
+struct Harm {
+    const char* what;
+    void (*act)(Form&, Site&);
+};
+const Harm harms[] = {
+    {"closes it", [](Form&, Site& site) { site.close(); }},
+    {"deactivates it", [](Form&, Site& site) { site.as<IOleInPlaceObject>()->InPlaceDeactivate(); }},
+    {"takes its site", [](Form&, Site& site) { site.as<IOleObject>()->SetClientSite(nullptr); }},
+    {"destroys the form", [](Form& form, Site&) { form.destroyWindow(); }},
+    {"destroys the form, then closes it",
+     [](Form& form, Site& site) {
+         form.destroyWindow();
+         site.close();
+     }},
+    {"puts the text again", [](Form&, Site& site) { site.automation().put(u"Text", text(u"outro")); }},
+    {"takes its memory", [](Form&, Site& site) { site.automation().call(u"LimparMemoria"); }},
+    {"makes it a mask",
+     [](Form&, Site& site) {
+         site.automation().put(u"Mask", text(u"__-__"));
+         site.automation().put(u"TextType", number(3));
+     }},
+};
+
+// Each harm inside each event of typing and leaving; nothing may crash, and everything must be gone at the end.
+TEST(Events, HostsMayDoHarmInsideThem)
+{
+    for (const Harm& harm : harms)
+        for (const DISPID event :
+             {DISPID{DISPID_KEYDOWN}, DISPID{DISPID_KEYPRESS}, change, DISPID{DISPID_KEYUP}, DISPID{DISPID_CLICK}}) {
+            SCOPED_TRACE(std::string(harm.what) + " in event " + std::to_string(event));
+            const LeakCheck leaks;
+            Form form;
+            Site& site = form.addActive();
+            form.addActive();
+            form.focus(site);
+            bool done = false;
+            site.onEvent = [&](DISPID id, DISPPARAMS&) {
+                if (id == event && !std::exchange(done, true))
+                    harm.act(form, site);
+            };
+            form.press('A');
+            form.type(u"b");
+            if (site.control())
+                SendMessageW(site.edit(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 3));
+            if (site.control())
+                SendMessageW(site.edit(), WM_LBUTTONUP, 0, MAKELPARAM(3, 3));
+            form.run();
+            SetFocus(form.window());
+            form.run();
+        }
+}
+
+TEST(Events, HostsMayDoHarmInsideNotifications)
+{
+    for (const Harm& harm : harms)
+        for (const char* const call : {"OnFocus 1", "OnFocus 0", "OnUIActivate", "changed 0", "request 0"}) {
+            SCOPED_TRACE(std::string(harm.what) + " in " + call);
+            const LeakCheck leaks;
+            Form form;
+            Site& site = form.addActive();
+            bool done = false;
+            site.onCall = [&](const char* word) {
+                if (std::string_view(word) == call && !std::exchange(done, true))
+                    harm.act(form, site);
+            };
+            form.focus(site);
+            form.type(u"b");
+            if (site.control())
+                site.automation().put(u"Text", text(u"c"));
+            SetFocus(form.window());
+            form.run();
+        }
+}
+
+} // namespace
+
+} // namespace vela::test

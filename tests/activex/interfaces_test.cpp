@@ -1,0 +1,277 @@
+// What hosts ask of a control besides automation: identity, enumerators, browsing, life in any order.
+#include "container.h"
+
+#include "activex/guids.h"
+#include "control/property_table.h"
+
+#include <gtest/gtest.h>
+#include <olectl.h>
+
+#include <set>
+
+namespace vela::test {
+
+namespace {
+
+constexpr IID categorizeProperties{0x4d07fc10, 0xf931, 0x11ce, {0xb0, 0x01, 0x00, 0xaa, 0x00, 0x68, 0x84, 0xe5}};
+constexpr IID objectSafety{0xcb5bdc81, 0x93c1, 0x11cf, {0x8f, 0x20, 0x00, 0x80, 0x5f, 0x2c, 0xd0, 0x64}};
+
+struct Asked {
+    const char* name;
+    const IID& iid;
+};
+const Asked offered[] = {
+    {"IDispatch", IID_IDispatch},
+    {"IVela", activex::velaInterface},
+    {"IOleObject", IID_IOleObject},
+    {"IOleControl", IID_IOleControl},
+    {"IOleWindow", IID_IOleWindow},
+    {"IOleInPlaceObject", IID_IOleInPlaceObject},
+    {"IOleInPlaceActiveObject", IID_IOleInPlaceActiveObject},
+    {"IViewObject", IID_IViewObject},
+    {"IViewObject2", IID_IViewObject2},
+    {"IViewObjectEx", IID_IViewObjectEx},
+    {"IPersist", IID_IPersist},
+    {"IPersistStream", IID_IPersistStream},
+    {"IPersistStreamInit", IID_IPersistStreamInit},
+    {"IPersistStorage", IID_IPersistStorage},
+    {"IPersistPropertyBag", IID_IPersistPropertyBag},
+    {"IDataObject", IID_IDataObject},
+    {"IQuickActivate", IID_IQuickActivate},
+    {"IProvideClassInfo", IID_IProvideClassInfo},
+    {"IProvideClassInfo2", IID_IProvideClassInfo2},
+    {"IConnectionPointContainer", IID_IConnectionPointContainer},
+    {"ISupportErrorInfo", IID_ISupportErrorInfo},
+    {"ISpecifyPropertyPages", IID_ISpecifyPropertyPages},
+    {"IPerPropertyBrowsing", IID_IPerPropertyBrowsing},
+    {"ICategorizeProperties", categorizeProperties},
+};
+
+// From each interface to each other, and back to one identity.
+TEST(Interfaces, AreOneObject)
+{
+    const LeakCheck leaks;
+    for (const wchar_t* const progId : {L"Vela.Vela", L"Vela.cCalendar.1"}) {
+        const ComPtr<IUnknown> control = create(progId);
+        ASSERT_TRUE(control);
+        for (const Asked& from : offered) {
+            if (from.iid == activex::velaInterface && std::wstring_view(progId) != L"Vela.Vela")
+                continue;
+            const auto first = ComPtr<IUnknown>::from(control.get(), from.iid);
+            ASSERT_TRUE(first) << from.name;
+            const auto identity = ComPtr<IUnknown>::from(first.get(), IID_IUnknown);
+            EXPECT_EQ(identity.get(), control.get()) << from.name;
+            for (const Asked& to : offered)
+                EXPECT_TRUE(to.iid == activex::velaInterface || ComPtr<IUnknown>::from(first.get(), to.iid))
+                    << from.name << " to " << to.name;
+        }
+        EXPECT_FALSE(ComPtr<IUnknown>::from(control.get(), objectSafety)) << "no promise to untrusted pages";
+        EXPECT_EQ(control->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
+    }
+}
+
+TEST(Interfaces, NoAggregationAndNoOtherClass)
+{
+    ComPtr<IUnknown> object;
+    const ComPtr<IUnknown> outer = create();
+    EXPECT_EQ(CoCreateInstance(activex::velaClass, outer.get(), CLSCTX_INPROC_SERVER, IID_IUnknown, object.putVoid()),
+              CLASS_E_NOAGGREGATION);
+    EXPECT_EQ(CoCreateInstance(activex::velaClass, nullptr, CLSCTX_INPROC_SERVER, objectSafety, object.putVoid()),
+              E_NOINTERFACE);
+}
+
+TEST(Interfaces, StatusAndSizes)
+{
+    const ComPtr<IUnknown> control = create();
+    const auto object = ComPtr<IOleObject>::from(control.get());
+    DWORD status = 0;
+    EXPECT_EQ(object->GetMiscStatus(DVASPECT_CONTENT, &status), S_OK);
+    EXPECT_EQ(status, 0x20191u);
+    SIZEL extent{1000, 500};
+    EXPECT_EQ(object->SetExtent(DVASPECT_CONTENT, &extent), S_OK);
+    SIZEL read{};
+    EXPECT_EQ(object->GetExtent(DVASPECT_CONTENT, &read), S_OK);
+    EXPECT_EQ(read.cx, 1000);
+    EXPECT_EQ(read.cy, 500);
+    extent.cx = -1;
+    EXPECT_TRUE(FAILED(object->SetExtent(DVASPECT_CONTENT, &extent)));
+    EXPECT_EQ(object->SetExtent(DVASPECT_ICON, &read), DV_E_DVASPECT);
+    EXPECT_EQ(object->SetExtent(DVASPECT_CONTENT, nullptr), E_POINTER);
+    LPOLESTR type = nullptr;
+    ASSERT_EQ(object->GetUserType(USERCLASSTYPE_FULL, &type), S_OK);
+    EXPECT_STREQ(type, L"Vela");
+    CoTaskMemFree(type);
+}
+
+TEST(Interfaces, VerbsAreEnumerated)
+{
+    const ComPtr<IUnknown> control = create();
+    ComPtr<IEnumOLEVERB> verbs;
+    ASSERT_EQ(ComPtr<IOleObject>::from(control.get())->EnumVerbs(verbs.put()), S_OK);
+    std::set<LONG> seen;
+    OLEVERB verb{};
+    ULONG fetched = 0;
+    while (verbs->Next(1, &verb, &fetched) == S_OK) {
+        seen.insert(verb.lVerb);
+        CoTaskMemFree(verb.lpszVerbName);
+    }
+    EXPECT_TRUE(seen.contains(OLEIVERB_PRIMARY) && seen.contains(OLEIVERB_PROPERTIES));
+    EXPECT_EQ(verbs->Reset(), S_OK);
+    EXPECT_EQ(verbs->Skip(static_cast<ULONG>(seen.size())), S_OK);
+    EXPECT_EQ(verbs->Skip(1), S_FALSE);
+    ComPtr<IEnumOLEVERB> copy;
+    EXPECT_EQ(verbs->Clone(copy.put()), S_OK);
+    EXPECT_EQ(copy->Next(1, &verb, nullptr), S_FALSE);
+}
+
+TEST(Interfaces, ConnectionsAreEnumerated)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const auto container = ComPtr<IConnectionPointContainer>::from(control.get());
+    ComPtr<IEnumConnectionPoints> points;
+    ASSERT_EQ(container->EnumConnectionPoints(points.put()), S_OK);
+    IConnectionPoint* list[3]{};
+    ULONG fetched = 0;
+    EXPECT_EQ(points->Next(3, list, &fetched), S_FALSE);
+    ASSERT_EQ(fetched, 2u);
+    IID events{};
+    EXPECT_EQ(list[0]->GetConnectionInterface(&events), S_OK);
+    EXPECT_EQ(events, activex::velaEvents);
+    DWORD cookie = 0;
+    EXPECT_EQ(list[0]->Advise(nullptr, &cookie), E_POINTER);
+    EXPECT_EQ(list[1]->Advise(control.get(), &cookie), CONNECT_E_CANNOTCONNECT) << "no sink of that kind";
+    for (IConnectionPoint* point : {list[0], list[1]})
+        point->Release();
+    ComPtr<IConnectionPoint> none;
+    EXPECT_EQ(container->FindConnectionPoint(IID_IDataObject, none.put()), CONNECT_E_NOCONNECTION);
+}
+
+TEST(Interfaces, EnumeratedValuesAreBrowsedByName)
+{
+    const ComPtr<IUnknown> control = create();
+    const Automation field(control.get());
+    const auto browsing = ComPtr<IPerPropertyBrowsing>::from(control.get());
+    for (const control::Property& property : control::properties()) {
+        CALPOLESTR names{};
+        CADWORD cookies{};
+        const HRESULT result = browsing->GetPredefinedStrings(property.dispid, &names, &cookies);
+        if (!property.enumeration) {
+            EXPECT_EQ(result, S_FALSE);
+            continue;
+        }
+        ASSERT_EQ(names.cElems, property.enumeration->members.size());
+        for (ULONG i = 0; i < names.cElems; ++i) {
+            const engine::Enumerator& member = property.enumeration->members[i];
+            EXPECT_EQ(asText(names.pElems[i], wcslen(names.pElems[i])), member.name);
+            Variant value;
+            EXPECT_EQ(browsing->GetPredefinedValue(property.dispid, cookies.pElems[i], value.put()), S_OK);
+            EXPECT_EQ(value.get().lVal, member.value);
+            CoTaskMemFree(names.pElems[i]);
+        }
+        CoTaskMemFree(names.pElems);
+        CoTaskMemFree(cookies.pElems);
+    }
+    Bstr shown;
+    EXPECT_EQ(browsing->GetDisplayString(*field.id(u"TextType"), shown.put()), S_OK);
+    EXPECT_EQ(shown.text(), u"TextoNormal");
+    EXPECT_EQ(browsing->GetDisplayString(*field.id(u"Mask"), shown.put()), S_FALSE);
+    Variant none;
+    EXPECT_EQ(browsing->GetPredefinedValue(*field.id(u"TextType"), 99, none.put()), E_INVALIDARG);
+}
+
+TEST(Interfaces, PropertiesLeadToPagesAndCategories)
+{
+    const ComPtr<IUnknown> control = create();
+    const Automation field(control.get());
+    const auto browsing = ComPtr<IPerPropertyBrowsing>::from(control.get());
+    CLSID page{};
+    EXPECT_EQ(browsing->MapPropertyToPage(*field.id(u"BackColor"), &page), S_OK);
+    EXPECT_EQ(page, CLSID_CColorPropPage);
+    EXPECT_EQ(browsing->MapPropertyToPage(*field.id(u"Font"), &page), S_OK);
+    EXPECT_EQ(page, CLSID_CFontPropPage);
+    EXPECT_EQ(browsing->MapPropertyToPage(*field.id(u"Mask"), &page), S_OK);
+    EXPECT_EQ(page, activex::principalPage);
+    EXPECT_EQ(browsing->MapPropertyToPage(*field.id(u"NomeCampo"), &page), PERPROP_E_NOPAGEAVAILABLE);
+    EXPECT_EQ(browsing->MapPropertyToPage(4711, &page), DISP_E_MEMBERNOTFOUND);
+
+    struct Categorizer : IUnknown {
+        virtual HRESULT STDMETHODCALLTYPE MapPropertyToCategory(DISPID id, int* category) = 0;
+        virtual HRESULT STDMETHODCALLTYPE GetCategoryName(int category, LCID locale, BSTR* name) = 0;
+    };
+    const auto found = ComPtr<IUnknown>::from(control.get(), categorizeProperties);
+    auto& categorizer = *static_cast<Categorizer*>(found.get());
+    int category = 0;
+    EXPECT_EQ(categorizer.MapPropertyToCategory(*field.id(u"FontBold"), &category), S_OK);
+    EXPECT_EQ(category, -3);
+    EXPECT_EQ(categorizer.MapPropertyToCategory(*field.id(u"MaskRules"), &category), S_OK);
+    Bstr name;
+    EXPECT_EQ(categorizer.GetCategoryName(category, 0, name.put()), S_OK);
+    EXPECT_EQ(name.text(), u"M\u00E1scara");
+    EXPECT_EQ(categorizer.GetCategoryName(-3, 0, name.put()), S_FALSE);
+
+    CAUUID pages{};
+    ASSERT_EQ(ComPtr<ISpecifyPropertyPages>::from(control.get())->GetPages(&pages), S_OK);
+    EXPECT_EQ(pages.cElems, 5u);
+    CoTaskMemFree(pages.pElems);
+}
+
+TEST(Interfaces, QuickActivationGivesBothSidesWhatTheyWant)
+{
+    const LeakCheck leaks;
+    Form form;
+    Site& site = form.add({.connectEvents = false, .initialise = false});
+    QACONTAINER container{};
+    container.cbSize = sizeof container;
+    container.pClientSite = &site;
+    container.pPropertyNotifySink = &site;
+    QACONTROL control{};
+    control.cbSize = sizeof control;
+    const auto quick = site.as<IQuickActivate>();
+    ASSERT_EQ(quick->QuickActivate(&container, &control), S_OK);
+    EXPECT_EQ(control.dwMiscStatus, 0x20191u);
+    EXPECT_NE(control.dwPropNotifyCookie, 0u);
+    site.automation().put(u"UpTAB", truth(false));
+    EXPECT_EQ(site.count("changed " + std::to_string(*site.automation().id(u"UpTAB"))), 1);
+    ComPtr<IConnectionPoint> point;
+    site.as<IConnectionPointContainer>()->FindConnectionPoint(IID_IPropertyNotifySink, point.put());
+    EXPECT_EQ(point->Unadvise(control.dwPropNotifyCookie), S_OK);
+    container.cbSize = 4;
+    EXPECT_EQ(quick->QuickActivate(&container, &control), E_INVALIDARG);
+}
+
+// Closing, taking the site and releasing, in every order.
+TEST(Interfaces, LifeEndsInAnyOrder)
+{
+    for (int order = 0; order < 6; ++order) {
+        SCOPED_TRACE(order);
+        const LeakCheck leaks;
+        Form form;
+        Site& site = form.addActive();
+        form.focus(site);
+        const auto object = site.as<IOleObject>();
+        const auto inPlace = site.as<IOleInPlaceObject>();
+        const int steps[][3] = {{0, 1, 2}, {0, 2, 1}, {1, 0, 2}, {1, 2, 0}, {2, 0, 1}, {2, 1, 0}};
+        for (const int step : steps[order]) {
+            const HRESULT done = step == 0   ? object->Close(OLECLOSE_NOSAVE)
+                                 : step == 1 ? object->SetClientSite(nullptr)
+                                             : inPlace->InPlaceDeactivate();
+            EXPECT_EQ(done, S_OK) << step;
+        }
+        EXPECT_EQ(site.count("OnInPlaceDeactivate"), 1);
+        EXPECT_EQ(site.automation().put(u"Text", text(u"ainda")).result, S_OK);
+    }
+}
+
+TEST(Interfaces, ClosingSavesWhatWasChanged)
+{
+    Form form;
+    Site& site = form.addActive();
+    ASSERT_EQ(site.automation().put(u"UpTAB", truth(false)).result, S_OK);
+    EXPECT_EQ(site.as<IOleObject>()->Close(OLECLOSE_SAVEIFDIRTY), S_OK);
+    EXPECT_EQ(site.count("SaveObject"), 1);
+}
+
+} // namespace
+
+} // namespace vela::test

@@ -1,0 +1,115 @@
+// Loading and registering Vela.ocx for all tests of the program.
+#include "library.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace vela::test {
+
+namespace {
+
+HMODULE module = nullptr;
+
+std::wstring windowsPath(const char* name)
+{
+    std::string path = std::string(VELA_BINARY_DIR) + "/" + name;
+    if (path.front() == '/')
+        path = "Z:" + path;
+    std::replace(path.begin(), path.end(), '/', '\\');
+    return {path.begin(), path.end()};
+}
+
+template <class Function>
+Function entry(const char* name)
+{
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+}
+
+class WholeRun : public testing::Environment {
+public:
+    void SetUp() override
+    {
+        ASSERT_TRUE(SUCCEEDED(OleInitialize(nullptr)));
+        module = LoadLibraryW(libraryPath().c_str());
+        ASSERT_NE(module, nullptr) << "error " << GetLastError();
+        ASSERT_EQ(callServer("DllRegisterServer"), S_OK);
+    }
+    void TearDown() override
+    {
+        pump();
+        EXPECT_EQ(canUnload(), S_OK) << "objects of the library are still alive";
+        EXPECT_EQ(liveObjects, 0) << "objects of the tests are still held by the library";
+        OleUninitialize();
+    }
+};
+
+const auto* const environment = testing::AddGlobalTestEnvironment(new WholeRun);
+
+} // namespace
+
+std::wstring libraryPath()
+{
+    return windowsPath("Vela.ocx");
+}
+
+std::wstring manifestPath()
+{
+    return windowsPath("Vela.ocx.manifest");
+}
+
+HRESULT callServer(const char* name)
+{
+    const auto function = entry<HRESULT(STDAPICALLTYPE*)()>(name);
+    return function ? function() : E_NOTIMPL;
+}
+
+HRESULT callInstall(bool install, const wchar_t* commandLine)
+{
+    const auto function = entry<HRESULT(STDAPICALLTYPE*)(BOOL, const wchar_t*)>("DllInstall");
+    return function ? function(install, commandLine) : E_NOTIMPL;
+}
+
+HRESULT canUnload()
+{
+    return callServer("DllCanUnloadNow");
+}
+
+ComPtr<IUnknown> create(const wchar_t* progId)
+{
+    CLSID clsid{};
+    ComPtr<IUnknown> object;
+    if (FAILED(CLSIDFromProgID(progId, &clsid)) ||
+        FAILED(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, object.putVoid())))
+        return {};
+    return object;
+}
+
+void pump()
+{
+    pumpFor(30); // the shortest timer is 10 ms
+}
+
+void pumpFor(DWORD milliseconds)
+{
+    const DWORD start = GetTickCount();
+    MSG message;
+    do {
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+    } while (GetTickCount() - start < milliseconds);
+}
+
+LeakCheck::LeakCheck() : objects_(liveObjects), unloadable_(canUnload() == S_OK) {}
+
+LeakCheck::~LeakCheck()
+{
+    pump();
+    EXPECT_EQ(liveObjects, objects_);
+    EXPECT_EQ(canUnload() == S_OK, unloadable_);
+}
+
+} // namespace vela::test

@@ -1,0 +1,37 @@
+// The library under test, loaded as any host loads it, and registered for the run.
+#pragma once
+
+#include "com_object.h"
+
+#include <string>
+
+namespace vela::test {
+
+// "Z:\...\build\win64\Vela.ocx"
+[[nodiscard]] std::wstring libraryPath();
+[[nodiscard]] std::wstring manifestPath();
+
+// An entry point of the library, called.
+HRESULT callServer(const char* name); // DllRegisterServer ...
+HRESULT callInstall(bool install, const wchar_t* commandLine);
+[[nodiscard]] HRESULT canUnload();
+
+[[nodiscard]] ComPtr<IUnknown> create(const wchar_t* progId = L"Vela.Vela");
+
+void pump();                      // until there is no message
+void pumpFor(DWORD milliseconds); // timers too
+
+// Fails the test when what the body made is still alive at its end.
+class LeakCheck {
+public:
+    LeakCheck();
+    LeakCheck(const LeakCheck&) = delete;
+    LeakCheck& operator=(const LeakCheck&) = delete;
+    ~LeakCheck();
+
+private:
+    int objects_;
+    bool unloadable_;
+};
+
+} // namespace vela::test

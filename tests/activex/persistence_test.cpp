@@ -1,0 +1,291 @@
+// Settings saved and loaded through every interface of persistence, and what happens to bad ones.
+#include "automation.h"
+#include "library.h"
+
+#include "activex/guids.h"
+#include "control/property_table.h"
+
+#include <gtest/gtest.h>
+#include <olectl.h>
+#include <shlwapi.h>
+
+#include <cstring>
+#include <map>
+#include <random>
+#include <string>
+
+namespace vela::test {
+
+namespace {
+
+class Bag final : public ComObject<IPropertyBag> {
+public:
+    std::map<std::u16string, Variant> values;
+    int failAfter = -1; // reads or writes until the bag fails
+    HRESULT failure = STG_E_READFAULT;
+
+    HRESULT STDMETHODCALLTYPE Read(LPCOLESTR name, VARIANT* value, IErrorLog*) override
+    {
+        if (failAfter-- == 0)
+            return failure;
+        const auto found = values.find(key(name));
+        if (found == values.end())
+            return E_INVALIDARG;
+        const VARTYPE wanted = value->vt;
+        const HRESULT copied = VariantCopy(value, const_cast<VARIANT*>(&found->second.get()));
+        return FAILED(copied) || wanted == VT_EMPTY ? copied
+                                                    : VariantChangeType(value, value, VARIANT_ALPHABOOL, wanted);
+    }
+    HRESULT STDMETHODCALLTYPE Write(LPCOLESTR name, VARIANT* value) override
+    {
+        if (failAfter-- == 0)
+            return failure;
+        return VariantCopy(&values[key(name)].ref(), value);
+    }
+
+private:
+    static std::u16string key(const wchar_t* name) { return {name, name + std::wcslen(name)}; }
+};
+
+ComPtr<IStream> memoryStream(const std::string& bytes = {})
+{
+    ComPtr<IStream> stream;
+    CreateStreamOnHGlobal(nullptr, TRUE, stream.put());
+    stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
+    stream->Seek({}, STREAM_SEEK_SET, nullptr);
+    return stream;
+}
+
+std::string bytesOf(IStream& stream)
+{
+    STATSTG state{};
+    stream.Stat(&state, STATFLAG_NONAME);
+    std::string bytes(static_cast<std::size_t>(state.cbSize.QuadPart), '\0');
+    stream.Seek({}, STREAM_SEEK_SET, nullptr);
+    stream.Read(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
+    return bytes;
+}
+
+// Every writable property away from its default, save those whose loading is a rule of its own.
+ComPtr<IUnknown> configured()
+{
+    ComPtr<IUnknown> control = create();
+    const Automation field(control.get());
+    const std::pair<const char16_t*, Variant (*)()> puts[] = {
+        {u"AceitaNegativos", [] { return truth(true); }},
+        {u"Alignment", [] { return number(1); }},
+        {u"AutoSelect", [] { return truth(false); }},
+        {u"BackColorLostFocus", [] { return number(0x00C0FFC0); }},
+        {u"BorderStyle", [] { return number(2); }},
+        {u"CaractLiberados", [] { return text(u"a\u00E7\u00E3o"); }},
+        {u"DateFormat", [] { return text(u"dd/mm/yy"); }},
+        {u"Delimitador03", [] { return text(u"#"); }},
+        {u"EnterAsTab", [] { return truth(true); }},
+        {u"Error_ForeColor", [] { return number(0x00123456); }},
+        {u"FontBold", [] { return truth(true); }},
+        {u"FontSize", [] { return number(11); }},
+        {u"FontUnderline", [] { return truth(true); }},
+        {u"Mask", [] { return text(u"__-__"); }},
+        {u"NomeCampo", [] { return text(u"Pre\u00E7o"); }},
+        {u"PasswordChar", [] { return text(u"*"); }},
+        {u"QtdCasasDec", [] { return number(3); }},
+        {u"SimbolDecExib", [] { return number(2); }},
+        {u"ToolTipGotFocusTipo", [] { return number(2); }},
+        {u"UpTAB", [] { return truth(false); }},
+        {u"Calendar_Selected", [] { return number(0x0000FF00); }},
+        {u"Text", [] { return text(u"segredo"); }},
+    };
+    for (const auto& [name, value] : puts)
+        EXPECT_EQ(field.put(name, value()).result, S_OK) << Bstr(name).get();
+    return control;
+}
+
+void expectSame(IUnknown* left, IUnknown* right)
+{
+    const Automation first(left);
+    const Automation second(right);
+    for (const control::Property& property : control::properties())
+        if (property.type != control::PropertyType::font && property.name != u"hwnd" && property.name != u"HwndCtl" &&
+            property.name != u"SelStart") {
+            EXPECT_EQ(first.textOf(property.name), second.textOf(property.name)) << Bstr(property.name).get();
+        }
+}
+
+TEST(Persistence, StreamGivesEverythingBack)
+{
+    const ComPtr<IUnknown> saved = configured();
+    const auto stream = memoryStream();
+    const auto source = ComPtr<IPersistStreamInit>::from(saved.get());
+    EXPECT_EQ(source->IsDirty(), S_OK);
+    ULARGE_INTEGER size{};
+    ASSERT_EQ(source->GetSizeMax(&size), S_OK);
+    ASSERT_EQ(source->Save(stream.get(), TRUE), S_OK);
+    EXPECT_EQ(source->IsDirty(), S_FALSE);
+    EXPECT_GE(size.QuadPart, bytesOf(*stream.get()).size());
+
+    stream->Seek({}, STREAM_SEEK_SET, nullptr);
+    const ComPtr<IUnknown> loaded = create();
+    const auto target = ComPtr<IPersistStreamInit>::from(loaded.get());
+    ASSERT_EQ(target->Load(stream.get()), S_OK);
+    EXPECT_EQ(target->IsDirty(), S_FALSE);
+    expectSame(saved.get(), loaded.get());
+}
+
+TEST(Persistence, BagGivesEverythingBack)
+{
+    const ComPtr<IUnknown> saved = configured();
+    const auto bag = make<Bag>();
+    ASSERT_EQ(ComPtr<IPersistPropertyBag>::from(saved.get())->Save(bag.get(), TRUE, TRUE), S_OK);
+    EXPECT_TRUE(bag->values.contains(u"FontUnderLine"));
+    EXPECT_TRUE(bag->values.contains(u"MultLine"));
+    EXPECT_FALSE(bag->values.contains(u"ErrorAlert")) << "a default is not stored";
+    EXPECT_EQ(bag->values[u"QtdCasasDec"].get().lVal, 3);
+    EXPECT_EQ(bag->values[u"FontBold"].get().vt, VT_BOOL);
+
+    const ComPtr<IUnknown> loaded = create();
+    ASSERT_EQ(ComPtr<IPersistPropertyBag>::from(loaded.get())->Load(bag.get(), nullptr), S_OK);
+    expectSame(saved.get(), loaded.get());
+}
+
+TEST(Persistence, StorageGivesEverythingBack)
+{
+    const ComPtr<IUnknown> saved = configured();
+    ComPtr<IStorage> storage;
+    ASSERT_EQ(StgCreateDocfile(nullptr, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE | STGM_DELETEONRELEASE, 0,
+                               storage.put()),
+              S_OK);
+    const auto source = ComPtr<IPersistStorage>::from(saved.get());
+    ASSERT_EQ(source->Save(storage.get(), FALSE), S_OK);
+    EXPECT_EQ(source->IsDirty(), S_OK) << "until the host says that the saving is complete";
+    ASSERT_EQ(source->SaveCompleted(nullptr), S_OK);
+    EXPECT_EQ(source->IsDirty(), S_FALSE);
+    CLSID written{};
+    EXPECT_EQ(ReadClassStg(storage.get(), &written), S_OK);
+    EXPECT_EQ(written, activex::velaClass);
+
+    const ComPtr<IUnknown> loaded = create();
+    ASSERT_EQ(ComPtr<IPersistStorage>::from(loaded.get())->Load(storage.get()), S_OK);
+    expectSame(saved.get(), loaded.get());
+}
+
+// Written by either bitness, kept with the tests, loaded by both: "Mask" "__-__", "QtdCasasDec" 2.
+TEST(Persistence, TheBytesAreTheSameInBothBitnesses)
+{
+    const std::string bytes("VelaSet\x1A"
+                            "\x01\0\0\0"
+                            "\x3E\0\0\0"
+                            "\xEC\xCD\xC1\x9E"
+                            "\x02\0\0\0"
+                            "\x04\0M\0a\0s\0k\0\x04\x0A\0\0\0_\0_\0-\0_\0_\0"
+                            "\x0B\0Q\0t\0d\0C\0a\0s\0a\0s\0D\0e\0c\0\x02\x04\0\0\0\x02\0\0\0",
+                            20 + 62);
+    const ComPtr<IUnknown> control = create();
+    const auto stream = memoryStream(bytes);
+    ASSERT_EQ(ComPtr<IPersistStreamInit>::from(control.get())->Load(stream.get()), S_OK);
+    const Automation field(control.get());
+    EXPECT_EQ(field.textOf(u"Mask"), u"__-__");
+    EXPECT_EQ(field.textOf(u"QtdCasasDec"), u"2");
+    EXPECT_EQ(field.textOf(u"InserirZeros"), u"True") << "the loaded default";
+}
+
+TEST(Persistence, BadStreamsAreRefusedWholeAndTheControlStaysAsItWas)
+{
+    const auto good = memoryStream();
+    ASSERT_EQ(ComPtr<IPersistStreamInit>::from(configured().get())->Save(good.get(), TRUE), S_OK);
+    const std::string bytes = bytesOf(*good.get());
+
+    std::vector<std::string> bad{"", "V", std::string(19, '\0'), std::string(4096, 'x'), "VelaSet\x1A"};
+    for (const std::size_t length :
+         {std::size_t{8}, std::size_t{20}, std::size_t{24}, bytes.size() / 2, bytes.size() - 1})
+        bad.push_back(bytes.substr(0, length));
+    std::mt19937 random(7);
+    for (int i = 0; i < 300; ++i) { // one byte changed anywhere
+        std::string changed = bytes;
+        changed[random() % changed.size()] ^= static_cast<char>(1 + random() % 255);
+        bad.push_back(changed);
+    }
+    std::string longer = bytes; // a body that claims 4 GB
+    longer.replace(12, 4, "\xFF\xFF\xFF\xFF");
+    bad.push_back(longer);
+
+    const ComPtr<IUnknown> control = create();
+    const Automation field(control.get());
+    ASSERT_EQ(field.put(u"NomeCampo", text(u"antes")).result, S_OK);
+    for (const std::string& one : bad) {
+        const auto stream = memoryStream(one);
+        const HRESULT result = ComPtr<IPersistStreamInit>::from(control.get())->Load(stream.get());
+        ASSERT_EQ(result, static_cast<HRESULT>(0x800A0141)) << one.size();
+        ComPtr<IErrorInfo> info;
+        ASSERT_EQ(GetErrorInfo(0, info.put()), S_OK);
+        Bstr description;
+        info->GetDescription(description.put());
+        ASSERT_TRUE(description.text().starts_with(u"Invalid file format"));
+        ASSERT_EQ(field.textOf(u"NomeCampo"), u"antes");
+    }
+    ASSERT_EQ(field.put(u"Text", text(u"usable")).result, S_OK);
+}
+
+TEST(Persistence, ABagThatFailsInTheMiddleIsReportedAsTheHostSaidIt)
+{
+    const auto full = make<Bag>();
+    ASSERT_EQ(ComPtr<IPersistPropertyBag>::from(configured().get())->Save(full.get(), TRUE, TRUE), S_OK);
+    for (int reads = 0; reads < 80; reads += 13) {
+        full->failAfter = reads;
+        const ComPtr<IUnknown> control = create();
+        const Automation field(control.get());
+        EXPECT_EQ(ComPtr<IPersistPropertyBag>::from(control.get())->Load(full.get(), nullptr),
+                  reads < 79 ? STG_E_READFAULT : S_OK)
+            << reads;
+        EXPECT_EQ(field.put(u"Text", text(u"usable")).result, S_OK) << reads;
+    }
+    full->failAfter = 5;
+    full->failure = STG_E_MEDIUMFULL;
+    EXPECT_EQ(ComPtr<IPersistPropertyBag>::from(configured().get())->Save(full.get(), TRUE, TRUE), STG_E_MEDIUMFULL);
+}
+
+TEST(Persistence, ValuesOfOtherTypesAreConvertedOrRefused)
+{
+    const auto bag = make<Bag>();
+    bag->values.emplace(u"QtdCasasDec", text(u"2"));
+    bag->values.emplace(u"FontBold", number(-1));
+    bag->values.emplace(u"Mask", number(12));
+    bag->values.emplace(u"Unknown", number(12));
+    const ComPtr<IUnknown> control = create();
+    const auto target = ComPtr<IPersistPropertyBag>::from(control.get());
+    ASSERT_EQ(target->Load(bag.get(), nullptr), S_OK);
+    const Automation field(control.get());
+    EXPECT_EQ(field.textOf(u"QtdCasasDec"), u"2");
+    EXPECT_EQ(field.textOf(u"FontBold"), u"True");
+    EXPECT_EQ(field.textOf(u"Mask"), u"12");
+
+    bag->values.erase(u"QtdCasasDec");
+    bag->values.emplace(u"QtdCasasDec", text(u"dois"));
+    EXPECT_EQ(target->Load(bag.get(), nullptr), static_cast<HRESULT>(0x800A000D)) << "type mismatch";
+    EXPECT_EQ(field.put(u"Text", text(u"usable")).result, S_OK);
+}
+
+TEST(Persistence, NullArgumentsAreRefused)
+{
+    const ComPtr<IUnknown> control = create();
+    EXPECT_EQ(ComPtr<IPersistStreamInit>::from(control.get())->Load(nullptr), E_POINTER);
+    EXPECT_EQ(ComPtr<IPersistStreamInit>::from(control.get())->Save(nullptr, TRUE), E_POINTER);
+    EXPECT_EQ(ComPtr<IPersistPropertyBag>::from(control.get())->Load(nullptr, nullptr), E_POINTER);
+    EXPECT_EQ(ComPtr<IPersistStorage>::from(control.get())->Load(nullptr), E_POINTER);
+}
+
+TEST(Persistence, TheCalendarKeepsItsDate)
+{
+    const auto bag = make<Bag>();
+    bag->values.emplace(u"DateInitial", text(u"29/02/2024"));
+    const ComPtr<IUnknown> calendar = create(L"Vela.cCalendar");
+    const auto persistence = ComPtr<IPersistPropertyBag>::from(calendar.get());
+    ASSERT_EQ(persistence->Load(bag.get(), nullptr), S_OK);
+    EXPECT_EQ(Automation(calendar.get()).get(u"DateInitial").value.get().date, 45351);
+    const auto written = make<Bag>();
+    ASSERT_EQ(persistence->Save(written.get(), TRUE, FALSE), S_OK);
+    EXPECT_EQ(asText(written->values[u"DateInitial"].get().bstrVal, 10), u"29/02/2024");
+}
+
+} // namespace
+
+} // namespace vela::test

@@ -1,0 +1,174 @@
+// The registry after registering and unregistering, per machine and per user, and activation without a registry.
+#include "automation.h"
+#include "library.h"
+
+#include "activex/guids.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace vela::test {
+
+namespace {
+
+using activex::identity::calendarClass;
+using activex::identity::library;
+using activex::identity::velaClass;
+using activex::identity::velaEvents;
+using activex::identity::velaInterface;
+
+const HKEY roots[] = {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER};
+
+std::wstring valueOf(HKEY root, const std::wstring& key, const wchar_t* name = nullptr)
+{
+    wchar_t text[512]{};
+    DWORD size = sizeof text;
+    if (RegGetValueW(root, (L"Software\\Classes\\" + key).c_str(), name, RRF_RT_REG_SZ, nullptr, text, &size) !=
+        ERROR_SUCCESS)
+        return L"-";
+    return text;
+}
+
+bool exists(HKEY root, const std::wstring& key)
+{
+    HKEY opened = nullptr;
+    if (RegOpenKeyExW(root, (L"Software\\Classes\\" + key).c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS)
+        return false;
+    RegCloseKey(opened);
+    return true;
+}
+
+std::wstring classKey(std::string_view id)
+{
+    return L"CLSID\\" + activex::keyOf(id);
+}
+
+const std::wstring everyKey[] = {
+    classKey(velaClass),
+    classKey(calendarClass),
+    classKey(activex::identity::principalPage),
+    classKey(activex::identity::geralPage),
+    classKey(activex::identity::errosPage),
+    classKey(activex::identity::fontePage),
+    classKey(activex::identity::calendarioPage),
+    L"Interface\\" + activex::keyOf(velaInterface),
+    L"Interface\\" + activex::keyOf(velaEvents),
+    L"TypeLib\\" + activex::keyOf(library),
+    L"Vela.Vela",
+    L"Vela.Vela.1",
+    L"Vela.cCalendar",
+    L"Vela.cCalendar.1",
+};
+
+void expectRegistered(HKEY root)
+{
+    const std::wstring control = classKey(velaClass);
+    EXPECT_EQ(valueOf(root, control + L"\\InprocServer32"), libraryPath());
+    EXPECT_EQ(valueOf(root, control + L"\\InprocServer32", L"ThreadingModel"), L"Apartment");
+    EXPECT_EQ(valueOf(root, control + L"\\ProgID"), L"Vela.Vela.1");
+    EXPECT_EQ(valueOf(root, control + L"\\VersionIndependentProgID"), L"Vela.Vela");
+    EXPECT_EQ(valueOf(root, control + L"\\MiscStatus\\1"), L"131473"); // 0x20191
+    EXPECT_EQ(valueOf(root, control + L"\\ToolboxBitmap32"), libraryPath() + L", 101");
+    EXPECT_EQ(valueOf(root, control + L"\\Version"), L"1.0");
+    EXPECT_EQ(valueOf(root, control + L"\\TypeLib"), activex::keyOf(library));
+    EXPECT_TRUE(exists(root, control + L"\\Control"));
+    EXPECT_FALSE(exists(root, control + L"\\Insertable"));
+    EXPECT_TRUE(exists(root, control + L"\\Implemented Categories\\{40FC6ED4-2438-11CF-A3DB-080036F12502}"));
+    EXPECT_EQ(valueOf(root, L"Vela.Vela\\CurVer"), L"Vela.Vela.1");
+    const std::wstring bitness = sizeof(void*) == 8 ? L"win64" : L"win32";
+    EXPECT_EQ(valueOf(root, L"TypeLib\\" + activex::keyOf(library) + L"\\1.0\\0\\" + bitness), libraryPath());
+    for (const std::wstring& key : everyKey)
+        EXPECT_TRUE(exists(root, key)) << std::string(key.begin(), key.end());
+}
+
+void expectNothing(HKEY root)
+{
+    for (const std::wstring& key : everyKey)
+        EXPECT_FALSE(exists(root, key)) << std::string(key.begin(), key.end());
+}
+
+class Registration : public testing::Test {
+protected:
+    void TearDown() override { ASSERT_EQ(callServer("DllRegisterServer"), S_OK); } // the other tests need it
+};
+
+TEST_F(Registration, ForTheMachineAndBack)
+{
+    expectRegistered(HKEY_LOCAL_MACHINE);
+    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
+    for (const HKEY root : roots)
+        expectNothing(root);
+    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK) << "a second time there is nothing to do";
+    EXPECT_FALSE(create());
+}
+
+TEST_F(Registration, ForOneUserAndBack)
+{
+    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
+    ASSERT_EQ(callInstall(true, L"user"), S_OK);
+    expectNothing(HKEY_LOCAL_MACHINE);
+    expectRegistered(HKEY_CURRENT_USER);
+    EXPECT_TRUE(create(L"Vela.Vela"));
+    ComPtr<ITypeLib> found;
+    EXPECT_EQ(LoadRegTypeLib(activex::libraryId, 1, 0, 0, found.put()), S_OK);
+    ASSERT_EQ(callInstall(false, L"user"), S_OK);
+    expectNothing(HKEY_CURRENT_USER);
+}
+
+// The manifest is the assembly's own: a context made of it finds classes, names, library and status by itself.
+TEST_F(Registration, WithoutARegistry)
+{
+    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
+    ASSERT_FALSE(create());
+    const std::wstring manifest = manifestPath();
+    ACTCTXW description{};
+    description.cbSize = sizeof description;
+    description.lpSource = manifest.c_str();
+    const HANDLE context = CreateActCtxW(&description);
+    ASSERT_NE(context, INVALID_HANDLE_VALUE) << GetLastError();
+    ULONG_PTR cookie = 0;
+    ASSERT_TRUE(ActivateActCtx(context, &cookie));
+    {
+        const ComPtr<IUnknown> control = create();
+        ASSERT_TRUE(control);
+        const Automation field(control.get());
+        EXPECT_EQ(field.put(u"Text", text(u"sem registro")).result, S_OK);
+        EXPECT_EQ(field.textOf(u"Text"), u"sem registro");
+        EXPECT_TRUE(create(L"Vela.cCalendar"));
+        ComPtr<ITypeInfo> info;
+        EXPECT_EQ(field.dispatch()->GetTypeInfo(0, 0, info.put()), S_OK);
+        DWORD status = 0;
+        EXPECT_EQ(OleRegGetMiscStatus(activex::velaClass, DVASPECT_CONTENT, &status), S_OK);
+        EXPECT_EQ(status, 0x20191u);
+        ComPtr<ITypeLib> found;
+        EXPECT_EQ(LoadRegTypeLib(activex::libraryId, 1, 0, 0, found.put()), S_OK);
+    }
+    DeactivateActCtx(0, cookie);
+    ReleaseActCtx(context);
+}
+
+TEST_F(Registration, VersionAndToolboxPictureAreInTheFile)
+{
+    const std::wstring path = libraryPath();
+    DWORD ignored = 0;
+    std::vector<BYTE> block(GetFileVersionInfoSizeW(path.c_str(), &ignored));
+    ASSERT_FALSE(block.empty());
+    ASSERT_TRUE(GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(block.size()), block.data()));
+    VS_FIXEDFILEINFO* version = nullptr;
+    UINT size = 0;
+    ASSERT_TRUE(VerQueryValueW(block.data(), L"\\", reinterpret_cast<void**>(&version), &size));
+    EXPECT_EQ(version->dwFileVersionMS, 0x00010000u);
+    const HMODULE module = LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
+    const HANDLE picture = LoadImageW(module, MAKEINTRESOURCEW(101), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);
+    BITMAP bitmap{};
+    EXPECT_NE(GetObjectW(picture, sizeof bitmap, &bitmap), 0);
+    EXPECT_EQ(bitmap.bmWidth, 16);
+    EXPECT_EQ(bitmap.bmHeight, 16);
+    DeleteObject(picture);
+    FreeLibrary(module);
+}
+
+} // namespace
+
+} // namespace vela::test

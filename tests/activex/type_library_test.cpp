@@ -1,0 +1,268 @@
+// The compiled type library beside the table of members: every name, DISPID, type, flag and help text.
+#include "library.h"
+
+#include "activex/guids.h"
+#include "control/property_table.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+
+namespace vela::test {
+
+namespace {
+
+using control::Access;
+using control::Browsable;
+using control::Property;
+using control::PropertyType;
+
+ComPtr<ITypeLib> loadLibrary()
+{
+    ComPtr<ITypeLib> library;
+    EXPECT_EQ(LoadTypeLibEx(libraryPath().c_str(), REGKIND_NONE, library.put()), S_OK);
+    return library;
+}
+
+ComPtr<ITypeInfo> infoOf(ITypeLib& library, const GUID& id)
+{
+    ComPtr<ITypeInfo> info;
+    EXPECT_EQ(library.GetTypeInfoOfGuid(id, info.put()), S_OK);
+    return info;
+}
+
+struct Attributes {
+    explicit Attributes(ITypeInfo& of) : info(of) { info.GetTypeAttr(&attributes); }
+    Attributes(const Attributes&) = delete;
+    Attributes& operator=(const Attributes&) = delete;
+    ~Attributes() { info.ReleaseTypeAttr(attributes); }
+    TYPEATTR* operator->() const { return attributes; }
+    ITypeInfo& info;
+    TYPEATTR* attributes = nullptr;
+};
+
+std::u16string nameOf(ITypeInfo& info, MEMBERID id)
+{
+    Bstr name;
+    info.GetDocumentation(id, name.put(), nullptr, nullptr, nullptr);
+    return std::u16string(name.text());
+}
+
+// "BSTR", "bool", "short", or the name of the type referred to.
+std::u16string typeText(ITypeInfo& info, const TYPEDESC& type)
+{
+    switch (type.vt) {
+    case VT_BSTR: return u"BSTR";
+    case VT_BOOL: return u"Boolean";
+    case VT_UI1: return u"Byte";
+    case VT_I2: return u"Integer";
+    case VT_I4: return u"Long";
+    case VT_VARIANT: return u"Variant";
+    case VT_VOID: return u"void";
+    case VT_DATE: return u"Date";
+    case VT_PTR: return typeText(info, *type.lptdesc) + u"*";
+    case VT_USERDEFINED: {
+        ComPtr<ITypeInfo> other;
+        if (FAILED(info.GetRefTypeInfo(type.hreftype, other.put())))
+            return u"unresolved";
+        return nameOf(*other.get(), MEMBERID_NIL);
+    }
+    default: return u"?";
+    }
+}
+
+std::u16string expectedType(const Property& property)
+{
+    switch (property.type) {
+    case PropertyType::boolean: return u"Boolean";
+    case PropertyType::byte: return u"Byte";
+    case PropertyType::integer: return u"Integer";
+    case PropertyType::longInteger: return u"Long";
+    case PropertyType::colour: return u"OLE_COLOR";
+    case PropertyType::enumeration: return std::u16string(property.enumeration->name);
+    case PropertyType::text: return u"BSTR";
+    case PropertyType::font: return u"IFontDisp*";
+    case PropertyType::variant: return u"Variant";
+    }
+    return {};
+}
+
+WORD expectedFlags(const Property& property)
+{
+    WORD flags = 0;
+    if (property.bindable)
+        flags |= FUNCFLAG_FBINDABLE | FUNCFLAG_FREQUESTEDIT;
+    if (property.name == u"Text")
+        flags |= FUNCFLAG_FDISPLAYBIND | FUNCFLAG_FDEFAULTBIND;
+    if (property.browsable != Browsable::yes)
+        flags |= FUNCFLAG_FNONBROWSABLE;
+    if (property.browsable == Browsable::hidden)
+        flags |= FUNCFLAG_FHIDDEN;
+    return flags;
+}
+
+struct Function {
+    std::u16string name;
+    std::u16string help;
+    std::u16string type; // of the result or, of a put, of the value
+    INVOKEKIND kind;
+    WORD flags;
+    std::vector<std::u16string> parameters;
+};
+
+std::multimap<MEMBERID, Function> functionsOf(ITypeInfo& info)
+{
+    std::multimap<MEMBERID, Function> functions;
+    const Attributes attributes(info);
+    for (UINT i = 0; i < attributes->cFuncs; ++i) {
+        FUNCDESC* function = nullptr;
+        if (FAILED(info.GetFuncDesc(i, &function)))
+            continue;
+        Bstr help;
+        info.GetDocumentation(function->memid, nullptr, help.put(), nullptr, nullptr);
+        Function one{nameOf(info, function->memid),
+                     std::u16string(help.text()),
+                     typeText(info, function->elemdescFunc.tdesc),
+                     function->invkind,
+                     function->wFuncFlags,
+                     {}};
+        for (SHORT parameter = 0; parameter < function->cParams; ++parameter)
+            one.parameters.push_back(typeText(info, function->lprgelemdescParam[parameter].tdesc));
+        if (one.kind != INVOKE_PROPERTYGET && one.kind != INVOKE_FUNC)
+            one.type = one.parameters.back();
+        functions.emplace(function->memid, std::move(one));
+        info.ReleaseFuncDesc(function);
+    }
+    return functions;
+}
+
+INVOKEKIND putKind(const Property& property)
+{
+    return property.access == Access::readWriteReference ? INVOKE_PROPERTYPUTREF : INVOKE_PROPERTYPUT;
+}
+
+TEST(TypeLibrary, HoldsEveryPropertyOfTheTableAndNoOther)
+{
+    const auto library = loadLibrary();
+    const auto info = infoOf(*library.get(), activex::velaInterface);
+    const auto functions = functionsOf(*info.get());
+    std::size_t expected = control::methods().size();
+    for (const Property& property : control::properties()) {
+        SCOPED_TRACE(property.dispid);
+        const auto [first, last] = functions.equal_range(property.dispid);
+        const bool writable = property.access != Access::read;
+        expected += writable ? 2u : 1u;
+        ASSERT_EQ(std::distance(first, last), writable ? 2 : 1);
+        for (auto found = first; found != last; ++found) {
+            const Function& function = found->second;
+            EXPECT_EQ(function.name, property.name);
+            EXPECT_EQ(function.help, property.help);
+            EXPECT_EQ(function.type, expectedType(property));
+            EXPECT_EQ(function.flags, expectedFlags(property));
+            EXPECT_TRUE(function.kind == INVOKE_PROPERTYGET || function.kind == putKind(property));
+        }
+    }
+    EXPECT_EQ(functions.size(), expected);
+}
+
+TEST(TypeLibrary, HoldsMethodsAndEvents)
+{
+    const auto library = loadLibrary();
+    const auto members = functionsOf(*infoOf(*library.get(), activex::velaInterface).get());
+    for (const control::Method& method : control::methods()) {
+        const auto found = members.find(method.dispid);
+        ASSERT_NE(found, members.end());
+        EXPECT_EQ(found->second.name, method.name);
+        EXPECT_TRUE(found->second.parameters.empty());
+    }
+    const auto events = functionsOf(*infoOf(*library.get(), activex::velaEvents).get());
+    EXPECT_EQ(events.size(), control::events().size());
+    for (const control::Event& event : control::events()) {
+        const auto found = events.find(event.dispid);
+        ASSERT_NE(found, events.end());
+        EXPECT_EQ(found->second.name, event.name);
+        ASSERT_EQ(found->second.parameters.size(), event.parameters.size());
+        for (const std::u16string& type : found->second.parameters)
+            EXPECT_EQ(type, u"Integer*");
+    }
+}
+
+TEST(TypeLibrary, HoldsEnumerationsByNameAndValue)
+{
+    const auto library = loadLibrary();
+    for (std::size_t i = 0; i < engine::enumerations().size(); ++i) {
+        const engine::Enumeration& enumeration = engine::enumerations()[i];
+        const auto info = infoOf(*library.get(), activex::guidOf(activex::identity::enumerations[i]));
+        EXPECT_EQ(nameOf(*info.get(), MEMBERID_NIL), enumeration.name);
+        const Attributes attributes(*info.get());
+        ASSERT_EQ(attributes->cVars, enumeration.members.size());
+        for (UINT member = 0; member < attributes->cVars; ++member) {
+            VARDESC* variable = nullptr;
+            ASSERT_EQ(info->GetVarDesc(member, &variable), S_OK);
+            EXPECT_EQ(nameOf(*info.get(), variable->memid), enumeration.members[member].name);
+            EXPECT_EQ(variable->lpvarValue->lVal, enumeration.members[member].value);
+            info->ReleaseVarDesc(variable);
+        }
+    }
+}
+
+// Appended, never moved: what programs were compiled against stays where it is.
+TEST(TypeLibrary, KeepsItsIdentities)
+{
+    const auto library = loadLibrary();
+    TLIBATTR* attributes = nullptr;
+    ASSERT_EQ(library->GetLibAttr(&attributes), S_OK);
+    EXPECT_EQ(attributes->guid, activex::libraryId);
+    EXPECT_EQ(attributes->wMajorVerNum, 1);
+    EXPECT_EQ(attributes->wMinorVerNum, 0);
+    EXPECT_TRUE(attributes->wLibFlags & LIBFLAG_FCONTROL);
+    library->ReleaseTLibAttr(attributes);
+
+    const std::pair<std::u16string_view, int> pinned[] = {
+        {u"Text", 0},    {u"BackColor", -501},  {u"BorderStyle", -504},  {u"Enabled", -514}, {u"Font", -512},
+        {u"hwnd", -515}, {u"Appearance", -520}, {u"AceitaNegativos", 1}, {u"Alignment", 2},  {u"FontBold", 34},
+    };
+    for (const auto& [name, dispid] : pinned)
+        EXPECT_EQ(control::findProperty(name)->dispid, dispid);
+    const std::pair<std::u16string_view, int> events[] = {
+        {u"Click", -600}, {u"KeyDown", -602}, {u"KeyPress", -603}, {u"KeyUp", -604}};
+    for (const auto& [name, dispid] : events)
+        for (const control::Event& event : control::events())
+            EXPECT_TRUE(event.name != name || event.dispid == dispid);
+}
+
+TEST(TypeLibrary, ClassesNameTheirInterfaces)
+{
+    const auto library = loadLibrary();
+    for (const GUID& id : {activex::velaClass, activex::calendarClass}) {
+        const auto info = infoOf(*library.get(), id);
+        const Attributes attributes(*info.get());
+        EXPECT_EQ(attributes->typekind, TKIND_COCLASS);
+        EXPECT_TRUE(attributes->wTypeFlags & TYPEFLAG_FCONTROL);
+        ASSERT_EQ(attributes->cImplTypes, 2);
+        INT flags[2]{};
+        info->GetImplTypeFlags(0, &flags[0]);
+        info->GetImplTypeFlags(1, &flags[1]);
+        EXPECT_EQ(flags[0], IMPLTYPEFLAG_FDEFAULT);
+        EXPECT_EQ(flags[1], IMPLTYPEFLAG_FDEFAULT | IMPLTYPEFLAG_FSOURCE);
+    }
+}
+
+TEST(TypeLibrary, TheControlAnswersWithItsOwn)
+{
+    const ComPtr<IUnknown> control = create();
+    ComPtr<ITypeInfo> info;
+    ASSERT_EQ(ComPtr<IDispatch>::from(control.get())->GetTypeInfo(0, 0, info.put()), S_OK);
+    EXPECT_EQ(Attributes(*info.get())->guid, activex::velaInterface);
+    const auto provider = ComPtr<IProvideClassInfo2>::from(control.get());
+    ASSERT_EQ(provider->GetClassInfo(info.put()), S_OK);
+    EXPECT_EQ(Attributes(*info.get())->guid, activex::velaClass);
+    GUID events{};
+    ASSERT_EQ(provider->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events), S_OK);
+    EXPECT_EQ(events, activex::velaEvents);
+}
+
+} // namespace
+
+} // namespace vela::test
