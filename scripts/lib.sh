@@ -103,6 +103,9 @@ start_wine() {
     mkdir -p "$build/wine$bits"
     quietly "wineboot$bits.log" wine_run "$bits" wineboot -i
   fi
+  # Without a window manager each managed window that goes is waited for, two seconds long.
+  quietly "wine$bits-reg.log" wine_run "$bits" reg add \
+    'HKCU\Software\Wine\AppDefaults\contract_tests.exe\X11 Driver' /v Managed /d N /f
   wine_run "$bits" "$build/win$bits/keepalive.exe" >/dev/null 2>&1 </dev/null &
   keepalive_pids="${keepalive_pids:-} $!"
 }

@@ -348,8 +348,7 @@ LRESULT ControlSurface::handle(HWND window, UINT message, WPARAM first, LPARAM s
     case WM_DRAWITEM: drawButton(*reinterpret_cast<const DRAWITEMSTRUCT*>(second)); return TRUE;
     case WM_SIZE: sizeChanged(); return 0;
     case WM_TIMER: tick(first); return 0;
-    case WM_SETFOCUS: surfaceFocus(true); return 0;
-    case WM_KILLFOCUS: surfaceFocus(false); return 0;
+    case WM_SETFOCUS: focusArrived(); return 0;
     case WM_LBUTTONDOWN: edit().takeFocus(); return 0;
     case dpiChangedAfterParent: refreshDpi(); return 0;
     case WM_SYSCOLORCHANGE:
@@ -452,14 +451,11 @@ void ControlSurface::tick(WPARAM timer)
         events_->hoverTick();
 }
 
-void ControlSurface::surfaceFocus(bool arrived)
+// Its box takes it on; surfaceLostFocus() is told when the box is left.
+void ControlSurface::focusArrived()
 {
-    if (!events_)
-        return;
-    if (arrived)
+    if (events_)
         events_->surfaceGotFocus();
-    else
-        events_->surfaceLostFocus();
 }
 
 } // namespace vela::win32

@@ -82,7 +82,7 @@ private:
     void drawButton(const DRAWITEMSTRUCT& item) const;
     void sizeChanged();
     void tick(WPARAM timer);
-    void surfaceFocus(bool arrived);
+    void focusArrived();
     void boxRebuilt();
     void placeParts();
     void showButton();

@@ -5,12 +5,14 @@
 #include "platform/win32/activation_context.h"
 #include "platform/win32/control_surface.h"
 #include "platform/win32/focus_arbiter.h"
+#include "platform/win32/guard.h"
 #include "platform/win32/module.h"
 #include "platform/win32/text.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace vela::win32 {
 namespace {
@@ -66,6 +68,13 @@ void EditBox::text(std::u16string& into) const
 {
     refresh();
     into.assign(text_);
+}
+
+void EditBox::part(platform::Selection part, std::u16string& into) const
+{
+    refresh();
+    const platform::Selection within = clamped(part, static_cast<int>(text_.size()));
+    into.assign(text_, static_cast<std::size_t>(within.start), static_cast<std::size_t>(within.length));
 }
 
 int EditBox::textLength() const
@@ -318,12 +327,47 @@ void EditBox::refresh() const
 
 bool EditBox::sameText() const
 {
-    if (stale_ || typing_ || native(WM_GETTEXTLENGTH, 0, 0) != static_cast<LRESULT>(text_.size()))
+    if (stale_ || native(WM_GETTEXTLENGTH, 0, 0) != static_cast<LRESULT>(text_.size()))
         return false;
     scratch_.resize(text_.size() + 1);
     native(WM_GETTEXT, scratch_.size(), reinterpret_cast<LPARAM>(scratch_.data()));
     scratch_.pop_back();
     return scratch_ == text_;
+}
+
+// One unit typed or rubbed out without a selection is known without reading the window again.
+void EditBox::expectTyped(int unit, LRESULT selected) noexcept
+{
+    const int caret = LOWORD(selected);
+    const bool back = unit == VK_BACK;
+    const bool known = !stale_ && selected != -1 && LOWORD(selected) == HIWORD(selected) && (back || unit >= ' ');
+    typedAt_ = known ? caret - (back ? 1 : 0) : -1;
+    typedUnit_ = back ? u'\0' : static_cast<char16_t>(unit);
+}
+
+// "ab|c" + 'X': text_ becomes "abXc" when the window has as many units.
+bool EditBox::adoptTyped()
+{
+    const int at = std::exchange(typedAt_, -1);
+    const auto size = static_cast<LRESULT>(text_.size());
+    if (at < 0 || at > size || native(WM_GETTEXTLENGTH, 0, 0) != size + (typedUnit_ ? 1 : -1))
+        return false;
+    if (typedUnit_)
+        text_.insert(static_cast<std::size_t>(at), 1, typedUnit_);
+    else
+        text_.erase(static_cast<std::size_t>(at), 1);
+    return true;
+}
+
+// The EDIT says that it changed also where it was full or got the same text.
+bool EditBox::becameAnother()
+{
+    if (adoptTyped())
+        return true;
+    if (sameText())
+        return false;
+    stale_ = true;
+    return true;
 }
 
 void EditBox::editChanged() noexcept
@@ -354,10 +398,8 @@ LRESULT EditBox::pass(UINT message, WPARAM first, LPARAM second)
     --passing_;
     if (changed_ && passing_ == 0) {
         changed_ = false;
-        if (!sameText()) {
-            stale_ = true;
-            reportChange();
-        }
+        if (becameAnother())
+            guarded([this] { reportChange(); });
     }
     return result;
 }

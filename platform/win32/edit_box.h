@@ -22,6 +22,7 @@ public:
 
     void text(std::u16string& into) const override;
     [[nodiscard]] int textLength() const override;
+    void part(platform::Selection part, std::u16string& into) const override;
     void putText(std::u16string_view text) override;
     void insert(std::u16string_view text) override;
     [[nodiscard]] platform::Selection selection() const override;
@@ -82,6 +83,9 @@ private:
     LRESULT native(UINT message, WPARAM first, LPARAM second) const noexcept;
     void refresh() const; // text_ is what the window shows
     [[nodiscard]] bool sameText() const;
+    void expectTyped(int unit, LRESULT selected) noexcept;
+    [[nodiscard]] bool adoptTyped();
+    [[nodiscard]] bool becameAnother();
     void reportChange();
     void keepState();
     void rebuild();
@@ -97,7 +101,6 @@ private:
     platform::EditBoxKind kind_;
     bool entered_ = false;     // gotFocus() reported, lostFocus() not yet
     bool quiet_ = false;       // the text is being written by the control
-    bool typing_ = false;      // what changes now cannot give the same text
     bool changed_ = false;     // to be reported when the EDIT has returned
     bool swallowChar_ = false; // the key-down handler took the key
     bool skipClick_ = false;   // the button's way up after a double click
@@ -105,6 +108,8 @@ private:
     bool dropTarget_ = false;
     mutable bool stale_ = false; // the window holds a newer text than text_
     int passing_ = 0;
+    int typedAt_ = -1; // where one unit is about to be typed, or rubbed out (0); -1: not known
+    char16_t typedUnit_ = 0;
     HWND edit_ = nullptr;
     WNDPROC original_ = nullptr;
     FocusArbiter& arbiter_;

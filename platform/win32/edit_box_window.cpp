@@ -157,11 +157,9 @@ LRESULT EditBox::onKeyDown(UINT message, WPARAM code, LPARAM data)
     swallowChar_ = key == 0;
     if (key == 0 || shortcut(key, shift))
         return 0;
-    typing_ = true; // Delete: there is no EN_CHANGE unless something went
-    const LRESULT result = pass(message, static_cast<WPARAM>(key), data);
-    if (watch.alive())
-        typing_ = false;
-    return result;
+    if (key == VK_DELETE)
+        refresh();
+    return pass(message, static_cast<WPARAM>(key), data);
 }
 
 LRESULT EditBox::onKeyUp(UINT message, WPARAM code, LPARAM data)
@@ -173,7 +171,6 @@ LRESULT EditBox::onKeyUp(UINT message, WPARAM code, LPARAM data)
     return watch.alive() && edit_ == window ? pass(message, code, data) : 0;
 }
 
-// "ab[c]" + 'c' is the one case in which a character typed gives the same text.
 LRESULT EditBox::onChar(WPARAM unit, LPARAM data)
 {
     if (swallowChar_)
@@ -199,12 +196,11 @@ LRESULT EditBox::onChar(WPARAM unit, LPARAM data)
     if (isSingle() && (key == VK_RETURN || key == '\n' || key == VK_ESCAPE))
         return 0; // the EDIT would only beep
     const LRESULT selected = native(EM_GETSEL, 0, 0);
-    typing_ = key == VK_BACK || (selected != -1 && LOWORD(selected) == HIWORD(selected));
-    if (!typing_)
-        refresh();
+    refresh();
+    expectTyped(key, selected);
     const LRESULT result = pass(WM_CHAR, static_cast<WPARAM>(key), data);
     if (watch.alive())
-        typing_ = false;
+        typedAt_ = -1;
     return result;
 }
 
@@ -285,7 +281,9 @@ void EditBox::leave(HWND next)
     entered_ = false;
     const FocusArbiter::Change change(arbiter_, sameForm(next, edit_));
     if (platform::EditBoxEvents* listener = events())
-        listener->lostFocus();
+        guarded([listener] { listener->lostFocus(); });
+    if (platform::SurfaceEvents* listener = watch.alive() ? surface_.events_ : nullptr)
+        guarded([listener] { listener->surfaceLostFocus(); });
     if (!watch.alive() || arbiter_.returnsTo(*this))
         return;
     if (SurfaceListener* listener = surface_.listener_)
