@@ -33,7 +33,7 @@ platform::EditBox& Vela::box() const
     return *box_;
 }
 
-Vela::Alinhamento Vela::Alignment() const
+Alinhamento Vela::Alignment() const
 {
     return static_cast<Alinhamento>(box().traits().alignment);
 }

@@ -50,6 +50,24 @@ std::size_t literalRunBefore(std::size_t caret, const engine::MaskSettings& sett
     return start;
 }
 
+// "a\r\n|" + Backspace takes one unit or two, as the platform's box has it: what stands there now tells.
+void measureErased(History::Expected& edit, const platform::EditBox& box)
+{
+    std::size_t units = std::min<std::size_t>(1, edit.removed.size());
+    if (edit.removed.size() == 2 && isPair(edit.removed[0], edit.removed[1])) {
+        std::u16string next;
+        box.part({edit.at, 1}, next);
+        const bool both = edit.backwards ? edit.at - box.selection().start == 2 : next != edit.removed.substr(1);
+        units = both ? 2 : 1;
+    }
+    if (edit.backwards) {
+        edit.removed.erase(0, edit.removed.size() - units);
+        edit.at -= static_cast<int>(units);
+    } else {
+        edit.removed.resize(units);
+    }
+}
+
 } // namespace
 
 void Vela::BoxSink::writeText(std::u16string_view text, int caret)
@@ -179,16 +197,15 @@ void Vela::cut()
 {
     if (deaf())
         return;
-    if (masked()) {
-        if (box().selection().length > 0)
-            sKeyDown(keyDelete);
-        return;
-    }
-    if (box().selection().length == 0 || box().traits().locked)
-        return;
     whileAlive(life_, [&] {
-        expectErasing(false);
-        box().insert(u"");
+        if (box().selection().length == 0)
+            return;
+        if (masked()) {
+            sKeyDown(keyDelete);
+        } else if (!box().traits().locked) {
+            expectErasing(false);
+            box().insert(u"");
+        }
     });
 }
 
@@ -289,28 +306,10 @@ void Vela::keepTyped()
     History::Expected& edit = history_->expected;
     try {
         if (edit.erasing)
-            measureErased(edit);
+            measureErased(edit, box());
         history_->add(edit.at, edit.removed, edit.inserted, edit.before, false);
     } catch (const engine::Error&) {
         history_->clear();
-    }
-}
-
-// "a\r\n|" + Backspace takes one unit or two, as the platform's box has it: what stands there now tells.
-void Vela::measureErased(History::Expected& edit) const
-{
-    std::size_t units = std::min<std::size_t>(1, edit.removed.size());
-    if (edit.removed.size() == 2 && isPair(edit.removed[0], edit.removed[1])) {
-        std::u16string next;
-        box().part({edit.at, 1}, next);
-        const bool both = edit.backwards ? edit.at - box().selection().start == 2 : next != edit.removed.substr(1);
-        units = both ? 2 : 1;
-    }
-    if (edit.backwards) {
-        edit.removed.erase(0, edit.removed.size() - units);
-        edit.at -= static_cast<int>(units);
-    } else {
-        edit.removed.resize(units);
     }
 }
 

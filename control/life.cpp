@@ -92,8 +92,6 @@ void Vela::adopt(StoredState&& state)
 {
     history_.reset();
     released_ = false;
-    box_ = &surface_.activate(state.settings.multLine ? platform::EditBoxKind::multiLine
-                                                      : platform::EditBoxKind::singleLine);
     settings_ = std::move(state.settings);
     popups_.colours = state.colours;
     sunken_ = settings_.appearance != Aparencia::cFlat;
@@ -101,6 +99,8 @@ void Vela::adopt(StoredState&& state)
     surfaceBack_ = state.back;
     buttonVisible_ = (settings_.showButtonCalendario || settings_.showButtonCalculadora) &&
                      settings_.borderStyle != eEstiloBorda::XP;
+    box_ =
+        &surface_.activate(settings_.multLine ? platform::EditBoxKind::multiLine : platform::EditBoxKind::singleLine);
     platform::EditTraits traits = std::move(state.traits);
     traits.locked = masked(); // by its type, whatever "Locked" says
     traits.sunken = sunken_;

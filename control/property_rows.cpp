@@ -12,15 +12,7 @@ namespace vela::control {
 
 namespace {
 
-using engine::Alinhamento;
-using engine::Aparencia;
 using engine::Colour;
-using engine::eEsquemasRetorno;
-using engine::eEstiloBorda;
-using engine::eIconeToolTipText;
-using engine::Simbolos;
-using engine::tipoTamanhoLetra;
-using engine::TipoText;
 using enum Browsable;
 using Name = std::u16string_view;
 

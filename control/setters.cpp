@@ -5,10 +5,11 @@
 
 namespace vela::control {
 
-// Neither marked changed nor laid down beyond its two values: another one is stored and shown as it was.
+// A value beyond the two is stored, and shown as it was.
 void Vela::Appearance(Aparencia value)
 {
     settings_.appearance = value;
+    static_cast<void>(box()); // it is the edit box's look: 91 without one
     if (value == Aparencia::c3D || value == Aparencia::cFlat) {
         sunken_ = value == Aparencia::c3D;
         layOut();

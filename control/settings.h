@@ -10,6 +10,15 @@
 
 namespace vela::control {
 
+using engine::Alinhamento;
+using engine::Aparencia;
+using engine::eEsquemasRetorno;
+using engine::eEstiloBorda;
+using engine::eIconeToolTipText;
+using engine::Simbolos;
+using engine::tipoTamanhoLetra;
+using engine::TipoText;
+
 // The initial values are those of a new instance before its setters have run.
 struct Settings {
     std::u16string caractLiberados;
@@ -40,15 +49,15 @@ struct Settings {
     engine::Colour foreColorGotFocus;
     engine::Colour foreColorLostFocus;
 
-    engine::Aparencia appearance = engine::Aparencia::c3D;
-    engine::eEstiloBorda borderStyle = engine::eEstiloBorda::Solida;
-    engine::eEsquemasRetorno esquemaRetornoAtual = engine::eEsquemasRetorno::Primeiro;
-    engine::Simbolos simbolAgrupMilhar = engine::Simbolos::Vazio;
-    engine::Simbolos simbolDecExib = engine::Simbolos::Vazio;
-    engine::Simbolos simbolDecRet = engine::Simbolos::Vazio;
-    engine::TipoText textType = engine::TipoText::TextoNormal;
-    engine::tipoTamanhoLetra tipoLetra = engine::tipoTamanhoLetra::Normal;
-    engine::eIconeToolTipText toolTipGotFocusTipo = engine::eIconeToolTipText::TTNoIcon;
+    Aparencia appearance = Aparencia::c3D;
+    eEstiloBorda borderStyle = eEstiloBorda::Solida;
+    eEsquemasRetorno esquemaRetornoAtual = eEsquemasRetorno::Primeiro;
+    Simbolos simbolAgrupMilhar = Simbolos::Vazio;
+    Simbolos simbolDecExib = Simbolos::Vazio;
+    Simbolos simbolDecRet = Simbolos::Vazio;
+    TipoText textType = TipoText::TextoNormal;
+    tipoTamanhoLetra tipoLetra = tipoTamanhoLetra::Normal;
+    eIconeToolTipText toolTipGotFocusTipo = eIconeToolTipText::TTNoIcon;
 
     // The symbol texts derived from the three Simbolos; 0 is the empty text.
     char16_t grouping = 0;
@@ -77,12 +86,12 @@ struct Settings {
 };
 
 // Vazio gives the empty text, Ponto ".", every other value ",".
-[[nodiscard]] constexpr char16_t symbolOf(engine::Simbolos value) noexcept
+[[nodiscard]] constexpr char16_t symbolOf(Simbolos value) noexcept
 {
     switch (value) {
-    case engine::Simbolos::Vazio: return 0;
-    case engine::Simbolos::Ponto: return u'.';
-    case engine::Simbolos::Virgula: break;
+    case Simbolos::Vazio: return 0;
+    case Simbolos::Ponto: return u'.';
+    case Simbolos::Virgula: break;
     }
     return u',';
 }

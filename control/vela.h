@@ -38,7 +38,6 @@ public:
     ~Vela(); // terminates when terminate() has not run
     Vela(const Vela&) = delete;
     Vela& operator=(const Vela&) = delete;
-
     // Life, called by the host.
     void initNew();                        // new-instance settings
     void load(platform::PropertyBag& bag); // may raise; the control stays usable
@@ -55,14 +54,6 @@ public:
     using FontDescription = platform::FontDescription;
     using Text16 = std::u16string;
     using View = std::u16string_view;
-    using Alinhamento = engine::Alinhamento;
-    using Aparencia = engine::Aparencia;
-    using eEsquemasRetorno = engine::eEsquemasRetorno;
-    using eEstiloBorda = engine::eEstiloBorda;
-    using eIconeToolTipText = engine::eIconeToolTipText;
-    using Simbolos = engine::Simbolos;
-    using TipoText = engine::TipoText;
-    using tipoTamanhoLetra = engine::tipoTamanhoLetra;
     // clang-format off
     bool AceitaNegativos() const { return settings_.aceitaNegativos; }  void AceitaNegativos(bool value);
     Alinhamento Alignment() const;  void Alignment(Alinhamento value);
@@ -182,7 +173,6 @@ public:
     void takePopupFocus() override;
     [[nodiscard]] engine::RectPixels popupAnchor() override;
     [[nodiscard]] platform::ParentForm popupParent() override;
-
     [[nodiscard]] const engine::Locale& locale() const { return environment_.locales.locale(); }
 
 private:
@@ -199,7 +189,6 @@ private:
     [[nodiscard]] bool masked() const noexcept;                                     // Data or Mascara
     [[nodiscard]] bool liveNumber() const noexcept;                                 // Numerico with MaskToNumeric
     void readText(std::u16string& into) const { box().text(into); }
-
     // Each calls out; when the control has not survived it they raise 91 and nothing of it may be touched.
     void markChanged(View name);
     void writeText(View text, Writer writer);
@@ -275,12 +264,10 @@ private:
     template <class Describe>
     void expectEdit(Describe describe);
     void keepTyped();
-    void measureErased(History::Expected& edit) const;
     void keepWritten(View before, View after, platform::Selection selection, bool joined);
     void restore(bool backwards);
 
-    // Look (look.cpp)
-    void layOut();
+    void layOut(); // look.cpp
     [[nodiscard]] platform::SurfaceLayout arrangement() const;
     void putForeColour(Colour colour);
     void putBackColours(Colour colour); // of the edit box and of the surface

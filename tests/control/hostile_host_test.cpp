@@ -105,6 +105,12 @@ constexpr std::array acts{
             bench.form.cut();
             bench.form.undo();
         }},
+    Act{"a cut in a mask", asPlate,
+        [](FieldBench& bench, Field& f) {
+            bench.typeInto(f, u"abc");
+            bench.form.placeCaret(0, 2);
+            bench.form.cut();
+        }},
     Act{"a put of the type", asNumber, [](FieldBench&, Field& f) { f.put(u"TextType", 2); }},
     Act{"a put of the text", asNumber, [](FieldBench&, Field& f) { f.put(u"Text", u"1234,5"); }},
     Act{"a reading of the value", asDate,
