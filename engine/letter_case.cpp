@@ -21,7 +21,8 @@ constexpr bool isLatin1Small(char16_t unit) noexcept
 constexpr Latin1Table makeLatin1(bool toUpper) noexcept
 {
     Latin1Table table{};
-    for (char16_t unit = 0; unit < table.size(); ++unit) {
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        const auto unit = static_cast<char16_t>(i);
         table[unit] = unit;
         if (toUpper && isLatin1Small(unit))
             table[unit] = static_cast<char16_t>(unit - 0x20);
