@@ -64,8 +64,13 @@ platform::BoxAnswer showBox(UINT flags, const std::wstring& title, const std::ws
 {
     const FocusArbiter::Hold hold; // the field that had the focus is not left by it
     const HWND owner = GetActiveWindow();
+    const HWND focus = GetFocus();
     const std::wstring shown = title.empty() ? applicationTitle(owner) : title;
-    return answerOf(MessageBoxW(owner, text.c_str(), shown.c_str(), flags | MB_SETFOREGROUND));
+    const int pressed = MessageBoxW(owner, text.c_str(), shown.c_str(), flags | MB_SETFOREGROUND);
+    // A form that is no dialog keeps the focus to itself when it is active again.
+    if (focus && focus != GetFocus() && GetActiveWindow() == GetAncestor(focus, GA_ROOT))
+        SetFocus(focus);
+    return answerOf(pressed);
 }
 
 INPUT keyInput(WORD key, bool down) noexcept

@@ -1,0 +1,270 @@
+// What only real windows have: the EDIT itself, colours asked for by it, tooltip records, borrowed focus, clean exits.
+#include "tests/contract/recorder.h"
+#include "tests/contract/stage.h"
+
+#include "platform/win32/control_surface.h"
+#include "platform/win32/desktop.h"
+#include "platform/win32/form.h"
+#include "platform/win32/owners.h"
+#include "platform/win32/tooltip_window.h"
+
+#include <gtest/gtest.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vela::contract {
+namespace {
+
+HWND windowOf(platform::WindowId id)
+{
+    return reinterpret_cast<HWND>(id.value);
+}
+
+bool boxSeen = false;
+
+void CALLBACK pressButtonOfBox(HWND, UINT, UINT_PTR, DWORD)
+{
+    if (const HWND box = FindWindowW(L"#32770", L"Vela")) {
+        boxSeen = true;
+        SendMessageW(box, WM_COMMAND, IDOK, 0);
+    }
+}
+
+// A surface that hands the focus to its box and opens something at its button.
+class Opening final : public platform::SurfaceEvents {
+public:
+    Opening(Recorder& field, std::function<void()> open) : field_(field), open_(std::move(open)) {}
+    void surfaceGotFocus() override { field_.surfaceGotFocus(); }
+    void surfaceLostFocus() override {}
+    void resized() override {}
+    void buttonClicked() override { open_(); }
+    void hoverTick() override {}
+
+private:
+    Recorder& field_;
+    std::function<void()> open_;
+};
+
+class Windows : public testing::Test {
+protected:
+    Windows()
+    {
+        for (int index : {0, 1}) {
+            Recorder& recorder = index == 0 ? first : second;
+            recorder.box = &stage->field(index).activate(platform::EditBoxKind::singleLine);
+            stage->listen(index, recorder, recorder);
+            stage->field(index).arrange({.edit = {0, 0, 100, 21}, .button = {100, 0, 21, 21}});
+        }
+    }
+    [[nodiscard]] HWND edit(int index = 0) { return windowOf((index == 0 ? first : second).box->window()); }
+    [[nodiscard]] HWND surface(int index = 0) { return windowOf(stage->field(index).window()); }
+    [[nodiscard]] std::u16string text()
+    {
+        std::u16string read;
+        first.box->text(read);
+        return read;
+    }
+
+    std::vector<std::string> log;
+    std::unique_ptr<Stage> stage = Stage::make();
+    Recorder first{log, "A"};
+    Recorder second{log, "B"};
+};
+
+TEST_F(Windows, TheBoxIsAnEditThatOthersMayWriteTo)
+{
+    std::array<wchar_t, 16> name{};
+    GetClassNameW(edit(), name.data(), static_cast<int>(name.size()));
+    EXPECT_STREQ(name.data(), L"Edit");
+    SetWindowTextW(edit(), L"de fora");
+    SetWindowTextW(edit(), L"de fora");
+    EXPECT_EQ(text(), u"de fora");
+    SendMessageW(edit(), EM_SETSEL, 0, 2);
+    SendMessageW(edit(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"De"));
+    EXPECT_EQ(text(), u"De fora");
+    EXPECT_EQ(log, (std::vector<std::string>{"A changed", "A changed"}));
+}
+
+TEST_F(Windows, ALockedBoxIsReadOnlyInItsOwnColours)
+{
+    platform::EditTraits traits;
+    traits.locked = true;
+    first.box->putTraits(traits);
+    first.box->putColours({engine::Colour{0x000000FF}, engine::Colour{0x00C0FFC0}});
+    EXPECT_TRUE(GetWindowLongPtrW(edit(), GWL_STYLE) & ES_READONLY);
+    const win32::WindowDc dc(edit());
+    const auto brush = reinterpret_cast<HBRUSH>(SendMessageW(
+        surface(), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc.get()), reinterpret_cast<LPARAM>(edit())));
+    EXPECT_TRUE(brush);
+    EXPECT_EQ(GetTextColor(dc.get()), 0x000000FFU);
+    EXPECT_EQ(GetBkColor(dc.get()), 0x00C0FFC0U);
+}
+
+TEST_F(Windows, AlignmentAndPasswordAreRealStyles)
+{
+    platform::EditTraits traits;
+    traits.alignment = platform::TextAlignment::right;
+    traits.passwordChar = u'#';
+    stage->focus(0);
+    log.clear();
+    first.box->putTraits(traits);
+    EXPECT_TRUE(GetWindowLongPtrW(edit(), GWL_STYLE) & ES_RIGHT);
+    EXPECT_EQ(SendMessageW(edit(), EM_GETPASSWORDCHAR, 0, 0), '#');
+    EXPECT_EQ(GetFocus(), edit());
+    EXPECT_TRUE(log.empty());
+}
+
+TEST_F(Windows, StateOutlivesTheWindows)
+{
+    auto& field = static_cast<win32::ControlSurface&>(stage->field(0));
+    first.box->putText(u"fica");
+    first.box->select({1, 2});
+    const HWND form = GetParent(field.handle());
+    DestroyWindow(field.handle()); // as a host does with its form
+    EXPECT_FALSE(first.box->window());
+    EXPECT_EQ(text(), u"fica");
+    first.box->insert(u"OR");
+    EXPECT_EQ(text(), u"fORa");
+    field.create(form, {8, 8, 129, 29});
+    EXPECT_EQ(text(), u"fORa");
+    EXPECT_EQ(first.box->selection(), (platform::Selection{3, 0}));
+}
+
+TEST_F(Windows, ThePopUpOfAFieldBorrowsTheFocus)
+{
+    struct Quiet final : platform::FormEvents {
+        void clicked(platform::WidgetId) override {}
+        void doubleClicked(platform::WidgetId) override {}
+        void changed(platform::WidgetId) override {}
+        void gotFocus(platform::WidgetId) override {}
+        void lostFocus(platform::WidgetId) override {}
+        void keyDown(platform::WidgetId, int&, int&) override {}
+        void keyPress(platform::WidgetId, int&) override {}
+        void activated() override {}
+        void deactivated() override { form->close(); }
+        void tick() override {}
+        void closed() override { ++closings; }
+        std::unique_ptr<platform::Form> form;
+        int closings = 0;
+    } events;
+    static constexpr std::array<platform::WidgetRow, 1> rows{
+        {{.kind = platform::WidgetKind::button, .name = u"b", .caption = u"b", .place = {0, 0, 600, 300}}}};
+    static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
+    Opening opening{first, [&] {
+                        events.form = stage->forms().make(layout, events);
+                        events.form->showPopup({200, 200, 110, 109}, stage->field(0).window());
+                    }};
+    platform::SurfaceLook look = stage->field(0).look();
+    look.button = true;
+    stage->field(0).putLook(look);
+    stage->listen(0, first, opening);
+    stage->focus(0);
+    log.clear();
+    stage->clickButton(0);
+    EXPECT_EQ(GetActiveWindow(), windowOf(events.form->window()));
+    EXPECT_TRUE(log.empty());
+    events.form->close();
+    stage->settle();
+    EXPECT_EQ(GetFocus(), edit());
+    EXPECT_TRUE(log.empty());
+    stage->clickButton(0);
+    stage->focus(1); // elsewhere on the form: now the field is left, and the pop-up closes
+    EXPECT_EQ(log, (std::vector<std::string>{"A lost", "B got"}));
+    EXPECT_EQ(events.closings, 2);
+}
+
+TEST_F(Windows, AFieldThatIsLeftForAnotherFormDoesNotHoldIt)
+{
+    stage->focus(0);
+    first.during("lost", [this] { first.box->takeFocus(); });
+    const win32::UniqueWindow other(CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 400, 400, 50, 50, nullptr,
+                                                    nullptr, GetModuleHandleW(nullptr), nullptr));
+    SetActiveWindow(other.get());
+    SetFocus(other.get());
+    stage->settle();
+    EXPECT_EQ(GetFocus(), other.get());
+    EXPECT_EQ(std::ranges::count(log, "A lost"), 1);
+}
+
+TEST_F(Windows, ABoxAskedForWhileTheFocusMovesIsShownAfterwards)
+{
+    stage->focus(0);
+    bool openedInside = false;
+    first.during("lost", [&] {
+        stage->environment().desktop.messageBox(platform::BoxIcon::information, platform::BoxButtons::ok, u"Vela",
+                                                u"depois");
+        openedInside = FindWindowW(L"#32770", L"Vela") != nullptr;
+    });
+    // The box's own loop runs inside settle(); a timer of the thread presses its button.
+    boxSeen = false;
+    const UINT_PTR timer = SetTimer(nullptr, 0, 20, pressButtonOfBox);
+    stage->focus(1);
+    for (int i = 0; i < 50 && !boxSeen; ++i)
+        stage->settle();
+    KillTimer(nullptr, timer);
+    EXPECT_TRUE(boxSeen);
+    EXPECT_FALSE(openedInside);
+    EXPECT_EQ(GetFocus(), edit(1));
+    EXPECT_EQ(std::ranges::count(log, "B got"), 1);
+    EXPECT_EQ(std::ranges::count(log, "B lost"), 0);
+}
+
+TEST_F(Windows, TheTooltipsRecordReachesTheControl)
+{
+    win32::TooltipWindow tip;
+    ASSERT_TRUE(tip.create(first.box->window()));
+    tip.addTool(u"Preço é 10");
+    tip.setTextColour(engine::Colour{0x000000FF});
+    tip.setBackColour(engine::Colour{0x80000005});
+    tip.setDelay(2, 5000);
+    tip.setDelay(3, 500);
+    EXPECT_EQ(SendMessageA(tip.handle(), TTM_GETTOOLCOUNT, 0, 0), 1);
+    EXPECT_EQ(SendMessageA(tip.handle(), TTM_GETTIPTEXTCOLOR, 0, 0), 0x000000FF);
+    EXPECT_EQ(static_cast<DWORD>(SendMessageA(tip.handle(), TTM_GETTIPBKCOLOR, 0, 0)), GetSysColor(COLOR_WINDOW));
+    EXPECT_EQ(SendMessageA(tip.handle(), TTM_GETDELAYTIME, TTDT_AUTOPOP, 0), 5000);
+    EXPECT_EQ(SendMessageA(tip.handle(), TTM_GETDELAYTIME, TTDT_INITIAL, 0), 500);
+    std::array<char, 64> shown{};
+    TTTOOLINFOA tool{};
+    tool.cbSize = offsetof(TTTOOLINFOA, lpReserved);
+    tool.hwnd = edit();
+    tool.uId = reinterpret_cast<UINT_PTR>(edit());
+    tool.uFlags = TTF_IDISHWND;
+    tool.lpszText = shown.data();
+    SendMessageA(tip.handle(), TTM_GETTEXTA, 0, reinterpret_cast<LPARAM>(&tool));
+    EXPECT_STREQ(shown.data(), "Pre\xE7o \xE9 10");
+    const HWND window = tip.handle();
+    tip.destroy();
+    EXPECT_FALSE(IsWindow(window));
+}
+
+TEST_F(Windows, ManyFieldsLeaveNothingBehind)
+{
+    const HWND form = GetParent(surface());
+    const auto round = [form](int fields) {
+        for (int i = 0; i < fields; ++i) {
+            win32::ControlSurface field;
+            platform::SurfaceLook look;
+            look.button = true;
+            field.putLook(look);
+            field.arrange({.edit = {0, 0, 100, 21}, .button = {100, 0, 21, 21}, .cornerRadius = 4});
+            field.create(form, {0, 100, 121, 121});
+            field.edit().putText(u"texto");
+        }
+    };
+    round(20); // fonts, classes
+    const DWORD windows = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+    const DWORD objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    round(200);
+    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), windows);
+    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), objects);
+    EXPECT_EQ(FindWindowExW(form, nullptr, L"VelaControl", nullptr), surface(0));
+}
+
+} // namespace
+} // namespace vela::contract
