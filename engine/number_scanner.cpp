@@ -13,8 +13,6 @@ namespace {
 constexpr int leadingDigits = 18;
 constexpr std::int64_t mostExponent = 1'000'000;
 constexpr std::uint64_t exactInDouble = std::uint64_t{1} << 53;
-constexpr std::array<double, 23> powersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-                                             1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
 int hexadecimalDigit(char16_t unit) noexcept
 {
@@ -52,8 +50,8 @@ std::optional<double> DigitCollector::toDouble(bool negative) const noexcept
         value = 0.0;
     } else if (count_ <= leadingDigits && leading_ <= exactInDouble && exponent_ >= -22 && exponent_ <= 22) {
         const double whole = static_cast<double>(leading_);
-        value = exponent_ < 0 ? whole / powersOfTen[static_cast<std::size_t>(-exponent_)]
-                              : whole * powersOfTen[static_cast<std::size_t>(exponent_)];
+        value = exponent_ < 0 ? whole / exactPowersOfTen[static_cast<std::size_t>(-exponent_)]
+                              : whole * exactPowersOfTen[static_cast<std::size_t>(exponent_)];
     } else {
         value = toDoubleSlowly();
     }
