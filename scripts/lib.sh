@@ -104,8 +104,11 @@ start_wine() {
     quietly "wineboot$bits.log" wine_run "$bits" wineboot -i
   fi
   # Without a window manager each managed window that goes is waited for, two seconds long.
-  quietly "wine$bits-reg.log" wine_run "$bits" reg add \
-    'HKCU\Software\Wine\AppDefaults\contract_tests.exe\X11 Driver' /v Managed /d N /f
+  local program
+  for program in contract_tests popups_windows_tests; do
+    quietly "wine$bits-reg.log" wine_run "$bits" reg add \
+      "HKCU\\Software\\Wine\\AppDefaults\\$program.exe\\X11 Driver" /v Managed /d N /f
+  done
   wine_run "$bits" "$build/win$bits/keepalive.exe" >/dev/null 2>&1 </dev/null &
   keepalive_pids="${keepalive_pids:-} $!"
 }
