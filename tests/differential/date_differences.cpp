@@ -223,7 +223,9 @@ bool isNumberTextWithDatePattern(const Request& request, const Outcome&)
 
 void readsPlainNumber(Request& request)
 {
-    const std::string text(request.asked.text.begin(), request.asked.text.end());
+    std::string text(request.asked.text.begin(), request.asked.text.end());
+    std::ranges::replace(text, 'd', 'e');
+    std::ranges::replace(text, 'D', 'e');
     char* end = nullptr;
     const double number = std::strtod(text.c_str(), &end);
     if (!text.empty() && end == text.c_str() + text.size() && engine::momentOf({number})) {

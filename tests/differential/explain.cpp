@@ -4,7 +4,7 @@
 namespace vela::differential {
 namespace {
 
-constexpr std::size_t mostTogether = 4;
+constexpr std::size_t mostTogether = 5;
 
 using Found = std::vector<const KnownDifference*>;
 

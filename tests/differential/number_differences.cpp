@@ -100,12 +100,9 @@ std::vector<std::size_t> dividingCommas(std::span<const PlainCharacter> plain)
 void group(std::u16string& pattern, std::span<const PlainCharacter> plain, bool exponent)
 {
     std::size_t first = 0, count = 0;
-    for (const PlainCharacter character : plain) {
-        if (character.unit == u'.' || (exponent && (character.unit | 0x20) == u'e')) {
-            break;
-        }
-        if (isDigitMark(character.unit) && ++count == 1) {
-            first = character.position;
+    for (std::size_t i = 0; i < plain.size() && plain[i].unit != u'.'; ++i) {
+        if (isDigitMark(plain[i].unit) && !(exponent && isExponentZero(plain, i)) && ++count == 1) {
+            first = plain[i].position;
         }
     }
     if (count == 1 && !exponent) {
