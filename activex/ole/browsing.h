@@ -26,9 +26,6 @@ private:
 struct ICategorizeProperties : public IUnknown {
     virtual HRESULT STDMETHODCALLTYPE MapPropertyToCategory(DISPID id, int* category) noexcept = 0;
     virtual HRESULT STDMETHODCALLTYPE GetCategoryName(int category, LCID locale, BSTR* name) noexcept = 0;
-
-protected:
-    ~ICategorizeProperties() = default;
 };
 // {4D07FC10-F931-11CE-B001-00AA006884E5}
 inline constexpr IID categorizePropertiesId{

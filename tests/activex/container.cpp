@@ -248,8 +248,10 @@ Form::Form()
     description.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     description.lpszClassName = formClass;
     RegisterClassW(&description); // a second time it stands already
-    window_ = CreateWindowExW(WS_EX_CONTROLPARENT, formClass, L"Vela", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 300,
-                              nullptr, nullptr, description.hInstance, nullptr);
+    // Shown without being activated, and without a caption: no window manager is asked, and none is waited for.
+    window_ = CreateWindowExW(WS_EX_CONTROLPARENT, formClass, L"Vela", WS_POPUP, 0, 0, 400, 300, nullptr, nullptr,
+                              description.hInstance, nullptr);
+    ShowWindow(window_, SW_SHOWNOACTIVATE);
     frame_ = make<Frame>(window_);
 }
 

@@ -2,6 +2,7 @@
 #include "container.h"
 
 #include "activex/guids.h"
+#include "activex/ole/browsing.h"
 #include "control/property_table.h"
 
 #include <gtest/gtest.h>
@@ -13,7 +14,6 @@ namespace vela::test {
 
 namespace {
 
-constexpr IID categorizeProperties{0x4d07fc10, 0xf931, 0x11ce, {0xb0, 0x01, 0x00, 0xaa, 0x00, 0x68, 0x84, 0xe5}};
 constexpr IID objectSafety{0xcb5bdc81, 0x93c1, 0x11cf, {0x8f, 0x20, 0x00, 0x80, 0x5f, 0x2c, 0xd0, 0x64}};
 
 struct Asked {
@@ -44,7 +44,7 @@ const Asked offered[] = {
     {"ISupportErrorInfo", IID_ISupportErrorInfo},
     {"ISpecifyPropertyPages", IID_ISpecifyPropertyPages},
     {"IPerPropertyBrowsing", IID_IPerPropertyBrowsing},
-    {"ICategorizeProperties", categorizeProperties},
+    {"ICategorizeProperties", activex::categorizePropertiesId},
 };
 
 // From each interface to each other, and back to one identity.
@@ -195,20 +195,17 @@ TEST(Interfaces, PropertiesLeadToPagesAndCategories)
     EXPECT_EQ(browsing->MapPropertyToPage(*field.id(u"NomeCampo"), &page), PERPROP_E_NOPAGEAVAILABLE);
     EXPECT_EQ(browsing->MapPropertyToPage(4711, &page), DISP_E_MEMBERNOTFOUND);
 
-    struct Categorizer : IUnknown {
-        virtual HRESULT STDMETHODCALLTYPE MapPropertyToCategory(DISPID id, int* category) = 0;
-        virtual HRESULT STDMETHODCALLTYPE GetCategoryName(int category, LCID locale, BSTR* name) = 0;
-    };
-    const auto found = ComPtr<IUnknown>::from(control.get(), categorizeProperties);
-    auto& categorizer = *static_cast<Categorizer*>(found.get());
+    const auto categorizer =
+        ComPtr<activex::ICategorizeProperties>::from(control.get(), activex::categorizePropertiesId);
+    ASSERT_TRUE(categorizer);
     int category = 0;
-    EXPECT_EQ(categorizer.MapPropertyToCategory(*field.id(u"FontBold"), &category), S_OK);
+    EXPECT_EQ(categorizer->MapPropertyToCategory(*field.id(u"FontBold"), &category), S_OK);
     EXPECT_EQ(category, -3);
-    EXPECT_EQ(categorizer.MapPropertyToCategory(*field.id(u"MaskRules"), &category), S_OK);
+    EXPECT_EQ(categorizer->MapPropertyToCategory(*field.id(u"MaskRules"), &category), S_OK);
     Bstr name;
-    EXPECT_EQ(categorizer.GetCategoryName(category, 0, name.put()), S_OK);
+    EXPECT_EQ(categorizer->GetCategoryName(category, 0, name.put()), S_OK);
     EXPECT_EQ(name.text(), u"M\u00E1scara");
-    EXPECT_EQ(categorizer.GetCategoryName(-3, 0, name.put()), S_FALSE);
+    EXPECT_EQ(categorizer->GetCategoryName(-3, 0, name.put()), S_FALSE);
 
     CAUUID pages{};
     ASSERT_EQ(ComPtr<ISpecifyPropertyPages>::from(control.get())->GetPages(&pages), S_OK);

@@ -42,8 +42,9 @@ class ShownPage {
 public:
     explicit ShownPage(const CLSID& id, std::vector<IUnknown*> objects)
     {
-        window_ = CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", nullptr, WS_POPUP | WS_VISIBLE, 0, 0, 500, 500,
-                                  nullptr, nullptr, nullptr, nullptr);
+        window_ = CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", nullptr, WS_POPUP, 0, 0, 500, 500, nullptr, nullptr,
+                                  nullptr, nullptr);
+        ShowWindow(window_, SW_SHOWNOACTIVATE);
         EXPECT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IPropertyPage2, page.putVoid()), S_OK);
         EXPECT_EQ(page->SetPageSite(frame.get()), S_OK);
         PROPPAGEINFO info{};
