@@ -64,7 +64,7 @@ void runLoad(Session& session, Words words)
     requireWords(words, 2, words.size());
     const std::u16string& name = session.freshName(words[1]);
     const bool design = words.size() > 2 && words[2].is(u"design");
-    headless::PropertyBag bag;
+    headless::PropertyBag bag(&session.machine().faults);
     for (const Word& word : words.subspan(design ? 3 : 2)) {
         auto [key, value] = entryOf(word);
         bag.put(key, std::move(value));
@@ -76,7 +76,7 @@ void runSave(Session& session, Words words)
 {
     requireWords(words, 2, 2);
     Field& field = session.fieldOf(words[1]);
-    headless::PropertyBag bag;
+    headless::PropertyBag bag(&session.machine().faults);
     field.control.save(bag);
     for (const auto& [key, value] : bag.entries())
         session.printLine(toUtf8(field.name()) + " " + quoted(key) + " = " + printedOf(key, value));
@@ -86,7 +86,7 @@ void runReload(Session& session, Words words)
 {
     requireWords(words, 2, 2);
     Field& field = session.fieldOf(words[1]);
-    headless::PropertyBag bag;
+    headless::PropertyBag bag(&session.machine().faults);
     field.control.save(bag);
     session.replaceField(field).control.load(bag);
 }

@@ -98,6 +98,17 @@ void Session::runLine(std::string_view line)
     if (line.ends_with('\r'))
         line.remove_suffix(1);
     try {
+        carryOut(line);
+    } catch (const std::bad_alloc&) {
+        printLine(errorLine(engine::error_number::outOfMemory));
+    } catch (const std::length_error&) {
+        printLine(errorLine(engine::error_number::outOfMemory));
+    }
+}
+
+void Session::carryOut(std::string_view line)
+{
+    try {
         const std::vector<Word> words = splitWords(line);
         if (!words.empty())
             runWords(words);
@@ -105,10 +116,6 @@ void Session::runLine(std::string_view line)
         complain(fault.why);
     } catch (const engine::Error& error) {
         printLine(errorLine(error));
-    } catch (const std::bad_alloc&) {
-        printLine(errorLine(engine::error_number::outOfMemory));
-    } catch (const std::length_error&) {
-        printLine(errorLine(engine::error_number::outOfMemory));
     }
 }
 
@@ -166,7 +173,12 @@ Field& Session::replaceField(Field& field)
     std::exception_ptr failure = end(field);
     at->reset();
     form_.reserveNextPlace(place);
-    *at = std::make_unique<Field>(form_, machine_, popups_, name, index, runMode);
+    try {
+        *at = std::make_unique<Field>(form_, machine_, popups_, name, index, runMode);
+    } catch (...) {
+        fields_.erase(at);
+        throw;
+    }
     if (failure)
         std::rethrow_exception(failure);
     return **at;

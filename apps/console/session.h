@@ -78,6 +78,7 @@ public:
     TracePrinter& tracePrinter() noexcept { return printer_; }
 
 private:
+    void carryOut(std::string_view line);
     void runWords(Words words);
     void complain(std::string_view why);
     [[nodiscard]] std::exception_ptr end(Field& field);

@@ -49,7 +49,8 @@ void SettingsStore::save(std::u16string_view application, std::u16string_view se
     faults_.pass();
     auto* found = const_cast<Section*>(find(application, section));
     if (found == nullptr)
-        found = &sections_.emplace_back(std::u16string(application), std::u16string(section), std::vector<Entry>());
+        found = &sections_.emplace_back(
+            Section{std::u16string(application), std::u16string(section), std::vector<Entry>()});
     for (Entry& entry : found->entries) {
         if (entry.first == key) {
             entry.second = value;

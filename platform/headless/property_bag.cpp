@@ -3,6 +3,17 @@
 
 namespace vela::headless {
 
+namespace {
+
+// As copying it does, also where memory runs out in the middle: GCC 12's variant takes one with a text for never
+// without a value, and destroys what it has not yet made.
+engine::Value copyOf(const engine::Value& value)
+{
+    return std::visit([](const auto& held) { return engine::Value(held); }, value);
+}
+
+} // namespace
+
 engine::Value PropertyBag::read(std::u16string_view key, const engine::Value& defaultValue)
 {
     if (faults_ != nullptr)
@@ -11,10 +22,10 @@ engine::Value PropertyBag::read(std::u16string_view key, const engine::Value& de
         const std::size_t at = (hint_ + tried) % entries_.size();
         if (entries_[at].first == key) {
             hint_ = at + 1;
-            return entries_[at].second;
+            return copyOf(entries_[at].second);
         }
     }
-    return defaultValue;
+    return copyOf(defaultValue);
 }
 
 void PropertyBag::write(std::u16string_view key, const engine::Value& value,
@@ -23,7 +34,7 @@ void PropertyBag::write(std::u16string_view key, const engine::Value& value,
     if (faults_ != nullptr)
         faults_->pass();
     if (!defaultValue || value != *defaultValue)
-        put(key, value);
+        put(key, copyOf(value));
 }
 
 void PropertyBag::put(std::u16string_view key, engine::Value value)
@@ -34,7 +45,7 @@ void PropertyBag::put(std::u16string_view key, engine::Value value)
             return;
         }
     }
-    entries_.emplace_back(key, std::move(value));
+    entries_.emplace_back(std::u16string(key), std::move(value));
 }
 
 } // namespace vela::headless
