@@ -107,6 +107,37 @@ TEST(Paste, RaisesKeyPressForEachAndObeysItsHandler)
     EXPECT_EQ(f.shows(), "ac|");
 }
 
+// Pasted whole, digits give what they give typed one by one, wherever the caret stands.
+TEST(Paste, EqualsTyping)
+{
+    std::mt19937 random(20240301); // NOLINT: the same texts every time
+    constexpr void (*kinds[])(Field&) = {none, plate, telephone, date, number, amount};
+    for (int round = 0; round < 300; ++round) {
+        std::u16string digits;
+        for (unsigned i = random() % 8; i > 0; --i)
+            digits += static_cast<char16_t>(u'0' + random() % 10);
+        const int places = static_cast<int>(random() % 5);
+        const int caret = static_cast<int>(random() % 6);
+        const auto kind = kinds[random() % std::size(kinds)];
+        const auto shown = [&](bool pasted) {
+            FieldBench bench;
+            Field& f = bench.add();
+            kind(f);
+            f.put(u"MaskRules", u"");
+            if (kind == number || kind == amount)
+                f.put(u"QtdCasasDec", places);
+            bench.focus(f);
+            bench.form.placeCaret(caret, 0);
+            if (pasted)
+                bench.form.paste(digits);
+            else
+                bench.type(digits);
+            return f.shows();
+        };
+        EXPECT_EQ(shown(false), shown(true)) << narrow(digits) << " at " << caret << ", places " << places;
+    }
+}
+
 TEST(Cut, TakesTheSelectionOutAsTypingWould)
 {
     FieldBench bench;
