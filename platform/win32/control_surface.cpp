@@ -65,8 +65,7 @@ void ControlSurface::create(HWND parent, const RECT& place)
 {
     if (window_)
         return reparent(parent, place);
-    const DWORD style =
-        WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | (visible_ ? WS_VISIBLE : 0U) | (enabled_ ? 0U : WS_DISABLED);
+    const DWORD style = WS_CHILD | WS_CLIPCHILDREN | (enabled_ ? 0U : WS_DISABLED);
     const HWND made = createBound(surfaceClass(), *this, WS_EX_CONTROLPARENT, style, place, parent);
     if (!made)
         engine::raise(engine::error_number::outOfMemory);
@@ -84,10 +83,20 @@ void ControlSurface::create(HWND parent, const RECT& place)
             boxes_[i]->createWindow(rectOf(layout_.edit), true);
     showButton();
     applyRegion();
+    if (visible_)
+        appear();
     if (timer_)
         SetTimer(window_, hoverTimer, hoverMilliseconds, nullptr);
     if (!accessibleName_.empty())
         setAccessibleName(accessibleName_);
+}
+
+// Made hidden and shown with its parts in it: half the cost of showing one after the other. WM_SETREDRAW makes a
+// hidden window visible.
+void ControlSurface::appear() const
+{
+    DefWindowProcW(window_, WM_SETREDRAW, TRUE, 0);
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 void ControlSurface::destroy()

@@ -86,6 +86,7 @@ private:
     void boxRebuilt();
     void placeParts();
     void showButton();
+    void appear() const;
     void applyRegion();
     void buttonPressed();
     void repaint() const;

@@ -8,6 +8,7 @@
 #include "platform/win32/guard.h"
 #include "platform/win32/module.h"
 #include "platform/win32/text.h"
+#include "platform/win32/window_map.h"
 
 #include <commctrl.h>
 
@@ -215,7 +216,7 @@ platform::EditBoxEvents* EditBox::events() const noexcept
 
 DWORD EditBox::style(bool visible) const noexcept
 {
-    DWORD style = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS;
+    DWORD style = WS_CHILD | WS_TABSTOP;
     style |= isSingle() ? ES_AUTOHSCROLL : ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL;
     if (visible)
         style |= WS_VISIBLE;
@@ -243,7 +244,7 @@ void EditBox::createWindow(const RECT& place, bool visible)
     if (!made)
         engine::raise(engine::error_number::outOfMemory);
     original_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(made, GWLP_WNDPROC));
-    SetWindowLongPtrW(made, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    bindObject(made, this);
     SetWindowLongPtrW(made, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&EditBox::procedure));
     edit_ = made;
     stale_ = false;

@@ -8,6 +8,7 @@
 #include "platform/win32/guard.h"
 #include "platform/win32/keyboard.h"
 #include "platform/win32/text.h"
+#include "platform/win32/window_map.h"
 
 #include <imm.h>
 
@@ -54,7 +55,7 @@ std::u16string composed(HWND window)
 
 LRESULT CALLBACK EditBox::procedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
 {
-    auto* box = reinterpret_cast<EditBox*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    auto* box = static_cast<EditBox*>(boundObject(window));
     if (!box)
         return DefWindowProcW(window, message, first, second);
     return guarded([&] { return box->handle(message, first, second); }, LRESULT{0});
@@ -65,7 +66,7 @@ EditBox* EditBox::withFocus() noexcept
     const HWND focus = GetFocus();
     if (!focus || reinterpret_cast<WNDPROC>(GetWindowLongPtrW(focus, GWLP_WNDPROC)) != &EditBox::procedure)
         return nullptr;
-    return reinterpret_cast<EditBox*>(GetWindowLongPtrW(focus, GWLP_USERDATA));
+    return static_cast<EditBox*>(boundObject(focus));
 }
 
 LRESULT EditBox::handle(UINT message, WPARAM first, LPARAM second)
@@ -107,8 +108,7 @@ LRESULT EditBox::onDestroyed(WPARAM first, LPARAM second)
 {
     const HWND window = std::exchange(edit_, nullptr);
     const WNDPROC original = original_;
-    SetWindowLongPtrW(window, GWLP_USERDATA, 0);
-    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+    unbindObject(window);
     if (!rebuilding_) {
         entered_ = false;
         arbiter_.forget(*this);

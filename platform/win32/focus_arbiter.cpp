@@ -36,8 +36,6 @@ FocusArbiter* FocusArbiter::ofThread() noexcept
     return current;
 }
 
-FocusArbiter::FocusArbiter() : window_(createBound(messageClass(), *this, 0, 0, RECT{0, 0, 0, 0}, HWND_MESSAGE)) {}
-
 FocusArbiter::~FocusArbiter()
 {
     if (window_) {
@@ -120,8 +118,11 @@ void FocusArbiter::removeBorrower(HWND topLevel) noexcept
     settleLater();
 }
 
+// The window is made when it is first needed: most fields come and go without a question about the focus.
 void FocusArbiter::settleLater() noexcept
 {
+    if (!window_)
+        window_ = createBound(messageClass(), *this, 0, 0, RECT{0, 0, 0, 0}, HWND_MESSAGE);
     PostMessageW(window_, settleMessage, 0, 0);
 }
 

@@ -64,7 +64,7 @@ public:
     void later(std::function<void()> work);
 
 private:
-    FocusArbiter();
+    FocusArbiter() = default;
     ~FocusArbiter();
 
     LRESULT handle(HWND window, UINT message, WPARAM first, LPARAM second) override;

@@ -3,6 +3,7 @@
 #include "platform/win32/form_window.h"
 #include "platform/win32/keyboard.h"
 #include "platform/win32/text.h"
+#include "platform/win32/window_map.h"
 
 #include <commctrl.h>
 #include <windowsx.h>
@@ -81,7 +82,7 @@ LRESULT FormWindow::widgetMessage(Widget& widget, HWND window, UINT message, WPA
         return result;
     }
     case WM_NCDESTROY:
-        SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+        unbindObject(window);
         (window == widget.inner ? widget.inner : widget.window) = nullptr;
         break;
     default: break;

@@ -4,6 +4,7 @@
 #include "platform/win32/guard.h"
 #include "platform/win32/module.h"
 #include "platform/win32/text.h"
+#include "platform/win32/window_map.h"
 
 #include <commctrl.h>
 
@@ -58,7 +59,7 @@ bool isCombo(WidgetKind kind) noexcept
 
 LRESULT CALLBACK widgetProcedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
 {
-    auto* widget = reinterpret_cast<Widget*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    auto* widget = static_cast<Widget*>(boundObject(window));
     if (!widget)
         return DefWindowProcW(window, message, first, second);
     return guarded([&] { return widget->form->widgetMessage(*widget, window, message, first, second); }, LRESULT{0});
@@ -67,7 +68,7 @@ LRESULT CALLBACK widgetProcedure(HWND window, UINT message, WPARAM first, LPARAM
 WNDPROC subclass(HWND window, Widget& widget) noexcept
 {
     const auto original = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window, GWLP_WNDPROC));
-    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&widget));
+    bindObject(window, &widget);
     SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&widgetProcedure));
     return original;
 }
@@ -76,7 +77,7 @@ void unsubclass(HWND& window, WNDPROC original) noexcept
 {
     if (const HWND known = std::exchange(window, nullptr)) {
         SetWindowLongPtrW(known, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
-        SetWindowLongPtrW(known, GWLP_USERDATA, 0);
+        unbindObject(known);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/win32/guard.h"
 #include "platform/win32/module.h"
+#include "platform/win32/window_map.h"
 
 #include <array>
 #include <atomic>
@@ -17,10 +18,10 @@ LRESULT dispatch(HWND window, UINT message, WPARAM first, LPARAM second)
 {
     if (message == WM_NCCREATE) {
         const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(second);
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
+        bindObject(window, creation->lpCreateParams);
         return DefWindowProcW(window, message, first, second);
     }
-    auto* handler = reinterpret_cast<WindowHandler*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    auto* handler = static_cast<WindowHandler*>(boundObject(window));
     if (!handler && message == destroyMessage) {
         DestroyWindow(window);
         --waiting;
@@ -116,7 +117,7 @@ long windowsToDestroy() noexcept
 
 void unbind(HWND window) noexcept
 {
-    SetWindowLongPtrW(window, GWLP_USERDATA, 0);
+    unbindObject(window);
 }
 
 } // namespace vela::win32
