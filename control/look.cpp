@@ -38,7 +38,10 @@ void Vela::layOut()
                                          .ownBorder = !sunken,
                                          .border = border_,
                                          .back = surfaceBack_,
-                                         .button = buttonVisible_};
+                                         .button = buttonVisible_,
+                                         .glyph = settings_.textType == TipoText::Numerico
+                                                      ? platform::ButtonGlyph::calculator
+                                                      : platform::ButtonGlyph::calendar};
         if (look != surface_.look())
             surface_.putLook(look);
         surface_.arrange(arrangement());
