@@ -1,5 +1,5 @@
 // Replaces the global allocation functions by counting ones.
-#include "bench/allocations.h"
+#include "benchmarks/allocations.h"
 
 #include <cstdlib>
 #include <new>

@@ -1,5 +1,5 @@
 // The rows of the table: which benchmark stands beside which, and the ratio wanted.
-#include "bench/report.h"
+#include "benchmarks/report.h"
 
 #include <array>
 #include <iomanip>

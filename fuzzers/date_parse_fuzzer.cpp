@@ -3,7 +3,7 @@
 #include "engine/conversions.h"
 #include "engine/error.h"
 #include "engine/pattern.h"
-#include "fuzz/input.h"
+#include "fuzzers/input.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // What a field does for one key or one exit, beside ICU doing the nearest thing and beside the floor.
-#include "bench/allocations.h"
+#include "benchmarks/allocations.h"
 #include "engine/date_check.h"
 #include "engine/keystroke.h"
 #include "engine/letter_case.h"

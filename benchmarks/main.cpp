@@ -1,5 +1,5 @@
 // vela_bench [options of Google Benchmark] [FILE]: runs the benchmarks and prints their table, into FILE as well.
-#include "bench/report.h"
+#include "benchmarks/report.h"
 
 #include <fstream>
 #include <iostream>

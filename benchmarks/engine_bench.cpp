@@ -1,5 +1,5 @@
 // Conversions and patterns of the engine, beside ICU doing the same and beside the standard library's floor.
-#include "bench/allocations.h"
+#include "benchmarks/allocations.h"
 #include "engine/calendar_date.h"
 #include "engine/conversions.h"
 #include "engine/pattern.h"
