@@ -192,9 +192,9 @@ std::optional<Value> tryValueOf(const Word& word, const engine::Enumeration* enu
     const std::string text = toUtf8(word.bare);
     if (const auto colour = tryColour(text))
         return static_cast<std::int32_t>(colour->value);
-    if (const auto date = tryDate(text))
+    if (auto date = tryDate(text))
         return date;
-    if (const auto member = tryMember(word.bare, enumeration))
+    if (auto member = tryMember(word.bare, enumeration))
         return member;
     return tryNumber(text);
 }

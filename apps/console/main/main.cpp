@@ -3,11 +3,26 @@
 
 #include <cstdio>
 #include <fstream>
+#include <initializer_list>
 #include <iostream>
 #include <string>
 #include <string_view>
 
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
+
 namespace {
+
+// Bytes in, bytes out: no line ends of the system's own.
+void useBytes()
+{
+#ifdef _WIN32
+    for (const int stream : {0, 1, 2})
+        _setmode(stream, _O_BINARY);
+#endif
+}
 
 void writeTo(std::FILE* file, std::string_view bytes)
 {
@@ -28,6 +43,7 @@ int run(std::istream& script)
 
 int main(int argc, char** argv)
 {
+    useBytes();
     if (argc > 2) {
         std::fputs("usage: vela-console [FILE]\n", stderr);
         return 1;
