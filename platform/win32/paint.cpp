@@ -80,6 +80,26 @@ void paintRounded(HDC dc, const RECT& r, const BorderPen& pen)
     RoundRect(dc, r.left, r.top, r.right, r.bottom, diameter, diameter);
 }
 
+// Sunken, in shades of the border's own colour: dark above and left, the colour below and right.
+void paintSunken(HDC dc, const RECT& r, const BorderPen& pen)
+{
+    const COLORREF light = resolve(pen.colour, ColourRole::border);
+    const auto darker = [light](int percent) {
+        return RGB(GetRValue(light) * percent / 100, GetGValue(light) * percent / 100,
+                   GetBValue(light) * percent / 100);
+    };
+    const UniqueGdi<HBRUSH> bright(CreateSolidBrush(light));
+    const UniqueGdi<HBRUSH> dark(CreateSolidBrush(darker(60)));
+    const UniqueGdi<HBRUSH> darkest(CreateSolidBrush(darker(35)));
+    const int w = pen.width;
+    paintSide(dc, {r.left, r.bottom - w, r.right, r.bottom}, true, {}, w, bright.get());
+    paintSide(dc, {r.right - w, r.top, r.right, r.bottom}, false, {}, w, bright.get());
+    paintSide(dc, {r.left, r.top, r.right - w, r.top + w}, true, {}, w, dark.get());
+    paintSide(dc, {r.left, r.top, r.left + w, r.bottom - w}, false, {}, w, dark.get());
+    paintSide(dc, {r.left + w, r.top + w, r.right - w, r.top + 2 * w}, true, {}, w, darkest.get());
+    paintSide(dc, {r.left + w, r.top + w, r.left + 2 * w, r.bottom - w}, false, {}, w, darkest.get());
+}
+
 RECT inner(const RECT& place, int numerator, int denominator) noexcept
 {
     const LONG side = std::min(place.right - place.left, place.bottom - place.top) * numerator / denominator;
@@ -175,8 +195,7 @@ void paintText(HDC dc, RECT place, const FieldPicture& field, double scale)
 void paintBorder(HDC dc, const RECT& place, const BorderPen& pen)
 {
     if (pen.line == line3d) {
-        RECT edge = place;
-        DrawEdge(dc, &edge, EDGE_SUNKEN, BF_RECT);
+        paintSunken(dc, place, pen);
     } else if (pen.line == lineXp) {
         paintRounded(dc, place, pen);
     } else {
