@@ -127,6 +127,11 @@ LRESULT FormWindow::handle(HWND window, UINT message, WPARAM first, LPARAM secon
     }
     case WM_SETFOCUS: focusFirst(); return 0;
     case WM_TIMER: timer(); return 0;
+    case WM_GETOBJECT:
+        if (static_cast<LONG>(second) == OBJID_CLIENT)
+            if (const LRESULT answer = speech_.answer(window, first, *this))
+                return answer;
+        break;
     case WM_CLOSE: close(); return 0;
     default: break;
     }
@@ -136,6 +141,7 @@ LRESULT FormWindow::handle(HWND window, UINT message, WPARAM first, LPARAM secon
 // Destroyed with its parent or owner: the values stay, and a form of its own is closed.
 void FormWindow::unbound()
 {
+    speech_.forget();
     arbiter_.removeBorrower(std::exchange(window_, nullptr));
     shown_ = false;
     for (const auto& widget : widgets_)
@@ -272,6 +278,28 @@ LRESULT FormWindow::pointer(UINT message, LPARAM where)
     if (label && label == pressed)
         events_.clicked(label->id);
     return 0;
+}
+
+std::vector<SpokenLabel> FormWindow::spokenLabels() const
+{
+    std::vector<SpokenLabel> labels;
+    for (const auto& widget : widgets_) {
+        const bool named = !widget->look.spokenName.empty();
+        if (isWindow(widget->kind()) || !showing(*widget) || (!named && widget->text.empty()))
+            continue;
+        RECT place = rectOf(*widget);
+        MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&place), 2);
+        labels.push_back({widget->id.value, named ? widget->look.spokenName : withoutAccessKey(widget->text), place,
+                          widget->enabled, named});
+    }
+    return labels;
+}
+
+void FormWindow::clickLabel(int widget)
+{
+    const Running running(running_, life_);
+    if (at({widget}).enabled)
+        events_.clicked({widget});
 }
 
 // The topmost one: painted last.

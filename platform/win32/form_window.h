@@ -3,6 +3,7 @@
 
 #include "platform/win32/fonts.h"
 #include "platform/win32/form.h"
+#include "platform/win32/form_accessible.h"
 #include "platform/win32/form_widget.h"
 #include "platform/win32/life.h"
 #include "platform/win32/window.h"
@@ -15,7 +16,7 @@ namespace vela::win32 {
 
 class FocusArbiter;
 
-class FormWindow final : public Form, private WindowHandler {
+class FormWindow final : public Form, private WindowHandler, private SpokenForm {
 public:
     FormWindow(const platform::FormLayout& layout, platform::FormEvents& events);
     FormWindow(const FormWindow&) = delete;
@@ -117,6 +118,10 @@ private:
     void paintLabel(HDC dc, Widget& widget, RECT place);
     void paintFrame(HDC dc, Widget& widget, RECT place);
     void paintPane(HDC dc, const Widget& widget, RECT place);
+    // For screen readers (form_messages.cpp).
+    [[nodiscard]] std::vector<SpokenLabel> spokenLabels() const override;
+    void clickLabel(int widget) override;
+
     void drawItem(const DRAWITEMSTRUCT& item);
     void repaint(const Widget& widget);
 
@@ -138,6 +143,7 @@ private:
     bool quiet_ = false; // windows are being written
     bool swallowChar_ = false;
     int running_ = 0; // procedures of its windows that are under way
+    FormSpeech speech_;
     Life life_;
 };
 

@@ -226,6 +226,7 @@ void FormWindow::dropWindows()
         unsubclass(widget->window, widget->original);
     }
     pressed_ = nullptr;
+    speech_.forget();
     const HWND window = std::exchange(window_, nullptr);
     if (!window)
         return;

@@ -11,6 +11,10 @@
 #include <gtest/gtest.h>
 
 #include <commctrl.h>
+#include <objbase.h>
+#include <oleauto.h>
+
+#include <oleacc.h>
 
 #include <algorithm>
 #include <array>
@@ -241,6 +245,67 @@ TEST_F(Windows, TheTooltipsRecordReachesTheControl)
     const HWND window = tip.handle();
     tip.destroy();
     EXPECT_FALSE(IsWindow(window));
+}
+
+TEST_F(Windows, AReaderHearsThePaintedLabels)
+{
+    struct Silent final : platform::FormEvents {
+        void clicked(platform::WidgetId widget) override { last = widget; }
+        void doubleClicked(platform::WidgetId) override {}
+        void changed(platform::WidgetId) override {}
+        void gotFocus(platform::WidgetId) override {}
+        void lostFocus(platform::WidgetId) override {}
+        void keyDown(platform::WidgetId, int&, int&) override {}
+        void keyPress(platform::WidgetId, int&) override {}
+        void activated() override {}
+        void deactivated() override {}
+        void tick() override {}
+        void closed() override {}
+        platform::WidgetId last;
+    } events;
+    static constexpr std::array<platform::WidgetRow, 2> rows{
+        {{.kind = platform::WidgetKind::label, .name = u"a", .caption = u"&Nome", .place = {0, 0, 600, 300}},
+         {.kind = platform::WidgetKind::label, .name = u"b", .caption = u"31", .place = {0, 600, 600, 300}}}};
+    static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
+    const auto form = stage->forms().make(layout, events);
+    platform::WidgetLook look = form->look({1});
+    look.spokenName = u"31 de dezembro de 2024, selecionado";
+    form->putLook({1}, look);
+    form->showPopup({200, 200, 110, 109}, stage->field(0).window());
+
+    CoInitialize(nullptr);
+    {
+        using FromWindow = HRESULT(WINAPI*)(HWND, DWORD, REFIID, void**);
+        const HMODULE service = LoadLibraryW(L"oleacc.dll");
+        ASSERT_TRUE(service);
+        const auto fromWindow = reinterpret_cast<FromWindow>(
+            reinterpret_cast<void*>(GetProcAddress(service, "AccessibleObjectFromWindow")));
+        const IID wanted{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
+        void* found = nullptr;
+        ASSERT_EQ(fromWindow(windowOf(form->window()), static_cast<DWORD>(OBJID_CLIENT), wanted, &found), S_OK);
+        auto* reader = static_cast<IAccessible*>(found);
+        const auto nameOf = [reader](LONG child) {
+            VARIANT number{};
+            number.vt = VT_I4;
+            number.lVal = child;
+            BSTR name = nullptr;
+            reader->get_accName(number, &name);
+            const std::wstring heard = name ? name : L"";
+            SysFreeString(name);
+            return heard;
+        };
+        EXPECT_EQ(nameOf(1), L"Nome");
+        EXPECT_EQ(nameOf(2), L"31 de dezembro de 2024, selecionado");
+        VARIANT day{};
+        day.vt = VT_I4;
+        day.lVal = 2;
+        EXPECT_EQ(reader->accDoDefaultAction(day), S_OK);
+        EXPECT_EQ(events.last, platform::WidgetId{1});
+        form->close();
+        EXPECT_EQ(nameOf(2), L"");
+        reader->Release();
+    }
+    CoUninitialize();
 }
 
 TEST_F(Windows, ManyFieldsLeaveNothingBehind)
