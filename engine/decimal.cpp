@@ -2,12 +2,12 @@
 #include "engine/decimal.h"
 
 #include "engine/error.h"
+#include "engine/exact_decimal.h"
 
 #include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <string_view>
 
 namespace vela::engine {
 namespace {
@@ -68,35 +68,38 @@ void takeScientific(Decimal& decimal, const char* first, const char* last) noexc
     decimal.point = exponent + 1;
 }
 
-void takeDigits(Decimal& decimal, double magnitude, int digits) noexcept
+std::uint64_t wholeOf(const Decimal& decimal) noexcept
 {
-    std::array<char, 96> text;
-    const auto last =
-        std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific, digits - 1).ptr;
-    takeScientific(decimal, text.data(), last);
+    std::uint64_t whole = 0;
+    for (int i = 0; i < decimal.count; ++i) {
+        whole = whole * 10 + static_cast<std::uint64_t>(decimal.digits[static_cast<std::size_t>(i)] - '0');
+    }
+    return whole;
 }
 
-// Exactly half way between two decimals of 15 digits: 15048581.80078125.
-bool isTie(double magnitude) noexcept
-{
-    std::array<char, 96> text;
-    const auto last = std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific,
-                                    significantDigits + 40)
-                          .ptr;
-    const std::string_view digits(text.data(), static_cast<std::size_t>(last - text.data()));
-    const std::string_view beyond = digits.substr(significantDigits + 1, 41); // behind "d." and 14 digits
-    return beyond.front() == '5' && beyond.find_first_not_of('0', 1) == std::string_view::npos;
-}
-
-// More than 15 digits become 15; ties away from zero.
+// More than 15 digits become 15; ties away from zero. A number and its shortest decimal lie on the same side of a
+// half-way point, which would be the shorter decimal of the two if it stood between them; unless the shortest decimal
+// is that point: 0.1000000000000005 stands for a number above or below it.
 void takeRounded(Decimal& decimal, double magnitude) noexcept
 {
-    const bool sixteen = decimal.count == significantDigits + 1 && decimal.digits[significantDigits] == '5';
-    if (sixteen && isTie(magnitude)) {
-        roundTo(decimal, significantDigits);
+    const bool halfWay = decimal.count == significantDigits + 1 && decimal.digits[significantDigits] == '5';
+    if (halfWay && compareExactly(magnitude, wholeOf(decimal), decimal.point - decimal.count) < 0) {
+        --decimal.count;
     } else {
-        takeDigits(decimal, magnitude, significantDigits);
+        roundTo(decimal, significantDigits);
     }
+}
+
+// The shortest decimal of a denormalised number has fewer digits than the number itself shows: 5e-324 is
+// 4.94065645841247e-324.
+void takeDenormal(Decimal& decimal, double magnitude) noexcept
+{
+    int scale = significantDigits - decimal.point;
+    std::uint64_t whole = scaledDenormal(magnitude, scale);
+    if (whole < 100'000'000'000'000) { // a digit short: the shortest decimal was the next power of ten
+        whole = scaledDenormal(magnitude, ++scale);
+    }
+    takeWhole(decimal, whole, scale);
 }
 
 } // namespace
@@ -119,7 +122,9 @@ Decimal decimalOf(double number)
     const auto last =
         std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific).ptr;
     takeScientific(decimal, text.data(), last);
-    if (decimal.count > significantDigits || magnitude < std::numeric_limits<double>::min()) {
+    if (magnitude < std::numeric_limits<double>::min()) {
+        takeDenormal(decimal, magnitude);
+    } else if (decimal.count > significantDigits) {
         takeRounded(decimal, magnitude);
     }
     trimZeros(decimal);
