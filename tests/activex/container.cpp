@@ -286,6 +286,13 @@ Site& Form::addActive(const wchar_t* progId)
     return site;
 }
 
+void Form::remove(Site& site)
+{
+    site.close();
+    std::erase_if(sites_, [&](const ComPtr<Site>& one) { return one.get() == &site; });
+    run();
+}
+
 IOleInPlaceFrame* Form::frame() const noexcept
 {
     return frame_.get();

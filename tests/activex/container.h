@@ -121,6 +121,7 @@ public:
 
     Site& add(SiteOptions options = {}, const wchar_t* progId = L"Vela.Vela");
     Site& addActive(const wchar_t* progId = L"Vela.Vela"); // in place, one below the other
+    void remove(Site& site);                               // closed and let go
     [[nodiscard]] HWND window() const noexcept { return window_; }
     [[nodiscard]] IOleInPlaceFrame* frame() const noexcept;
     [[nodiscard]] IOleInPlaceActiveObject* active() const noexcept;

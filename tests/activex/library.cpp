@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cwchar>
 
 namespace vela::test {
 
@@ -101,6 +102,51 @@ void pumpFor(DWORD milliseconds)
         }
         MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
     } while (GetTickCount() - start < milliseconds);
+}
+
+namespace {
+
+std::vector<std::u16string> boxTexts;
+
+// The last static of a box is its text, the first may be its icon.
+BOOL CALLBACK takeText(HWND child, LPARAM)
+{
+    wchar_t name[16]{};
+    wchar_t text[256]{};
+    GetClassNameW(child, name, 16);
+    GetWindowTextW(child, text, 256);
+    if (lstrcmpiW(name, L"Static") == 0 && *text)
+        boxTexts.emplace_back(asText(text, std::wcslen(text)));
+    return TRUE;
+}
+
+LRESULT CALLBACK answerBox(int code, WPARAM window, LPARAM detail)
+{
+    wchar_t name[16]{};
+    if (code == HCBT_ACTIVATE && GetClassNameW(reinterpret_cast<HWND>(window), name, 16) &&
+        lstrcmpW(name, L"#32770") == 0) {
+        const HWND box = reinterpret_cast<HWND>(window);
+        EnumChildWindows(box, takeText, 0);
+        PostMessageW(box, WM_COMMAND, IDOK, 0);
+    }
+    return CallNextHookEx(nullptr, code, window, detail);
+}
+
+} // namespace
+
+AnsweredBoxes::AnsweredBoxes() : hook_(SetWindowsHookExW(WH_CBT, answerBox, nullptr, GetCurrentThreadId()))
+{
+    boxTexts.clear();
+}
+
+AnsweredBoxes::~AnsweredBoxes()
+{
+    UnhookWindowsHookEx(hook_);
+}
+
+const std::vector<std::u16string>& AnsweredBoxes::texts()
+{
+    return boxTexts;
 }
 
 LeakCheck::LeakCheck() : objects_(liveObjects), unloadable_(canUnload() == S_OK) {}

@@ -4,6 +4,7 @@
 #include "com_object.h"
 
 #include <string>
+#include <vector>
 
 namespace vela::test {
 
@@ -20,6 +21,19 @@ HRESULT callInstall(bool install, const wchar_t* commandLine);
 
 void pump();                      // until there is no message
 void pumpFor(DWORD milliseconds); // timers too
+
+// Closes each message box of this thread as it comes up, with its first button, and keeps what it said.
+class AnsweredBoxes {
+public:
+    AnsweredBoxes();
+    AnsweredBoxes(const AnsweredBoxes&) = delete;
+    AnsweredBoxes& operator=(const AnsweredBoxes&) = delete;
+    ~AnsweredBoxes();
+    [[nodiscard]] static const std::vector<std::u16string>& texts(); // of the boxes since the last was constructed
+
+private:
+    HHOOK hook_;
+};
 
 // Fails the test when what the body made is still alive at its end.
 class LeakCheck {

@@ -170,6 +170,7 @@ TEST(Pages, BadSelectionsAreRefusedAndThePageStaysUsable)
 
 TEST(Pages, AControlDestroyedWhileItsPageIsOpen)
 {
+    const AnsweredBoxes boxes;
     const LeakCheck leaks;
     Form form;
     Site& site = form.addActive();

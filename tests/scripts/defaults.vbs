@@ -43,7 +43,7 @@ c.EsquemaRetornoAtual = 1
 Same "Value in scheme 1", c.Value, "#ação#"
 c.EsquemaRetornoAtual = 7
 Same "EsquemaRetornoAtual unchecked", c.EsquemaRetornoAtual, 7
-c.BackColor = &H0000FFFF
+c.BackColor = &H0000FFFF&
 Same "BackColorGotFocus follows", Hex(c.BackColorGotFocus), "FFFF"
 
 c.Mask = "__-__"

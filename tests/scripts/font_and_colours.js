@@ -1,4 +1,4 @@
-// The font object, the shared calendar colours and the calendar control from JScript.
+// The font object, the shared calendar colours and errors from JScript.
 var failures = 0;
 function same(what, found, expected) {
   if (String(found) !== String(expected)) {
@@ -29,11 +29,6 @@ same("error number", number(function () { field.PasswordChar = "ab"; }), 380);
 same("type mismatch", number(function () { field.QtdCasasDec = "x"; }), 13);
 same("window", field.hwnd !== 0 && field.HwndCtl !== 0, true);
 field.DestruirToolTip();
-
-var calendar = new ActiveXObject("Vela.cCalendar");
-calendar.IniciaCalendario(new Date(2024, 1, 29).getVarDate());
-same("calendar", new Date(calendar.DateInitial).getDate(), 29);
-same("highlight", calendar.IncluiDataRealcada(new Date(2024, 1, 29).getVarDate()), undefined);
 
 if (failures === 0) WScript.Echo("passed");
 WScript.Quit(failures);
