@@ -25,7 +25,7 @@ extern "C" HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID clsid, REFIID iid, 
 
 extern "C" HRESULT STDAPICALLTYPE DllCanUnloadNow()
 {
-    return activex::ModuleLock::any() ? S_FALSE : S_OK;
+    return activex::ModuleLock::any() || win32::windowsToDestroy() > 0 ? S_FALSE : S_OK;
 }
 
 extern "C" HRESULT STDAPICALLTYPE DllRegisterServer()
