@@ -7,12 +7,12 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <limits>
 
 namespace vela::engine {
 namespace {
 
 constexpr int significantDigits = 15;
+constexpr std::uint64_t tenToTheFifteenth = 1'000'000'000'000'000;
 
 void trimZeros(Decimal& decimal) noexcept
 {
@@ -51,53 +51,19 @@ bool takeAmount(Decimal& decimal, double magnitude) noexcept
     return false;
 }
 
-// From "d.ddde-12".
-void takeScientific(Decimal& decimal, const char* first, const char* last) noexcept
-{
-    decimal.count = 0;
-    for (; first != last && *first != 'e'; ++first) {
-        if (*first != '.') {
-            decimal.digits[static_cast<std::size_t>(decimal.count++)] = *first;
-        }
-    }
-    int exponent = 0;
-    if (first != last) {
-        first += first[1] == '+' ? 2 : 1;
-        std::from_chars(first, last, exponent);
-    }
-    decimal.point = exponent + 1;
-}
-
-std::uint64_t wholeOf(const Decimal& decimal) noexcept
-{
-    std::uint64_t whole = 0;
-    for (int i = 0; i < decimal.count; ++i) {
-        whole = whole * 10 + static_cast<std::uint64_t>(decimal.digits[static_cast<std::size_t>(i)] - '0');
-    }
-    return whole;
-}
-
-// More than 15 digits become 15; ties away from zero. A number and its shortest decimal lie on the same side of a
-// half-way point, which would be the shorter decimal of the two if it stood between them; unless the shortest decimal
-// is that point: 0.1000000000000005 stands for a number above or below it.
+// Any number: as a whole number of 15 digits and the power of ten that makes it one.
 void takeRounded(Decimal& decimal, double magnitude) noexcept
 {
-    const bool halfWay = decimal.count == significantDigits + 1 && decimal.digits[significantDigits] == '5';
-    if (halfWay && compareExactly(magnitude, wholeOf(decimal), decimal.point - decimal.count) < 0) {
-        --decimal.count;
-    } else {
-        roundTo(decimal, significantDigits);
-    }
-}
-
-// The shortest decimal of a denormalised number has fewer digits than the number itself shows: 5e-324 is
-// 4.94065645841247e-324.
-void takeDenormal(Decimal& decimal, double magnitude) noexcept
-{
-    int scale = significantDigits - decimal.point;
-    std::uint64_t whole = scaledDenormal(magnitude, scale);
-    if (whole < 100'000'000'000'000) { // a digit short: the shortest decimal was the next power of ten
-        whole = scaledDenormal(magnitude, ++scale);
+    int scale = significantDigits - 1 - static_cast<int>(std::floor(std::log10(magnitude)));
+    std::uint64_t whole = scaledExactly(magnitude, scale);
+    if (whole > tenToTheFifteenth) { // the logarithm was just below a power of ten
+        whole = scaledExactly(magnitude, --scale);
+    } else if (whole <= tenToTheFifteenth / 10) { // or just above one, or the number is one
+        const std::uint64_t finer = scaledExactly(magnitude, scale + 1);
+        if (finer < tenToTheFifteenth) {
+            whole = finer;
+            ++scale;
+        }
     }
     takeWhole(decimal, whole, scale);
 }
@@ -118,16 +84,7 @@ Decimal decimalOf(double number)
     if (magnitude >= 1e-4 && takeAmount(decimal, magnitude)) {
         return decimal;
     }
-    std::array<char, 32> text;
-    const auto last =
-        std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific).ptr;
-    takeScientific(decimal, text.data(), last);
-    if (magnitude < std::numeric_limits<double>::min()) {
-        takeDenormal(decimal, magnitude);
-    } else if (decimal.count > significantDigits) {
-        takeRounded(decimal, magnitude);
-    }
-    trimZeros(decimal);
+    takeRounded(decimal, magnitude);
     return decimal;
 }
 
