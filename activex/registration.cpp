@@ -256,9 +256,11 @@ Failure deleteAll(HKEY root)
 // regsvr32 /s, and whoever else has no wish for boxes.
 bool wantsSilence()
 {
-    const std::wstring line = GetCommandLineW();
-    return line.find(L" /s") != std::wstring::npos || line.find(L" /S") != std::wstring::npos ||
-           line.find(L" -s") != std::wstring::npos;
+    const std::wstring line = GetCommandLineW() + std::wstring(L" ");
+    for (const wchar_t* const option : {L" /s ", L" /S ", L" -s ", L" -S "})
+        if (line.find(option) != std::wstring::npos)
+            return true;
+    return false;
 }
 
 HRESULT report(HKEY root, const Failure& failure)

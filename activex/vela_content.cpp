@@ -14,11 +14,6 @@ namespace {
 
 constexpr CLSID pages[] = {principalPage, geralPage, errosPage, fontePage, calendarioPage};
 
-bool isWindowMember(const Member& member) noexcept
-{
-    return member.name == u"hwnd" || member.name == u"HwndCtl";
-}
-
 IUnknown* objectIn(const VARIANT& value)
 {
     switch (value.vt) {
@@ -91,8 +86,8 @@ Variant VelaContent::get(const Member& member)
         result.ref().vt = VT_DISPATCH;
         return result;
     }
-    if (isWindowMember(member))
-        needWindow();
+    if (property.type == control::PropertyType::longInteger && property.access == control::Access::read)
+        needWindow(); // hwnd and HwndCtl
     return propertyVariant(property, control::getProperty(vela_, property));
 }
 

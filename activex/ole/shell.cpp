@@ -119,9 +119,9 @@ void Shell::end() noexcept
 {
     if (std::exchange(ended_, true))
         return;
-    activation_.deactivate();
     if (content_)
-        content_->terminate();
+        content_->terminate(); // first: losing its window is no leaving of the field
+    activation_.deactivate();
     connections_.clear();
     site_.put(nullptr);
 }
