@@ -235,14 +235,16 @@ TEST_F(PopupsInWindows, TheOwnerMayGoInsideItsPut)
     EXPECT_EQ(field.puts.size(), 2U);
 }
 
+BOOL CALLBACK countWindow(HWND, LPARAM into)
+{
+    ++*reinterpret_cast<int*>(into);
+    return TRUE;
+}
+
 int threadWindows()
 {
     int count = 0;
-    const auto counting = [](HWND, LPARAM into) -> BOOL {
-        ++*reinterpret_cast<int*>(into);
-        return TRUE;
-    };
-    EnumThreadWindows(GetCurrentThreadId(), counting, reinterpret_cast<LPARAM>(&count));
+    EnumThreadWindows(GetCurrentThreadId(), countWindow, reinterpret_cast<LPARAM>(&count));
     return count;
 }
 
