@@ -6,7 +6,7 @@ write() { xdotool type --clearmodifiers --delay 30 "$1"; sleep 0.2; }
 field() { write "$2"; keys Tab; } # the name is for the reader
 
 # place NAME: sets left top right bottom of a field on the screen
-place() { read -r left top right bottom < <(awk -v n="$1" '$1 == "place" && $2 == n {print $3, $4, $5, $6}' "$out/output.txt"); }
+place() { read -r left top right bottom < <(awk -v n="$1" '$1 == "place" && $2 == n {print $3, $4, $5, $6}' <(tr -d '\r' <"$out/output.txt")); }
 click_at() { xdotool mousemove "$1" "$2" click 1; sleep 0.4; }
 
 focus_form() {
@@ -23,7 +23,7 @@ drive_fields() {
   field Placa 'abc1234'
   field CPF '12345678909'
   field Senha 'segredo'
-  write 'primeira linha'; keys Return; field Notas 'segunda linha'
+  write 'primeira linha'; keys Return; field Notas 'segunda linha'; keys Tab
   field Preco '1234,5'
   field Percentual '12,5'
   field Caixa '123456'
@@ -38,8 +38,8 @@ drive_fields() {
   for border in Solida Tracos Pontos TracosPontos Relevo XP; do field "$border" "borda"; done
 
   place Data; click_at $((right - 9)) $(((top + bottom) / 2)); sleep 0.6; picture calendar
-  place Preco; click_at $((left + 20)) $(((top + bottom) / 2)); keys F2; sleep 0.6; picture calculator
-  keys 2 plus 3 equal F2; sleep 0.4
+  place Percentual; click_at $((left + 20)) $(((top + bottom) / 2)); keys F2; sleep 0.6; picture calculator
+  keys plus 3 equal; sleep 0.2; picture calculator-result; keys F2; sleep 0.4
   place Nome; click_at $((left + 20)) $(((top + bottom) / 2))
   keys F9; sleep 0.8
   picture form

@@ -69,14 +69,26 @@ compile() {
 
 # A display of our own, unless VELA_DISPLAY names one to use.
 start_display() {
-  local number=90
-  while [ -e "/tmp/.X11-unix/X$number" ] || [ -e "/tmp/.X$number-lock" ]; do number=$((number + 1)); done
-  Xvfb ":$number" -screen 0 "${1:-1024x768x24}" -nolisten tcp >"$logs/xvfb.log" 2>&1 &
+  local chosen=$logs/display.$$ tries=0
+  : >"$chosen"
+  Xvfb -displayfd 3 -screen 0 "${1:-1024x768x24}" -nolisten tcp 3>"$chosen" >"$logs/xvfb.log" 2>&1 &
   display_pid=$!
-  export DISPLAY=:$number
+  until [ -s "$chosen" ]; do
+    tries=$((tries + 1)); [ $tries -lt 300 ] || { say "No display could be started"; return 1; }
+    sleep 0.1
+  done
+  export DISPLAY=:$(<"$chosen")
+  rm -f "$chosen"
+}
+
+# Title bars and activation as a person's desktop has them; without one, each window that goes is waited for.
+start_window_manager() {
+  need openbox
+  openbox --sm-disable >"$logs/openbox.log" 2>&1 &
+  manager_pid=$!
   local tries=0
-  until xdpyinfo >/dev/null 2>&1; do
-    tries=$((tries + 1)); [ $tries -lt 100 ] || { say "No display could be started"; return 1; }
+  until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; do
+    tries=$((tries + 1)); [ $tries -lt 100 ] || { say "No window manager could be started"; return 1; }
     sleep 0.1
   done
 }
@@ -122,5 +134,6 @@ stop_wine() {
 
 clean_up() {
   stop_wine
+  [ -z "${manager_pid:-}" ] || kill "$manager_pid" 2>/dev/null || true
   [ -z "${display_pid:-}" ] || kill "$display_pid" 2>/dev/null || true
 }

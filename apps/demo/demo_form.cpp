@@ -49,7 +49,7 @@ std::wstring DemoForm::open(HINSTANCE instance)
     dpi_ = GetDeviceCaps(screen, LOGPIXELSX);
     ReleaseDC(nullptr, screen);
     RECT size{0, 0, scaled(clientWidth), scaled(clientHeight)};
-    constexpr DWORD style = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
+    constexpr DWORD style = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
     AdjustWindowRectEx(&size, style, FALSE, WS_EX_CONTROLPARENT);
     font_ = CreateFontW(-MulDiv(8, dpi_, 72), 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"Tahoma");
     window_ = CreateWindowExW(WS_EX_CONTROLPARENT, windowClassName, L"Vela - demonstração", style, 20, 20,
@@ -205,6 +205,15 @@ LRESULT CALLBACK DemoForm::windowProcedure(HWND window, UINT message, WPARAM wPa
     }
 }
 
+// As a dialog does: who had the focus has it again when the form is active again.
+void DemoForm::keepFocus(bool active)
+{
+    if (active)
+        SetFocus(IsWindow(focused_) ? focused_ : window_);
+    else if (!active && IsChild(window_, GetFocus()))
+        focused_ = GetFocus();
+}
+
 LRESULT DemoForm::handle(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message) {
@@ -212,6 +221,7 @@ LRESULT DemoForm::handle(UINT message, WPARAM wParam, LPARAM lParam)
         if (HIWORD(wParam) == BN_CLICKED)
             command(LOWORD(wParam));
         return 0;
+    case WM_ACTIVATE: keepFocus(LOWORD(wParam) != WA_INACTIVE); return 0;
     case WM_DESTROY:
         for (Field& field : fields_)
             field.site->close();

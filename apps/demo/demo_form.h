@@ -32,6 +32,7 @@ private:
     };
 
     static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+    void keepFocus(bool active);
     LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
     void command(int id);
     [[nodiscard]] bool translated(MSG& message);
@@ -46,6 +47,7 @@ private:
     HWND window_ = nullptr;
     HWND values_ = nullptr;
     HWND status_ = nullptr;
+    HWND focused_ = nullptr; // while another window is active
     HFONT font_ = nullptr;
     int dpi_ = 96;
     int nextY_[columnCount] = {};

@@ -8,7 +8,7 @@ namespace {
 // Enumerated settings by their stored numbers.
 constexpr long numerico = 1, data = 2, mascara = 3;
 constexpr long maisculo = 1, properCase = 3;
-constexpr long ponto = 1, virgula = 2;
+constexpr long vazio = 0, ponto = 1, virgula = 2;
 constexpr long flat = 0;
 constexpr long warning = 2;
 
@@ -91,6 +91,13 @@ std::vector<FieldRow> textRows()
         {L"CPF", L"CP&F", 0, 1, false, mask(L"___.___.___-__", L"###.###.###-##")},
         {L"Senha", L"&Senha", 0, 1, false, {text(L"PasswordChar", L"*")}},
         {L"Notas", L"&Observações", 0, 4, false, {on(L"MultLine")}},
+        {L"Inativo", L"Desabilitado", 0, 1, false, {off(L"Enabled"), text(L"Text", L"sem edição")}},
+        {L"Bloqueado",
+         L"Somente leitura",
+         0,
+         1,
+         false,
+         with(mask(L"__.___-___", L"##.###-###"), {on(L"Locked"), text(L"Text", L"01.310-100")})},
     };
 }
 
@@ -99,7 +106,7 @@ std::vector<FieldRow> valueRows()
     return {
         {L"Preco", L"P&reço", 1, 1, true, money(L"R$ ")},
         {L"Percentual", L"Percen&tual", 1, 1, true, money(L";%")},
-        {L"Caixa", L"&Valor do caixa", 1, 1, true, with(money(L""), {on(L"MaskToNumeric")})},
+        {L"Caixa", L"&Valor do caixa", 1, 1, true, with(money(L""), {on(L"MaskToNumeric"), number(L"SimbolAgrupMilhar", vazio)})},
         {L"Data", L"&Data", 1, 1, true, with(date(L"dd/mm/yyyy", L"__/__/____"), {on(L"ShowButtonCalendario")})},
         {L"Hora", L"&Hora", 1, 1, true, date(L"hh:nn", L"__:__")},
         {L"Emissao", L"&Emissão (hoje)", 1, 1, true,

@@ -143,6 +143,7 @@ bool PropertyFrame::open(std::span<IUnknown* const> objects, const std::wstring&
         return false;
     select(0);
     ShowWindow(window_, SW_SHOW);
+    SetFocus(GetNextDlgTabItem(window_, nullptr, FALSE));
     return true;
 }
 
@@ -238,6 +239,7 @@ void PropertyFrame::select(std::size_t page)
     current_ = page;
     SendMessageW(tabs_, TCM_SETCURSEL, page, 0);
     pages_[current_]->show(window_, pagePlace());
+    SetWindowPos(tabs_, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE); // behind the page
 }
 
 IPropertyPage* PropertyFrame::page(std::size_t index) const
@@ -319,6 +321,11 @@ bool PropertyFrame::translated(MSG& message)
 {
     if (message.hwnd != window_ && !IsChild(window_, message.hwnd))
         return false;
+    if (message.message == WM_KEYDOWN && message.wParam == VK_TAB && GetKeyState(VK_CONTROL) < 0) {
+        const std::size_t step = GetKeyState(VK_SHIFT) < 0 ? pages_.size() - 1 : 1;
+        select((current_ + step) % pages_.size());
+        return true;
+    }
     if (message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST &&
         pages_[current_]->page()->TranslateAccelerator(&message) == S_OK)
         return true;

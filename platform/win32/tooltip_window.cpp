@@ -25,7 +25,9 @@ bool TooltipWindow::create(platform::WindowId parent)
     destroy();
     const HWND owner = reinterpret_cast<HWND>(parent.value);
     const ActivationContext controls;
-    window_ = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, 0, 0, 0, 0, 0, owner, nullptr, nullptr, nullptr);
+    // No style of the tooltip's own: the default look. A pop-up is what the class makes of itself; asked for as one, it is
+    // never framed nor given the focus by a window manager.
+    window_ = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP, 0, 0, 0, 0, owner, nullptr, nullptr, nullptr);
     // The record without its reserved field: 44 bytes in 32 bit, 64 in 64 bit. Version 5 refuses the longer one.
     tool_ = {};
     tool_.cbSize = offsetof(TTTOOLINFOA, lpReserved);
