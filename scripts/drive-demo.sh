@@ -32,7 +32,7 @@ drive_fields() {
   keys Tab
   write 'zeca'; sleep 0.6; picture entry-tip; keys Tab
   field Vencimento '31022024'; sleep 0.6; picture error-alert; keys Tab
-  field Cores 'azul'
+  write 'azul'; picture focus; keys Tab
   place Cores; xdotool mousemove $((left + 30)) $(((top + bottom) / 2)); sleep 0.4; picture hover
   xdotool mousemove 5 5; sleep 0.3
   for border in Solida Tracos Pontos TracosPontos Relevo XP; do field "$border" "borda"; done

@@ -157,6 +157,14 @@ void DemoForm::showValues()
     WriteFile(GetStdHandle(STD_OUTPUT_HANDLE), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
 }
 
+std::size_t DemoForm::indexOf(std::wstring_view name) const noexcept
+{
+    std::size_t index = 0;
+    while (index < fields_.size() && name != fields_[index].row->name)
+        ++index;
+    return index;
+}
+
 void DemoForm::showProperties(std::size_t field)
 {
     if (field >= fields_.size())

@@ -20,7 +20,8 @@ public:
     [[nodiscard]] std::wstring open(HINSTANCE instance);
     // Runs until the form is closed.
     void run();
-    void showProperties(std::size_t field); // 0-based
+    [[nodiscard]] std::size_t indexOf(std::wstring_view name) const noexcept; // the number of fields when there is none
+    void showProperties(std::size_t field);                                   // 0-based
     // "place NAME LEFT TOP RIGHT BOTTOM" for each field, in screen pixels, on standard output.
     void printPlaces() const;
 

@@ -29,12 +29,12 @@ Setting text(const wchar_t* key, const wchar_t* value)
     return {key, OleValue(std::wstring_view(value))};
 }
 
-std::vector<Setting> money(const wchar_t* symbol)
+std::vector<Setting> money(const wchar_t* symbol, long grouping = ponto)
 {
     return {number(L"TextType", numerico),
             number(L"SimbolDecExib", virgula),
             number(L"SimbolDecRet", virgula),
-            number(L"SimbolAgrupMilhar", ponto),
+            number(L"SimbolAgrupMilhar", grouping),
             number(L"QtdCasasDec", 2),
             text(L"SimboloMonetario", symbol),
             on(L"AceitaNegativos"),
@@ -77,6 +77,12 @@ std::vector<Setting> with(std::vector<Setting> settings, std::initializer_list<S
     return settings;
 }
 
+// Ungrouped: leaving reads the whole part up to its first ".".
+std::vector<Setting> cashRegister()
+{
+    return with(money(L"", vazio), {on(L"MaskToNumeric")});
+}
+
 std::vector<FieldRow> textRows()
 {
     return {
@@ -92,12 +98,8 @@ std::vector<FieldRow> textRows()
         {L"Senha", L"&Senha", 0, 1, false, {text(L"PasswordChar", L"*")}},
         {L"Notas", L"&Observações", 0, 4, false, {on(L"MultLine")}},
         {L"Inativo", L"Desabilitado", 0, 1, false, {off(L"Enabled"), text(L"Text", L"sem edição")}},
-        {L"Bloqueado",
-         L"Somente leitura",
-         0,
-         1,
-         false,
-         with(mask(L"__.___-___", L"##.###-###"), {on(L"Locked"), text(L"Text", L"01.310-100")})},
+        {L"Bloqueado", L"Somente leitura", 0, 1, false,
+         with(mask(L"__.___-___", L"##.###-###"), {on(L"Locked"), text(L"ValorPadrao", L"01310100")})},
     };
 }
 
@@ -106,7 +108,7 @@ std::vector<FieldRow> valueRows()
     return {
         {L"Preco", L"P&reço", 1, 1, true, money(L"R$ ")},
         {L"Percentual", L"Percen&tual", 1, 1, true, money(L";%")},
-        {L"Caixa", L"&Valor do caixa", 1, 1, true, with(money(L""), {on(L"MaskToNumeric"), number(L"SimbolAgrupMilhar", vazio)})},
+        {L"Caixa", L"&Valor do caixa", 1, 1, true, cashRegister()},
         {L"Data", L"&Data", 1, 1, true, with(date(L"dd/mm/yyyy", L"__/__/____"), {on(L"ShowButtonCalendario")})},
         {L"Hora", L"&Hora", 1, 1, true, date(L"hh:nn", L"__:__")},
         {L"Emissao", L"&Emissão (hoje)", 1, 1, true,

@@ -35,7 +35,7 @@ int main(int argc, char** argv)
     std::puts("ready");
     std::fflush(stdout);
     if (argc > 1 && std::strcmp(argv[1], "--design") == 0)
-        form.showProperties(argc > 2 ? static_cast<std::size_t>(std::atoi(argv[2])) : 6);
+        form.showProperties(argc > 2 ? static_cast<std::size_t>(std::atoi(argv[2])) : form.indexOf(L"Preco"));
     form.run();
     return 0;
 }
