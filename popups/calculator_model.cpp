@@ -19,9 +19,14 @@ double fitting(double number)
 
 } // namespace
 
-void CalculatorModel::handOver(bool decimalFlag) noexcept
+void CalculatorModel::continueNumber() noexcept
 {
     state_.last = LastInput::number;
+}
+
+void CalculatorModel::handOver(bool decimalFlag) noexcept
+{
+    continueNumber();
     state_.decimalFlag = decimalFlag;
 }
 

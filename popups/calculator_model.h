@@ -25,6 +25,7 @@ public:
     static constexpr int digitLimit = 16; // characters of the display that digits may fill
     static constexpr std::array<std::u16string_view, 5> operators = {u"/", u"+", u"X", u"-", u"="};
 
+    void continueNumber() noexcept; // the display counts as a number being typed
     // The display hands a number over as if it were being typed.
     void handOver(bool decimalFlag) noexcept;
     void resetForLoad() noexcept; // operands stay

@@ -23,6 +23,7 @@ public:
     void setOwner(Owner* owner) noexcept { owner_ = owner; }
     [[nodiscard]] Owner* owner() const noexcept { return owner_; }
 
+    void continueNumber() noexcept { model_.continueNumber(); }
     void handOver(bool decimalFlag) noexcept { model_.handOver(decimalFlag); }
     void putDisplay(std::u16string_view text);
     [[nodiscard]] std::u16string display() const;

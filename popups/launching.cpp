@@ -104,6 +104,7 @@ void launchCalculator(const platform::Environment& environment, Owner& owner,
         step = 2;
         frmCalculadora& calculator = load();
         calculator.setOwner(&owner);
+        calculator.continueNumber();
         step = 3;
         calculator.handOver(hasDecimals(owner.popupText()));
         step = 4;
