@@ -21,7 +21,7 @@ platform::SurfaceLayout Vela::arrangement() const
 {
     return arrangeField({.client = surface_.clientRect(),
                          .dpi = surface_.dpi(),
-                         .ownBorder = !sunken_ || drawnBySurface(settings_.borderStyle),
+                         .ownBorder = surface_.drawsBorder() && (!sunken_ || drawnBySurface(settings_.borderStyle)),
                          .rounded = settings_.borderStyle == eEstiloBorda::XP,
                          .button = buttonVisible_});
 }

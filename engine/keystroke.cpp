@@ -156,10 +156,9 @@ private:
     KeystrokeSettings settings_;
 };
 
-int decimalKey(int key, KeystrokeSink& sink)
+int decimalKey(int key, std::u16string_view text, KeystrokeSink& sink)
 {
     const auto symbol = static_cast<char16_t>(key);
-    const auto text = sink.text();
     if (sink.selectionLength() == static_cast<int>(text.size())) {
         sink.writeText({&symbol, 1}, 1);
         return 0; // written already
@@ -169,11 +168,10 @@ int decimalKey(int key, KeystrokeSink& sink)
 
 // The test asks for a caret strictly beyond the symbol's 1-based position, so that right behind the symbol one
 // digit too many can be typed; kept.
-int digitKey(int key, const KeystrokeSettings& settings, KeystrokeSink& sink)
+int digitKey(int key, const KeystrokeSettings& settings, std::u16string_view text, const KeystrokeSink& sink)
 {
     if (settings.decimal.empty())
         return key;
-    const auto text = sink.text();
     const auto symbol = text.find(settings.decimal);
     if (symbol == std::u16string_view::npos)
         return key;
@@ -188,16 +186,18 @@ int filterKeystroke(int key, KeystrokeSink& sink)
     return Filter(key, sink).run();
 }
 
+// Every key is judged with the text at hand: a box that cannot tell it refuses them all.
 int numericKey(int key, const KeystrokeSettings& settings, KeystrokeSink& sink)
 {
+    const auto text = sink.text();
     if (isDigit(key))
-        return digitKey(key, settings, sink);
+        return digitKey(key, settings, text, sink);
     switch (key) {
     case key_code::backspace: return key;
-    case key_code::comma: return settings.displayDecimal == Simbolos::Virgula ? decimalKey(key, sink) : 0;
-    case key_code::point: return settings.displayDecimal == Simbolos::Ponto ? decimalKey(key, sink) : 0;
+    case key_code::comma: return settings.displayDecimal == Simbolos::Virgula ? decimalKey(key, text, sink) : 0;
+    case key_code::point: return settings.displayDecimal == Simbolos::Ponto ? decimalKey(key, text, sink) : 0;
     case key_code::minus:
-        return settings.negatives && sink.caret() == 0 && sink.text().find(u'-') == std::u16string_view::npos ? key : 0;
+        return settings.negatives && sink.caret() == 0 && text.find(u'-') == std::u16string_view::npos ? key : 0;
     default: return 0;
     }
 }

@@ -59,6 +59,8 @@ public:
     [[nodiscard]] virtual engine::RectPixels clientRect() const = 0;
     [[nodiscard]] virtual engine::RectPixels screenRect() const = 0;
     [[nodiscard]] virtual int dpi() const = 0;
+    // Whether a border of its own takes room from the box; where nothing is drawn, the box fills the surface.
+    [[nodiscard]] virtual bool drawsBorder() const { return true; }
     [[nodiscard]] virtual WindowId window() const = 0;
     [[nodiscard]] virtual std::unique_ptr<TooltipWindow> makeTooltip() = 0;
 };

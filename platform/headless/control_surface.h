@@ -43,6 +43,7 @@ public:
     [[nodiscard]] engine::RectPixels clientRect() const override { return {0, 0, place_.width, place_.height}; }
     [[nodiscard]] engine::RectPixels screenRect() const override { return place_; }
     [[nodiscard]] int dpi() const override { return 96; }
+    [[nodiscard]] bool drawsBorder() const override { return false; }
     [[nodiscard]] platform::WindowId window() const override { return window_; }
     [[nodiscard]] std::unique_ptr<platform::TooltipWindow> makeTooltip() override;
 
