@@ -161,6 +161,7 @@ std::int16_t Vela::MaxLength() const
 
 void Vela::MaxLength(std::int16_t value)
 {
+    static_cast<void>(box()); // without a box there is nobody to find the value invalid
     putTrait(&platform::EditTraits::maxLength, notNegative(value));
 }
 
@@ -177,6 +178,7 @@ Vela::Text16 Vela::PasswordChar() const
 
 void Vela::PasswordChar(View value)
 {
+    static_cast<void>(box()); // as above
     if (value.size() > 1)
         engine::raise(engine::error_number::invalidPropertyValue);
     putTrait(&platform::EditTraits::passwordChar, value.empty() ? u'\0' : value.front());
