@@ -86,8 +86,8 @@ void putValue(const Compiled& pattern, std::u16string_view text, const Locale& l
     if (pattern.kind == PatternKind::text) {
         return putTextPattern(pattern, text, writer);
     }
-    const auto number =
-        pattern.kind == PatternKind::general ? std::nullopt : readText(pattern.kind, text, locale, today);
+    const bool asItStands = pattern.kind == PatternKind::general && pattern.named == NamedNumber::none;
+    const auto number = asItStands ? std::nullopt : readText(pattern.kind, text, locale, today);
     number ? putValue(pattern, *number, locale, writer) : writer.put(text);
 }
 

@@ -75,10 +75,12 @@ private:
         }
     }
 
-    // The first mark of the first section settles what the pattern formats; marks of another kind are literals.
+    // The first mark of the first section settles what the pattern formats; marks of another kind are literals. Behind
+    // a first section without marks there can only be those of numbers: ";(0.00)".
     [[nodiscard]] bool couldBe(PatternKind kind) const noexcept
     {
-        return pattern_.kind == kind || (pattern_.kind == PatternKind::unknown && sectionIndex_ == 0);
+        return pattern_.kind == kind ||
+               (pattern_.kind == PatternKind::unknown && (sectionIndex_ == 0 || kind == PatternKind::number));
     }
     void settle(PatternKind kind) noexcept { pattern_.kind = kind; }
 
@@ -94,7 +96,13 @@ private:
         }
         return length;
     }
-    void add(Mark mark, std::uint32_t length = 0) { pattern_.tokens.push_back({.mark = mark, .length = length}); }
+    void add(Mark mark, std::uint32_t length = 0)
+    {
+        pattern_.tokens.push_back({.mark = mark, .length = length});
+        if (mark != Mark::dateSeparator && mark != Mark::timeSeparator) {
+            hoursBefore_ = mark == Mark::hour || mark == Mark::hourZero;
+        }
+    }
 
     void beginSection()
     {
@@ -102,7 +110,7 @@ private:
         section_->first = static_cast<std::uint32_t>(pattern_.tokens.size());
         section_->written = true;
         commas_ = 0;
-        zeroSeen_ = hoursSeen_ = minutesWritten_ = false;
+        zeroSeen_ = hoursBefore_ = false;
     }
 
     void endSection() noexcept
@@ -266,7 +274,7 @@ private:
         case u'd': return takeDay();
         case u'm': return takeMonth();
         case u'y': return takeYear();
-        case u'h': hoursSeen_ = true; return takePair(u'h', Mark::hour, Mark::hourZero);
+        case u'h': return takePair(u'h', Mark::hour, Mark::hourZero);
         case u'n': return takePair(u'n', Mark::minute, Mark::minuteZero);
         case u's': return takePair(u's', Mark::second, Mark::secondZero);
         case u'w': return takePair(u'w', Mark::weekday, Mark::weekOfYear);
@@ -293,18 +301,16 @@ private:
         static constexpr std::array marks{Mark::day,       Mark::dayZero,  Mark::dayShort,  Mark::dayLong,
                                           Mark::shortDate, Mark::longDate, Mark::mediumDate};
         add(marks[takeRun(u'd', marks.size()) - 1]);
-        hoursSeen_ = false;
         return true;
     }
 
-    // One or two letters behind an hour are minutes, once: "hh:mm dd/mm".
+    // One or two letters right behind an hour are minutes: "hh:mm mm/dd".
     [[nodiscard]] bool takeMonth()
     {
         static constexpr std::array marks{Mark::month, Mark::monthZero, Mark::monthShort, Mark::monthLong};
         const std::uint32_t length = takeRun(u'm', marks.size());
-        if (length <= 2 && hoursSeen_ && !minutesWritten_) {
+        if (length <= 2 && hoursBefore_) {
             add(length == 1 ? Mark::minute : Mark::minuteZero);
-            minutesWritten_ = true;
         } else {
             add(marks[length - 1]);
         }
@@ -368,7 +374,8 @@ private:
     std::size_t sectionIndex_ = 0;
     Section* section_ = nullptr;
     int commas_ = 0; // since the last digit mark
-    bool zeroSeen_ = false, hoursSeen_ = false, minutesWritten_ = false;
+    bool zeroSeen_ = false;
+    bool hoursBefore_ = false; // the last mark, separators aside
 };
 
 } // namespace

@@ -160,6 +160,41 @@ void countsWeekdaysItsOwnWay(Request& request)
     }
 }
 
+bool hasMonthsAndHours(const Request& request, const Outcome&)
+{
+    return formattedMoment(request) && countMarks(request, Mark::hour, Mark::hourZero) > 0 && hasRun(request, u"m");
+}
+
+// The library's minutes: the first short run of "m" behind an hour that has no day in between.
+void takesFirstMonthForMinutes(Request& request)
+{
+    const int month = formattedMoment(request)->date.month;
+    const std::u16string letters = inSmallLetters(request.asked.pattern);
+    const auto plain = plainCharacters(request.asked.pattern);
+    std::u16string result;
+    std::size_t copied = 0;
+    bool hours = false, written = false;
+    for (std::size_t i = 0; i < plain.size(); ++i) {
+        const std::size_t position = plain[i].position;
+        if (letters.compare(position, 5, u"am/pm") == 0 || letters.compare(position, 4, u"ampm") == 0) {
+            i += letters[position + 2] == u'/' ? 4 : 3;
+            continue;
+        }
+        hours = letters[position] == u'h' || (hours && letters[position] != u'd');
+        const std::size_t end = std::min({letters.find_first_not_of(u'm', position), position + 4, letters.size()});
+        const std::size_t run = end - position;
+        if (run == 1 || run == 2) {
+            const bool minutes = hours && !written;
+            written = written || minutes;
+            result += request.asked.pattern.substr(copied, position - copied);
+            result += minutes ? std::u16string(run, u'n') : (run == 2 && month < 10 ? u"\\0" : u"") + quoted(month);
+            copied = position + run;
+        }
+        i += run > 1 ? run - 1 : 0;
+    }
+    request.asked.pattern = result + request.asked.pattern.substr(copied);
+}
+
 int halves(const Request& request)
 {
     return countMarks(request, Mark::halfOfLocale, Mark::letterLower);
@@ -251,6 +286,11 @@ void emptyIsDateZero(Request& request)
 {
     request.asked.question = Question::formatDate;
     request.asked.number = 0;
+}
+
+bool isTextWithGeneralNumber(const Request& request, const Outcome&)
+{
+    return asks(request, Question::formatText) && compiled(request).named == NamedNumber::general;
 }
 
 // --- reading ---
@@ -387,11 +427,15 @@ constexpr KnownDifference differences[] = {
      isNumberTextWithDatePattern, readsPlainNumber},
     {"date text with a number pattern", "the date's serial; the library leaves the text", isDateTextWithNumberPattern,
      generalForm},
+    {"text as General Number", "read as a number or date; the library leaves the text", isTextWithGeneralNumber,
+     generalForm},
     {"empty text with a date pattern", "no date, so unchanged; the library takes it for day zero",
      isEmptyTextWithDatePattern, emptyIsDateZero},
     {"long runs", "five m or y are four and one; the library takes another mark or refuses", hasLongRun, nullptr},
     {"half marks among digits", "literals in a number pattern; the library takes them for a date's", hasHalfAmongDigits,
      nullptr},
+    {"minutes behind an hour", "right behind, as documented; the library takes the first \"m\" behind it",
+     hasMonthsAndHours, takesFirstMonthForMinutes},
     {"two half marks", "the library corrupts the mark of the hour", hasTwoHalves, nullptr},
     {"hours with a half mark", "twelve hours in the whole pattern; the library changes one mark, and none for AM/PM",
      mixesHours, nullptr},

@@ -47,6 +47,22 @@ void signAtFirstMark(Request& request)
     }
 }
 
+// --- sections ---
+
+bool opensWithoutMarks(const Request& request, const Outcome&)
+{
+    const engine::Section first = compiled(request).sections[0];
+    return isNumberPattern(request) && first.whole == 0 && first.fraction == 0 && !first.decimal;
+}
+
+void laterSectionsAreLiterals(Request& request)
+{
+    const auto plain = plainCharacters(request.asked.pattern);
+    for (auto character = plain.rbegin(); character != plain.rend() && character->section > 0; ++character) {
+        request.asked.pattern.insert(character->position, u"\\");
+    }
+}
+
 // --- commas ---
 
 bool divides(const Request& request, const Outcome&)
@@ -382,6 +398,8 @@ void isNoNumber(Request& request)
 constexpr KnownDifference differences[] = {
     {"exponent text read back", "the library formats from its own exponent text, whose point it takes for grouping",
      readsBackExponentWithPoint, pointIsGrouping},
+    {"first section without marks", "each section has its own; the library takes the others for literals",
+     opensWithoutMarks, laterSectionsAreLiterals},
     {"trailing comma", "documented to divide by 1000; the library only groups", divides, commasOnlyGroup},
     {"percent before the digits", "documented to multiply by 100 wherever it stands", percentStandsFirst,
      firstPercentsAreLiterals},

@@ -151,7 +151,9 @@ TEST(NumberPatterns, SectionsBySign)
         {-5, u"0;;zero", u"-5"},
         {-5, u"0;", u"-5"},
         {-5, u"0;dd", u"dd"},
-        {-5, u"\"a;b\";\\;0", u";0"},
+        {-5, u"\"a;b\";\\;0", u";5"},
+        {-5, u";(0.00)", u"(5,00)"},
+        {0, u"+;-;#,##0.0", u"0,0"},
         {5, u"\"p\";0", u"p"},
     };
     for (const NumberRow& row : rows) {
@@ -212,6 +214,8 @@ TEST(DatePatterns, Letters)
         {u"hh:nn", u"14:05"},
         {u"hh:mm:ss", u"14:05:33"},
         {u"h:m m", u"14:5 2"},
+        {u"hh:nn mm/dd", u"14:05 02/01"},
+        {u"hh\\h mm hh:mm", u"14h 05 14:05"},
         {u"hh:dd :mm:nn", u"14:01 :02:05"},
         {u"dd:hh :mm:mm", u"01:14 :05:02"},
         {u"mm :ss:mm", u"02 :33:02"},
@@ -254,7 +258,7 @@ TEST(Patterns, OfTexts)
         {u"", u"dd/mm/yyyy", u""},
         {u"1234,5", u"0.00", u"1234,50"},
         {u"-0,00", u"0.00", u"0,00"},
-        {u"1.234,50", u"General Number", u"1.234,50"},
+        {u"1.234,50", u"General Number", u"1234,5"},
         {u"45323", u"dd/mm/yyyy", u"01/02/2024"},
         {u"1/2/24", u"dd/mm/yyyy", u"01/02/2024"},
         {u"31.12.2024", u"dd.MM.yyyy", u"31.12.2024"},
