@@ -168,7 +168,7 @@ bool hasMonthsAndHours(const Request& request, const Outcome&)
 // The library's minutes: the first short run of "m" behind an hour that has no day in between.
 void takesFirstMonthForMinutes(Request& request)
 {
-    const int month = formattedMoment(request)->date.month;
+    const engine::Moment moment = *formattedMoment(request);
     const std::u16string letters = inSmallLetters(request.asked.pattern);
     const auto plain = plainCharacters(request.asked.pattern);
     std::u16string result;
@@ -187,7 +187,8 @@ void takesFirstMonthForMinutes(Request& request)
             const bool minutes = hours && !written;
             written = written || minutes;
             result += request.asked.pattern.substr(copied, position - copied);
-            result += minutes ? std::u16string(run, u'n') : (run == 2 && month < 10 ? u"\\0" : u"") + quoted(month);
+            const int number = minutes ? moment.time.minute : moment.date.month;
+            result += (run == 2 && number < 10 ? u"\\0" : u"") + quoted(number);
             copied = position + run;
         }
         i += run > 1 ? run - 1 : 0;
