@@ -43,7 +43,7 @@ void runCaret(Session& session, Words words)
 void runPaste(Session& session, Words words)
 {
     requireWords(words, 2, 2);
-    session.form().paste(textOf(words[1]));
+    session.form().pasteIntoBox(textOf(words[1]));
 }
 
 void runClick(Session& session, Words words)

@@ -182,6 +182,11 @@ void ControlSurface::paste(std::u16string_view text)
         boxEvents_->pasted(text);
 }
 
+void ControlSurface::pasteIntoBox(std::u16string_view text)
+{
+    activeBox().paste(text);
+}
+
 void ControlSurface::cut()
 {
     if (boxEvents_ != nullptr)

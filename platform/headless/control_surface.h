@@ -54,6 +54,7 @@ public:
     void leave() override;
     void key(Key key) override;
     void paste(std::u16string_view text) override;
+    void pasteIntoBox(std::u16string_view text) override;
     void cut() override;
     void undo() override;
     void redo() override;

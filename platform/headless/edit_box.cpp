@@ -82,6 +82,11 @@ void EditBox::putText(std::u16string_view text)
 void EditBox::insert(std::u16string_view text)
 {
     check(BoxOperation::putText);
+    paste(text);
+}
+
+void EditBox::paste(std::u16string_view text)
+{
     if (traits_->locked)
         return;
     const int space = room();

@@ -53,6 +53,7 @@ public:
 
     // Acts of a person, reported to the box's events.
     void key(Key key);
+    void paste(std::u16string_view text); // without the field's filter
     void placeCaret(int start, int length);
     void clickAtEnd();
     void doubleClick();

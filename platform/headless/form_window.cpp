@@ -206,6 +206,11 @@ void FormWindow::paste(std::u16string_view text)
     act([&](Element& element) { element.paste(text); });
 }
 
+void FormWindow::pasteIntoBox(std::u16string_view text)
+{
+    act([&](Element& element) { element.pasteIntoBox(text); });
+}
+
 void FormWindow::cut()
 {
     act([](Element& element) { element.cut(); });

@@ -39,6 +39,7 @@ public:
     virtual void leave() {}
     virtual void key(Key) {}
     virtual void paste(std::u16string_view) {}
+    virtual void pasteIntoBox(std::u16string_view) {}
     virtual void cut() {}
     virtual void undo() {}
     virtual void redo() {}
@@ -86,7 +87,8 @@ public:
 
     // Acts of a person at the focused element; nothing without one. Tabs asked for are carried out at the end.
     void key(Key key);
-    void paste(std::u16string_view text);
+    void paste(std::u16string_view text);        // as the field has it: through its filter
+    void pasteIntoBox(std::u16string_view text); // as the box itself has it: whole, cut to fit, refused when locked
     void cut();
     void undo();
     void redo();
