@@ -89,15 +89,16 @@ void putGrouped(std::u16string_view whole, std::u16string_view fraction, const L
                 std::u16string& into)
 {
     const bool negative = whole.starts_with(u'-');
+    const bool fractionHolds = fraction.find_first_of(u"123456789") != npos;
     const auto plain = plainNumber(whole, locale);
     if (plain && plain->fraction.empty()) {
-        if (negative && !(isZero(plain->whole) && isZero(fraction)))
+        if (negative && (fractionHolds || !isZero(plain->whole)))
             writer.put(u'-'); // of "-0,5" too
         putWhole(plain->whole, locale.grouping.front(), writer);
         return;
     }
     const double number = leadingNumber(whole);
-    if (negative && number == 0 && fraction.find_first_of(u"123456789") != npos)
+    if (negative && number == 0 && fractionHolds)
         writer.put(u'-'); // "-,5": the sign would be lost with the zero
     writer.flush();
     static const Pattern pattern(wholePattern);

@@ -84,9 +84,14 @@ std::string printedCurrency(engine::Currency amount)
     return (negative ? "-" : "") + std::to_string(size / 10000) + (decimals.empty() ? "" : ".") + decimals;
 }
 
+// Texts are read as amounts; any other value is its number's: True -> -1.
 void runToCurrency(Session& session, Words words)
 {
-    answer(session, printedCurrency(engine::toCurrency(onlyText(session, words), localeOf(session))));
+    const Value value = onlyValue(words);
+    const engine::Locale& locale = localeOf(session);
+    const auto* const text = std::get_if<std::u16string>(&value);
+    const auto amount = text != nullptr ? *text : engine::numberToText(engine::toDouble(value, locale), locale);
+    answer(session, printedCurrency(engine::toCurrency(amount, locale)));
 }
 
 void runVal(Session& session, Words words)

@@ -51,6 +51,7 @@ TEST(NumberDisplay, OnExit)
         {"negative", u"-1234567,5", money, u"-1.234.567,50"},
         {"the sign of a fraction survives", u"-0,5", money, u"-0,50"},
         {"a negative nothing loses its sign", u"-0,00", money, u"0,00"},
+        {"a blank behind is no digit", u"-0,00 ", money, u"0,00 "},
         {"a negative nothing ungrouped stays as typed", u"-0,0", bare, u"-0,00"},
         {"no whole part, negative", u"-,5", money, u"-0,50"},
         {"grouped by commas, the point too", u"1234.5", settings(u".", u",", 2, true), u"1,234,50"},
