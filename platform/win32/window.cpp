@@ -12,6 +12,7 @@ namespace vela::win32 {
 namespace {
 
 constexpr UINT destroyMessage = WM_APP + 0x56;
+constexpr const wchar_t* waitingMark = L"VelaWaiting"; // property of a window that waits to be destroyed
 std::atomic<long> waiting{0};
 
 LRESULT dispatch(HWND window, UINT message, WPARAM first, LPARAM second)
@@ -24,9 +25,10 @@ LRESULT dispatch(HWND window, UINT message, WPARAM first, LPARAM second)
     auto* handler = static_cast<WindowHandler*>(boundObject(window));
     if (!handler && message == destroyMessage) {
         DestroyWindow(window);
-        --waiting;
         return 0;
     }
+    if (!handler && message == WM_NCDESTROY && RemovePropW(window, waitingMark))
+        --waiting; // also when its parent went first and took it along
     if (!handler)
         return DefWindowProcW(window, message, first, second);
     if (message == WM_NCDESTROY) {
@@ -103,10 +105,11 @@ HWND createBound(const wchar_t* windowClass, WindowHandler& handler, DWORD exten
 
 void destroyLater(HWND window) noexcept
 {
-    ++waiting;
-    if (PostMessageW(window, destroyMessage, 0, 0))
-        return;
-    --waiting;
+    if (SetPropW(window, waitingMark, window)) {
+        ++waiting;
+        if (PostMessageW(window, destroyMessage, 0, 0))
+            return;
+    }
     DestroyWindow(window);
 }
 
