@@ -13,7 +13,9 @@
 
 #include <olectl.h>
 
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace vela::activex {
@@ -50,9 +52,29 @@ public:
 private:
     ~PropertyPage() = default;
 
+    // Stands while anything of the page runs that may call the host or show a box: keeps this object and the page. What
+    // the host asks for meanwhile is done when the last one ends.
+    class Act {
+    public:
+        explicit Act(PropertyPage& page) noexcept : page_(ComPtr<PropertyPage>::share(&page)) { ++page.acts_; }
+        Act(const Act&) = delete;
+        Act& operator=(const Act&) = delete;
+        ~Act()
+        {
+            if (--page_->acts_ == 0)
+                page_->settle();
+        }
+
+    private:
+        ComPtr<PropertyPage> page_;
+    };
+
     void changed(bool dirty) override;
+    void runAct(const std::function<void()>& act) override;
+    void settle() noexcept;
     [[nodiscard]] win32::Form& form() const { return static_cast<win32::Form&>(page_->form()); }
     void openSelection();
+    void openSelectionOrSayWhyNot();
     void showFailure(const engine::Error& error);
     [[nodiscard]] bool leaves(const MSG& message) const; // Tab beyond the page's ends
 
@@ -63,8 +85,13 @@ private:
     pages::PaletteChooser palette_;
     pages::PageServices services_;
     ComPtr<IPropertyPageSite> site_;
-    std::vector<std::unique_ptr<DispatchObject>> objects_;
+    using Objects = std::vector<std::unique_ptr<DispatchObject>>;
+    Objects objects_;
+    Objects objectsInUse_; // the former selection, which an act still works on
+    bool selectionWaits_ = false;
+    int acts_ = 0;
     std::unique_ptr<pages::Page> page_; // between Activate and Deactivate
+    std::unique_ptr<pages::Page> left_; // deactivated inside one of its acts
 };
 
 HRESULT PropertyPage::QueryInterface(REFIID iid, void** object) noexcept
@@ -102,17 +129,16 @@ HRESULT PropertyPage::Activate(HWND parent, LPCRECT place, BOOL) noexcept
 {
     if (!place)
         return E_POINTER;
-    if (page_)
+    if (page_ || left_)
         return E_UNEXPECTED;
+    const Act act(*this);
     return guarded([&] {
-        page_ = pages::makePage(kind_, services_, *this);
-        form().showChild(parent, *place);
-        form().showChildWindow(false); // the frame calls Show
-        try {
-            openSelection();
-        } catch (const engine::Error& error) {
-            showFailure(error);
-        }
+        auto page = pages::makePage(kind_, services_, *this);
+        auto& shown = static_cast<win32::Form&>(page->form());
+        shown.showChild(parent, *place);
+        shown.showChildWindow(false); // the frame calls Show
+        page_ = std::move(page);
+        openSelectionOrSayWhyNot();
     });
 }
 
@@ -126,6 +152,16 @@ void PropertyPage::openSelection()
     page_->open(selection);
 }
 
+void PropertyPage::openSelectionOrSayWhyNot()
+{
+    const Act act(*this);
+    try {
+        openSelection();
+    } catch (const engine::Error& error) {
+        showFailure(error);
+    }
+}
+
 void PropertyPage::showFailure(const engine::Error& error)
 {
     session_->environment.desktop.messageBox(platform::BoxIcon::exclamation, platform::BoxButtons::ok,
@@ -134,12 +170,39 @@ void PropertyPage::showFailure(const engine::Error& error)
 
 HRESULT PropertyPage::Deactivate() noexcept
 {
-    if (const auto page = std::move(page_))
-        contained([&] {
-            page->release();
-            static_cast<win32::Form&>(page->form()).leaveParent();
-        });
+    if (!page_)
+        return S_OK;
+    left_ = std::move(page_);
+    contained([&] { static_cast<win32::Form&>(left_->form()).leaveParent(); });
+    if (acts_ == 0)
+        settle();
     return S_OK;
+}
+
+void PropertyPage::settle() noexcept
+{
+    left_.reset();
+    if (!std::exchange(selectionWaits_, false))
+        return;
+    objectsInUse_.clear();
+    if (page_)
+        contained([&] {
+            page_->release();
+            openSelectionOrSayWhyNot();
+        });
+}
+
+// Inside another act or a call of the host its failure is theirs; else the person who acted is told.
+void PropertyPage::runAct(const std::function<void()>& act)
+{
+    if (acts_ > 0)
+        return act();
+    const Act running(*this);
+    try {
+        act();
+    } catch (const engine::Error& error) {
+        showFailure(error);
+    }
 }
 
 HRESULT PropertyPage::GetPageInfo(PROPPAGEINFO* info) noexcept
@@ -162,16 +225,23 @@ HRESULT PropertyPage::SetObjects(ULONG count, IUnknown** objects) noexcept
     if (count != 0 && !objects)
         return E_POINTER;
     return guarded([&]() -> HRESULT {
-        std::vector<std::unique_ptr<DispatchObject>> selection;
+        Objects selection;
         for (ULONG i = 0; i < count; ++i) {
             auto object = ComPtr<IDispatch>::from(objects[i]);
             if (!object)
                 return E_NOINTERFACE;
             selection.push_back(std::make_unique<DispatchObject>(std::move(object)));
         }
+        if (acts_ > 0) {
+            if (!std::exchange(selectionWaits_, true))
+                objectsInUse_ = std::move(objects_);
+            objects_ = std::move(selection);
+            return S_OK;
+        }
         if (page_)
             page_->release();
         objects_ = std::move(selection);
+        const Act act(*this);
         if (page_)
             openSelection();
         return S_OK;
@@ -201,8 +271,13 @@ HRESULT PropertyPage::IsPageDirty() noexcept
 
 HRESULT PropertyPage::Apply() noexcept
 {
-    if (!page_ || objects_.empty())
+    if (!page_)
         return E_UNEXPECTED;
+    if (objects_.empty()) {
+        guarded([] { engine::raise(engine::error_number::objectNotSet); }); // the description for those who ask
+        return E_UNEXPECTED;
+    }
+    const Act act(*this);
     return guarded([&] { return page_->apply() ? S_OK : E_FAIL; });
 }
 
@@ -217,9 +292,10 @@ HRESULT PropertyPage::TranslateAccelerator(LPMSG message) noexcept
         return E_POINTER;
     if (!page_)
         return S_FALSE;
+    const Act act(*this);
     return guarded([&]() -> HRESULT {
         if (leaves(*message))
-            return site_ ? site_->TranslateAccelerator(message) : S_FALSE;
+            return site_ ? site_.shared()->TranslateAccelerator(message) : S_FALSE;
         return form().translate(*message) ? S_OK : S_FALSE;
     });
 }
@@ -244,13 +320,16 @@ HRESULT PropertyPage::EditProperty(DISPID id) noexcept
             return E_INVALIDARG;
         if (!page_)
             return E_UNEXPECTED;
-        form().focus(platform::findWidget(page_->layout(), entry->widget, entry->index));
+        const Act act(*this);
+        page_->focus(platform::findWidget(page_->layout(), entry->widget, entry->index));
         return S_OK;
     });
 }
 
 void PropertyPage::changed(bool dirty)
 {
+    if (!page_)
+        return;
     if (const auto site = site_.shared())
         site->OnStatusChange(dirty ? PROPPAGESTATUS_DIRTY : PROPPAGESTATUS_CLEAN);
 }

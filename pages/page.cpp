@@ -52,6 +52,11 @@ std::unique_ptr<Page> makePage(PageKind kind, const PageServices& services, Page
     return nullptr;
 }
 
+void Page::focus(platform::WidgetId control)
+{
+    focusControl(form(), layout(), control);
+}
+
 void focusControl(platform::Form& form, const platform::FormLayout& layout, platform::WidgetId control)
 {
     const int tab = layout.rows[static_cast<std::size_t>(control.value)].tab;

@@ -37,6 +37,8 @@ public:
     // flag stands. Raises what a write raises: what had been written stays written, the flag stands.
     virtual bool apply() = 0;
     [[nodiscard]] virtual bool changed() const noexcept = 0;
+    // Gives a control the focus, brought to the front first: its tab, its group.
+    virtual void focus(platform::WidgetId control);
     [[nodiscard]] virtual platform::Form& form() noexcept = 0;
     [[nodiscard]] virtual const platform::FormLayout& layout() const noexcept = 0;
 };
@@ -47,7 +49,7 @@ public:
 [[nodiscard]] const platform::FormLayout& pageLayout(PageKind kind) noexcept;
 [[nodiscard]] std::optional<PageKind> findPageKind(std::u16string_view name) noexcept; // "ppGeral", as written
 // Makes the page's form in `services.forms`; the site hears of every change of the changed flag.
-// The host keeps the page, its services and its site alive while an act on its form or an apply() runs.
+// The host keeps the page, its services and its site alive while PageSite::runAct(), open() or apply() runs.
 [[nodiscard]] std::unique_ptr<Page> makePage(PageKind kind, const PageServices& services, PageSite& site);
 // Gives a control of the form the focus, with its tab brought to the front.
 void focusControl(platform::Form& form, const platform::FormLayout& layout, platform::WidgetId control);

@@ -93,11 +93,14 @@ void PageForm::help(std::u16string_view button, std::u16string_view text)
 
 void PageForm::run(WidgetId control, Act act)
 {
-    if (loading_)
+    const auto isBound = [&](const Binding& binding) { return binding.control == control && binding.act == act; };
+    if (loading_ || std::ranges::none_of(bindings_, isBound))
         return;
-    for (const Binding& binding : bindings_)
-        if (binding.control == control && binding.act == act)
-            binding.action();
+    site_.runAct([&] {
+        for (const Binding& binding : bindings_)
+            if (isBound(binding))
+                binding.action();
+    }); // the page may be gone now
 }
 
 void PageForm::clicked(WidgetId widget)
@@ -108,7 +111,7 @@ void PageForm::clicked(WidgetId widget)
 void PageForm::doubleClicked(WidgetId widget)
 {
     if (layout_.rows[static_cast<std::size_t>(widget.value)].kind == WidgetKind::swatch)
-        chooseColour(widget);
+        site_.runAct([&] { chooseColour(widget); });
 }
 
 void PageForm::changed(WidgetId widget)

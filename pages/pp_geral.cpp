@@ -68,6 +68,14 @@ bool ppGeral::apply()
     return true;
 }
 
+// What stands in the hidden group comes to the front as if its option had been clicked.
+void ppGeral::focus(platform::WidgetId control)
+{
+    if (!page_.form().visible(control))
+        page_.check(page_.checked(u"optGotfocus") ? u"optLost" : u"optGotfocus", true);
+    Page::focus(control);
+}
+
 void ppGeral::showGroup(bool gotFocus)
 {
     page_.show(u"fraGotFocus", gotFocus);

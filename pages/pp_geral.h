@@ -12,6 +12,7 @@ public:
     void open(std::span<PropertyObject* const> selection) override;
     void release() noexcept override { page_.release(); }
     bool apply() override;
+    void focus(platform::WidgetId control) override;
     [[nodiscard]] bool changed() const noexcept override { return page_.changed(); }
     [[nodiscard]] platform::Form& form() noexcept override { return page_.form(); }
     [[nodiscard]] const platform::FormLayout& layout() const noexcept override { return page_.layout(); }

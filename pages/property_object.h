@@ -3,6 +3,7 @@
 
 #include "engine/value.h"
 
+#include <functional>
 #include <optional>
 #include <string_view>
 
@@ -21,6 +22,9 @@ protected:
 class PageSite {
 public:
     virtual void changed(bool dirty) = 0; // the page's changed flag was set or cleared
+    // Calls `act`, something a person did on the page, once. Whoever drops the page meanwhile keeps it until this has
+    // returned. What the act raises goes to the caller or is told to the person. Acts may nest.
+    virtual void runAct(const std::function<void()>& act) = 0;
 
 protected:
     ~PageSite() = default;

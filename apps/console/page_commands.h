@@ -57,6 +57,7 @@ private:
     using Selection = std::vector<std::unique_ptr<SelectedField>>;
 
     void changed(bool) override {}
+    void runAct(const std::function<void()>& act) override { act(); } // what it raises is the command's error
     [[nodiscard]] std::optional<engine::Colour> choose() override;
 
     Session& session_;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <utility>
 
 namespace vela::test {
 
@@ -107,6 +108,7 @@ void pumpFor(DWORD milliseconds)
 namespace {
 
 std::vector<std::u16string> boxTexts;
+std::function<void()> boxAct;
 
 // The last static of a box is its text, the first may be its icon.
 BOOL CALLBACK takeText(HWND child, LPARAM)
@@ -128,20 +130,25 @@ LRESULT CALLBACK answerBox(int code, WPARAM window, LPARAM detail)
         const HWND box = reinterpret_cast<HWND>(window);
         EnumChildWindows(box, takeText, 0);
         PostMessageW(box, WM_COMMAND, IDOK, 0);
+        if (const auto act = std::exchange(boxAct, nullptr))
+            act();
     }
     return CallNextHookEx(nullptr, code, window, detail);
 }
 
 } // namespace
 
-AnsweredBoxes::AnsweredBoxes() : hook_(SetWindowsHookExW(WH_CBT, answerBox, nullptr, GetCurrentThreadId()))
+AnsweredBoxes::AnsweredBoxes(std::function<void()> whenUp)
+    : hook_(SetWindowsHookExW(WH_CBT, answerBox, nullptr, GetCurrentThreadId()))
 {
     boxTexts.clear();
+    boxAct = std::move(whenUp);
 }
 
 AnsweredBoxes::~AnsweredBoxes()
 {
     UnhookWindowsHookEx(hook_);
+    boxAct = nullptr;
 }
 
 const std::vector<std::u16string>& AnsweredBoxes::texts()

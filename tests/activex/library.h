@@ -3,6 +3,7 @@
 
 #include "com_object.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -25,7 +26,7 @@ void pumpFor(DWORD milliseconds); // timers too
 // Closes each message box of this thread as it comes up, with its first button, and keeps what it said.
 class AnsweredBoxes {
 public:
-    AnsweredBoxes();
+    explicit AnsweredBoxes(std::function<void()> whenUp = {}); // called while the first box stands
     AnsweredBoxes(const AnsweredBoxes&) = delete;
     AnsweredBoxes& operator=(const AnsweredBoxes&) = delete;
     ~AnsweredBoxes();

@@ -1,111 +1,13 @@
-// The property pages through a frame of the tests: shown, changed, applied, refused, with bad selections.
-#include "container.h"
-
-#include "activex/guids.h"
+// The property pages through a frame of the tests and through the system's: shown, changed, applied.
+#include "shown_page.h"
 
 #include <commctrl.h>
-#include <gtest/gtest.h>
-#include <olectl.h>
 
 #include <cwchar>
 
 namespace vela::test {
 
 namespace {
-
-struct PageName {
-    const CLSID& id;
-    const wchar_t* title;
-};
-
-class PageFrame final : public ComObject<IPropertyPageSite> {
-public:
-    DWORD status = 0;
-    int keys = 0;
-    HRESULT STDMETHODCALLTYPE OnStatusChange(DWORD flags) override
-    {
-        status = flags;
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetLocaleID(LCID* locale) override
-    {
-        *locale = GetUserDefaultLCID();
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetPageContainer(IUnknown**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG*) override
-    {
-        ++keys;
-        return S_FALSE;
-    }
-};
-
-// One page in a window, as a frame drives it.
-class ShownPage {
-public:
-    explicit ShownPage(const CLSID& id, std::vector<IUnknown*> objects)
-    {
-        window_ = CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", nullptr, WS_POPUP, 0, 0, 500, 500, nullptr, nullptr,
-                                  nullptr, nullptr);
-        ShowWindow(window_, SW_SHOWNOACTIVATE);
-        EXPECT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IPropertyPage2, page.putVoid()), S_OK);
-        EXPECT_EQ(page->SetPageSite(frame.get()), S_OK);
-        PROPPAGEINFO info{};
-        info.cb = sizeof info;
-        EXPECT_EQ(page->GetPageInfo(&info), S_OK);
-        size = info.size;
-        title = info.pszTitle;
-        CoTaskMemFree(info.pszTitle);
-        EXPECT_EQ(page->SetObjects(static_cast<ULONG>(objects.size()), objects.data()), S_OK);
-        const RECT place{0, 0, size.cx, size.cy};
-        EXPECT_EQ(page->Activate(window_, &place, FALSE), S_OK);
-        EXPECT_EQ(page->Show(SW_SHOW), S_OK);
-    }
-    ShownPage(const ShownPage&) = delete;
-    ShownPage& operator=(const ShownPage&) = delete;
-    ~ShownPage()
-    {
-        page->Show(SW_HIDE);
-        page->Deactivate();
-        page->SetObjects(0, nullptr);
-        page->SetPageSite(nullptr);
-        page.reset();
-        DestroyWindow(window_);
-    }
-    // The child window that shows this text, anywhere in the page.
-    [[nodiscard]] HWND find(const wchar_t* windowClass, const wchar_t* text) const
-    {
-        Search search{windowClass, text, nullptr};
-        EnumChildWindows(window_, look, reinterpret_cast<LPARAM>(&search));
-        return search.found;
-    }
-    [[nodiscard]] HWND window() const { return window_; }
-
-    ComPtr<IPropertyPage2> page;
-    ComPtr<PageFrame> frame = make<PageFrame>();
-    SIZE size{};
-    std::wstring title;
-
-private:
-    struct Search {
-        const wchar_t* windowClass;
-        const wchar_t* text;
-        HWND found;
-    };
-    static BOOL CALLBACK look(HWND window, LPARAM given)
-    {
-        auto& search = *reinterpret_cast<Search*>(given);
-        wchar_t name[64]{};
-        wchar_t text[128]{};
-        GetClassNameW(window, name, 64);
-        GetWindowTextW(window, text, 128);
-        if (lstrcmpiW(name, search.windowClass) != 0 || lstrcmpW(text, search.text) != 0)
-            return TRUE;
-        search.found = window;
-        return FALSE;
-    }
-    HWND window_;
-};
 
 const CLSID allPages[] = {activex::principalPage, activex::geralPage, activex::errosPage, activex::fontePage,
                           activex::calendarioPage};
@@ -135,8 +37,7 @@ TEST(Pages, AChangeIsReportedAndAppliedToTheFirstControlOnly)
     const HWND box = shown.find(L"EDIT", L"vazio um");
     ASSERT_NE(box, nullptr) << "loaded from the first control";
     EXPECT_EQ(shown.page->IsPageDirty(), S_FALSE);
-    SendMessageW(box, EM_SETSEL, 0, -1);
-    SendMessageW(box, WM_CHAR, L'n', 1);
+    ShownPage::type(box, L'n');
     EXPECT_EQ(shown.page->IsPageDirty(), S_OK);
     EXPECT_EQ(shown.frame->status, static_cast<DWORD>(PROPPAGESTATUS_DIRTY));
     EXPECT_EQ(Automation(first.get()).textOf(u"IF_IsEmpty"), u"vazio um") << "not before it is applied";
@@ -144,31 +45,6 @@ TEST(Pages, AChangeIsReportedAndAppliedToTheFirstControlOnly)
     EXPECT_EQ(shown.page->IsPageDirty(), S_FALSE);
     EXPECT_EQ(Automation(first.get()).textOf(u"IF_IsEmpty"), u"n");
     EXPECT_EQ(Automation(second.get()).textOf(u"IF_IsEmpty"), u"vazio dois");
-}
-
-TEST(Pages, BadSelectionsAreRefusedAndThePageStaysUsable)
-{
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
-    const ComPtr<IUnknown> calendar = create(L"Vela.cCalendar");
-    {
-        const ShownPage shown(activex::fontePage, {control.get()});
-        IUnknown* other[] = {calendar.get()};
-        EXPECT_EQ(shown.page->SetObjects(1, other), static_cast<HRESULT>(0x800A01B6)) << "438: it lacks the properties";
-        IUnknown* again[] = {control.get()};
-        EXPECT_EQ(shown.page->SetObjects(1, again), S_OK);
-        EXPECT_EQ(shown.page->Apply(), S_OK);
-        EXPECT_EQ(shown.page->SetObjects(0, nullptr), S_OK);
-        EXPECT_EQ(shown.page->Apply(), E_UNEXPECTED);
-        EXPECT_EQ(shown.page->SetObjects(1, nullptr), E_POINTER);
-    }
-    ComPtr<IPropertyPage2> idle;
-    ASSERT_EQ(CoCreateInstance(activex::fontePage, nullptr, CLSCTX_INPROC_SERVER, IID_IPropertyPage2, idle.putVoid()),
-              S_OK);
-    EXPECT_EQ(idle->Show(SW_SHOW), E_UNEXPECTED);
-    EXPECT_EQ(idle->Apply(), E_UNEXPECTED);
-    EXPECT_EQ(idle->IsPageDirty(), S_FALSE);
-    EXPECT_EQ(idle->Deactivate(), S_OK);
 }
 
 // The system's own frame has every page; it is looked through and cancelled from a timer.
@@ -213,28 +89,6 @@ TEST(Pages, TheSystemsFrameShowsThemAll)
         S_OK);
     EXPECT_EQ(FrameVisit::tabs, 5);
     EXPECT_EQ(FrameVisit::shown, 5);
-}
-
-TEST(Pages, AControlDestroyedWhileItsPageIsOpen)
-{
-    const AnsweredBoxes boxes;
-    const LeakCheck leaks;
-    Form form;
-    Site& site = form.addActive();
-    const ShownPage shown(activex::fontePage, {site.control()});
-    site.close();
-    const HRESULT applied = shown.page->Apply();
-    EXPECT_TRUE(applied == S_OK || FAILED(applied));
-}
-
-TEST(Pages, AreOpenedOnOneProperty)
-{
-    const ComPtr<IUnknown> control = create();
-    const Automation field(control.get());
-    const ShownPage shown(activex::fontePage, {control.get()});
-    EXPECT_EQ(shown.page->EditProperty(*field.id(u"FontSize")), S_OK);
-    EXPECT_EQ(shown.page->EditProperty(*field.id(u"Mask")), E_INVALIDARG) << "another page's";
-    EXPECT_EQ(shown.page->EditProperty(4711), E_INVALIDARG);
 }
 
 TEST(Pages, OpenedAndClosedManyTimes)

@@ -123,6 +123,7 @@ private:
 
     void trace(const headless::TraceEntry& entry) override;
     void changed(bool dirty) override { marked = dirty; }
+    void runAct(const std::function<void()>& act) override { act(); }
     [[nodiscard]] std::optional<engine::Colour> choose() override { return colour; }
 
     PageKind kind_;

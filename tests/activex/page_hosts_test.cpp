@@ -1,0 +1,278 @@
+// Property pages under difficult hosts: bad selections, and a host that lets go of the page while something runs in it.
+#include "shown_page.h"
+
+namespace vela::test {
+
+namespace {
+
+constexpr auto lacksMember = static_cast<HRESULT>(0x800A01B6); // error 438
+
+// What the last failure of this thread said; empty when it said nothing.
+std::u16string errorText()
+{
+    ComPtr<IErrorInfo> info;
+    Bstr description;
+    if (GetErrorInfo(0, info.put()) != S_OK || FAILED(info->GetDescription(description.put())))
+        return {};
+    return std::u16string(description.text());
+}
+
+// --- selections
+
+TEST(PageSelections, NoneIsAnErrorAndTheNextOneIsEdited)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const ShownPage shown(activex::fontePage, {});
+    EXPECT_EQ(shown.page->IsPageDirty(), S_FALSE);
+    EXPECT_EQ(shown.page->Apply(), E_UNEXPECTED);
+    EXPECT_EQ(errorText(), u"Object variable or With block variable not set");
+    EXPECT_EQ(shown.page->SetObjects(1, nullptr), E_POINTER);
+    EXPECT_EQ(shown.select(control.get()), S_OK);
+    const HWND size = shown.find(L"EDIT", L"8");
+    ASSERT_NE(size, nullptr);
+    ShownPage::type(size, L'9');
+    EXPECT_EQ(shown.page->SetObjects(0, nullptr), S_OK);
+    EXPECT_EQ(shown.page->Apply(), E_UNEXPECTED);
+    EXPECT_EQ(Automation(control.get()).textOf(u"FontSize"), u"8") << "no longer selected";
+    EXPECT_EQ(shown.select(control.get()), S_OK);
+    EXPECT_EQ(shown.find(L"EDIT", L"9"), nullptr) << "loaded again";
+    EXPECT_EQ(shown.page->Apply(), S_OK);
+}
+
+// The calendar is an automation object that has none of the properties.
+TEST(PageSelections, ObjectsWithoutThePropertiesAreAnErrorOnEveryPage)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const ComPtr<IUnknown> calendar = create(L"Vela.cCalendar");
+    const CLSID others[] = {activex::geralPage, activex::errosPage, activex::fontePage, activex::calendarioPage};
+    for (const CLSID& id : others) {
+        const AnsweredBoxes boxes;
+        const ShownPage shown(id, {calendar.get()});
+        ASSERT_EQ(AnsweredBoxes::texts().size(), 1u) << "said when the page is activated";
+        EXPECT_EQ(AnsweredBoxes::texts().front(), u"Object doesn't support this property or method");
+        EXPECT_EQ(shown.page->Apply(), lacksMember);
+        EXPECT_EQ(errorText(), u"Object doesn't support this property or method");
+        EXPECT_EQ(shown.select(control.get()), S_OK);
+        EXPECT_EQ(shown.page->Apply(), S_OK) << "the page is usable";
+        EXPECT_EQ(shown.select(calendar.get()), lacksMember);
+        EXPECT_EQ(AnsweredBoxes::texts().size(), 1u) << "the host has the error";
+    }
+}
+
+TEST(PageSelections, TheMainPageNamesTheLineItCouldNotRead)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const ComPtr<IUnknown> calendar = create(L"Vela.cCalendar");
+    const AnsweredBoxes boxes;
+    const ShownPage shown(activex::principalPage, {calendar.get()});
+    ASSERT_EQ(AnsweredBoxes::texts().size(), 1u);
+    EXPECT_EQ(AnsweredBoxes::texts().front(), u"Rotina: PropertyPage_SelectionChanged\r\nLinha: 1\r\nErro: 438\r\n"
+                                              u"Object doesn't support this property or method");
+    EXPECT_EQ(shown.page->Apply(), lacksMember);
+    EXPECT_EQ(shown.select(control.get()), S_OK);
+    EXPECT_EQ(shown.page->Apply(), S_OK);
+}
+
+TEST(PageSelections, AnObjectWithoutAutomationIsRefusedAndTheFormerOnesStay)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const ComPtr<PageFrame> other = make<PageFrame>();
+    const ShownPage shown(activex::geralPage, {control.get()});
+    EXPECT_EQ(shown.select(other.get()), E_NOINTERFACE);
+    EXPECT_EQ(shown.page->Apply(), S_OK);
+}
+
+// The page's own reference keeps the closed control: what is applied goes there and hurts nobody.
+TEST(PageSelections, AControlClosedWhileItsPageIsOpenStillTakesItsValues)
+{
+    const LeakCheck leaks;
+    Form form;
+    Site& site = form.addActive();
+    const ComPtr<IUnknown> another = create();
+    for (const CLSID& id : {activex::geralPage, activex::fontePage}) {
+        Site& closed = form.addActive();
+        const Automation field = closed.automation();
+        field.put(u"FontBold", truth(true));
+        const ShownPage shown(id, {closed.control()});
+        form.remove(closed);
+        EXPECT_EQ(shown.page->Apply(), S_OK);
+        EXPECT_EQ(field.textOf(u"FontBold"), u"True");
+        EXPECT_EQ(shown.select(another.get()), S_OK);
+        EXPECT_EQ(shown.page->Apply(), S_OK);
+    }
+    form.remove(site);
+}
+
+TEST(Pages, NeedToBeActivated)
+{
+    ComPtr<IPropertyPage2> idle;
+    ASSERT_EQ(CoCreateInstance(activex::fontePage, nullptr, CLSCTX_INPROC_SERVER, IID_IPropertyPage2, idle.putVoid()),
+              S_OK);
+    EXPECT_EQ(idle->Show(SW_SHOW), E_UNEXPECTED);
+    EXPECT_EQ(idle->Apply(), E_UNEXPECTED);
+    EXPECT_EQ(idle->IsPageDirty(), S_FALSE);
+    EXPECT_EQ(idle->Deactivate(), S_OK);
+}
+
+// --- one property
+
+TEST(Pages, AreOpenedOnOneProperty)
+{
+    struct Row {
+        const CLSID& page;
+        const char16_t* property;
+        const wchar_t* windowClass;
+        const wchar_t* text;
+    };
+    const Row rows[] = {
+        {activex::fontePage, u"FontSize", L"Edit", L"14"},
+        {activex::principalPage, u"SimboloMonetario", L"Edit", L"R$ "},
+        {activex::principalPage, u"Mask", L"Edit", L"__-__"},        // on the third tab
+        {activex::principalPage, u"TextoLivre", L"Button", nullptr}, // on the fourth
+        {activex::geralPage, u"IF_IsEmpty", L"Edit", L"vazio"},      // in the group that is hidden at first
+        {activex::geralPage, u"AutoSelect", L"Button", nullptr},
+        {activex::calendarioPage, u"Calendar_Selected", L"Button", nullptr},
+    };
+    const ComPtr<IUnknown> control = create();
+    const Automation field(control.get());
+    field.put(u"FontSize", number(14));
+    field.put(u"SimboloMonetario", text(u"R$ "));
+    field.put(u"Mask", text(u"__-__"));
+    field.put(u"IF_IsEmpty", text(u"vazio"));
+    for (const Row& row : rows) {
+        SCOPED_TRACE(std::string(row.property, row.property + std::char_traits<char16_t>::length(row.property)));
+        const ShownPage shown(row.page, {control.get()});
+        EXPECT_EQ(shown.page->EditProperty(*field.id(row.property)), S_OK);
+        const HWND focus = GetFocus();
+        wchar_t name[32]{};
+        wchar_t content[64]{};
+        GetClassNameW(focus, name, 32);
+        GetWindowTextW(focus, content, 64);
+        EXPECT_TRUE(IsChild(shown.window(), focus));
+        EXPECT_TRUE(IsWindowVisible(focus));
+        EXPECT_STREQ(name, row.windowClass);
+        if (row.text) {
+            EXPECT_STREQ(content, row.text);
+        }
+        EXPECT_EQ(shown.page->IsPageDirty(), S_FALSE);
+    }
+    const ShownPage shown(activex::fontePage, {control.get()});
+    EXPECT_EQ(shown.page->EditProperty(*field.id(u"Mask")), E_INVALIDARG) << "another page's";
+    EXPECT_EQ(shown.page->EditProperty(4711), E_INVALIDARG);
+}
+
+// --- hosts that let go of the page while something runs in it
+
+TEST(PageHosts, LetGoInsideTheChangedFlag)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    ShownPage shown(activex::geralPage, {control.get()});
+    const HWND box = shown.find(L"EDIT", L"");
+    ASSERT_NE(box, nullptr);
+    shown.frame->onStatus = [&] { shown.leave(); };
+    ShownPage::type(box, L'#');
+    EXPECT_FALSE(shown.page) << "the host was asked";
+}
+
+// Of the ten properties the host hears of the first change only, and has let go of everything by then.
+TEST(PageHosts, LetGoInsideApplyWhichIsCarriedOutWhole)
+{
+    const LeakCheck leaks;
+    Form form;
+    Site& site = form.addActive();
+    const Automation field = site.automation();
+    field.put(u"Delimitador04", text(u"quatro"));
+    ShownPage shown(activex::geralPage, {site.control()});
+    ShownPage::type(shown.find(L"EDIT", L"quatro"), L'4');
+    SendMessageW(shown.find(L"BUTTON", L"Quando Pressionar &ENTER enviar um TAB"), BM_CLICK, 0, 0);
+    site.onCall = [&](const char* word) {
+        if (std::string_view(word).starts_with("changed"))
+            shown.leave();
+    };
+    const DWORD before = shown.frame->status;
+    IPropertyPage2* const page = shown.page.get();
+    EXPECT_EQ(page->Apply(), S_OK);
+    site.onCall = nullptr;
+    EXPECT_FALSE(shown.page);
+    EXPECT_EQ(field.textOf(u"EnterAsTab"), u"True");
+    EXPECT_EQ(field.textOf(u"Delimitador04"), u"4");
+    EXPECT_EQ(shown.frame->status, before) << "a frame that has gone hears nothing";
+}
+
+TEST(PageHosts, LetGoWhileAMessageBoxStands)
+{
+    struct Row {
+        const char* ends;
+        std::function<void(ShownPage&)> end;
+    };
+    const Row rows[] = {{"the page only", [](ShownPage& shown) { shown.page->Deactivate(); }},
+                        {"the page and its site",
+                         [](ShownPage& shown) {
+                             shown.page->Deactivate();
+                             shown.page->SetPageSite(nullptr);
+                         }},
+                        {"all of it", [](ShownPage& shown) { shown.leave(); }},
+                        {"the frame's window too", [](ShownPage& shown) {
+                             shown.leave();
+                             DestroyWindow(shown.window());
+                         }}};
+    const ComPtr<IUnknown> control = create();
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.ends);
+        const LeakCheck leaks;
+        ShownPage shown(activex::geralPage, {control.get()});
+        const AnsweredBoxes boxes([&] { row.end(shown); });
+        SendMessageW(shown.find(L"BUTTON", L"?"), BM_CLICK, 0, 0);
+        EXPECT_EQ(AnsweredBoxes::texts().size(), 1u);
+    }
+}
+
+TEST(PageHosts, LetGoWhileApplySaysNo)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const Automation field(control.get());
+    field.put(u"TextType", number(2));
+    field.put(u"DateFormat", text(u"dd/xx"));
+    ShownPage shown(activex::principalPage, {control.get()});
+    const AnsweredBoxes boxes([&] { shown.leave(); });
+    IPropertyPage2* const page = shown.page.get();
+    EXPECT_EQ(page->Apply(), E_FAIL);
+    ASSERT_EQ(AnsweredBoxes::texts().size(), 2u);
+    EXPECT_EQ(AnsweredBoxes::texts().back(), u"Formato da Data inválido");
+    EXPECT_EQ(field.textOf(u"DateFormat"), u"dd/xx");
+}
+
+TEST(PageHosts, SelectAnotherControlInsideAnAct)
+{
+    const LeakCheck leaks;
+    Form form;
+    Site& first = form.addActive();
+    const ComPtr<IUnknown> second = create();
+    Automation(second.get()).put(u"Delimitador", text(u"outro"));
+    const ShownPage shown(activex::geralPage, {first.control()});
+    ShownPage::type(shown.find(L"EDIT", L""), L'#');
+    bool selected = false;
+    first.onCall = [&](const char*) {
+        if (std::exchange(selected, true))
+            return;
+        EXPECT_EQ(shown.select(second.get()), S_OK);
+        EXPECT_EQ(shown.find(L"EDIT", L"outro"), nullptr) << "not amid the writing";
+    };
+    EXPECT_EQ(shown.page->Apply(), S_OK);
+    first.onCall = nullptr;
+    EXPECT_TRUE(selected);
+    EXPECT_EQ(first.automation().textOf(u"Delimitador"), u"#");
+    EXPECT_EQ(Automation(second.get()).textOf(u"Delimitador"), u"outro");
+    EXPECT_NE(shown.find(L"EDIT", L"outro"), nullptr) << "loaded when the writing had ended";
+    EXPECT_EQ(shown.page->IsPageDirty(), S_FALSE);
+}
+
+} // namespace
+
+} // namespace vela::test
