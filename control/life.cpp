@@ -78,12 +78,12 @@ void Vela::load(platform::PropertyBag& bag)
     const bool whole = !failure;
     step([&] { adopt(std::move(state)); });
     step([&] { prepareText(); });
-    if (whole)
-        step([&] { applyLoadedDefault(); });
     step([&] {
+        if (whole)
+            applyLoadedDefault(); // one that fails ends the step: no scheme is in force
         adoptScheme();
-        layOut();
     });
+    step([&] { layOut(); });
     if (failure)
         throw *failure;
 }
