@@ -159,8 +159,14 @@ void VelaContent::attach(HWND parent, const RECT& place)
     parking_ = {};
 }
 
+// A pop-up would hang under nothing, and so would an alert: the field of a form that closes is left on the way.
 void VelaContent::detach() noexcept
 {
+    contained([&] {
+        if (session_->popups.isOpenFor(vela_))
+            session_->popups.closeAll();
+        vela_.DestruirToolTip();
+    });
     contained([&] { surface_.destroy(); });
 }
 

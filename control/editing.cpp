@@ -97,8 +97,19 @@ void Vela::PasteSink::writeText(std::u16string_view text, int caret)
     selection_ = {caret, 0};
 }
 
+// Over what is marked in a full mask there is no prompt that would draw the caret on: a run of literals is crossed.
+void Vela::PasteSink::crossLiterals(int key)
+{
+    if (selectionBefore_.length == 0 || key > u'z' || !isLetterOrDigit(static_cast<char16_t>(key)))
+        return;
+    const auto next = engine::nextInputPosition(selection_.start, field_.maskSettings());
+    if (next && *next > selection_.start + 1) // one literal is crossed by typing itself
+        selection_ = {*next, 0};
+}
+
 void Vela::PasteSink::validateMask(int& key)
 {
+    crossLiterals(key);
     const engine::MaskStep step = engine::validateMask(key, selection_.start, field_.maskSettings(), text_);
     key = step.key;
     if (step.textWritten)

@@ -65,6 +65,7 @@ public:
     void finish();
 
 private:
+    void crossLiterals(int key);
     void insert(std::u16string_view typed);
 
     Vela& field_;

@@ -53,7 +53,8 @@ public:
     virtual void putLook(const SurfaceLook& look) = 0; // repaints
     virtual void arrange(const SurfaceLayout& layout) = 0;
     virtual void clear() = 0;                          // wipes what was drawn and repaints
-    // A rectangle drawn until the next clear: left 0, top 0, size of the client area less 10 units each way.
+    // A rectangle drawn until the next clear or another border: left 0, top 0, size of the client area less 10 units
+    // each way.
     virtual void drawRectangle(engine::Colour colour, int width) = 0;
     virtual void enableHoverTimer(bool enabled) = 0;
     [[nodiscard]] virtual engine::RectPixels clientRect() const = 0;

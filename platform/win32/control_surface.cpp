@@ -124,12 +124,17 @@ void ControlSurface::reparent(HWND parent, const RECT& place)
 
 void ControlSurface::place(const RECT& place)
 {
+    if (window_) { // WM_SIZE compares with the former size, and reports
+        Watch watch(life_);
+        SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
+        if (watch.alive())
+            place_ = place;
+        return;
+    }
     const bool resized = !sameSize(place, place_);
     place_ = place;
-    if (window_)
-        SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
-                     SWP_NOZORDER | SWP_NOACTIVATE); // WM_SIZE reports
-    else if (resized && events_)
+    if (resized && events_)
         events_->resized();
 }
 
@@ -226,6 +231,8 @@ void ControlSurface::putEnabled(bool enabled)
 void ControlSurface::putLook(const platform::SurfaceLook& look)
 {
     const bool glyphChanged = look.glyph != look_.glyph;
+    if (look.border != look_.border)
+        frame_.reset(); // the new border is drawn over what was drawn before
     look_ = look;
     if (!window_)
         return;

@@ -76,7 +76,8 @@ private:
     bool shortcut(int code, int shift);
     void command(UINT command);
     void paste();
-    void cut(bool copy);
+    void copy() const;
+    void cut(bool keep); // for the clipboard
     void moveToNext(bool back);
 
     LRESULT pass(UINT message, WPARAM first, LPARAM second); // to the EDIT, then reports what it changed

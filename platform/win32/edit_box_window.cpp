@@ -89,6 +89,7 @@ LRESULT EditBox::handle(UINT message, WPARAM first, LPARAM second)
     case WM_SETTEXT: return onSetText(first, second);
     case EM_REPLACESEL: refresh(); return pass(message, first, second);
     case WM_PASTE: paste(); return 0;
+    case WM_COPY: copy(); return 0;
     case WM_CUT: cut(true); return 0;
     case WM_CLEAR: cut(false); return 0;
     case WM_UNDO:
@@ -403,7 +404,7 @@ void EditBox::command(UINT command)
 {
     platform::EditBoxEvents* listener = events();
     switch (command) {
-    case editCopy: native(WM_COPY, 0, 0); break;
+    case editCopy: copy(); break;
     case editCut: cut(true); break;
     case editDelete: cut(false); break;
     case editPaste: paste(); break;
@@ -427,13 +428,19 @@ void EditBox::paste()
         listener->pasted(text);
 }
 
-// A password is never copied, and so not cut either.
-void EditBox::cut(bool copy)
+// A password is never copied, and so not cut either. Wine's EDIT would.
+void EditBox::copy() const
 {
-    if (selection().length == 0 || (copy && traits_.passwordChar))
-        return;
-    if (copy)
+    if (!traits_.passwordChar)
         native(WM_COPY, 0, 0);
+}
+
+void EditBox::cut(bool keep)
+{
+    if (selection().length == 0 || (keep && traits_.passwordChar))
+        return;
+    if (keep)
+        copy();
     if (platform::EditBoxEvents* listener = events())
         listener->cut();
 }

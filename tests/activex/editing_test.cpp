@@ -1,0 +1,242 @@
+// The clipboard, undo and unusual characters at the windows of the control.
+#include "person.h"
+
+#include <gtest/gtest.h>
+
+namespace vela::test {
+
+namespace {
+
+void putClipboard(std::u16string_view text)
+{
+    const std::size_t bytes = (text.size() + 1) * sizeof(char16_t);
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, bytes);
+    CopyMemory(GlobalLock(memory), text.data(), text.size() * sizeof(char16_t));
+    GlobalUnlock(memory);
+    ASSERT_TRUE(OpenClipboard(nullptr));
+    EmptyClipboard();
+    SetClipboardData(CF_UNICODETEXT, memory);
+    CloseClipboard();
+}
+
+std::u16string clipboard()
+{
+    if (!OpenClipboard(nullptr))
+        return u"?";
+    const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
+    std::u16string text;
+    if (memory) {
+        const auto* const units = static_cast<const wchar_t*>(GlobalLock(memory));
+        text = asText(units, wcslen(units));
+        GlobalUnlock(memory);
+    }
+    CloseClipboard();
+    return text;
+}
+
+void asPlate(const Automation& field)
+{
+    field.put(u"PromptChar", text(u"_"));
+    field.put(u"Mask", text(u"___-____"));
+    field.put(u"TextType", number(3));
+    field.put(u"MaskRules", text(u"@@@-####"));
+}
+
+void asTelephone(const Automation& field)
+{
+    field.put(u"PromptChar", text(u"_"));
+    field.put(u"Mask", text(u"(__) ____-____"));
+    field.put(u"TextType", number(3));
+}
+
+void asNumber(const Automation& field)
+{
+    field.put(u"TextType", number(1));
+    field.put(u"SimbolDecExib", number(2));
+    field.put(u"QtdCasasDec", number(2));
+}
+
+void asAmount(const Automation& field)
+{
+    asNumber(field);
+    field.put(u"MaskToNumeric", truth(true));
+}
+
+void asText_(const Automation&) {}
+
+// A control with the focus, of one kind.
+class Field {
+public:
+    explicit Field(void (*kind)(const Automation&)) : site(form.addActive())
+    {
+        kind(site.automation());
+        form.focus(site);
+        settle(form);
+    }
+    void select(int start, int end) { SendMessageW(site.edit(), EM_SETSEL, static_cast<WPARAM>(start), end); }
+    [[nodiscard]] std::u16string shown() const { return shownBy(site.edit()); }
+    void send(UINT message) { SendMessageW(site.edit(), message, 0, 0); }
+    // A command of the context menu, by the access key of its caption.
+    void choose(char key)
+    {
+        PostMessageW(site.edit(), WM_KEYDOWN, static_cast<WPARAM>(key), 1);
+        SendMessageW(site.edit(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(site.edit()), -1);
+        settle(form);
+    }
+
+    Form form;
+    Site& site;
+};
+
+struct Paste {
+    const char* rule;
+    void (*kind)(const Automation&);
+    const char16_t* typed;
+    int start;
+    int end; // of the selection; -1 to the end
+    const char16_t* pasted;
+    const char16_t* shows;
+};
+
+const Paste pastes[] = {
+    {"free text over a selection", asText_, u"abcd", 1, 3, u"XYZ", u"aXYZd"},
+    {"a mask with its literals", asPlate, u"", 0, 0, u"abc-1234", u"ABC-1234"},
+    {"a mask without, what a rule refuses left out", asPlate, u"", 0, 0, u"ab9c1-2", u"ABC-12__"},
+    {"over a full mask, all selected", asPlate, u"abc1234", 0, -1, u"XYZ9876", u"XYZ-9876"},
+    {"over a full mask of two literals in a row", asTelephone, u"5199987766", 0, -1, u"(11) 2222-3333",
+     u"(11) 2222-3333"},
+    {"the same without literals", asTelephone, u"5199987766", 0, -1, u"1122223333", u"(11) 2222-3333"},
+    {"over a part of a full mask", asTelephone, u"5199987766", 5, 9, u"1234", u"(51) 1234-7766"},
+    {"a number by its rules", asNumber, u"", 0, 0, u"1.234,567", u"1234,56"},
+    {"over a number", asNumber, u"99,99", 0, -1, u"1,5", u"1,5"},
+    {"an amount", asAmount, u"", 0, -1, u"1234", u"12,34"},
+};
+
+TEST(Editing, PasteGoesThroughTheRules)
+{
+    const LeakCheck leaks;
+    for (const Paste& row : pastes) {
+        SCOPED_TRACE(row.rule);
+        for (const bool key : {false, true}) {
+            Field field(row.kind);
+            field.form.type(row.typed);
+            field.select(row.start, row.end);
+            putClipboard(row.pasted);
+            field.site.log.clear();
+            if (key)
+                field.form.type(u"\x16"); // Control and V
+            else
+                field.send(WM_PASTE);
+            EXPECT_EQ(field.shown(), row.shows);
+            EXPECT_EQ(field.site.count("event 1"), 1) << "one change";
+        }
+    }
+}
+
+struct Edit {
+    const char* rule;
+    void (*kind)(const Automation&);
+    const char16_t* typed;
+    int start;
+    int end;
+    const char16_t* cut;
+    const char16_t* shows;
+};
+
+const Edit cuts[] = {
+    {"free text", asText_, u"abcd", 1, 3, u"bc", u"ad"},
+    {"prompts come back into a mask", asPlate, u"abc1234", 1, 6, u"BC-12", u"A__-__34"},
+    {"a number", asNumber, u"12,34", 0, 1, u"1", u"2,34"},
+    {"an amount is laid out again", asAmount, u"1234", 0, 1, u"1", u"2,34"},
+};
+
+TEST(Editing, CutUndoAndRedo)
+{
+    const LeakCheck leaks;
+    for (const Edit& row : cuts) {
+        SCOPED_TRACE(row.rule);
+        Field field(row.kind);
+        field.form.type(row.typed);
+        const std::u16string before = field.shown();
+        for (const auto& step : {+[](Field& at) { at.send(WM_CUT); }, +[](Field& at) { at.form.type(u"\x18"); },
+                                 +[](Field& at) { at.choose('T'); }}) {
+            putClipboard(u"-");
+            field.select(row.start, row.end);
+            step(field);
+            EXPECT_EQ(clipboard(), row.cut);
+            EXPECT_EQ(field.shown(), row.shows);
+            field.form.type(u"\x1A"); // Control and Z
+            EXPECT_EQ(field.shown(), before);
+            field.form.type(u"\x19"); // Control and Y
+            EXPECT_EQ(field.shown(), row.shows);
+            field.send(EM_UNDO);
+            EXPECT_EQ(field.shown(), before);
+        }
+        for (std::u16string_view shown = before; !shown.empty(); shown.remove_suffix(1))
+            field.send(WM_UNDO);
+        field.send(WM_UNDO);
+        Field untouched(row.kind);
+        EXPECT_EQ(field.shown(), untouched.shown()) << "each step back";
+    }
+}
+
+TEST(Editing, TheMenusCommands)
+{
+    const LeakCheck leaks;
+    Field field(asPlate);
+    putClipboard(u"abc1234");
+    field.choose('O'); // Colar
+    EXPECT_EQ(field.shown(), u"ABC-1234");
+    field.choose('S'); // Selecionar tudo
+    DWORD start = 9;
+    DWORD end = 9;
+    SendMessageW(field.site.edit(), EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    EXPECT_EQ(end - start, 8u);
+    putClipboard(u"-");
+    field.choose('C'); // Copiar
+    EXPECT_EQ(clipboard(), u"ABC-1234");
+    field.choose('X'); // Excluir
+    EXPECT_EQ(field.shown(), u"___-____");
+    field.choose('D'); // Desfazer
+    EXPECT_EQ(field.shown(), u"ABC-1234");
+    field.choose('R'); // Refazer
+    EXPECT_EQ(field.shown(), u"___-____");
+}
+
+TEST(Editing, APasswordStays)
+{
+    Field field(asText_);
+    field.site.automation().put(u"PasswordChar", text(u"*"));
+    field.form.focus(field.site);
+    field.form.type(u"segredo");
+    putClipboard(u"-");
+    field.select(0, -1);
+    field.send(WM_COPY);
+    field.send(WM_CUT);
+    EXPECT_EQ(clipboard(), u"-");
+    EXPECT_EQ(field.site.automation().textOf(u"Text"), u"segredo");
+}
+
+TEST(Editing, UnusualDigitsAndTheKeypadsDecimalKey)
+{
+    const LeakCheck leaks;
+    Field plate(asPlate);
+    plate.form.type(u"abc\uFF11\uFF12");
+    EXPECT_EQ(plate.shown(), u"ABC-12__");
+    Field amount(asAmount);
+    amount.form.type(u"\uFF11\uFF12\uFF13");
+    EXPECT_EQ(amount.shown(), u"1,23");
+    for (const auto& [symbol, shows] : {std::pair{2, u"5,7"}, std::pair{1, u"5.7"}}) {
+        Field number_(asNumber);
+        number_.site.automation().put(u"SimbolDecExib", number(symbol));
+        number_.form.focus(number_.site);
+        number_.form.type(u"\uFF15");
+        number_.form.press(VK_DECIMAL);
+        number_.form.type(u"7");
+        EXPECT_EQ(number_.shown(), shows);
+    }
+}
+
+} // namespace
+
+} // namespace vela::test

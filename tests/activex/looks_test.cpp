@@ -1,0 +1,382 @@
+// What a field looks like on the screen: hover, focus, errors, states, sizes, dots per inch and high contrast.
+#include "person.h"
+#include "screen_settings.h"
+
+#include <gtest/gtest.h>
+#include <olectl.h>
+
+#include <cstdlib>
+#include <optional>
+
+namespace vela::test {
+
+namespace {
+
+constexpr DISPID mouseOut = 2;
+constexpr COLORREF wrongColour = 0x000000C8;
+
+struct Palette {
+    const char16_t* property;
+    COLORREF colour;
+};
+constexpr COLORREF backFocus = 0x00AAFFFF, backRest = 0x00FFE0E0, backHover = 0x00C0FFC0;
+constexpr COLORREF lineFocus = 0x00FF0000, lineRest = 0x00808000, lineHover = 0x000000FF;
+constexpr COLORREF foreFocus = 0x00400000, foreRest = 0x00004000;
+constexpr Palette palette[] = {
+    {u"BackColorGotFocus", backFocus},   {u"BackColorLostFocus", backRest},   {u"BackColor_MouseMove", backHover},
+    {u"BorderColorGotfocus", lineFocus}, {u"BorderColorLostfocus", lineRest}, {u"BorderColor_MouseMove", lineHover},
+    {u"ForeColor_GotFocus", foreFocus},  {u"ForeColor_LostFocus", foreRest},  {u"Error_ForeColor", wrongColour},
+};
+
+// A flat field in known colours that has been left once, and a neighbour that has the focus.
+class Screen {
+public:
+    Screen() : site(form.addActive()), neighbour(form.addActive())
+    {
+        pointAway();
+        const Automation field = site.automation();
+        field.put(u"Appearance", number(0));
+        for (const Palette& row : palette)
+            field.put(row.property, number(static_cast<std::int32_t>(row.colour)));
+        enter();
+        leave();
+        site.log.clear();
+    }
+    void enter()
+    {
+        form.focus(site);
+        settle(form);
+    }
+    void leave()
+    {
+        form.focus(neighbour);
+        settle(form);
+    }
+    // The border's own colour, in the middle of the top line.
+    [[nodiscard]] COLORREF line() const { return pixelOf(site.window(), {80, 0}); }
+    // Right of any text.
+    [[nodiscard]] COLORREF back() const
+    {
+        const RECT client = clientOf(site.edit());
+        return pixelOf(site.edit(), {client.right - 4, client.bottom / 2});
+    }
+    [[nodiscard]] int inked(COLORREF colour) const { return pixelsOf(site.edit(), colour, clientOf(site.edit())); }
+
+    Form form;
+    Site& site;
+    Site& neighbour;
+};
+
+TEST(Looks, FocusAndErrorAreSeen)
+{
+    const LeakCheck leaks;
+    Screen screen;
+    EXPECT_EQ(screen.back(), backRest);
+    EXPECT_EQ(screen.line(), lineRest);
+    screen.enter();
+    screen.form.type(u"MMM");
+    screen.site.automation().put(u"SelStart", number(3));
+    settle(screen.form);
+    EXPECT_EQ(screen.back(), backFocus);
+    EXPECT_EQ(screen.line(), lineFocus);
+    EXPECT_GT(screen.inked(foreFocus), 5);
+    screen.leave();
+    EXPECT_EQ(screen.back(), backRest);
+    EXPECT_EQ(screen.line(), lineRest);
+    EXPECT_GT(screen.inked(foreRest), 5);
+    EXPECT_EQ(screen.inked(foreFocus), 0);
+
+    makeDate(screen.site, u"__/__/____");
+    screen.enter();
+    screen.form.type(u"4");
+    screen.leave();
+    settle(screen.form);
+    EXPECT_EQ(GetFocus(), screen.site.edit()) << "held";
+    EXPECT_EQ(screen.back(), backFocus);
+    screen.site.automation().put(u"SelStart", number(10)); // what is marked has the system's colours
+    settle(screen.form);
+    EXPECT_GT(screen.inked(wrongColour), 2);
+    screen.leave();
+    EXPECT_EQ(screen.back(), backRest);
+    EXPECT_GT(screen.inked(wrongColour), 2);
+}
+
+TEST(Looks, ThePointerBringsHoverColoursAndMouseOut)
+{
+    const LeakCheck leaks;
+    for (const bool focused : {false, true}) {
+        SCOPED_TRACE(focused ? "with the focus" : "without");
+        Screen screen;
+        screen.site.automation().put(u"ShowButtonCalculadora", truth(true));
+        if (focused)
+            screen.enter();
+        const COLORREF fore = coloursOf(screen.site).fore;
+        for (int round = 1; round <= 2; ++round) {
+            pointAt(screen.site.edit(), {20, 8});
+            EXPECT_TRUE(until(screen.form, [&] { return screen.back() == backHover; }));
+            EXPECT_EQ(screen.line(), lineHover);
+            EXPECT_EQ(coloursOf(screen.site).fore, fore);
+            EXPECT_EQ(screen.site.count("event " + std::to_string(mouseOut)), round - 1);
+            if (round == 1)
+                pointAway();
+            else
+                pointAt(buttonOf(screen.site), {3, 3}); // a part of the field, but not its edit box
+            EXPECT_TRUE(
+                until(screen.form, [&] { return screen.site.count("event " + std::to_string(mouseOut)) == round; }));
+            settle(screen.form);
+            EXPECT_EQ(screen.back(), focused ? backFocus : backRest);
+            EXPECT_EQ(screen.line(), focused ? lineFocus : lineRest);
+            EXPECT_EQ(coloursOf(screen.site).fore, fore);
+        }
+        pumpFor(150); // some ticks
+        EXPECT_EQ(screen.site.count("event " + std::to_string(mouseOut)), 2) << "once each time";
+    }
+}
+
+// The host may close the field when the pointer leaves it.
+TEST(Looks, AMouseOutMayEndTheField)
+{
+    const AnsweredBoxes boxes;
+    const LeakCheck leaks;
+    Screen screen;
+    screen.site.onEvent = [&](DISPID id, DISPPARAMS&) {
+        if (id == mouseOut)
+            screen.site.close();
+    };
+    pointAt(screen.site.edit(), {20, 8});
+    EXPECT_TRUE(until(screen.form, [&] { return screen.back() == backHover; }));
+    pointAway();
+    EXPECT_TRUE(until(screen.form, [&] { return screen.site.control() == nullptr; }));
+    EXPECT_TRUE(AnsweredBoxes::texts().empty());
+}
+
+TEST(Looks, DisabledIsGreyAndDeaf)
+{
+    const LeakCheck leaks;
+    Screen screen;
+    const Automation field = screen.site.automation();
+    field.put(u"Text", text(u"MMMM"));
+    ASSERT_EQ(field.put(u"Enabled", truth(false)).result, S_OK);
+    settle(screen.form);
+    EXPECT_GT(screen.inked(GetSysColor(COLOR_GRAYTEXT)), 5);
+    EXPECT_EQ(screen.inked(foreRest), 0);
+    EXPECT_EQ(screen.back(), backRest);
+    clickAt(screen.form, screen.site.edit(), {20, 8});
+    EXPECT_EQ(GetFocus(), screen.neighbour.edit());
+    strike(screen.form, VK_TAB);
+    EXPECT_EQ(GetFocus(), screen.neighbour.edit()) << "there is no other to go to";
+    field.put(u"Enabled", truth(true));
+    settle(screen.form);
+    EXPECT_GT(screen.inked(foreRest), 5);
+}
+
+TEST(Looks, LockedIsReadNotWritten)
+{
+    const LeakCheck leaks;
+    Screen screen;
+    const Automation field = screen.site.automation();
+    field.put(u"Text", text(u"MMMM"));
+    field.put(u"Locked", truth(true));
+    screen.enter();
+    screen.form.type(u"x\b");
+    EXPECT_EQ(field.textOf(u"Text"), u"MMMM");
+    EXPECT_EQ(coloursOf(screen.site).fore, foreFocus);
+    EXPECT_EQ(screen.back(), backFocus);
+    screen.leave();
+    EXPECT_GT(screen.inked(foreRest), 5) << "not grey";
+}
+
+TEST(Looks, RightAlignedStandsAtTheRight)
+{
+    const LeakCheck leaks;
+    Screen screen;
+    screen.site.automation().put(u"Text", text(u"MM"));
+    const auto inkedHalf = [&](bool right) {
+        RECT half = clientOf(screen.site.edit());
+        (right ? half.left : half.right) = half.right / 2;
+        settle(screen.form);
+        return pixelsOf(screen.site.edit(), foreRest, half) > 5;
+    };
+    EXPECT_TRUE(inkedHalf(false));
+    EXPECT_FALSE(inkedHalf(true));
+    screen.site.automation().put(u"Alignment", number(1));
+    EXPECT_FALSE(inkedHalf(false));
+    EXPECT_TRUE(inkedHalf(true));
+}
+
+TEST(Looks, SeveralLines)
+{
+    const LeakCheck leaks;
+    Form form;
+    Site& site = form.add({.initialise = false});
+    site.ambients.emplace(DISPID_AMBIENT_USERMODE, truth(false)); // decided at design time
+    ASSERT_EQ(site.as<IPersistStreamInit>()->InitNew(), S_OK);
+    site.automation().put(u"MultLine", truth(true));
+    site.automation().put(u"TextoLivre", truth(true));
+    ASSERT_EQ(site.activate({10, 10, 210, 90}), S_OK);
+    form.focus(site);
+    form.type(u"MM");
+    form.press(VK_RETURN);
+    form.type(u"MM");
+    settle(form);
+    EXPECT_EQ(site.automation().textOf(u"Text"), u"MM\r\nMM");
+    RECT second = clientOf(site.edit());
+    second.top = 18;
+    EXPECT_GT(pixelsOf(site.edit(), coloursOf(site).fore, second), 5) << "on the second line";
+    const RECT edit = placeIn(site.edit(), site.window());
+    EXPECT_GT(edit.bottom, 70) << "as tall as the field";
+}
+
+// Border, edit box and button in a field of any size: inside each other, beside each other.
+void expectArranged(const Site& site, int dpi)
+{
+    const RECT field = clientOf(site.window());
+    const RECT edit = placeIn(site.edit(), site.window());
+    RECT inside{};
+    EXPECT_TRUE(IsRectEmpty(&edit) || (IntersectRect(&inside, &edit, &field) && EqualRect(&inside, &edit)));
+    const HWND button = buttonOf(site);
+    if (!button || !(GetWindowLongPtrW(button, GWL_STYLE) & WS_VISIBLE))
+        return;
+    const RECT at = placeIn(button, site.window());
+    EXPECT_FALSE(IntersectRect(&inside, &at, &edit));
+    EXPECT_LE(at.right, field.right);
+    EXPECT_GE(at.right, field.right - MulDiv(2, dpi, 96));
+    EXPECT_GE(at.top, 0);
+    EXPECT_LE(at.bottom, field.bottom);
+}
+
+TEST(Looks, LaidOutAnewInEverySize)
+{
+    const LeakCheck leaks;
+    Form form;
+    Site& site = form.addActive();
+    makeDate(site, u"__/__/____");
+    const Automation field = site.automation();
+    field.put(u"ShowButtonCalendario", truth(true));
+    for (const SIZE size : {SIZE{200, 24}, {90, 21}, {300, 100}, {30, 12}, {10, 6}, {3, 3}, {0, 0}, {200, 24}})
+        for (const int border : {0, 1, 2, 3, 4, 5})
+            for (const int appearance : {0, 1}) {
+                SCOPED_TRACE(std::to_string(size.cx) + " x " + std::to_string(size.cy) + ", border " +
+                             std::to_string(border) + ", appearance " + std::to_string(appearance));
+                field.put(u"Appearance", number(appearance));
+                field.put(u"BorderStyle", number(border));
+                const RECT place{10, 10, 10 + size.cx, 10 + size.cy};
+                EXPECT_EQ(site.as<IOleInPlaceObject>()->SetObjectRects(&place, &place), S_OK);
+                expectArranged(site, 96);
+            }
+    settle(form);
+    const RECT edit = placeIn(site.edit(), site.window());
+    EXPECT_GT(edit.right - edit.left, 150);
+}
+
+// In a process of its own: the system's dots per inch stand for the life of a process.
+TEST(Looks, InEveryResolution)
+{
+    const ScreenResolution resolution;
+    for (const int dpi : {120, 144, 192}) {
+        SCOPED_TRACE(dpi);
+        resolution.put(dpi);
+        EXPECT_EQ(runThisProgram("LooksScaled.*", dpi), 0);
+    }
+}
+
+int childDpi()
+{
+    const char* const asked = std::getenv("VELA_TEST_DPI");
+    return asked ? std::atoi(asked) : 0;
+}
+
+class LooksScaled : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (childDpi() == 0)
+            GTEST_SKIP() << "a part of Looks.InEveryResolution";
+        perMonitor_.emplace();
+        ASSERT_EQ(screenDpi(), childDpi());
+    }
+    std::optional<PerMonitorThread> perMonitor_;
+};
+
+TEST_F(LooksScaled, TheFieldGrows)
+{
+    const int dpi = childDpi();
+    Form form;
+    Site& site = form.add();
+    const RECT place{10, 10, 10 + MulDiv(121, dpi, 96), 10 + MulDiv(21, dpi, 96)};
+    ASSERT_EQ(site.activate(place), S_OK);
+    makeDate(site, u"__/__/____");
+    const Automation field = site.automation();
+    field.put(u"ShowButtonCalendario", truth(true));
+    for (const int appearance : {0, 1}) {
+        field.put(u"Appearance", number(appearance));
+        settle(form);
+        expectArranged(site, dpi);
+        const RECT button = placeIn(buttonOf(site), site.window());
+        EXPECT_EQ(button.right - button.left, MulDiv(17, dpi, 96));
+    }
+    LOGFONTW font{};
+    GetObjectW(reinterpret_cast<HFONT>(SendMessageW(site.edit(), WM_GETFONT, 0, 0)), sizeof font, &font);
+    EXPECT_NEAR(static_cast<double>(std::abs(font.lfHeight)), 8.25 * dpi / 72, 1.0);
+    SIZEL extent{};
+    EXPECT_EQ(site.as<IOleObject>()->GetExtent(DVASPECT_CONTENT, &extent), S_OK);
+    EXPECT_NEAR(static_cast<double>(extent.cx), 121 * 2540.0 / 96, 30);
+    field.put(u"Appearance", number(0));
+    field.put(u"BorderColorLostfocus", number(lineRest));
+    form.focus(site);
+    form.focus(form.addActive());
+    settle(form);
+    const int width = MulDiv(1, dpi, 96);
+    for (int y = 0; y <= width; ++y)
+        EXPECT_EQ(pixelOf(site.window(), {40, y}) == lineRest, y < width) << "row " << y;
+}
+
+TEST_F(LooksScaled, ThePopupsGrow)
+{
+    const int dpi = childDpi();
+    Form form;
+    Site& site = form.addActive();
+    makeDate(site, u"__/__/____");
+    site.automation().put(u"ShowButtonCalendario", truth(true));
+    form.focus(site);
+    clickAt(form, buttonOf(site), middleOf(buttonOf(site)));
+    ASSERT_TRUE(until(form, [&] { return GetActiveWindow() && GetActiveWindow() != form.window(); }));
+    RECT place{};
+    GetWindowRect(GetActiveWindow(), &place);
+    EXPECT_EQ(place.right - place.left, MulDiv(184, dpi, 96));
+    EXPECT_EQ(place.bottom - place.top, MulDiv(167, dpi, 96));
+    form.press(VK_ESCAPE);
+    settle(form);
+}
+
+// The person's colours win over the form's, in every state.
+TEST(Looks, InHighContrast)
+{
+    const LeakCheck leaks;
+    const HighContrast contrast;
+    Screen screen;
+    screen.site.automation().put(u"ShowButtonCalculadora", truth(true));
+    screen.site.automation().put(u"Text", text(u"MMMM"));
+    const auto expectSystem = [&] {
+        settle(screen.form);
+        EXPECT_EQ(coloursOf(screen.site), (SeenColours{HighContrast::text, HighContrast::window}));
+        EXPECT_EQ(screen.back(), HighContrast::window);
+        EXPECT_EQ(screen.line(), HighContrast::frame);
+    };
+    expectSystem();
+    EXPECT_GT(screen.inked(HighContrast::text), 5);
+    pointAt(screen.site.edit(), {20, 8});
+    screen.enter();
+    expectSystem();
+    pointAway();
+    EXPECT_TRUE(until(screen.form, [&] { return screen.site.count("event " + std::to_string(mouseOut)) == 1; }));
+    expectSystem();
+    screen.site.automation().put(u"Enabled", truth(false));
+    settle(screen.form);
+    EXPECT_GT(screen.inked(HighContrast::grey), 5);
+    EXPECT_EQ(screen.inked(HighContrast::text), 0);
+}
+
+} // namespace
+
+} // namespace vela::test

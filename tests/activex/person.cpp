@@ -1,0 +1,198 @@
+// Pointer, keys and looks for the tests.
+#include "person.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+namespace vela::test {
+
+namespace {
+
+constexpr DWORD patience = 20000; // milliseconds; a loaded machine is slow
+std::vector<HWND> path;
+
+LRESULT CALLBACK followFocus(int code, WPARAM window, LPARAM detail)
+{
+    if (code == HCBT_SETFOCUS && window)
+        path.push_back(reinterpret_cast<HWND>(window));
+    return CallNextHookEx(nullptr, code, window, detail);
+}
+
+void sendMouse(DWORD flags)
+{
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+}
+
+bool nothingWaits()
+{
+    return GetQueueStatus(QS_ALLINPUT & ~QS_TIMER) == 0;
+}
+
+} // namespace
+
+bool until(Form& form, const std::function<bool()>& condition)
+{
+    const DWORD start = GetTickCount();
+    for (;;) {
+        form.run();
+        if (condition())
+            return true;
+        if (GetTickCount() - start > patience)
+            return false;
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+    }
+}
+
+void settle(Form& form)
+{
+    EXPECT_TRUE(until(form, nothingWaits));
+}
+
+// A step away first: the system tells nothing of a pointer that stays where it is.
+void pointAt(HWND window, POINT at)
+{
+    ClientToScreen(window, &at);
+    SetCursorPos(at.x + 1, at.y);
+    SetCursorPos(at.x, at.y);
+    sendMouse(MOUSEEVENTF_MOVE);
+}
+
+void pointAway()
+{
+    SetCursorPos(GetSystemMetrics(SM_CXSCREEN) - 3, GetSystemMetrics(SM_CYSCREEN) - 3);
+}
+
+// Down and up arrive as hardware has them; the form's loop hands them on. Two in a row are no double click.
+void clickAt(Form& form, HWND window, POINT at)
+{
+    static bool aside = false;
+    const int doubleClick = GetSystemMetrics(SM_CXDOUBLECLK);
+    if (std::exchange(aside, !aside))
+        at.x += doubleClick;
+    pointAt(window, at);
+    sendMouse(MOUSEEVENTF_LEFTDOWN);
+    settle(form);
+    sendMouse(MOUSEEVENTF_LEFTUP);
+    settle(form);
+}
+
+POINT middleOf(HWND window)
+{
+    const RECT client = clientOf(window);
+    return {client.right / 2, client.bottom / 2};
+}
+
+void strike(Form& form, int key, int with)
+{
+    if (with)
+        holdKey(with, true);
+    form.press(static_cast<WPARAM>(key));
+    if (with)
+        holdKey(with, false);
+    settle(form);
+}
+
+void holdKey(int key, bool down)
+{
+    BYTE keys[256]{};
+    GetKeyboardState(keys);
+    keys[key] = down ? 0x80 : 0;
+    SetKeyboardState(keys);
+}
+
+SeenColours coloursOf(const Site& site)
+{
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HWND edit = site.edit();
+    const UINT message = IsWindowEnabled(edit) && !(GetWindowLongPtrW(edit, GWL_STYLE) & ES_READONLY)
+                             ? WM_CTLCOLOREDIT
+                             : WM_CTLCOLORSTATIC;
+    SendMessageW(site.window(), message, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(edit));
+    const SeenColours seen{GetTextColor(dc), GetBkColor(dc)};
+    DeleteDC(dc);
+    return seen;
+}
+
+COLORREF pixelOf(HWND window, POINT at)
+{
+    UpdateWindow(window);
+    const HDC dc = GetDC(window);
+    const COLORREF colour = GetPixel(dc, at.x, at.y);
+    ReleaseDC(window, dc);
+    return colour;
+}
+
+int pixelsOf(HWND window, COLORREF colour, RECT in)
+{
+    UpdateWindow(window);
+    const HDC dc = GetDC(window);
+    int found = 0;
+    for (LONG y = in.top; y < in.bottom; ++y)
+        for (LONG x = in.left; x < in.right; ++x)
+            found += GetPixel(dc, x, y) == colour;
+    ReleaseDC(window, dc);
+    return found;
+}
+
+RECT clientOf(HWND window)
+{
+    RECT client{};
+    GetClientRect(window, &client);
+    return client;
+}
+
+RECT placeIn(HWND window, HWND parent)
+{
+    RECT place{};
+    GetWindowRect(window, &place);
+    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+HWND buttonOf(const Site& site)
+{
+    return FindWindowExW(site.window(), nullptr, L"Button", nullptr);
+}
+
+std::u16string shownBy(HWND window)
+{
+    wchar_t shown[256]{};
+    const int length = GetWindowTextW(window, shown, 256);
+    return std::u16string(asText(shown, static_cast<std::size_t>(length)));
+}
+
+void makeDate(const Site& site, std::u16string_view shown)
+{
+    const Automation field = site.automation();
+    ASSERT_EQ(field.put(u"FormatoExibData", text(u"__/__/____")).result, S_OK);
+    ASSERT_EQ(field.put(u"DateFormat", text(u"dd/mm/yyyy")).result, S_OK);
+    ASSERT_EQ(field.put(u"TextType", number(2)).result, S_OK);
+    SetWindowTextW(site.edit(), asWide(std::u16string(shown).c_str()));
+}
+
+FocusPath::FocusPath() : hook_(SetWindowsHookExW(WH_CBT, followFocus, nullptr, GetCurrentThreadId()))
+{
+    path.clear();
+}
+
+FocusPath::~FocusPath()
+{
+    UnhookWindowsHookEx(hook_);
+}
+
+const std::vector<HWND>& FocusPath::windows()
+{
+    return path;
+}
+
+OtherWindow::OtherWindow()
+    : window_(CreateWindowExW(0, L"STATIC", L"Outra", WS_POPUP, 500, 0, 200, 100, nullptr, nullptr, nullptr, nullptr))
+{
+    ShowWindow(window_, SW_SHOWNOACTIVATE);
+}
+
+} // namespace vela::test

@@ -1,0 +1,180 @@
+// The registry's resolution, a child process, and the library's own question about high contrast answered.
+#include "screen_settings.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <iterator>
+
+namespace vela::test {
+
+namespace {
+
+constexpr wchar_t desktopKey[] = L"Control Panel\\Desktop";
+constexpr wchar_t resolutionValue[] = L"LogPixels";
+
+constexpr int elements[] = {COLOR_WINDOW, COLOR_WINDOWTEXT, COLOR_WINDOWFRAME, COLOR_GRAYTEXT};
+constexpr COLORREF contrasts[] = {HighContrast::window, HighContrast::text, HighContrast::frame, HighContrast::grey};
+
+using Ask = BOOL(WINAPI*)(UINT, UINT, void*, UINT);
+Ask* asked = nullptr; // where the library keeps the function's address
+Ask original = nullptr;
+
+BOOL WINAPI answerContrast(UINT action, UINT size, void* result, UINT flags)
+{
+    if (action != SPI_GETHIGHCONTRAST)
+        return original(action, size, result, flags);
+    static_cast<HIGHCONTRASTW*>(result)->dwFlags = HCF_HIGHCONTRASTON;
+    return TRUE;
+}
+
+template <class Part>
+Part* partOf(HMODULE module, DWORD offset)
+{
+    return reinterpret_cast<Part*>(reinterpret_cast<BYTE*>(module) + offset);
+}
+
+// The slot that holds an imported function's address.
+Ask* importOf(HMODULE module, const char* name)
+{
+    const auto* const header =
+        partOf<IMAGE_NT_HEADERS>(module, static_cast<DWORD>(partOf<IMAGE_DOS_HEADER>(module, 0)->e_lfanew));
+    const DWORD table = header->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
+    for (auto* library = partOf<IMAGE_IMPORT_DESCRIPTOR>(module, table); library->Name; ++library) {
+        auto* names = partOf<IMAGE_THUNK_DATA>(module, library->OriginalFirstThunk);
+        auto* slots = partOf<Ask>(module, library->FirstThunk);
+        for (; names->u1.AddressOfData; ++names, ++slots)
+            if (!IMAGE_SNAP_BY_ORDINAL(names->u1.Ordinal) &&
+                std::strcmp(partOf<IMAGE_IMPORT_BY_NAME>(module, static_cast<DWORD>(names->u1.AddressOfData))->Name,
+                            name) == 0)
+                return slots;
+    }
+    return nullptr;
+}
+
+void putImport(Ask* slot, Ask function)
+{
+    DWORD before = 0;
+    VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &before);
+    *slot = function;
+    VirtualProtect(slot, sizeof *slot, before, &before);
+}
+
+// A file that a child process writes to; it goes when it is closed.
+class Output {
+public:
+    Output()
+    {
+        char folder[MAX_PATH]{};
+        char name[MAX_PATH]{};
+        GetTempPathA(MAX_PATH, folder);
+        GetTempFileNameA(folder, "vel", 0, name);
+        SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+        handle_ =
+            CreateFileA(name, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                        &inherited, CREATE_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    }
+    Output(const Output&) = delete;
+    Output& operator=(const Output&) = delete;
+    ~Output() { CloseHandle(handle_); }
+    [[nodiscard]] HANDLE handle() const noexcept { return handle_; }
+    [[nodiscard]] std::string text() const
+    {
+        std::string text(GetFileSize(handle_, nullptr), ' ');
+        DWORD read = 0;
+        SetFilePointer(handle_, 0, nullptr, FILE_BEGIN);
+        ReadFile(handle_, text.data(), static_cast<DWORD>(text.size()), &read, nullptr);
+        return text;
+    }
+
+private:
+    HANDLE handle_;
+};
+
+} // namespace
+
+ScreenResolution::ScreenResolution()
+{
+    DWORD size = sizeof before_;
+    RegGetValueW(HKEY_CURRENT_USER, desktopKey, resolutionValue, RRF_RT_REG_DWORD, nullptr, &before_, &size);
+}
+
+ScreenResolution::~ScreenResolution()
+{
+    if (before_)
+        put(static_cast<int>(before_));
+    else
+        RegDeleteKeyValueW(HKEY_CURRENT_USER, desktopKey, resolutionValue);
+}
+
+void ScreenResolution::put(int dpi) const
+{
+    const auto value = static_cast<DWORD>(dpi);
+    ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, desktopKey, resolutionValue, REG_DWORD, &value, sizeof value),
+              ERROR_SUCCESS);
+}
+
+// What the child prints is shown only when it fails: the program's own totals stay the only ones.
+int runThisProgram(const std::string& filter, int dpi)
+{
+    char program[MAX_PATH]{};
+    GetModuleFileNameA(nullptr, program, MAX_PATH);
+    std::string command = "\"" + std::string(program) + "\" --gtest_filter=" + filter;
+    const Output output;
+    SetEnvironmentVariableA("VELA_TEST_DPI", std::to_string(dpi).c_str());
+    STARTUPINFOA start{};
+    start.cb = sizeof start;
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdOutput = start.hStdError = output.handle();
+    PROCESS_INFORMATION started{};
+    const BOOL running =
+        CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &started);
+    SetEnvironmentVariableA("VELA_TEST_DPI", nullptr);
+    if (!running)
+        return -1;
+    constexpr DWORD longest = 120000;
+    if (WaitForSingleObject(started.hProcess, longest) != WAIT_OBJECT_0)
+        TerminateProcess(started.hProcess, ERROR_TIMEOUT);
+    DWORD code = ERROR_TIMEOUT;
+    GetExitCodeProcess(started.hProcess, &code);
+    CloseHandle(started.hThread);
+    CloseHandle(started.hProcess);
+    if (code != 0)
+        ADD_FAILURE() << output.text();
+    return static_cast<int>(code);
+}
+
+PerMonitorThread::PerMonitorThread() : before_(SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE)) {}
+
+PerMonitorThread::~PerMonitorThread()
+{
+    SetThreadDpiAwarenessContext(before_);
+}
+
+int screenDpi()
+{
+    return static_cast<int>(GetDpiForSystem());
+}
+
+HighContrast::HighContrast()
+{
+    for (const int element : elements)
+        before_.push_back(GetSysColor(element));
+    SetSysColors(static_cast<int>(std::size(elements)), elements, contrasts);
+    asked = importOf(GetModuleHandleW(L"Vela.ocx"), "SystemParametersInfoW");
+    if (!asked) {
+        ADD_FAILURE() << "the library does not ask";
+        return;
+    }
+    original = *asked;
+    putImport(asked, &answerContrast);
+}
+
+HighContrast::~HighContrast()
+{
+    if (asked)
+        putImport(asked, original);
+    SetSysColors(static_cast<int>(std::size(elements)), elements, before_.data());
+}
+
+} // namespace vela::test
