@@ -80,7 +80,7 @@ void DemoForm::layOut()
 {
     for (int column = 0; column < columnCount; ++column) {
         const int left = margin + column * (columnWidth + margin);
-        makeChild(L"BUTTON", columnTitles[column], BS_GROUPBOX, {left - 8, 6, left + columnWidth + 4, valuesTop - 10},
+        makeChild(L"BUTTON", columnTitles[column], BS_GROUPBOX, {left - 8, 6, left + columnWidth + 4, valuesTop - 5},
                   -1);
         nextY_[column] = 28;
     }

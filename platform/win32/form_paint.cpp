@@ -28,6 +28,19 @@ UINT alignmentOf(platform::TextAlignment alignment) noexcept
     return DT_LEFT;
 }
 
+// The circle behind a chosen day; in high contrast a ring, so that the day is read on the window's own colour.
+void paintMark(HDC dc, const RECT& place, COLORREF colour, int line)
+{
+    if (!highContrast()) {
+        paintEllipse(dc, place, colour);
+        return;
+    }
+    paintEllipse(dc, place, GetSysColor(COLOR_HIGHLIGHT));
+    RECT inside = place;
+    InflateRect(&inside, -line, -line);
+    paintEllipse(dc, inside, GetSysColor(COLOR_WINDOW));
+}
+
 int lineHeight(HDC dc) noexcept
 {
     TEXTMETRICW metrics{};
@@ -97,7 +110,7 @@ void FormWindow::paintLabel(HDC dc, Widget& widget, RECT place)
     const platform::WidgetLook& look = widget.look;
     const bool preview = widget.kind() == WidgetKind::preview;
     if (look.opaque && look.round)
-        paintEllipse(dc, place, resolve(look.back));
+        paintMark(dc, place, resolve(look.back), pixels(30));
     else if (look.opaque)
         fill(dc, place,
              resolve(look.back, look.back == engine::Colour{0x8000000F} ? ColourRole::face : ColourRole::back));

@@ -236,7 +236,8 @@ void paintButton(HDC dc, const RECT& place, platform::ButtonGlyph glyph, UINT it
     const bool pressed = (itemState & ODS_SELECTED) != 0;
     const bool disabled = (itemState & ODS_DISABLED) != 0;
     RECT face = place;
-    if (const HTHEME theme = themed ? OpenThemeData(themed, L"BUTTON") : nullptr) {
+    // A theme keeps its own face in high contrast, and the picture is in the person's colour.
+    if (const HTHEME theme = themed && !highContrast() ? OpenThemeData(themed, L"BUTTON") : nullptr) {
         const int state = disabled ? PBS_DISABLED : pressed ? PBS_PRESSED : PBS_NORMAL;
         fill(dc, place, GetSysColor(COLOR_BTNFACE));
         DrawThemeBackground(theme, dc, BP_PUSHBUTTON, state, &face, nullptr);

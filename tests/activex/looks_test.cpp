@@ -377,6 +377,33 @@ TEST(Looks, InHighContrast)
     EXPECT_EQ(screen.inked(HighContrast::text), 0);
 }
 
+// The picture on the button and the mark of the chosen day are of the person's colours too, and can be read.
+TEST(Looks, ThePopupInHighContrast)
+{
+    const LeakCheck leaks;
+    const HighContrast contrast;
+    Form form;
+    Site& site = form.addActive();
+    makeDate(site, u"__/__/____");
+    site.automation().put(u"ShowButtonCalendario", truth(true));
+    form.focus(site);
+    settle(form);
+    const HWND button = buttonOf(site);
+    EXPECT_GT(pixelsOf(button, HighContrast::text, clientOf(button)), 10) << "the picture";
+    EXPECT_GT(pixelsOf(button, HighContrast::window, clientOf(button)), 50) << "on a dark face";
+    clickAt(form, button, middleOf(button));
+    ASSERT_TRUE(until(form, [&] { return GetActiveWindow() && GetActiveWindow() != form.window(); }));
+    settle(form);
+    const HWND calendar = GetActiveWindow();
+    RECT days = clientOf(calendar);
+    days.top = days.bottom / 4; // below the lists
+    EXPECT_GT(pixelsOf(calendar, HighContrast::highlight, days), 5) << "a ring";
+    EXPECT_LT(pixelsOf(calendar, HighContrast::highlight, days), 150) << "and not a disc";
+    EXPECT_GT(pixelsOf(calendar, HighContrast::text, days), 100);
+    form.press(VK_ESCAPE);
+    settle(form);
+}
+
 } // namespace
 
 } // namespace vela::test

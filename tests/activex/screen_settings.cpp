@@ -13,8 +13,11 @@ namespace {
 constexpr wchar_t desktopKey[] = L"Control Panel\\Desktop";
 constexpr wchar_t resolutionValue[] = L"LogPixels";
 
-constexpr int elements[] = {COLOR_WINDOW, COLOR_WINDOWTEXT, COLOR_WINDOWFRAME, COLOR_GRAYTEXT};
-constexpr COLORREF contrasts[] = {HighContrast::window, HighContrast::text, HighContrast::frame, HighContrast::grey};
+constexpr int elements[] = {COLOR_WINDOW,  COLOR_WINDOWTEXT, COLOR_WINDOWFRAME, COLOR_GRAYTEXT,
+                            COLOR_BTNFACE, COLOR_BTNTEXT,    COLOR_HIGHLIGHT};
+constexpr COLORREF contrasts[] = {HighContrast::window, HighContrast::text, HighContrast::frame,    HighContrast::grey,
+                                  HighContrast::window, HighContrast::text, HighContrast::highlight};
+static_assert(std::size(elements) == std::size(contrasts));
 
 using Ask = BOOL(WINAPI*)(UINT, UINT, void*, UINT);
 Ask* asked = nullptr; // where the library keeps the function's address

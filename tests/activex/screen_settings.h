@@ -44,7 +44,8 @@ public:
     HighContrast& operator=(const HighContrast&) = delete;
     ~HighContrast();
 
-    static constexpr COLORREF window = 0x00000000, text = 0x00FFFFFF, frame = 0x0000FFFF, grey = 0x0000FF00;
+    static constexpr COLORREF window = 0x00000000, text = 0x00FFFFFF, frame = 0x0000FFFF, grey = 0x0000FF00,
+                              highlight = 0x00FFFF00;
 
 private:
     std::vector<COLORREF> before_;
