@@ -26,7 +26,8 @@ class PropertyPage final : public IPropertyPage2, private pages::PageSite {
 public:
     explicit PropertyPage(pages::PageKind kind)
         : kind_(kind), session_(Session::current()),
-          palette_(session_->forms), services_{session_->environment, session_->settings, session_->forms, palette_}
+          palette_(session_->forms, session_->environment.desktop), services_{session_->environment, session_->settings,
+                                                                              session_->forms, palette_}
     {
     }
     PropertyPage(const PropertyPage&) = delete;

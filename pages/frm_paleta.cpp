@@ -35,7 +35,8 @@ std::u16string spokenColour(Colour colour)
 
 } // namespace
 
-frmPaleta::frmPaleta(platform::FormFactory& forms) : form_(forms.make(paletaLayout(), *this))
+frmPaleta::frmPaleta(platform::FormFactory& forms, platform::Desktop* desktop)
+    : desktop_(desktop), form_(forms.make(paletaLayout(), *this))
 {
     for (const PaletteColour& entry : paletteColours) {
         const WidgetId swatch = id(swatchName, entry.index);
@@ -120,6 +121,17 @@ void frmPaleta::changed(WidgetId widget)
 {
     if (!isAmount(widget))
         return;
+    try {
+        takeAmounts();
+    } catch (const engine::Error& error) {
+        if (!desktop_)
+            throw;
+        desktop_->messageBox(platform::BoxIcon::exclamation, platform::BoxButtons::ok, {}, error.description);
+    }
+}
+
+void frmPaleta::takeAmounts()
+{
     const Colour custom = rgb(amount(u"txtR"), amount(u"txtG"), amount(u"txtB"));
     platform::WidgetLook look = form_->look(id(u"picCustom"));
     look.back = custom;
@@ -152,7 +164,7 @@ void frmPaleta::putBorder(WidgetId swatch, bool on)
 
 std::optional<Colour> PaletteChooser::choose()
 {
-    frmPaleta palette(forms_);
+    frmPaleta palette(forms_, &desktop_);
     palette.showModal();
     if (palette.cancelled())
         return std::nullopt;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pages/property_object.h"
+#include "platform/desktop.h"
 #include "platform/form.h"
 
 #include <cstdint>
@@ -14,7 +15,8 @@ namespace vela::pages {
 // change of the three boxes.
 class frmPaleta final : private platform::FormEvents {
 public:
-    explicit frmPaleta(platform::FormFactory& forms);
+    // An amount beyond 16 bits is an error: told in a box of the desktop, or, without one, raised to who typed it.
+    explicit frmPaleta(platform::FormFactory& forms, platform::Desktop* desktop = nullptr);
 
     void showModal() { form_->showModal(); }
     [[nodiscard]] engine::Colour chosenColour() const noexcept { return colour_; }
@@ -41,9 +43,11 @@ private:
     [[nodiscard]] platform::WidgetId id(std::u16string_view name, int index = -1) const;
     [[nodiscard]] bool isAmount(platform::WidgetId widget) const;
     [[nodiscard]] int amount(std::u16string_view box) const; // 16 bits; raises 6 beyond them
+    void takeAmounts();
     void end(bool cancelled);
     void putBorder(platform::WidgetId swatch, bool on);
 
+    platform::Desktop* desktop_;
     engine::Colour colour_{0};
     bool cancelled_ = false;
     bool closed_ = false;
@@ -54,11 +58,14 @@ private:
 // Shows a fresh palette at every call.
 class PaletteChooser final : public ColourChooser {
 public:
-    explicit PaletteChooser(platform::FormFactory& forms) noexcept : forms_(forms) {}
+    PaletteChooser(platform::FormFactory& forms, platform::Desktop& desktop) noexcept : forms_(forms), desktop_(desktop)
+    {
+    }
     [[nodiscard]] std::optional<engine::Colour> choose() override;
 
 private:
     platform::FormFactory& forms_;
+    platform::Desktop& desktop_;
 };
 
 } // namespace vela::pages

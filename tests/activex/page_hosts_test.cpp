@@ -165,6 +165,66 @@ TEST(Pages, AreOpenedOnOneProperty)
     EXPECT_EQ(shown.page->EditProperty(4711), E_INVALIDARG);
 }
 
+// --- failures of what a person does, who is told
+
+constexpr const wchar_t* profiles = L"Software\\VB and VBA Program Settings\\Vela - By Aldren\\Profiles";
+constexpr const wchar_t* profile = L" perfil dos testes"; // the blank makes it the first, which is chosen
+
+TEST(PageActs, AStoreThatFailsIsSaidAndThePageStaysUsable)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, profiles, profile, REG_SZ, L"abc", 8), ERROR_SUCCESS);
+    const ShownPage shown(activex::principalPage, {control.get()});
+    EXPECT_EQ(shown.page->EditProperty(*Automation(control.get()).id(u"TextoLivre")), S_OK); // its tab to the front
+    ASSERT_EQ(RegDeleteKeyValueW(HKEY_CURRENT_USER, profiles, profile), ERROR_SUCCESS);
+    const AnsweredBoxes boxes;
+    const HWND remove = shown.find(L"BUTTON", L"&Excluir Profile");
+    ASSERT_NE(remove, nullptr);
+    SendMessageW(remove, BM_CLICK, 0, 0);
+    ASSERT_EQ(AnsweredBoxes::texts().size(), 1u);
+    EXPECT_EQ(AnsweredBoxes::texts().front(), u"Invalid procedure call or argument");
+    EXPECT_EQ(shown.page->Apply(), S_OK);
+}
+
+// Types an amount beyond 16 bits into the open palette, looks at its colour and closes it.
+struct PaletteVisit {
+    static inline bool found = false;
+
+    static void CALLBACK step(HWND, UINT, UINT_PTR timer, DWORD)
+    {
+        const HWND palette = GetActiveWindow();
+        const HWND box = palette ? FindWindowExW(palette, nullptr, L"EDIT", nullptr) : nullptr;
+        if (!box)
+            return;
+        KillTimer(nullptr, timer);
+        found = true;
+        for (const wchar_t digit : {L'3', L'2', L'7', L'6', L'8'})
+            SendMessageW(box, WM_CHAR, static_cast<WPARAM>(digit), 1);
+        PostMessageW(palette, WM_CLOSE, 0, 0);
+    }
+};
+
+TEST(PageActs, AnAmountBeyondThePaletteIsSaid)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    Automation(control.get()).put(u"Error_ForeColor", number(0x112233));
+    const ShownPage shown(activex::errosPage, {control.get()});
+    EXPECT_EQ(shown.page->EditProperty(*Automation(control.get()).id(u"Error_ForeColor")), S_OK);
+    const HWND swatch = GetFocus();
+    const AnsweredBoxes boxes;
+    SetTimer(nullptr, 0, 50, PaletteVisit::step);
+    SendMessageW(GetParent(swatch), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(swatch), BN_DBLCLK),
+                 reinterpret_cast<LPARAM>(swatch));
+    EXPECT_TRUE(PaletteVisit::found);
+    ASSERT_EQ(AnsweredBoxes::texts().size(), 1u);
+    EXPECT_EQ(AnsweredBoxes::texts().front(), u"Overflow");
+    EXPECT_EQ(shown.page->IsPageDirty(), S_OK) << "closed, not cancelled: the colour before the overflow is taken";
+    EXPECT_EQ(shown.page->Apply(), S_OK);
+    EXPECT_EQ(Automation(control.get()).textOf(u"Error_ForeColor"), u"255"); // 3276 counts as 255
+}
+
 // --- hosts that let go of the page while something runs in it
 
 TEST(PageHosts, LetGoInsideTheChangedFlag)
@@ -210,14 +270,12 @@ TEST(PageHosts, LetGoWhileAMessageBoxStands)
         const char* ends;
         std::function<void(ShownPage&)> end;
     };
-    const Row rows[] = {{"the page only", [](ShownPage& shown) { shown.page->Deactivate(); }},
-                        {"the page and its site",
+    const Row rows[] = {{"the page and its site",
                          [](ShownPage& shown) {
                              shown.page->Deactivate();
                              shown.page->SetPageSite(nullptr);
                          }},
-                        {"all of it", [](ShownPage& shown) { shown.leave(); }},
-                        {"the frame's window too", [](ShownPage& shown) {
+                        {"all of it and the frame's window", [](ShownPage& shown) {
                              shown.leave();
                              DestroyWindow(shown.window());
                          }}};

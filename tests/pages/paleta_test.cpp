@@ -91,7 +91,7 @@ TEST_F(Paleta, OnlyItsButtonCancels)
 
 TEST_F(Paleta, TheChooserShowsAFreshOneEachTime)
 {
-    PaletteChooser chooser(bench.forms());
+    PaletteChooser chooser(bench.forms(), bench.desktop());
     const auto answer = [&](int swatch, std::u16string_view button) {
         bench.forms().modalScript = [this, swatch, button](headless::WidgetForm& form) {
             if (swatch >= 0)
