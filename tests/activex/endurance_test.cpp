@@ -1,37 +1,31 @@
-// Thousands of controls in one process: windows, drawing objects, memory and references are flat at the end.
-#include "container.h"
+// Long work in one process: windows, drawing objects, handles, memory and references are flat at the end.
+#include "person.h"
+#include "shown_page.h"
+
+#include "tests/windows/usage.h"
 
 #include <gtest/gtest.h>
 #include <olectl.h>
-#include <psapi.h>
 
+#include <algorithm>
+#include <cstdio>
 #include <cstdlib>
+#include <random>
 
 namespace vela::test {
 
 namespace {
 
-struct Usage {
-    DWORD windows = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    DWORD drawing = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    DWORD handles = 0;
-    SIZE_T memory = 0;
-
-    Usage()
-    {
-        GetProcessHandleCount(GetCurrentProcess(), &handles);
-        PROCESS_MEMORY_COUNTERS_EX counters{};
-        GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
-                             sizeof counters);
-        memory = counters.PrivateUsage;
-    }
-};
+int asked(const char* variable, int otherwise)
+{
+    const char* const text = std::getenv(variable);
+    const int value = text ? std::atoi(text) : 0;
+    return value > 0 ? value : otherwise;
+}
 
 int rounds()
 {
-    const char* const asked = std::getenv("VELA_TEST_COUNT"); // 10000 takes minutes
-    const int count = asked ? std::atoi(asked) : 0;
-    return count > 0 ? count : 1000;
+    return asked("VELA_TEST_COUNT", 300); // 10000 takes minutes
 }
 
 void live(Form& form, int round)
@@ -58,12 +52,7 @@ TEST(Endurance, ManyControlsLeaveNothingBehind)
     const int count = rounds();
     for (int round = 0; round < count; ++round)
         live(form, round);
-    const Usage after;
-    EXPECT_LE(after.windows, before.windows + 2);
-    EXPECT_LE(after.drawing, before.drawing + 2);
-    EXPECT_LE(after.handles, before.handles + 8);
-    EXPECT_LE(after.memory, before.memory + 64 * 1024 + static_cast<SIZE_T>(count) * 200)
-        << "beyond " << (after.memory - before.memory) / static_cast<SIZE_T>(count) << " bytes a control";
+    expectFlat(before, Usage(), 64 * 1024 + static_cast<SIZE_T>(count) * 200);
 }
 
 TEST(Endurance, ManyControlsWithoutAWindow)
@@ -80,9 +69,232 @@ TEST(Endurance, ManyControlsWithoutAWindow)
     const int count = rounds() * 5;
     for (int round = 0; round < count; ++round)
         once();
+    expectFlat(before, Usage(), 64 * 1024 + static_cast<SIZE_T>(count) * 50);
+}
+
+// A form that a person works on for a while with everything it offers, the next step drawn by lot.
+class Work {
+public:
+    explicit Work(unsigned seed) : random_(seed)
+    {
+        for (const auto kind : {asName, asPrice, asAmount, asDate, asTime, asPlate}) {
+            Site& site = form_.addActive();
+            kind(site.automation());
+            sites_.push_back(&site);
+        }
+        form_.focus(anySite());
+    }
+
+    void step()
+    {
+        static constexpr void (Work::*steps[])() = {&Work::type,     &Work::type,  &Work::type,  &Work::tab,
+                                                    &Work::tab,      &Work::click, &Work::hover, &Work::popUp,
+                                                    &Work::edit,     &Work::dress, &Work::page,  &Work::away,
+                                                    &Work::saveLoad, &Work::value, &Work::renew};
+        (this->*steps[lot(std::size(steps))])();
+    }
+    [[nodiscard]] bool answers()
+    {
+        for (const Site* const site : sites_)
+            if (!SUCCEEDED(site->automation().get(u"Text").result))
+                return false;
+        return true;
+    }
+
+private:
+    static void asName(const Automation& field)
+    {
+        field.put(u"tipoLetra", number(3));
+        field.put(u"ToolTipGotFocus", text(u"O nome todo"));
+    }
+    static void asPrice(const Automation& field)
+    {
+        field.put(u"TextType", number(1));
+        field.put(u"SimbolDecExib", number(2));
+        field.put(u"SimbolAgrupMilhar", number(1));
+        field.put(u"QtdCasasDec", number(2));
+        field.put(u"SimboloMonetario", text(u"R$ "));
+        field.put(u"ShowButtonCalculadora", truth(true));
+        field.put(u"ErrorAlert", truth(true));
+    }
+    static void asAmount(const Automation& field)
+    {
+        field.put(u"TextType", number(1));
+        field.put(u"SimbolDecExib", number(2));
+        field.put(u"QtdCasasDec", number(2));
+        field.put(u"MaskToNumeric", truth(true));
+    }
+    static void asDate(const Automation& field)
+    {
+        field.put(u"FormatoExibData", text(u"__/__/____"));
+        field.put(u"DateFormat", text(u"dd/mm/yyyy"));
+        field.put(u"TextType", number(2));
+        field.put(u"ShowButtonCalendario", truth(true));
+        field.put(u"ErrorAlert", truth(true));
+    }
+    static void asTime(const Automation& field)
+    {
+        field.put(u"FormatoExibData", text(u"__:__"));
+        field.put(u"DateFormat", text(u"hh:mm"));
+        field.put(u"TextType", number(2));
+        field.put(u"ErrorAlert", truth(true));
+        field.put(u"ErrorTextClear", truth(true));
+    }
+    static void asPlate(const Automation& field)
+    {
+        field.put(u"PromptChar", text(u"_"));
+        field.put(u"Mask", text(u"___-____"));
+        field.put(u"TextType", number(3));
+        field.put(u"MaskRules", text(u"@@@-####"));
+        field.put(u"AutoTAB", truth(true));
+    }
+
+    std::size_t lot(std::size_t below) { return random_() % below; }
+    Site& anySite() { return *sites_[lot(sites_.size())]; }
+
+    void type()
+    {
+        static constexpr std::u16string_view keys = u"0123456789,.-abcXYZ \u00E7\b\b";
+        std::u16string typed;
+        for (std::size_t i = 1 + lot(10); i > 0; --i)
+            typed += keys[lot(keys.size())];
+        form_.type(typed);
+    }
+    void tab() { strike(form_, VK_TAB, lot(3) == 0 ? VK_SHIFT : 0); }
+    void click()
+    {
+        Site& site = anySite();
+        clickAt(form_, site.edit(), middleOf(site.edit()));
+    }
+    void hover()
+    {
+        pointAt(anySite().edit(), {5, 5});
+        settle(form_);
+        pointAway();
+    }
+    // A day is picked or a sum done, or it is left by Esc, another window or the end of the field.
+    void popUp()
+    {
+        Site& site = anySite();
+        const HWND button = buttonOf(site);
+        if (!button)
+            return;
+        clickAt(form_, button, middleOf(button));
+        const HWND popup = GetActiveWindow();
+        if (!popup || popup == form_.window())
+            return;
+        if (lot(4) == 0)
+            away();
+        else if (lot(4) == 0)
+            renewAt(static_cast<std::size_t>(std::find(sites_.begin(), sites_.end(), &site) - sites_.begin()));
+        else if (lot(4) == 0)
+            strike(form_, VK_ESCAPE);
+        else {
+            const RECT client = clientOf(popup);
+            clickAt(form_, popup, {client.right * static_cast<LONG>(1 + lot(6)) / 8, client.bottom * 2 / 3});
+            form_.type(u"7+5=");
+            strike(form_, lot(2) == 0 ? VK_F2 : VK_RETURN);
+        }
+        SetActiveWindow(form_.window());
+        form_.focus(anySite());
+    }
+    void edit()
+    {
+        static constexpr std::u16string_view commands[] = {u"\x03", u"\x16", u"\x18", u"\x19", u"\x1A", u"\x1A"};
+        SendMessageW(GetFocus(), EM_SETSEL, lot(4), static_cast<LPARAM>(lot(9)));
+        form_.type(commands[lot(std::size(commands))]);
+    }
+    void dress()
+    {
+        const Automation field = anySite().automation();
+        switch (lot(7)) {
+        case 0: field.put(u"Appearance", number(static_cast<int>(lot(2)))); break;
+        case 1: field.put(u"BorderStyle", number(static_cast<int>(lot(5)))); break;
+        case 2: field.put(u"Alignment", number(static_cast<int>(lot(3)))); break;
+        case 3: field.put(u"FontSize", number(static_cast<int>(8 + lot(3)))); break;
+        case 4: field.put(u"FontBold", truth(lot(2) == 0)); break;
+        case 5: field.put(u"BackColorGotFocus", number(static_cast<int>(random_() & 0xFFFFFF))); break;
+        default:
+            field.put(u"Enabled", truth(false));
+            settle(form_);
+            field.put(u"Enabled", truth(true));
+        }
+    }
+    void page()
+    {
+        static constexpr const CLSID* pages[] = {&activex::principalPage, &activex::geralPage, &activex::errosPage,
+                                                 &activex::fontePage, &activex::calendarioPage};
+        const ShownPage shown(*pages[lot(std::size(pages))], {anySite().control()});
+        if (const HWND box = shown.find(L"EDIT", L""))
+            ShownPage::type(box, L'1');
+        shown.page->Apply();
+    }
+    void away()
+    {
+        const OtherWindow other;
+        SetForegroundWindow(other.window());
+        settle(form_);
+        form_.focus(anySite());
+    }
+    void saveLoad()
+    {
+        Site& from = anySite();
+        ComPtr<IStream> stream;
+        CreateStreamOnHGlobal(nullptr, TRUE, stream.put());
+        from.as<IPersistStreamInit>()->Save(stream.get(), TRUE);
+        stream->Seek({}, STREAM_SEEK_SET, nullptr);
+        from.as<IPersistStreamInit>()->Load(stream.get());
+    }
+    void value()
+    {
+        const Automation field = anySite().automation();
+        field.get(u"Value");
+        field.put(u"Text", text(u"12"));
+        field.get(u"Font");
+    }
+    void renew() { renewAt(lot(sites_.size())); }
+    void renewAt(std::size_t index)
+    {
+        form_.remove(*sites_[index]);
+        Site& site = form_.addActive();
+        (lot(2) == 0 ? asDate : asPrice)(site.automation());
+        sites_[index] = &site;
+        form_.focus(site);
+    }
+
+    std::mt19937 random_;
+    Form form_;
+    std::vector<Site*> sites_;
+};
+
+// VELA_TEST_SECONDS=3600 for a night's run.
+TEST(Endurance, AFormWorkedOnForLong)
+{
+    const AnsweredBoxes boxes;
+    const LeakCheck leaks;
+    unsigned seed = 1;
+    int steps = 0;
+    const auto workFor = [&](DWORD milliseconds) {
+        const DWORD start = GetTickCount();
+        while (GetTickCount() - start < milliseconds) {
+            SCOPED_TRACE("form " + std::to_string(seed));
+            Work work(seed++);
+            for (int i = 0; i < 40; ++i, ++steps)
+                work.step();
+            ASSERT_TRUE(work.answers());
+        }
+    };
+    const auto whole = static_cast<DWORD>(asked("VELA_TEST_SECONDS", 10)) * 1000;
+    workFor(whole / 4); // caches fill
+    const Usage before;
+    workFor(whole - whole / 4);
     const Usage after;
-    EXPECT_LE(after.windows, before.windows + 2);
-    EXPECT_LE(after.memory, before.memory + 64 * 1024 + static_cast<SIZE_T>(count) * 50);
+    expectFlat(before, after, 1 << 20);
+    RecordProperty("steps", steps);
+    RecordProperty("memory",
+                   static_cast<int>(static_cast<long long>(after.memory) - static_cast<long long>(before.memory)));
+    std::printf("%d steps on %u forms; memory %+lld bytes\n", steps, seed - 1,
+                static_cast<long long>(after.memory) - static_cast<long long>(before.memory));
 }
 
 } // namespace

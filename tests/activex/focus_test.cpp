@@ -101,18 +101,18 @@ const Move moves[] = {
      }},
 };
 
+BOOL CALLBACK countBalloon(HWND window, LPARAM count)
+{
+    wchar_t name[32]{};
+    GetClassNameW(window, name, 32);
+    *reinterpret_cast<int*>(count) += IsWindowVisible(window) && lstrcmpiW(name, L"tooltips_class32") == 0;
+    return TRUE;
+}
+
 int balloons()
 {
     int shown = 0;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND window, LPARAM count) -> BOOL {
-            wchar_t name[32]{};
-            GetClassNameW(window, name, 32);
-            *reinterpret_cast<int*>(count) += IsWindowVisible(window) && lstrcmpiW(name, L"tooltips_class32") == 0;
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&shown));
+    EnumThreadWindows(GetCurrentThreadId(), countBalloon, reinterpret_cast<LPARAM>(&shown));
     return shown;
 }
 

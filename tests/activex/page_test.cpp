@@ -1,6 +1,8 @@
 // The property pages through a frame of the tests and through the system's: shown, changed, applied.
 #include "shown_page.h"
 
+#include "tests/windows/usage.h"
+
 #include <commctrl.h>
 
 #include <cwchar>
@@ -98,12 +100,10 @@ TEST(Pages, OpenedAndClosedManyTimes)
     const auto once = [&](int round) { const ShownPage shown(allPages[round % 5], {control.get()}); };
     for (int round = 0; round < 10; ++round)
         once(round);
-    const DWORD windows = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    const DWORD drawing = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    const Usage before;
     for (int round = 0; round < 50; ++round)
         once(round);
-    EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), windows + 2);
-    EXPECT_LE(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), drawing + 2);
+    expectFlat(before, Usage(), 512 * 1024);
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "platform/win32/form.h"
 #include "platform/win32/owners.h"
 #include "platform/win32/tooltip_window.h"
+#include "tests/windows/usage.h"
 
 #include <gtest/gtest.h>
 
@@ -323,11 +324,9 @@ TEST_F(Windows, ManyFieldsLeaveNothingBehind)
         }
     };
     round(20); // fonts, classes
-    const DWORD windows = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    const DWORD objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    const test::Usage before;
     round(200);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS), windows);
-    EXPECT_EQ(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS), objects);
+    test::expectFlat(before, test::Usage(), 512 * 1024);
     EXPECT_EQ(FindWindowExW(form, nullptr, L"VelaControl", nullptr), surface(0));
 }
 
