@@ -1,11 +1,14 @@
 // The registry after registering and unregistering, per machine and per user, and activation without a registry.
 #include "automation.h"
 #include "library.h"
+#include "screen_settings.h"
 
 #include "activex/guids.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <fstream>
 #include <string>
 
 namespace vela::test {
@@ -128,7 +131,24 @@ TEST_F(Registration, ForOneUserAndBack)
     expectNothing(HKEY_CURRENT_USER);
 }
 
-// The manifest is the assembly's own: a context made of it finds classes, names, library and status by itself.
+// Classes, names, library and status are found by the manifest alone.
+void expectActivation()
+{
+    const ComPtr<IUnknown> control = create();
+    ASSERT_TRUE(control);
+    const Automation field(control.get());
+    EXPECT_EQ(field.put(u"Text", text(u"sem registro")).result, S_OK);
+    EXPECT_EQ(field.textOf(u"Text"), u"sem registro");
+    EXPECT_TRUE(create(L"Vela.cCalendar"));
+    ComPtr<ITypeInfo> info;
+    EXPECT_EQ(field.dispatch()->GetTypeInfo(0, 0, info.put()), S_OK);
+    DWORD status = 0;
+    EXPECT_EQ(OleRegGetMiscStatus(activex::velaClass, DVASPECT_CONTENT, &status), S_OK);
+    EXPECT_EQ(status, 0x20191u);
+    ComPtr<ITypeLib> found;
+    EXPECT_EQ(LoadRegTypeLib(activex::libraryId, 1, 0, 0, found.put()), S_OK);
+}
+
 TEST_F(Registration, WithoutARegistry)
 {
     ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
@@ -141,23 +161,59 @@ TEST_F(Registration, WithoutARegistry)
     ASSERT_NE(context, INVALID_HANDLE_VALUE) << GetLastError();
     ULONG_PTR cookie = 0;
     ASSERT_TRUE(ActivateActCtx(context, &cookie));
-    {
-        const ComPtr<IUnknown> control = create();
-        ASSERT_TRUE(control);
-        const Automation field(control.get());
-        EXPECT_EQ(field.put(u"Text", text(u"sem registro")).result, S_OK);
-        EXPECT_EQ(field.textOf(u"Text"), u"sem registro");
-        EXPECT_TRUE(create(L"Vela.cCalendar"));
-        ComPtr<ITypeInfo> info;
-        EXPECT_EQ(field.dispatch()->GetTypeInfo(0, 0, info.put()), S_OK);
-        DWORD status = 0;
-        EXPECT_EQ(OleRegGetMiscStatus(activex::velaClass, DVASPECT_CONTENT, &status), S_OK);
-        EXPECT_EQ(status, 0x20191u);
-        ComPtr<ITypeLib> found;
-        EXPECT_EQ(LoadRegTypeLib(activex::libraryId, 1, 0, 0, found.put()), S_OK);
-    }
+    expectActivation();
     DeactivateActCtx(0, cookie);
     ReleaseActCtx(context);
+}
+
+// A program beside the library whose manifest names the library's as a dependency, as the manual tells.
+class DependentProgram {
+public:
+    DependentProgram()
+    {
+        const std::wstring beside = libraryPath();
+        const std::wstring program = beside.substr(0, beside.rfind(L'\\')) + L"\\without_registry.exe";
+        for (const wchar_t unit : program)
+            path_ += static_cast<char>(unit);
+        EXPECT_TRUE(CopyFileA(thisProgram().c_str(), path_.c_str(), FALSE));
+        std::ofstream(path_ + ".manifest")
+            << R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
+            << R"(<assembly xmlns="urn:schemas-microsoft-com:asm.v1" manifestVersion="1.0">)" << identity("Program")
+            << "<dependency><dependentAssembly>" << identity("Vela.ocx")
+            << "</dependentAssembly></dependency></assembly>";
+    }
+    DependentProgram(const DependentProgram&) = delete;
+    DependentProgram& operator=(const DependentProgram&) = delete;
+    ~DependentProgram()
+    {
+        DeleteFileA(path_.c_str());
+        DeleteFileA((path_ + ".manifest").c_str());
+    }
+    [[nodiscard]] const std::string& path() const noexcept { return path_; }
+
+private:
+    static std::string identity(const std::string& name)
+    {
+        const std::string architecture = sizeof(void*) == 8 ? "amd64" : "x86";
+        return R"(<assemblyIdentity type="win32" name=")" + name + R"(" version="1.0.0.0" processorArchitecture=")" +
+               architecture + R"("/>)";
+    }
+    std::string path_;
+};
+
+TEST_F(Registration, AProgramThatDependsOnTheAssembly)
+{
+    const DependentProgram program;
+    EXPECT_EQ(runTests(program.path(), "WithoutRegistry.*", "VELA_TEST_MANIFEST", 1), 0);
+}
+
+TEST(WithoutRegistry, TheProgramsManifestIsEnough)
+{
+    if (!std::getenv("VELA_TEST_MANIFEST"))
+        GTEST_SKIP() << "a part of Registration.AProgramThatDependsOnTheAssembly";
+    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
+    expectNothing(HKEY_LOCAL_MACHINE);
+    expectActivation();
 }
 
 TEST_F(Registration, VersionAndToolboxPictureAreInTheFile)

@@ -1,4 +1,4 @@
-// Settings of the person's screen, changed for a scope: dots per inch, high contrast.
+// Settings of the person's screen, changed for a scope: dots per inch, high contrast; and tests in other processes.
 #pragma once
 
 #include <windows.h>
@@ -21,8 +21,9 @@ private:
     DWORD before_ = 0;
 };
 
-// This program again with some of its tests, told the resolution; its exit code.
-[[nodiscard]] int runThisProgram(const std::string& filter, int dpi);
+// Some tests of a program of the tests in a process of its own, with a variable set; its exit code.
+[[nodiscard]] int runTests(const std::string& program, const std::string& filter, const char* variable, int value);
+[[nodiscard]] std::string thisProgram(); // its path
 
 class PerMonitorThread {
 public:
