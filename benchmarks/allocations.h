@@ -8,6 +8,7 @@
 namespace vela::bench {
 
 [[nodiscard]] std::uint64_t allocations() noexcept; // since the program began
+[[nodiscard]] std::uint64_t bytesHeld() noexcept;   // now, on the heap
 
 // Reports the allocations of one turn as the counter "allocs" when it goes out of scope.
 class AllocationsPerTurn {

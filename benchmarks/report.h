@@ -12,6 +12,7 @@ namespace vela::bench {
 struct Measured {
     double nanoseconds = 0;
     double allocations = -1; // a turn; below 0 where they were not counted
+    double bytes = 0;        // held by one; 0 where they were not counted
 };
 
 // Takes the median of the repetitions of each benchmark, or its one run.

@@ -20,6 +20,12 @@ namespace vela::control {
     return static_cast<std::int16_t>(text.size());
 }
 
+// A symbol as text: empty for none.
+constexpr std::u16string_view viewOf(const char16_t& symbol) noexcept
+{
+    return {&symbol, symbol == 0 ? std::size_t{0} : std::size_t{1}};
+}
+
 // Marks who is writing a text while the box reports it as changed.
 class Vela::WriterScope {
 public:
@@ -46,28 +52,39 @@ private:
 // nest: what the control has no buffer left for starts with none.
 class Vela::Scratch {
 public:
-    explicit Scratch(Vela& control) noexcept : control_(control), alive_(control.life_)
-    {
-        text_.swap(*std::ranges::max_element(control.scratch_, {}, &Text16::capacity));
-        text_.clear();
-    }
+    explicit Scratch(Vela& control) : control_(control), alive_(control.life_), text_(borrow(control)) {}
     ~Scratch()
     {
-        if (alive_ && text_.capacity() <= largestKept)
-            text_.swap(*std::ranges::min_element(control_.scratch_, {}, &Text16::capacity));
+        if (!alive_ || text_->capacity() > largestKept)
+            return;
+        for (auto& place : control_.scratch_)
+            if (!place) {
+                place = std::move(text_);
+                return;
+            }
     }
     Scratch(const Scratch&) = delete;
     Scratch& operator=(const Scratch&) = delete;
 
-    [[nodiscard]] std::u16string& operator*() noexcept { return text_; }
-    [[nodiscard]] std::u16string* operator->() noexcept { return &text_; }
+    [[nodiscard]] std::u16string& operator*() noexcept { return *text_; }
+    [[nodiscard]] std::u16string* operator->() noexcept { return text_.get(); }
 
 private:
     static constexpr std::size_t largestKept = 1024; // units; a long text's buffer is not kept
 
+    [[nodiscard]] static std::unique_ptr<std::u16string> borrow(Vela& control)
+    {
+        for (auto& kept : control.scratch_)
+            if (kept) {
+                kept->clear();
+                return std::move(kept);
+            }
+        return std::make_unique<std::u16string>();
+    }
+
     Vela& control_;
     Liveness::Probe alive_;
-    std::u16string text_;
+    std::unique_ptr<std::u16string> text_;
 };
 
 template <class T, class U>

@@ -55,11 +55,15 @@ void Vela::keyDownByType(int code)
 void Vela::sKeyDown(int code)
 {
     trapToLog(label::keyDown, [&] {
+        if (code != keyDelete && code != engine::key_code::backspace) {
+            static_cast<void>(box().textLength()); // a box that fails is told of with every key
+            return;
+        }
         Scratch text(*this);
         Scratch before(*this);
         readText(*text);
-        const platform::Selection selection = box().selection();
         *before = *text;
+        const platform::Selection selection = box().selection();
         const auto caret = engine::eraseInMask(code, selection.start, selection.length, maskSettings(), *text);
         if (!caret)
             return;
@@ -99,14 +103,15 @@ void Vela::validateMask(int& key)
 {
     const auto failure = failureOf(life_, [&](int&) {
         Scratch text(*this);
-        Scratch before(*this);
         readText(*text);
         const platform::Selection selection = box().selection();
-        *before = *text;
         const engine::MaskStep step = engine::validateMask(key, selection.start, maskSettings(), *text);
         key = step.key;
         if (step.textWritten) {
-            keepWritten(*before, *text, selection, false);
+            const auto at = std::min(text->size(), static_cast<std::size_t>(step.caret)) - 1;
+            const View before = step.replaced ? View(&*step.replaced, 1) : View();
+            if (before != View(*text).substr(at, 1))
+                history().add(static_cast<int>(at), before, View(*text).substr(at, 1), selection, false);
             writeText(*text, Writer::keys);
             box().select({step.caret, 0});
         }
@@ -181,7 +186,7 @@ engine::KeystrokeSettings Vela::keystrokeSettings() const
     return {.textType = settings_.textType,
             .letterCase = settings_.tipoLetra,
             .displayDecimal = settings_.simbolDecExib,
-            .decimal = numberSettings().decimal,
+            .decimal = viewOf(settings_.displayDecimal),
             .decimals = settings_.qtdCasasDec,
             .enterAsTab = settings_.enterAsTab,
             .multiLine = settings_.multLine,

@@ -3,17 +3,6 @@
 
 namespace vela::control {
 
-Liveness::Probe::Probe(Liveness& life) noexcept : life_(&life), outer_(life.innermost_), alive_(!life.ended_)
-{
-    life.innermost_ = this;
-}
-
-Liveness::Probe::~Probe()
-{
-    if (life_ != nullptr)
-        life_->innermost_ = outer_;
-}
-
 Liveness::~Liveness()
 {
     end();

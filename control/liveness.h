@@ -12,8 +12,15 @@ public:
     // Probes end in the reverse order of their making, as locals do.
     class Probe {
     public:
-        explicit Probe(Liveness& life) noexcept;
-        ~Probe();
+        explicit Probe(Liveness& life) noexcept : life_(&life), outer_(life.innermost_), alive_(!life.ended_)
+        {
+            life.innermost_ = this;
+        }
+        ~Probe()
+        {
+            if (life_ != nullptr)
+                life_->innermost_ = outer_;
+        }
         Probe(const Probe&) = delete;
         Probe& operator=(const Probe&) = delete;
         explicit operator bool() const noexcept { return alive_; }

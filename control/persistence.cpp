@@ -384,6 +384,19 @@ std::optional<engine::Value> writingDefault(const Row& row)
     return std::nullopt;
 }
 
+// Needs no conversion: what a control has written mostly.
+bool isOwn(PropertyType type, const engine::Value& value) noexcept
+{
+    switch (type) {
+    case PropertyType::boolean: return std::holds_alternative<bool>(value);
+    case PropertyType::longInteger:
+    case PropertyType::colour:
+    case PropertyType::enumeration: return std::holds_alternative<std::int32_t>(value);
+    case PropertyType::text: return std::holds_alternative<std::u16string>(value);
+    default: return false;
+    }
+}
+
 } // namespace
 
 std::span<const std::u16string_view> storedKeys() noexcept
@@ -397,7 +410,11 @@ void readState(platform::PropertyBag& bag, const engine::Locale& locale, StoredS
     try {
         for (; read < rows.size(); ++read) {
             const Row& row = rows[read];
-            row.put(state, convert(row.type, bag.read(row.key, valueOf(row.type, row.missing)), locale));
+            const engine::Value value = bag.read(row.key, valueOf(row.type, row.missing));
+            if (isOwn(row.type, value))
+                row.put(state, value);
+            else
+                row.put(state, convert(row.type, value, locale));
         }
     } catch (...) {
         for (; read < rows.size(); ++read)

@@ -18,21 +18,22 @@ template <class Body>
 {
     const Liveness::Probe alive(life);
     int step = 0;
-    engine::Error failure;
+    std::optional<engine::Error> failure; // made when it happens: most bodies end normally, and on every key
     try {
         std::forward<Body>(body)(step);
         return std::nullopt;
     } catch (const engine::Error& error) {
         failure = error;
     } catch (const std::bad_alloc&) {
-        failure.number = engine::error_number::outOfMemory;
-        failure.description = engine::errorDescription(failure.number);
+        failure.emplace();
+        failure->number = engine::error_number::outOfMemory;
+        failure->description = engine::errorDescription(failure->number);
     }
     if (!alive)
         engine::raise(engine::error_number::objectNotSet);
-    if (failure.number == 0)
+    if (failure->number == 0)
         return std::nullopt;
-    failure.step = step;
+    failure->step = step;
     return failure;
 }
 

@@ -20,11 +20,6 @@ engine::Date dayOf(engine::Date moment) noexcept
     return {std::trunc(moment.serial)};
 }
 
-constexpr std::u16string_view viewOf(const char16_t& symbol) noexcept
-{
-    return {&symbol, symbol == 0 ? std::size_t{0} : std::size_t{1}};
-}
-
 } // namespace
 
 engine::FieldSettings Vela::fieldSettings() const

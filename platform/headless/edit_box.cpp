@@ -27,7 +27,8 @@ const std::shared_ptr<const EditTraits>& firstTraits()
 } // namespace
 
 EditBox::EditBox(ControlSurface& surface, platform::EditBoxKind kind)
-    : surface_(surface), kind_(kind), window_(surface.form().makeWindow()), traits_(firstTraits())
+    : surface_(surface), faults_(surface.form().faults()), kind_(kind), window_(surface.form().makeWindow()),
+      traits_(firstTraits())
 {
 }
 
@@ -40,11 +41,8 @@ void EditBox::failNext(BoxOperation operation, engine::Error error)
     failures_->next[static_cast<std::size_t>(operation)] = std::move(error);
 }
 
-void EditBox::check(BoxOperation operation) const
+void EditBox::failIfAsked(BoxOperation operation) const
 {
-    surface_.form().faults().pass();
-    if (!failures_)
-        return;
     if (auto failure = std::exchange(failures_->next[static_cast<std::size_t>(operation)], std::nullopt))
         throw *std::move(failure);
 }
@@ -63,7 +61,7 @@ int EditBox::textLength() const
 
 void EditBox::part(Selection part, std::u16string& into) const
 {
-    surface_.form().faults().pass();
+    faults_.pass();
     const int start = std::clamp(part.start, 0, length());
     const int count = std::clamp(part.length, 0, length() - start);
     into.assign(text_, static_cast<std::size_t>(start), static_cast<std::size_t>(count));
@@ -109,7 +107,7 @@ void EditBox::putColours(platform::EditColours colours)
 
 void EditBox::putTraits(const EditTraits& traits)
 {
-    surface_.form().faults().pass();
+    faults_.pass();
     if (traits == *traits_)
         return;
     traits_ = traits == *firstTraits() ? firstTraits() : std::make_shared<const EditTraits>(traits);
@@ -117,7 +115,7 @@ void EditBox::putTraits(const EditTraits& traits)
 
 void EditBox::takeFocus()
 {
-    surface_.form().faults().pass();
+    faults_.pass();
     surface_.askBoxFocus();
 }
 
@@ -128,7 +126,7 @@ bool EditBox::hasFocus() const
 
 bool EditBox::showBalloon(int icon, std::u16string_view title, std::u16string_view text)
 {
-    surface_.form().faults().pass();
+    faults_.pass();
     surface_.form().sink().trace(trace::Balloon{true, icon, title, text});
     return true;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/edit_box.h"
+#include "platform/headless/fault.h"
 #include "platform/headless/keys.h"
 #include "platform/headless/life_line.h"
 
@@ -61,7 +62,13 @@ public:
 private:
     struct Failures;
 
-    void check(BoxOperation operation) const;
+    void check(BoxOperation operation) const
+    {
+        faults_.pass();
+        if (failures_)
+            failIfAsked(operation);
+    }
+    void failIfAsked(BoxOperation operation) const;
     void replaceSelection(std::u16string_view text);
     void erase(int start, int length);
     void applyCharacter(int key);
@@ -73,6 +80,7 @@ private:
     [[nodiscard]] int length() const noexcept { return static_cast<int>(text_.size()); }
 
     ControlSurface& surface_;
+    FaultPlan& faults_;
     platform::EditBoxKind kind_;
     platform::WindowId window_;
     platform::Selection selection_;

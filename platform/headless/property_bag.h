@@ -4,6 +4,7 @@
 #include "platform/control_host.h"
 #include "platform/headless/fault.h"
 
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -24,9 +25,12 @@ public:
     [[nodiscard]] const std::vector<Entry>& entries() const noexcept { return entries_; }
 
 private:
+    [[nodiscard]] std::size_t find(std::u16string_view key) const noexcept; // the number of entries when there is none
+
     FaultPlan* faults_;
     std::vector<Entry> entries_;
-    std::size_t hint_ = 0; // where the last search ended: keys are mostly asked for in order
+    std::vector<std::uint32_t> glances_; // of the keys, in the same order
+    std::size_t hint_ = 0;               // behind the entry found last
 };
 
 } // namespace vela::headless
