@@ -126,6 +126,22 @@ TEST(Popup, OpeningIsNoLeaving)
     EXPECT_EQ(coloursOf(desk.site), entered);
 }
 
+TEST(Popup, EscWritesNothing)
+{
+    for (const auto kind : {asDate, asNumber}) {
+        const LeakCheck leaks;
+        Desk desk(kind);
+        desk.form.type(u"3");
+        const std::u16string shown = shownBy(desk.site.edit());
+        const HWND popup = desk.openByButton();
+        desk.form.type(u"4");
+        desk.form.press(VK_ESCAPE);
+        desk.expectClosed(popup);
+        desk.expectBackInTheField();
+        EXPECT_EQ(shownBy(desk.site.edit()), shown);
+    }
+}
+
 TEST(Popup, AnotherWindowInFrontClosesAndLeaves)
 {
     for (const auto kind : {asDate, asNumber}) {
