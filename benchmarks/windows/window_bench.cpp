@@ -1,8 +1,7 @@
 // Speeds of real fields in real windows, each beside bare EDIT windows in the same process.
 #include "apps/demo/container.h"
 #include "apps/demo/fields.h"
-
-#include <psapi.h>
+#include "tests/windows/usage.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -17,6 +16,7 @@ using vela::demo::ControlSite;
 using vela::demo::FormFrame;
 using vela::demo::OleValue;
 using vela::demo::Setting;
+using vela::test::Usage;
 
 constexpr int fieldCount = 1000;
 constexpr int keyCount = 2000;
@@ -59,24 +59,12 @@ void row(const char* name, double mine, const char* beside, double theirs, doubl
     std::fflush(stdout);
 }
 
-struct Resources {
-    SIZE_T bytes = 0;
-    DWORD windows = 0, gdi = 0;
-    static Resources now()
-    {
-        PROCESS_MEMORY_COUNTERS_EX memory{};
-        GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&memory), sizeof memory);
-        return {memory.PrivateUsage, GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS),
-                GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS)};
-    }
-};
-
-void resourceRow(const char* name, const Resources& before, const Resources& after)
+void resourceRow(const char* name, const Usage& before, const Usage& after)
 {
-    std::printf("%-44s %10.0f bytes %6.2f user handles %6.2f GDI handles each\n", name,
-                static_cast<double>(after.bytes - before.bytes) / fieldCount,
+    std::printf("%-44s %10.0f bytes %6.2f windows %6.2f GDI objects each\n", name,
+                static_cast<double>(after.memory - before.memory) / fieldCount,
                 static_cast<double>(after.windows - before.windows) / fieldCount,
-                static_cast<double>(after.gdi - before.gdi) / fieldCount);
+                static_cast<double>(after.drawing - before.drawing) / fieldCount);
 }
 
 Setting number(const wchar_t* key, long value)
@@ -142,21 +130,21 @@ void creationRows(Form& form)
     edits.reserve(fieldCount);
     fields.reserve(fieldCount);
     form.field({})->close(); // the library is loaded, its class known
-    const Resources beforeEdits = Resources::now();
+    const Usage beforeEdits;
     double start = now();
     for (int i = 0; i < fieldCount; ++i)
         edits.push_back(form.edit());
     const double edit = (now() - start) / fieldCount;
-    const Resources afterEdits = Resources::now();
+    const Usage afterEdits;
     for (HWND window : edits)
         DestroyWindow(window);
     pump();
-    const Resources beforeFields = Resources::now();
+    const Usage beforeFields;
     start = now();
     for (int i = 0; i < fieldCount; ++i)
         fields.push_back(form.field({}));
     const double field = (now() - start) / fieldCount;
-    const Resources afterFields = Resources::now();
+    const Usage afterFields;
     row("creating a field in a form", field, "creating a bare EDIT", edit, 1.6);
     resourceRow("  each bare EDIT takes", beforeEdits, afterEdits);
     resourceRow("  each field takes", beforeFields, afterFields);
