@@ -111,6 +111,7 @@ public:
     explicit Game(Bytes bytes) : bytes_(bytes)
     {
         machine_.clock.freeze({45351.5});
+        form_.focusArrived = [this] { ++arrivals_; };
         for (int i = 0; i < 2; ++i) {
             fields_[static_cast<std::size_t>(i)] = std::make_unique<Field>(form_, machine_, popups_, u"f", i);
             fields_[static_cast<std::size_t>(i)]->control.initNew();
@@ -229,13 +230,14 @@ private:
             return;
         target.box().placeCaret(selection.start, selection.length);
         const int edits = bytes_.below(24);
+        arrivals_ = 0; // a wrong entry that keeps the focus was left all the same, and what leaving wrote stays
         for (int i = 0; i < edits && form_.focused() == focused; ++i) {
             if (bytes_.below(4) == 0)
                 form_.key(headless::namedKey(namedKeys[bytes_.next() % namedKeys.size()]));
             else
                 form_.key(headless::keyOf(typable[bytes_.next() % typable.size()]));
         }
-        if (form_.focused() != focused)
+        if (form_.focused() != focused || arrivals_ > 0)
             return;
         for (int i = 0; i < 100; ++i)
             form_.undo();
@@ -288,6 +290,7 @@ private:
     }
 
     Bytes bytes_;
+    int arrivals_ = 0; // of the focus
     headless::Machine machine_;
     headless::FormWindow form_{machine_.desktop, machine_.trace, machine_.faults};
     popups::Popups popups_{machine_.environment, machine_.forms};

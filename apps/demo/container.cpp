@@ -12,14 +12,20 @@ constexpr DISPID ambientFont = -703;
 constexpr DISPID ambientLocale = -705;
 constexpr DISPID ambientUserMode = -709;
 
+int screenDpi()
+{
+    HDC screen = GetDC(nullptr);
+    const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
+    ReleaseDC(nullptr, screen);
+    return dpi;
+}
+
 SIZEL toHimetric(const RECT& pixels)
 {
     constexpr int himetricPerInch = 2540;
-    HDC screen = GetDC(nullptr);
-    const SIZEL size{MulDiv(pixels.right - pixels.left, himetricPerInch, GetDeviceCaps(screen, LOGPIXELSX)),
-                     MulDiv(pixels.bottom - pixels.top, himetricPerInch, GetDeviceCaps(screen, LOGPIXELSY))};
-    ReleaseDC(nullptr, screen);
-    return size;
+    static const int dpi = screenDpi(); // one for the whole process: it is aware of the system's only
+    return {MulDiv(pixels.right - pixels.left, himetricPerInch, dpi),
+            MulDiv(pixels.bottom - pixels.top, himetricPerInch, dpi)};
 }
 
 // The form's own font: what a control without a font of its own takes.
@@ -76,13 +82,33 @@ ControlSite::ControlSite(FormFrame& frame, HWND form, std::wstring name)
 {
 }
 
+HRESULT FormFrame::font(IDispatch** font)
+{
+    if (!font_)
+        if (const HRESULT made = ambientFontObject(&font_); FAILED(made))
+            return made;
+    return font_->QueryInterface(IID_PPV_ARGS(font));
+}
+
+HRESULT FormFrame::create(const wchar_t* progId, ComPtr<IOleObject>& control)
+{
+    if (!factory_ || progId_ != progId) {
+        CLSID id{};
+        factory_.Reset();
+        if (const HRESULT known = CLSIDFromProgID(progId, &id); FAILED(known))
+            return known;
+        if (const HRESULT found = CoGetClassObject(id, CLSCTX_INPROC_SERVER, nullptr, IID_PPV_ARGS(&factory_));
+            FAILED(found))
+            return found;
+        progId_ = progId;
+    }
+    return factory_->CreateInstance(nullptr, IID_PPV_ARGS(&control));
+}
+
 HRESULT ControlSite::open(const wchar_t* progId, RECT place, Settings settings, EventHandler handler)
 {
     place_ = place;
-    CLSID id{};
-    if (const HRESULT known = CLSIDFromProgID(progId, &id); FAILED(known))
-        return known;
-    if (const HRESULT made = CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&control_)); FAILED(made))
+    if (const HRESULT made = frame_->create(progId, control_); FAILED(made))
         return made;
     if (const HRESULT sited = control_->SetClientSite(this); FAILED(sited))
         return sited;
@@ -250,7 +276,7 @@ HRESULT ControlSite::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*
         result->vt = VT_BSTR;
         result->bstrVal = SysAllocString(name_.c_str());
         return S_OK;
-    case ambientFont: result->vt = VT_DISPATCH; return ambientFontObject(&result->pdispVal);
+    case ambientFont: result->vt = VT_DISPATCH; return frame_->font(&result->pdispVal);
     case ambientLocale:
         result->vt = VT_I4;
         result->lVal = static_cast<LONG>(GetUserDefaultLCID());

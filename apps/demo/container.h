@@ -33,12 +33,18 @@ public:
     HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
 
     [[nodiscard]] IOleInPlaceActiveObject* activeObject() const noexcept { return active_.Get(); }
+    // A new control of that name; the class object is asked for once.
+    HRESULT create(const wchar_t* progId, ComPtr<IOleObject>& control);
+    HRESULT font(IDispatch** font); // the form's, one for all
 
 private:
     ~FormFrame() = default;
     ULONG references_ = 1;
     HWND window_;
     ComPtr<IOleInPlaceActiveObject> active_;
+    std::wstring progId_;
+    ComPtr<IClassFactory> factory_; // of progId_
+    ComPtr<IDispatch> font_;
 };
 
 // Called with an event's DISPID; the name is the one the control's type information gives it.

@@ -86,7 +86,11 @@ public:
     }
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
-    ~Form() { DestroyWindow(window_); }
+    ~Form()
+    {
+        DestroyWindow(window_);
+        DeleteObject(font_);
+    }
 
     [[nodiscard]] HWND window() const { return window_; }
     ComPtr<ControlSite> field(std::vector<Setting> settings, int top = 10)
@@ -99,12 +103,16 @@ public:
     }
     [[nodiscard]] HWND edit(int top = 10) const
     {
-        return CreateWindowExW(WS_EX_CLIENTEDGE, L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL, 10,
-                               top, 200, 23, window_, nullptr, GetModuleHandleW(nullptr), nullptr);
+        const HWND made =
+            CreateWindowExW(WS_EX_CLIENTEDGE, L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL, 10,
+                            top, 200, 23, window_, nullptr, GetModuleHandleW(nullptr), nullptr);
+        SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(font_), FALSE); // a scalable one, as forms have
+        return made;
     }
 
 private:
     HWND window_;
+    HFONT font_ = CreateFontW(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"MS Sans Serif");
     ComPtr<FormFrame> frame_;
 };
 

@@ -141,7 +141,8 @@ void ControlSurface::place(const RECT& place)
 void ControlSurface::show(bool visible)
 {
     visible_ = visible;
-    if (window_)
+    const bool shown = window_ && (GetWindowLongPtrW(window_, GWL_STYLE) & WS_VISIBLE) != 0;
+    if (window_ && shown != visible)
         ShowWindow(window_, visible ? SW_SHOWNA : SW_HIDE);
 }
 

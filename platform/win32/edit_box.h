@@ -5,6 +5,7 @@
 #include "platform/win32/fonts.h"
 #include "platform/win32/life.h"
 
+#include <optional>
 #include <windows.h>
 
 #include <string>
@@ -104,6 +105,7 @@ private:
     bool quiet_ = false;       // the text is being written by the control
     bool changed_ = false;     // to be reported when the EDIT has returned
     bool swallowChar_ = false; // the key-down handler took the key
+    std::optional<int> shift_; // as of the last key here; nothing before the first
     bool skipClick_ = false;   // the button's way up after a double click
     bool rebuilding_ = false;
     bool dropTarget_ = false;

@@ -146,7 +146,7 @@ LRESULT EditBox::onKeyDown(UINT message, WPARAM code, LPARAM data)
             return 0;
     }
     int key = static_cast<int>(code);
-    int shift = shiftState();
+    int shift = shift_.emplace(shiftState());
     if (key == VK_TAB && !(shift & (controlKey | altKey))) {
         moveToNext((shift & shiftKey) != 0);
         return 0;
@@ -167,8 +167,10 @@ LRESULT EditBox::onKeyUp(UINT message, WPARAM code, LPARAM data)
 {
     Watch watch(life_);
     const HWND window = edit_;
+    if (!shift_ || code == VK_SHIFT || code == VK_CONTROL || code == VK_MENU)
+        shift_ = shiftState();
     if (platform::EditBoxEvents* listener = events(); listener && code != VK_PROCESSKEY && code != VK_TAB)
-        listener->keyUp(static_cast<int>(code), shiftState());
+        listener->keyUp(static_cast<int>(code), *shift_);
     return watch.alive() && edit_ == window ? pass(message, code, data) : 0;
 }
 
@@ -235,6 +237,7 @@ LRESULT EditBox::onComposition(WPARAM first, LPARAM flags)
 
 LRESULT EditBox::onFocus(WPARAM first, LPARAM second)
 {
+    shift_.reset();
     Watch watch(life_);
     const LRESULT result = pass(WM_SETFOCUS, first, second);
     if (watch.alive() && edit_ && !rebuilding_)

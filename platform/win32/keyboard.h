@@ -8,7 +8,10 @@ namespace vela::win32 {
 // Shift 1, Control 2, Alt 4.
 [[nodiscard]] inline int shiftState() noexcept
 {
-    const auto held = [](int key) { return GetKeyState(key) < 0; };
+    BYTE keys[256]; // one question for all three: each asks the system's server where there is one
+    if (!GetKeyboardState(keys))
+        return 0;
+    const auto held = [&](int key) { return (keys[key] & 0x80) != 0; };
     return (held(VK_SHIFT) ? 1 : 0) + (held(VK_CONTROL) ? 2 : 0) + (held(VK_MENU) ? 4 : 0);
 }
 
