@@ -90,7 +90,9 @@ HRESULT Dispatch::Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS* pa
         *argument = 0;
     const Shell::Hold hold(shell_);
     try {
-        const Member* const member = findMember(shell_.content().members(), id);
+        if (!last_ || last_->id != id) // loops ask for one property again and again
+            last_ = findMember(shell_.content().members(), id);
+        const Member* const member = last_;
         if (!member || (member->access & flags) == 0)
             return DISP_E_MEMBERNOTFOUND;
         const Arguments arguments(*parameters);

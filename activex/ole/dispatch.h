@@ -29,6 +29,7 @@ private:
     HRESULT call(const Member& member, const Arguments& arguments, VARIANT* result);
 
     Shell& shell_;
+    const Member* last_ = nullptr; // of the table, the one invoked last
 };
 
 } // namespace vela::activex
