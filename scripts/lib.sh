@@ -62,7 +62,7 @@ need_wine32_root() {
 compile() {
   local preset=$1; shift
   local from=$SECONDS
-  [ -f "$build/$preset/build.ninja" ] || quietly "configure-$preset.log" env LC_ALL=C cmake -S "$top" --preset "$preset"
+  [ "$build/$preset/build.ninja" -nt "$top/CMakePresets.json" ] || quietly "configure-$preset.log" env LC_ALL=C cmake -S "$top" --preset "$preset"
   quietly "build-$preset.log" env LC_ALL=C cmake --build "$build/$preset" --target "${@:-all}"
   [ $((SECONDS - from)) -lt 5 ] || say "Built $preset in $((SECONDS - from)) s"
 }
