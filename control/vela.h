@@ -285,7 +285,7 @@ private:
     std::u16string formatoRetornoAtual_;
     std::u16string delimitadorAtual_;
     std::array<std::unique_ptr<std::u16string>, 4> scratch_; // lent out by Scratch: nothing is allocated for a key
-    Colour border_{0x00FFFFFF};             // the hover logic's current border colour
+    Colour border_{0x00FFFFFF};                              // the hover logic's current border colour
     Colour surfaceBack_{0x00FFFFFF};
     Writer writer_ = Writer::person; // of the text being written
     bool released_ = false;          // by LimparMemoria

@@ -8,9 +8,9 @@
 namespace vela::engine {
 
 struct CivilDate {
-    int year = 1899;  // 100..9999
-    int month = 12;   // 1..12
-    int day = 30;     // 1..31
+    int year = 1899; // 100..9999
+    int month = 12;  // 1..12
+    int day = 30;    // 1..31
     friend bool operator==(CivilDate, CivilDate) = default;
 };
 
@@ -34,11 +34,13 @@ struct Moment {
 }
 [[nodiscard]] constexpr int daysInMonth(int year, int month) noexcept // month 1..12
 {
-    return month == 2 ? (isLeapYear(year) ? 29 : 28) : (month == 4 || month == 6 || month == 9 || month == 11) ? 30 : 31;
+    return month == 2                                                ? (isLeapYear(year) ? 29 : 28)
+           : (month == 4 || month == 6 || month == 9 || month == 11) ? 30
+                                                                     : 31;
 }
 [[nodiscard]] bool isValid(CivilDate date) noexcept;
-[[nodiscard]] int weekday(CivilDate date) noexcept;        // 1 Sunday .. 7 Saturday
-[[nodiscard]] int dayOfYear(CivilDate date) noexcept;      // 1..366
+[[nodiscard]] int weekday(CivilDate date) noexcept;   // 1 Sunday .. 7 Saturday
+[[nodiscard]] int dayOfYear(CivilDate date) noexcept; // 1..366
 [[nodiscard]] Date makeDate(CivilDate date, TimeOfDay time = {}) noexcept;
 [[nodiscard]] std::optional<Moment> momentOf(Date date) noexcept;     // nothing outside the years 100 to 9999
 [[nodiscard]] std::optional<CivilDate> civilDate(Date date) noexcept; // nothing outside the years 100 to 9999

@@ -32,9 +32,9 @@ namespace vela::engine {
 [[nodiscard]] std::u16string dateToText(Date date, const Locale& locale);
 
 // Conversions of a put value to a property's type, and of a value to text for texts.
-[[nodiscard]] std::u16string toText(const Value& value, const Locale& locale);    // True "True", Empty ""
-[[nodiscard]] bool toBoolean(const Value& value, const Locale& locale);          // "true"/"false" any case, or a number
-[[nodiscard]] std::int32_t toLong(const Value& value, const Locale& locale);     // halves to even; 6 beyond 32 bits
+[[nodiscard]] std::u16string toText(const Value& value, const Locale& locale); // True "True", Empty ""
+[[nodiscard]] bool toBoolean(const Value& value, const Locale& locale);        // "true"/"false" any case, or a number
+[[nodiscard]] std::int32_t toLong(const Value& value, const Locale& locale);   // halves to even; 6 beyond 32 bits
 [[nodiscard]] double toDouble(const Value& value, const Locale& locale);
 [[nodiscard]] Date toDate(const Value& value, const Locale& locale, Date today); // numbers are serials
 

@@ -17,7 +17,7 @@ struct SurfaceLook {
     bool ownBorder = false; // draws the border itself (flat appearance)
     engine::Colour border{0x00FFFFFF};
     engine::Colour back{0x00FFFFFF};
-    bool button = false;    // cmdCalendario is visible
+    bool button = false;                       // cmdCalendario is visible
     ButtonGlyph glyph = ButtonGlyph::calendar; // what its picture shows
     friend bool operator==(const SurfaceLook&, const SurfaceLook&) = default;
 };
@@ -34,9 +34,9 @@ class SurfaceEvents {
 public:
     virtual void surfaceGotFocus() = 0;
     virtual void surfaceLostFocus() = 0;
-    virtual void resized() = 0;       // size or dpi changed
+    virtual void resized() = 0; // size or dpi changed
     virtual void buttonClicked() = 0;
-    virtual void hoverTick() = 0;     // the enabled timer ticked
+    virtual void hoverTick() = 0; // the enabled timer ticked
 
 protected:
     ~SurfaceEvents() = default;
@@ -52,7 +52,7 @@ public:
     [[nodiscard]] virtual const SurfaceLook& look() const = 0;
     virtual void putLook(const SurfaceLook& look) = 0; // repaints
     virtual void arrange(const SurfaceLayout& layout) = 0;
-    virtual void clear() = 0;                          // wipes what was drawn and repaints
+    virtual void clear() = 0; // wipes what was drawn and repaints
     // A rectangle drawn until the next clear or another border: left 0, top 0, size of the client area less 10 units
     // each way.
     virtual void drawRectangle(engine::Colour colour, int width) = 0;

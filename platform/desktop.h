@@ -20,7 +20,8 @@ public:
     // Modal. An empty title is the application's own. Never shown while the focus is on its way: then afterwards.
     virtual BoxAnswer messageBox(BoxIcon icon, BoxButtons buttons, std::u16string_view title,
                                  std::u16string_view text) = 0;
-    [[nodiscard]] virtual std::u16string inputBox(std::u16string_view prompt, std::u16string_view title) = 0; // "": cancelled
+    [[nodiscard]] virtual std::u16string inputBox(std::u16string_view prompt,
+                                                  std::u16string_view title) = 0; // "": cancelled
     virtual void aboutBox(std::u16string_view version) = 0;
     // "{TAB}", "+{TAB}", "{F4}" to the focused window, carried out after the key that asked has been handled whole.
     virtual void sendKeys(std::u16string_view keys) = 0;

@@ -44,7 +44,7 @@ struct EditTraits {
     char16_t passwordChar = 0; // 0: the text is shown
     bool locked = false;       // refuses typing, keeps its own colours
     bool enabled = true;
-    bool sunken = true;        // draws a 3D border of its own
+    bool sunken = true; // draws a 3D border of its own
     friend bool operator==(const EditTraits&, const EditTraits&) = default;
 };
 
@@ -56,7 +56,7 @@ public:
     virtual void keyDown(int& code, int& shift) = 0; // virtual-key code; shift 1, control 2, alt 4
     virtual void keyPress(int& key) = 0;             // UTF-16 unit; a composed character only
     virtual void keyUp(int code, int shift) = 0;
-    virtual void changed() = 0;                      // the text became another text
+    virtual void changed() = 0; // the text became another text
     virtual void clicked() = 0;
     virtual void doubleClicked() = 0;
     virtual void pointerMoved() = 0;

@@ -56,7 +56,8 @@ public:
                       std::u16string_view value) = 0;
     [[nodiscard]] virtual std::u16string get(std::u16string_view application, std::u16string_view section,
                                              std::u16string_view key, std::u16string_view defaultValue) const = 0;
-    [[nodiscard]] virtual std::vector<Entry> all(std::u16string_view application, std::u16string_view section) const = 0;
+    [[nodiscard]] virtual std::vector<Entry> all(std::u16string_view application,
+                                                 std::u16string_view section) const = 0;
     // Raises 5 when there is no such key.
     virtual void remove(std::u16string_view application, std::u16string_view section, std::u16string_view key) = 0;
 };

@@ -14,32 +14,32 @@
 namespace vela::platform {
 
 enum class WidgetKind {
-    label,        // caption; may be clicked (a day cell)
+    label, // caption; may be clicked (a day cell)
     button,
-    comboBox,     // editable, with a list
+    comboBox, // editable, with a list
     dropDownList,
-    listBox,      // multiple selection
+    listBox, // multiple selection
     checkBox,
     optionButton, // one of its frame is chosen
     textBox,
-    swatch,       // shows its back colour, takes the focus, reports double clicks
-    frame,        // groups those whose `parent` names it
-    preview,      // shows its text in its font
-    tabStrip,     // items are the tabs' captions; rows with `tab` n stand on its n-th tab
+    swatch,   // shows its back colour, takes the focus, reports double clicks
+    frame,    // groups those whose `parent` names it
+    preview,  // shows its text in its font
+    tabStrip, // items are the tabs' captions; rows with `tab` n stand on its n-th tab
 };
 
 // One row of a form's table. Rows stand in tab order; a row's place in the table is its WidgetId.
 struct WidgetRow {
     WidgetKind kind = WidgetKind::label;
     std::u16string_view name;
-    int index = -1;                 // of a control array; -1: not in one
-    std::u16string_view caption;    // "&" marks the access key
-    engine::RectTwips place;        // in the form, or in the frame named by `parent`
+    int index = -1;              // of a control array; -1: not in one
+    std::u16string_view caption; // "&" marks the access key
+    engine::RectTwips place;     // in the form, or in the frame named by `parent`
     std::u16string_view parent = {};
     std::span<const std::u16string_view> items = {};
-    int tab = -1;                   // 0-based tab of the form's tab strip; -1: on every tab
+    int tab = -1; // 0-based tab of the form's tab strip; -1: on every tab
     TextAlignment alignment = TextAlignment::left;
-    double fontSize = 0;            // points; 0: the form's font
+    double fontSize = 0; // points; 0: the form's font
     bool bold = false;
 };
 
@@ -83,7 +83,8 @@ struct WidgetLook {
 };
 
 // What happens to a form. Putting a value through Form reports as the act of a person would: putText() that changes a
-// text box or an editable combo reports changed(), check() that changes reports clicked(), choose() always reports clicked().
+// text box or an editable combo reports changed(), check() that changes reports clicked(), choose() always reports
+// clicked().
 class FormEvents {
 public:
     virtual void clicked(WidgetId widget) = 0;
@@ -111,7 +112,7 @@ public:
     [[nodiscard]] virtual int count() const = 0;
     [[nodiscard]] virtual std::u16string at(int index) const = 0;
     [[nodiscard]] virtual int chosen() const = 0;
-    virtual void choose(int index) = 0; // -1: none; 380 outside the list; then clicked()
+    virtual void choose(int index) = 0;                       // -1: none; 380 outside the list; then clicked()
     [[nodiscard]] virtual bool selected(int index) const = 0; // multiple selection
     virtual void select(int index, bool on) = 0;              // reports nothing
 
@@ -137,8 +138,8 @@ public:
     virtual void putFont(WidgetId widget, const FontDescription& font) = 0;
     virtual void focus(WidgetId widget) = 0;
     [[nodiscard]] virtual WidgetId focused() const = 0;
-    virtual void putBackColour(engine::Colour colour) = 0;                 // of the form
-    virtual void startTimer(int milliseconds) = 0;                         // 0 stops it
+    virtual void putBackColour(engine::Colour colour) = 0; // of the form
+    virtual void startTimer(int milliseconds) = 0;         // 0 stops it
     // Shows without an owner's leave: a pop-up at this place of the screen, at its own scale. `shown` -> activated().
     virtual void showPopup(engine::RectPixels place, WindowId owner) = 0;
     virtual void showModal() = 0; // returns when closed

@@ -24,7 +24,7 @@ public:
     virtual void setBackColour(engine::Colour colour) = 0;
     virtual void setDelay(int kind, int milliseconds) = 0; // kind 2 auto-pop, 3 initial
     virtual void updateText(std::u16string_view text) = 0;
-    virtual void trackPosition(std::int32_t packed) = 0;   // x + y * 65536, screen pixels
+    virtual void trackPosition(std::int32_t packed) = 0; // x + y * 65536, screen pixels
     virtual void trackActivate(bool active) = 0;
     // The screen position of a point of a window's client area, in pixels.
     [[nodiscard]] virtual std::pair<int, int> clientToScreen(WindowId window, int x, int y) const = 0;

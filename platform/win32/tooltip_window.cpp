@@ -25,8 +25,8 @@ bool TooltipWindow::create(platform::WindowId parent)
     destroy();
     const HWND owner = reinterpret_cast<HWND>(parent.value);
     const ActivationContext controls;
-    // No style of the tooltip's own: the default look. A pop-up is what the class makes of itself; asked for as one, it is
-    // never framed nor given the focus by a window manager.
+    // No style of the tooltip's own: the default look. A pop-up is what the class makes of itself; asked for as one, it
+    // is never framed nor given the focus by a window manager.
     window_ = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP, 0, 0, 0, 0, owner, nullptr, nullptr, nullptr);
     // The record without its reserved field: 44 bytes in 32 bit, 64 in 64 bit. Version 5 refuses the longer one.
     tool_ = {};
