@@ -1,0 +1,129 @@
+// The demonstration's property frame on live controls: all five pages, Apply, OK and Cancel.
+#include "container.h"
+
+#include "apps/demo/property_frame.h"
+#include "tests/windows/usage.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace vela::test {
+
+namespace {
+
+constexpr WPARAM applyButton = 101;
+constexpr std::size_t geralPage = 1;
+
+HWND boxShowing(HWND frame, const wchar_t* text)
+{
+    struct Search {
+        const wchar_t* text;
+        HWND found;
+    } search{text, nullptr};
+    struct Look {
+        static BOOL CALLBACK at(HWND window, LPARAM given)
+        {
+            auto& wanted = *reinterpret_cast<Search*>(given);
+            wchar_t shown[64]{};
+            GetWindowTextW(window, shown, 64);
+            if (lstrcmpW(shown, wanted.text) != 0)
+                return TRUE;
+            wanted.found = window;
+            return FALSE;
+        }
+    };
+    EnumChildWindows(frame, Look::at, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+class TwoControls {
+public:
+    TwoControls()
+    {
+        Automation(first.get()).put(u"IF_IsEmpty", text(u"vazio um"));
+        Automation(second.get()).put(u"IF_IsEmpty", text(u"vazio dois"));
+        IUnknown* selected[] = {first.get(), second.get()};
+        opened = frame.open(selected, L"dois campos");
+        frame.select(geralPage);
+    }
+    void type(const wchar_t* over, wchar_t letter)
+    {
+        const HWND box = boxShowing(frame.window(), over);
+        ASSERT_NE(box, nullptr);
+        SendMessageW(box, EM_SETSEL, 0, -1);
+        SendMessageW(box, WM_CHAR, letter, 1);
+    }
+    void press(WPARAM button)
+    {
+        SendMessageW(frame.window(), WM_COMMAND, button, 0);
+        pump();
+    }
+    [[nodiscard]] std::u16string ofFirst() const { return Automation(first.get()).textOf(u"IF_IsEmpty"); }
+    [[nodiscard]] std::u16string ofSecond() const { return Automation(second.get()).textOf(u"IF_IsEmpty"); }
+
+    ComPtr<IUnknown> first = create();
+    ComPtr<IUnknown> second = create();
+    demo::PropertyFrame frame{GetModuleHandleW(nullptr), nullptr};
+    bool opened = false;
+};
+
+TEST(PropertyFrame, ApplyAndOkWriteTheFirstControlOnly)
+{
+    const LeakCheck leaks;
+    TwoControls on;
+    ASSERT_TRUE(on.opened);
+    EXPECT_EQ(on.frame.pageCount(), 5U);
+    EXPECT_FALSE(on.frame.canApply());
+    on.type(L"vazio um", L'n');
+    EXPECT_TRUE(on.frame.canApply());
+    EXPECT_EQ(on.ofFirst(), u"vazio um");
+    on.press(applyButton);
+    EXPECT_EQ(on.ofFirst(), u"n");
+    EXPECT_FALSE(on.frame.canApply());
+    EXPECT_NE(on.frame.window(), nullptr);
+    on.type(L"n", L'o');
+    on.press(IDOK);
+    EXPECT_EQ(on.ofFirst(), u"o");
+    EXPECT_EQ(on.ofSecond(), u"vazio dois");
+    EXPECT_EQ(on.frame.window(), nullptr);
+}
+
+TEST(PropertyFrame, CancelWritesNothing)
+{
+    const LeakCheck leaks;
+    TwoControls on;
+    ASSERT_TRUE(on.opened);
+    on.type(L"vazio um", L'n');
+    on.press(IDCANCEL);
+    EXPECT_EQ(on.ofFirst(), u"vazio um");
+    EXPECT_EQ(on.frame.window(), nullptr);
+}
+
+// VELA_TEST_COUNT=1000 takes minutes.
+TEST(PropertyFrame, OpenedAndClosedManyTimes)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const char* const asked = std::getenv("VELA_TEST_COUNT");
+    const int rounds = asked ? std::atoi(asked) : 6;
+    const auto once = [&] {
+        demo::PropertyFrame frame(GetModuleHandleW(nullptr), nullptr);
+        IUnknown* selected[] = {control.get()};
+        ASSERT_TRUE(frame.open(selected, L"campo"));
+        for (std::size_t page = 0; page < frame.pageCount(); ++page)
+            frame.select(page);
+        frame.close();
+        pump();
+    };
+    for (int round = 0; round < 3; ++round)
+        once();
+    const Usage before;
+    for (int round = 0; round < rounds; ++round)
+        once();
+    expectFlat(before, Usage(), 512 * 1024);
+}
+
+} // namespace
+
+} // namespace vela::test
