@@ -5,9 +5,9 @@
 #include "platform/win32/fonts.h"
 #include "platform/win32/life.h"
 
-#include <optional>
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
 namespace vela::win32 {
