@@ -2,6 +2,7 @@
 #include "activex/font_object.h"
 
 #include "activex/com/guard.h"
+#include "platform/win32/com_object.h"
 
 #include <olectl.h>
 
@@ -66,33 +67,12 @@ ComPtr<IFont> makeFont(const platform::FontDescription& description)
 
 } // namespace
 
-class FontObject::Sink final : public IPropertyNotifySink {
+class FontObject::Sink final : public win32::ComObject<IPropertyNotifySink> {
 public:
     explicit Sink(FontObject& owner) noexcept : owner_(&owner) {}
-    Sink(const Sink&) = delete;
-    Sink& operator=(const Sink&) = delete;
 
     void forget() noexcept { owner_ = nullptr; } // the font object may outlive the control
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override
-    {
-        if (!object)
-            return E_POINTER;
-        *object = nullptr;
-        if (iid != IID_IUnknown && iid != IID_IPropertyNotifySink)
-            return E_NOINTERFACE;
-        *object = static_cast<IPropertyNotifySink*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() noexcept override
-    {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
-    }
     HRESULT STDMETHODCALLTYPE OnChanged(DISPID part) noexcept override
     {
         if (owner_)
@@ -102,9 +82,7 @@ public:
     HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) noexcept override { return S_OK; }
 
 private:
-    ~Sink() = default;
     FontObject* owner_;
-    ULONG references_ = 1;
 };
 
 std::optional<platform::FontDescription> describeFont(IUnknown* object)

@@ -1,25 +1,22 @@
-// The life of the calendar pop-up: loading, picking, keys, and closing when another window comes to the front.
+// The calendar pop-up: loading, picking, keys.
 #include "popups/calendario_sdi.h"
 
 #include "popups/calendar_keys.h"
 #include "popups/calendar_layout.h"
-#include "popups/foreground_check.h"
 
 namespace vela::popups {
 
 namespace {
 
-constexpr int timerInterval = 100; // milliseconds
 constexpr HighlightRule highlightRule{10000, u"Vela.IDR", u"Acesso Negado!"};
 
 } // namespace
 
 CalendarioSDI::CalendarioSDI(platform::Environment& environment, platform::FormFactory& forms,
                              const CalendarColours& colours, PopupRecord& record)
-    : environment_(environment), record_(record), form_(forms.make(calendarPopupLayout(), *this)),
+    : PopupForm(environment, forms, calendarPopupLayout(), record, u"Procedimento: CJA"),
       calendar_(std::make_unique<CalendarOperations>(environment, *form_, colours, highlightRule))
 {
-    loaded_ = true;
     calendar_->load();
 }
 
@@ -64,21 +61,10 @@ void CalendarioSDI::pickDay(int cell)
     unload();
 }
 
-void CalendarioSDI::show(engine::RectPixels place, platform::WindowId parent)
-{
-    form_->showPopup(place, parent);
-}
-
-void CalendarioSDI::unload()
-{
-    if (loaded_)
-        form_->close();
-}
-
 void CalendarioSDI::clicked(platform::WidgetId widget)
 {
     const HandlerScope running(record_);
-    if (!loaded_)
+    if (!isLoaded())
         return;
     if (widget == calendar_widget::months)
         calendar_->view.takeMonth();
@@ -91,7 +77,7 @@ void CalendarioSDI::clicked(platform::WidgetId widget)
 void CalendarioSDI::keyDown(platform::WidgetId, int& code, int& shift)
 {
     const HandlerScope running(record_);
-    if (!loaded_)
+    if (!isLoaded())
         return;
     const int key = code;
     if (key == escapeKey && shift == 0) {
@@ -106,48 +92,10 @@ void CalendarioSDI::keyDown(platform::WidgetId, int& code, int& shift)
     }
 }
 
-void CalendarioSDI::activated()
+void CalendarioSDI::focusFirst()
 {
-    const HandlerScope running(record_);
-    environment_.desktop.processPendingEvents();
-    if (!loaded_)
-        return; // one of the events closed it
     if (form_->visible(calendar_widget::months))
         form_->focus(calendar_widget::months);
-    form_->startTimer(timerInterval);
-}
-
-void CalendarioSDI::deactivated()
-{
-    const HandlerScope running(record_);
-    if (loaded_ && !calendar_->boxes.anyUp())
-        unload();
-}
-
-void CalendarioSDI::tick()
-{
-    const HandlerScope running(record_);
-    if (!loaded_ || calendar_->boxes.anyUp())
-        return;
-    const platform::WindowId active = environment_.desktop.activeWindow();
-    if (active && active != form_->window()) { // another form of the program
-        unload();
-        return;
-    }
-    if (owner_ == nullptr || mayStayOpen(form_->window(), *owner_, environment_, u"Procedimento: CJA"))
-        return;
-    unload();
-    if (owner_ != nullptr)
-        owner_->takePopupFocus();
-}
-
-void CalendarioSDI::closed()
-{
-    const HandlerScope running(record_);
-    if (!loaded_)
-        return;
-    loaded_ = false;
-    record_.closed();
 }
 
 } // namespace vela::popups

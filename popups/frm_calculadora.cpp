@@ -3,7 +3,6 @@
 
 #include "engine/conversions.h"
 #include "popups/calculator_layout.h"
-#include "popups/foreground_check.h"
 #include "popups/trap.h"
 
 namespace vela::popups {
@@ -12,7 +11,6 @@ namespace {
 
 namespace widget = calculator_widget;
 
-constexpr int timerInterval = 100; // milliseconds
 constexpr int backspaceKey = 8;
 constexpr int enterKey = 13;
 constexpr int escapeKey = 27;
@@ -43,9 +41,8 @@ platform::WidgetId buttonOf(int character) noexcept
 } // namespace
 
 frmCalculadora::frmCalculadora(platform::Environment& environment, platform::FormFactory& forms, PopupRecord& record)
-    : environment_(environment), record_(record), form_(forms.make(calculatorLayout(), *this))
+    : PopupForm(environment, forms, calculatorLayout(), record, u"Procedimento: Calculadora")
 {
-    loaded_ = true;
     load();
 }
 
@@ -126,21 +123,15 @@ void frmCalculadora::pressF2()
 
 void frmCalculadora::show(engine::RectPixels place, platform::WindowId parent)
 {
-    form_->showPopup(place, parent);
-    if (loaded_)
-        form_->focus(widget::equals); // shown again while it is the active one: it is not told so once more
-}
-
-void frmCalculadora::unload()
-{
-    if (loaded_)
-        form_->close();
+    PopupForm::show(place, parent);
+    if (isLoaded())
+        focusFirst(); // shown again while it is the active one: it is not told so once more
 }
 
 void frmCalculadora::clicked(platform::WidgetId id)
 {
     const HandlerScope running(record_);
-    if (!loaded_)
+    if (!isLoaded())
         return;
     if (widget::isOperator(id))
         operation(id.value);
@@ -168,7 +159,7 @@ void frmCalculadora::operation(int index)
     if (answer.dividedByZero)
         boxes_.show(environment_.desktop, platform::BoxIcon::exclamation, u"Tamber Calc",
                     u"Erro, Divisão por zero impossível");
-    if (loaded_)
+    if (isLoaded())
         putDisplay(answer.display);
 }
 
@@ -197,7 +188,7 @@ void frmCalculadora::keyPress(platform::WidgetId focused, int& key)
 void frmCalculadora::keyDown(platform::WidgetId focused, int& code, int& shift)
 {
     const HandlerScope running(record_);
-    if (!loaded_)
+    if (!isLoaded())
         return;
     if (code == f2Key) {
         if (widget::isOperator(focused))
@@ -229,47 +220,9 @@ void frmCalculadora::valueToOwner()
     unload();
 }
 
-void frmCalculadora::activated()
+void frmCalculadora::focusFirst()
 {
-    const HandlerScope running(record_);
-    environment_.desktop.processPendingEvents();
-    if (!loaded_)
-        return; // one of the events closed it
-    form_->startTimer(timerInterval);
     form_->focus(widget::equals);
-}
-
-void frmCalculadora::deactivated()
-{
-    const HandlerScope running(record_);
-    if (!boxes_.anyUp())
-        unload();
-}
-
-void frmCalculadora::tick()
-{
-    const HandlerScope running(record_);
-    if (!loaded_ || boxes_.anyUp())
-        return;
-    const platform::WindowId active = environment_.desktop.activeWindow();
-    if (active && active != form_->window()) { // another form of the program
-        unload();
-        return;
-    }
-    if (owner_ == nullptr || mayStayOpen(form_->window(), *owner_, environment_, u"Procedimento: Calculadora"))
-        return;
-    unload();
-    if (owner_ != nullptr)
-        owner_->takePopupFocus();
-}
-
-void frmCalculadora::closed()
-{
-    const HandlerScope running(record_);
-    if (!loaded_)
-        return;
-    loaded_ = false;
-    record_.closed();
 }
 
 } // namespace vela::popups

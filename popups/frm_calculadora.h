@@ -1,27 +1,17 @@
 // The calculator that a number field opens: F2 writes the display into the owner's Text and closes it.
 #pragma once
 
-#include "platform/environment.h"
-#include "platform/form.h"
 #include "popups/calculator_model.h"
 #include "popups/own_box.h"
-#include "popups/owner.h"
-#include "popups/popup_record.h"
-
-#include <memory>
+#include "popups/popup_form.h"
 
 namespace vela::popups {
 
-class frmCalculadora final : public platform::FormEvents {
+class frmCalculadora final : public PopupForm {
 public:
     // Loads with the display "0.". All outlive the object.
     frmCalculadora(platform::Environment& environment, platform::FormFactory& forms, PopupRecord& record);
-    ~frmCalculadora() { loaded_ = false; } // its window's going away is no closing
-    frmCalculadora(const frmCalculadora&) = delete;
-    frmCalculadora& operator=(const frmCalculadora&) = delete;
-
-    void setOwner(Owner* owner) noexcept { owner_ = owner; }
-    [[nodiscard]] Owner* owner() const noexcept { return owner_; }
+    ~frmCalculadora() { discard(); }
 
     void continueNumber() noexcept { model_.continueNumber(); }
     void handOver(bool decimalFlag) noexcept { model_.handOver(decimalFlag); }
@@ -35,24 +25,15 @@ public:
     void typeCharacter(char16_t character);
     void pressF2();
 
-    void show(engine::RectPixels place, platform::WindowId parent);
-    void unload(); // once; the object stays until its record lets go of it
-    [[nodiscard]] bool isLoaded() const noexcept { return loaded_; }
-    [[nodiscard]] bool isShown() const { return loaded_ && form_->isShown(); }
+    void show(engine::RectPixels place, platform::WindowId parent) override;
 
     void clicked(platform::WidgetId widget) override;
-    void doubleClicked(platform::WidgetId) override {}
-    void changed(platform::WidgetId) override {}
-    void gotFocus(platform::WidgetId) override {}
-    void lostFocus(platform::WidgetId) override {}
     void keyDown(platform::WidgetId widget, int& code, int& shift) override;
     void keyPress(platform::WidgetId widget, int& key) override;
-    void activated() override;
-    void deactivated() override;
-    void tick() override;
-    void closed() override;
 
 private:
+    void focusFirst() override;
+    [[nodiscard]] bool boxUp() const override { return boxes_.anyUp(); }
     void load();
     [[nodiscard]] platform::WidgetLook lookOf(platform::WidgetId id) const;
     void nameButtons();
@@ -65,13 +46,8 @@ private:
     void valueToOwner();
     [[nodiscard]] const engine::Locale& locale() const { return environment_.locales.locale(); }
 
-    platform::Environment& environment_;
-    PopupRecord& record_;
-    Owner* owner_ = nullptr;
     CalculatorModel model_;
     OwnBoxes boxes_;
-    bool loaded_ = false;
-    std::unique_ptr<platform::Form> form_;
 };
 
 } // namespace vela::popups

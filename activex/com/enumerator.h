@@ -3,6 +3,7 @@
 
 #include "activex/com/guard.h"
 #include "activex/com/module_lock.h"
+#include "platform/win32/com_object.h"
 
 #include <memory>
 #include <vector>
@@ -11,35 +12,13 @@ namespace vela::activex {
 
 // Copy: `static void give(const Kept&, Given&)` writes an element the caller will own.
 template <class Interface, class Given, class Kept, class Copy>
-class Enumerator final : public Interface {
+class Enumerator final : public win32::ComObject<Interface> {
 public:
     using List = std::shared_ptr<const std::vector<Kept>>;
 
     [[nodiscard]] static ComPtr<Interface> make(List list, std::size_t next = 0)
     {
         return ComPtr<Interface>::adopt(new Enumerator(std::move(list), next));
-    }
-    Enumerator(const Enumerator&) = delete;
-    Enumerator& operator=(const Enumerator&) = delete;
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override
-    {
-        if (!object)
-            return E_POINTER;
-        *object = nullptr;
-        if (iid != IID_IUnknown && iid != __uuidof(Interface))
-            return E_NOINTERFACE;
-        *object = static_cast<Interface*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() noexcept override
-    {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
     }
 
     HRESULT STDMETHODCALLTYPE Next(ULONG wanted, Given* into, ULONG* fetched) noexcept override
@@ -76,10 +55,8 @@ public:
 
 private:
     Enumerator(List list, std::size_t next) : list_(std::move(list)), next_(next) {}
-    ~Enumerator() = default;
 
     ModuleLock lock_;
-    ULONG references_ = 1;
     List list_;
     std::size_t next_;
 };

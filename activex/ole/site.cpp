@@ -1,6 +1,8 @@
 // Questions to the host through its client site.
 #include "activex/ole/site.h"
 
+#include "platform/win32/keyboard.h"
+
 #include <olectl.h>
 
 namespace vela::activex {
@@ -33,13 +35,6 @@ ComPtr<IDispatch> objectIn(const std::optional<Variant>& value) noexcept
     if (!value || (value->get().vt != VT_DISPATCH && value->get().vt != VT_UNKNOWN))
         return {};
     return ComPtr<IDispatch>::from(value->get().punkVal);
-}
-
-// Shift 1, Control 2, Alt 4, as IOleControlSite counts them.
-DWORD keyModifiers() noexcept
-{
-    return (GetKeyState(VK_SHIFT) < 0 ? 1u : 0u) | (GetKeyState(VK_CONTROL) < 0 ? 2u : 0u) |
-           (GetKeyState(VK_MENU) < 0 ? 4u : 0u);
 }
 
 } // namespace
@@ -79,7 +74,7 @@ std::u16string Site::containerName() const
 
 bool Site::translate(MSG* message) const noexcept
 {
-    return control_ && control_->TranslateAccelerator(message, keyModifiers()) == S_OK;
+    return control_ && control_->TranslateAccelerator(message, static_cast<DWORD>(win32::shiftState())) == S_OK;
 }
 
 void Site::focusChanged(bool has) const noexcept

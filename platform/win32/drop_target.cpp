@@ -1,13 +1,13 @@
 // An OLE drop target that takes text only.
 #include "platform/win32/drop_target.h"
 
+#include "platform/win32/com_object.h"
 #include "platform/win32/edit_box.h"
 #include "platform/win32/guard.h"
 #include "platform/win32/text.h"
 
 #include <ole2.h>
 
-#include <atomic>
 #include <string>
 
 namespace vela::win32 {
@@ -32,34 +32,11 @@ std::u16string textIn(IDataObject& data)
 
 } // namespace
 
-// The system's COM interfaces have no virtual destructor; their objects are never destroyed through them.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-
 // Registered with the box's window and revoked when that goes, so the box outlives its use.
-class EditDropTarget final : public IDropTarget {
+class EditDropTarget final : public ComObject<IDropTarget> {
 public:
     explicit EditDropTarget(EditBox& box) noexcept : box_(box) {}
-    virtual ~EditDropTarget() = default;
 
-    STDMETHODIMP QueryInterface(REFIID wanted, void** found) noexcept override
-    {
-        if (!found)
-            return E_POINTER;
-        const bool known = IsEqualIID(wanted, IID_IUnknown) || IsEqualIID(wanted, IID_IDropTarget);
-        *found = known ? this : nullptr;
-        if (known)
-            AddRef();
-        return known ? S_OK : E_NOINTERFACE;
-    }
-    STDMETHODIMP_(ULONG) AddRef() noexcept override { return ++references_; }
-    STDMETHODIMP_(ULONG) Release() noexcept override
-    {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
-    }
     STDMETHODIMP DragEnter(IDataObject* data, DWORD, POINTL, DWORD* effect) noexcept override
     {
         FORMATETC wanted = unicodeText;
@@ -91,11 +68,8 @@ private:
     }
 
     EditBox& box_;
-    std::atomic<ULONG> references_{1};
     bool acceptable_ = false;
 };
-
-#pragma GCC diagnostic pop
 
 void registerDropTarget(EditBox& box, bool& registered)
 {

@@ -32,6 +32,15 @@ bool tabReaches(HWND window)
     return true;
 }
 
+// The EDIT works by the characters of these keys; on their way down it only asks for the shift keys, which is slow
+// where a server answers.
+bool onlyTypes(int key) noexcept
+{
+    const bool keypad = key >= VK_NUMPAD0 && key <= VK_DIVIDE;
+    const bool punctuation = (key >= VK_OEM_1 && key <= VK_OEM_3) || (key >= VK_OEM_4 && key <= VK_OEM_102);
+    return key == VK_SPACE || (key >= '0' && key <= '9') || (key >= 'A' && key <= 'Z') || keypad || punctuation;
+}
+
 bool sameForm(HWND one, HWND other) noexcept
 {
     return one && other && GetAncestor(one, GA_ROOT) == GetAncestor(other, GA_ROOT);
@@ -157,6 +166,8 @@ LRESULT EditBox::onKeyDown(UINT message, WPARAM code, LPARAM data)
         return 0;
     swallowChar_ = key == 0;
     if (key == 0 || shortcut(key, shift))
+        return 0;
+    if (message == WM_KEYDOWN && onlyTypes(key))
         return 0;
     if (key == VK_DELETE)
         refresh();

@@ -1,14 +1,13 @@
 // An accessible object over the system's own: the painted labels are its first children, the windows follow.
 #include "platform/win32/form_accessible.h"
 
+#include "platform/win32/com_object.h"
 #include "platform/win32/guard.h"
 #include "platform/win32/text.h"
 
 #include <oleauto.h>
 
 #include <oleacc.h>
-
-#include <atomic>
 
 namespace vela::win32 {
 namespace {
@@ -41,35 +40,12 @@ VARIANT number(LONG value) noexcept
 
 } // namespace
 
-// The system's COM interfaces have no virtual destructor; their objects are never destroyed through them.
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
-
-class FormAccessible final : public IAccessible {
+class FormAccessible final : public ComObject<IAccessible> {
 public:
     FormAccessible(IAccessible& standard, SpokenForm& form) noexcept : standard_(standard), form_(&form) {}
-    virtual ~FormAccessible() { standard_.Release(); }
+    ~FormAccessible() override { standard_.Release(); }
     void disconnect() noexcept { form_ = nullptr; }
 
-    STDMETHODIMP QueryInterface(REFIID wanted, void** found) noexcept override
-    {
-        if (!found)
-            return E_POINTER;
-        const bool known = IsEqualIID(wanted, IID_IUnknown) || IsEqualIID(wanted, IID_IDispatch) ||
-                           IsEqualIID(wanted, accessibleInterface);
-        *found = known ? this : nullptr;
-        if (known)
-            AddRef();
-        return known ? S_OK : E_NOINTERFACE;
-    }
-    STDMETHODIMP_(ULONG) AddRef() noexcept override { return ++references_; }
-    STDMETHODIMP_(ULONG) Release() noexcept override
-    {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
-    }
     STDMETHODIMP GetTypeInfoCount(UINT* count) noexcept override { return standard_.GetTypeInfoCount(count); }
     STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) noexcept override
     {
@@ -202,6 +178,10 @@ private:
         const auto index = static_cast<std::size_t>(child.lVal) - 1;
         return index < all.size() ? &all[index] : nullptr;
     }
+    [[nodiscard]] bool answersTo(REFIID wanted) const noexcept override
+    {
+        return IsEqualIID(wanted, IID_IDispatch) || IsEqualIID(wanted, accessibleInterface);
+    }
     // The number of a child that is a window, as the system's own object counts it.
     [[nodiscard]] VARIANT behind(VARIANT child) const noexcept
     {
@@ -213,10 +193,7 @@ private:
     IAccessible& standard_; // held
     SpokenForm* form_;
     std::vector<SpokenLabel> labels_; // as of the last question
-    std::atomic<ULONG> references_{1};
 };
-
-#pragma GCC diagnostic pop
 
 LRESULT FormSpeech::answer(HWND window, WPARAM first, SpokenForm& form)
 {
