@@ -1,6 +1,7 @@
 // The rows of the table: which benchmark stands beside which, and the ratio wanted.
 #include "benchmarks/report.h"
 
+#include <algorithm>
 #include <array>
 #include <iomanip>
 #include <ostream>
@@ -68,19 +69,22 @@ void printCreating(const Measured& creating, std::ostream& out)
 void CollectingReporter::ReportRuns(const std::vector<Run>& runs)
 {
     for (const Run& run : runs) {
-        const bool median = run.run_type == Run::RT_Aggregate && run.aggregate_name == "median";
-        if (run.error_occurred || (run.run_type == Run::RT_Aggregate && !median)) {
+        if (run.error_occurred || run.run_type == Run::RT_Aggregate) {
             continue;
         }
-        Measured& entry = measured_[run.run_name.function_name];
-        entry.nanoseconds = run.GetAdjustedCPUTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
+        double nanoseconds = run.GetAdjustedCPUTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
         const auto counter = run.counters.find("allocs");
         const auto turns = run.counters.find("turns"); // in one iteration, where it is not one
         if (turns != run.counters.end())
-            entry.nanoseconds /= static_cast<double>(turns->second.value);
+            nanoseconds /= static_cast<double>(turns->second.value);
+        const auto [place, first] = measured_.try_emplace(run.run_name.function_name);
+        Measured& entry = place->second;
+        entry.nanoseconds = first ? nanoseconds : std::min(entry.nanoseconds, nanoseconds);
         const auto bytes = run.counters.find("bytes");
-        entry.bytes = bytes == run.counters.end() ? 0.0 : static_cast<double>(bytes->second.value);
-        entry.allocations = counter == run.counters.end() ? -1.0 : static_cast<double>(counter->second.value);
+        if (bytes != run.counters.end())
+            entry.bytes = std::max(entry.bytes, static_cast<double>(bytes->second.value));
+        if (counter != run.counters.end())
+            entry.allocations = std::max(entry.allocations, static_cast<double>(counter->second.value));
     }
 }
 

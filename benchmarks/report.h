@@ -15,7 +15,7 @@ struct Measured {
     double bytes = 0;        // held by one; 0 where they were not counted
 };
 
-// Takes the median of the repetitions of each benchmark, or its one run.
+// Takes the least time of the repetitions of each benchmark, and the most allocations and bytes.
 class CollectingReporter final : public benchmark::BenchmarkReporter {
 public:
     bool ReportContext(const Context&) override { return true; }

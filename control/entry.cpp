@@ -19,19 +19,22 @@ void Vela::gotFocus()
         return;
     whileAlive(life_, [&] {
         firstClick_ = true;
-        const auto failure = failureOf(life_, [&](int& step) {
-            step = 1;
-            enterColours();
-            showEntryTip();
-            step = 2;
-            enterText();
-            step = 3;
-            enterSelection();
-            step = 4;
-            popups_.closeAll();
-        });
-        if (failure)
-            showBox(platform::BoxIcon::information, u"Vela.GotFocus", gotFocusFailureText(*failure));
+        trap(
+            life_,
+            [&](int& step) {
+                step = 1;
+                enterColours();
+                showEntryTip();
+                step = 2;
+                enterText();
+                step = 3;
+                enterSelection();
+                step = 4;
+                popups_.closeAll();
+            },
+            [&](const engine::Error& failure) {
+                showBox(platform::BoxIcon::information, u"Vela.GotFocus", gotFocusFailureText(failure));
+            });
     });
 }
 
@@ -101,13 +104,16 @@ void Vela::clicked()
     if (deaf())
         return;
     whileAlive(life_, [&] {
-        const auto failure = failureOf(life_, [&](int&) {
-            placeCaretByClick();
-            raise(&platform::ControlHost::raiseClick);
-        });
-        if (failure)
-            showBox(platform::BoxIcon::exclamation, u"Vela.ErrNumber: " + decimalText(failure->number),
-                    clickFailureText(*failure));
+        trap(
+            life_,
+            [&](int&) {
+                placeCaretByClick();
+                raise(&platform::ControlHost::raiseClick);
+            },
+            [&](const engine::Error& failure) {
+                showBox(platform::BoxIcon::exclamation, u"Vela.ErrNumber: " + decimalText(failure.number),
+                        clickFailureText(failure));
+            });
     });
 }
 
@@ -139,17 +145,20 @@ void Vela::changed()
         const Writer writer = writer_;
         if (writer == Writer::person)
             keepTyped();
-        const auto failure = failureOf(life_, [&](int& step) {
-            step = 1;
-            raise(&platform::ControlHost::raiseChange);
-            step = 2;
-            if (!liveNumber() || (writer != Writer::person && writer != Writer::host))
-                return;
-            step = 3;
-            reformatLive();
-        });
-        if (failure)
-            showBox(platform::BoxIcon::exclamation, u"", changeFailureText(*failure));
+        trap(
+            life_,
+            [&](int& step) {
+                step = 1;
+                raise(&platform::ControlHost::raiseChange);
+                step = 2;
+                if (!liveNumber() || (writer != Writer::person && writer != Writer::host))
+                    return;
+                step = 3;
+                reformatLive();
+            },
+            [&](const engine::Error& failure) {
+                showBox(platform::BoxIcon::exclamation, u"", changeFailureText(failure));
+            });
     });
 }
 

@@ -20,9 +20,12 @@ void Vela::lostFocus()
         return;
     whileAlive(life_, [&] {
         held_ = false;
-        const auto failure = failureOf(life_, [&](int&) { leave(); });
-        if (failure && failure->number != engine::error_number::invalidCall)
-            log(*failure, label::lostFocus);
+        trap(
+            life_, [&](int&) { leave(); },
+            [&](const engine::Error& failure) {
+                if (failure.number != engine::error_number::invalidCall)
+                    log(failure, label::lostFocus);
+            });
     });
 }
 

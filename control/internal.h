@@ -117,8 +117,8 @@ void Vela::putFontPart(T FontDescription::*part, const T& value)
 template <class Body>
 void Vela::trapToLog(View label, Body body)
 {
-    if (const auto failure = failureOf(life_, [&](int&) { body(); }))
-        log(*failure, label);
+    trap(
+        life_, [&](int&) { body(); }, [&](const engine::Error& failure) { log(failure, label); });
 }
 
 } // namespace vela::control

@@ -101,25 +101,29 @@ int Vela::plainKey(int key) const noexcept
 
 void Vela::validateMask(int& key)
 {
-    const auto failure = failureOf(life_, [&](int&) {
-        Scratch text(*this);
-        readText(*text);
-        const platform::Selection selection = box().selection();
-        const engine::MaskStep step = engine::validateMask(key, selection.start, maskSettings(), *text);
-        key = step.key;
-        if (step.textWritten) {
-            const auto at = std::min(text->size(), static_cast<std::size_t>(step.caret)) - 1;
-            const View before = step.replaced ? View(&*step.replaced, 1) : View();
-            if (before != View(*text).substr(at, 1))
-                history().add(static_cast<int>(at), before, View(*text).substr(at, 1), selection, false);
-            writeText(*text, Writer::keys);
-            box().select({step.caret, 0});
-        }
-        if (step.promptCaret)
-            box().select({*step.promptCaret, 0});
-    });
-    if (failure && failure->number != engine::error_number::invalidPropertyValue)
-        log(*failure, label::mask);
+    trap(
+        life_,
+        [&](int&) {
+            Scratch text(*this);
+            readText(*text);
+            const platform::Selection selection = box().selection();
+            const engine::MaskStep step = engine::validateMask(key, selection.start, maskSettings(), *text);
+            key = step.key;
+            if (step.textWritten) {
+                const auto at = std::min(text->size(), static_cast<std::size_t>(step.caret)) - 1;
+                const View before = step.replaced ? View(&*step.replaced, 1) : View();
+                if (before != View(*text).substr(at, 1))
+                    history().add(static_cast<int>(at), before, View(*text).substr(at, 1), selection, false);
+                writeText(*text, Writer::keys);
+                box().select({step.caret, 0});
+            }
+            if (step.promptCaret)
+                box().select({*step.promptCaret, 0});
+        },
+        [&](const engine::Error& failure) {
+            if (failure.number != engine::error_number::invalidPropertyValue)
+                log(failure, label::mask);
+        });
 }
 
 void Vela::keyUp(int code, int shift)

@@ -30,24 +30,27 @@ void Vela::layOut()
 {
     if (box_ == nullptr)
         return;
-    const auto failure = failureOf(life_, [&](int&) {
-        const bool sunken = sunken_ && !drawnBySurface(settings_.borderStyle);
-        if (!released_)
-            putTrait(&platform::EditTraits::sunken, sunken);
-        const platform::SurfaceLook look{.line = static_cast<int>(settings_.borderStyle),
-                                         .ownBorder = !sunken,
-                                         .border = border_,
-                                         .back = surfaceBack_,
-                                         .button = buttonVisible_,
-                                         .glyph = settings_.textType == TipoText::Numerico
-                                                      ? platform::ButtonGlyph::calculator
-                                                      : platform::ButtonGlyph::calendar};
-        if (look != surface_.look())
-            surface_.putLook(look);
-        surface_.arrange(arrangement());
-    });
-    if (failure)
-        showBox(platform::BoxIcon::information, u"Vela.Resize", numberAndDescription(*failure));
+    trap(
+        life_,
+        [&](int&) {
+            const bool sunken = sunken_ && !drawnBySurface(settings_.borderStyle);
+            if (!released_)
+                putTrait(&platform::EditTraits::sunken, sunken);
+            const platform::SurfaceLook look{.line = static_cast<int>(settings_.borderStyle),
+                                             .ownBorder = !sunken,
+                                             .border = border_,
+                                             .back = surfaceBack_,
+                                             .button = buttonVisible_,
+                                             .glyph = settings_.textType == TipoText::Numerico
+                                                          ? platform::ButtonGlyph::calculator
+                                                          : platform::ButtonGlyph::calendar};
+            if (look != surface_.look())
+                surface_.putLook(look);
+            surface_.arrange(arrangement());
+        },
+        [&](const engine::Error& failure) {
+            showBox(platform::BoxIcon::information, u"Vela.Resize", numberAndDescription(failure));
+        });
 }
 
 void Vela::putForeColour(Colour colour)
@@ -81,18 +84,22 @@ void Vela::hoverTick()
     if (life_.ended())
         return;
     whileAlive(life_, [&] {
-        const auto failure = failureOf(life_, [&](int&) {
-            if (environment_.desktop.windowUnderPointer() == box().window())
-                return;
-            raise(&platform::ControlHost::raiseMouseOut);
-            const bool focused = box().hasFocus();
-            putBackColours(focused ? settings_.backColorGotFocus : settings_.backColorLostFocus);
-            border_ = focused ? settings_.borderColorGotfocus : settings_.borderColorLostfocus;
-            layOut();
-            surface_.enableHoverTimer(false);
-        });
-        if (failure && failure->number != ignoredTimerFailure)
-            log(*failure, label::timer);
+        trap(
+            life_,
+            [&](int&) {
+                if (environment_.desktop.windowUnderPointer() == box().window())
+                    return;
+                raise(&platform::ControlHost::raiseMouseOut);
+                const bool focused = box().hasFocus();
+                putBackColours(focused ? settings_.backColorGotFocus : settings_.backColorLostFocus);
+                border_ = focused ? settings_.borderColorGotfocus : settings_.borderColorLostfocus;
+                layOut();
+                surface_.enableHoverTimer(false);
+            },
+            [&](const engine::Error& failure) {
+                if (failure.number != ignoredTimerFailure)
+                    log(failure, label::timer);
+            });
     });
 }
 

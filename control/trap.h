@@ -5,36 +5,33 @@
 #include "engine/error.h"
 
 #include <new>
-#include <optional>
 #include <string>
 #include <utility>
 
 namespace vela::control {
 
-// The error that `body` ends with, its step as counted by `step`; nothing after a normal end and for error 0. What the
-// body had done before it failed stays done. When the control has not survived the body, 91 goes on to the caller.
-template <class Body>
-[[nodiscard]] std::optional<engine::Error> failureOf(Liveness& life, Body&& body)
+// Tells `report` of the error that `body` ends with, its step as counted by `step`; error 0 is none. What the body had
+// done before it failed stays done. When the control has not survived the body, 91 goes on to the caller instead.
+template <class Body, class Report>
+void trap(Liveness& life, Body&& body, Report&& report)
 {
     const Liveness::Probe alive(life);
     int step = 0;
-    std::optional<engine::Error> failure; // made when it happens: most bodies end normally, and on every key
+    const auto tell = [&](engine::Error failure) {
+        if (!alive)
+            engine::raise(engine::error_number::objectNotSet);
+        failure.step = step;
+        if (failure.number != 0)
+            report(std::as_const(failure));
+    };
     try {
         std::forward<Body>(body)(step);
-        return std::nullopt;
     } catch (const engine::Error& error) {
-        failure = error;
+        tell(error);
     } catch (const std::bad_alloc&) {
-        failure.emplace();
-        failure->number = engine::error_number::outOfMemory;
-        failure->description = engine::errorDescription(failure->number);
+        constexpr int number = engine::error_number::outOfMemory;
+        tell({.number = number, .description = std::u16string(engine::errorDescription(number))});
     }
-    if (!alive)
-        engine::raise(engine::error_number::objectNotSet);
-    if (failure->number == 0)
-        return std::nullopt;
-    failure->step = step;
-    return failure;
 }
 
 // Runs what the platform has called: its failure reaches the platform unless the control is gone.

@@ -60,21 +60,24 @@ engine::DateCheckSettings Vela::checkSettings() const
 engine::Value Vela::Value()
 {
     engine::Value result;
-    const auto failure = failureOf(life_, [&](int&) {
-        Scratch text(*this);
-        Text16 corrected;
-        readText(*text);
-        engine::FieldReading reading = engine::readValue(*text, fieldSettings(), corrected);
-        result = std::move(reading.value);
-        if (reading.checkFailure)
-            log(*reading.checkFailure, label::date);
-        if (reading.corrected)
-            correctText(corrected);
-        if (reading.error)
-            throw *reading.error;
-    });
-    if (failure)
-        showBox(platform::BoxIcon::exclamation, u"Vela.Value", numberAndDescription(*failure));
+    trap(
+        life_,
+        [&](int&) {
+            Scratch text(*this);
+            Text16 corrected;
+            readText(*text);
+            engine::FieldReading reading = engine::readValue(*text, fieldSettings(), corrected);
+            result = std::move(reading.value);
+            if (reading.checkFailure)
+                log(*reading.checkFailure, label::date);
+            if (reading.corrected)
+                correctText(corrected);
+            if (reading.error)
+                throw *reading.error;
+        },
+        [&](const engine::Error& failure) {
+            showBox(platform::BoxIcon::exclamation, u"Vela.Value", numberAndDescription(failure));
+        });
     return result;
 }
 

@@ -151,6 +151,7 @@ public:
     void keyDown(int& code, int& shift) override;
     void keyPress(int& key) override;
     void keyUp(int code, int shift) override;
+    [[nodiscard]] bool laysOutTyping() const override { return liveNumber(); }
     void changed() override;
     void clicked() override;
     void doubleClicked() override;

@@ -57,6 +57,8 @@ public:
     virtual void keyPress(int& key) = 0;             // UTF-16 unit; a composed character only
     virtual void keyUp(int code, int shift) = 0;
     virtual void changed() = 0; // the text became another text
+    // Whether changed() lays out anew what was typed: the box then need not draw the text that stands in between.
+    [[nodiscard]] virtual bool laysOutTyping() const { return false; }
     virtual void clicked() = 0;
     virtual void doubleClicked() = 0;
     virtual void pointerMoved() = 0;

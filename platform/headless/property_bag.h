@@ -25,12 +25,12 @@ public:
     [[nodiscard]] const std::vector<Entry>& entries() const noexcept { return entries_; }
 
 private:
-    [[nodiscard]] std::size_t find(std::u16string_view key) const noexcept; // the number of entries when there is none
+    [[nodiscard]] std::size_t find(std::u16string_view key) const noexcept;
+    void makeRoom();
 
     FaultPlan* faults_;
     std::vector<Entry> entries_;
-    std::vector<std::uint32_t> glances_; // of the keys, in the same order
-    std::size_t hint_ = 0;               // behind the entry found last
+    std::vector<std::uint32_t> slots_; // a hash table of the entries' numbers from 1; 0: free
 };
 
 } // namespace vela::headless

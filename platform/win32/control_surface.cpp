@@ -70,9 +70,10 @@ void ControlSurface::create(HWND parent, const RECT& place)
     if (!made)
         engine::raise(engine::error_number::outOfMemory);
     window_ = made;
-    const bool resized = !sameSize(place, place_) || dpiOf(made) != dpi_;
+    const int dpi = dpiOf(made);
+    const bool resized = !sameSize(place, place_) || dpi != dpi_;
     place_ = place;
-    dpi_ = dpiOf(made);
+    dpi_ = dpi;
     Watch watch(life_);
     if (resized && events_)
         events_->resized(); // the layout first, so that the parts are made in their places

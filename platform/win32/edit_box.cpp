@@ -93,6 +93,7 @@ void EditBox::putText(std::u16string_view text)
     }
     text_.assign(wanted);
     kept_ = {};
+    behind_ = false;
     if (edit_) {
         const Raised quiet(quiet_);
         if (!native(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text_.c_str()))) {
@@ -108,6 +109,7 @@ void EditBox::insert(std::u16string_view text)
     if (traits_.locked)
         return;
     refresh();
+    showText();
     const platform::Selection replaced = selection();
     std::u16string_view fitting = upToNull(text);
     if (traits_.maxLength > 0) {
@@ -129,7 +131,7 @@ void EditBox::insert(std::u16string_view text)
 
 platform::Selection EditBox::selection() const
 {
-    if (!edit_)
+    if (!edit_ || behind_)
         return kept_;
     DWORD start = 0;
     DWORD end = 0;
@@ -140,7 +142,7 @@ platform::Selection EditBox::selection() const
 void EditBox::select(platform::Selection selection)
 {
     kept_ = clamped(selection, textLength());
-    if (!edit_ || this->selection() == kept_)
+    if (!edit_ || behind_ || this->selection() == kept_)
         return;
     native(EM_SETSEL, static_cast<WPARAM>(kept_.start), kept_.start + kept_.length);
     native(EM_SCROLLCARET, 0, 0);
@@ -248,6 +250,7 @@ void EditBox::createWindow(const RECT& place, bool visible)
     SetWindowLongPtrW(made, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&EditBox::procedure));
     edit_ = made;
     stale_ = false;
+    behind_ = false;
     applyFont();
     applyLimit();
     if (traits_.passwordChar)
@@ -334,6 +337,41 @@ bool EditBox::sameText() const
     native(WM_GETTEXT, scratch_.size(), reinterpret_cast<LPARAM>(scratch_.data()));
     scratch_.pop_back();
     return scratch_ == text_;
+}
+
+// A unit that is laid out as soon as it is typed: the window gets one text instead of two. Whoever looks at the window
+// in between finds the text that was typed, for every message that comes from elsewhere shows it first.
+bool EditBox::typeUnseen(int unit)
+{
+    platform::EditBoxEvents* const listener = events();
+    if (!listener || !listener->laysOutTyping() || !isSingle() || traits_.locked || unit < ' ')
+        return false;
+    refresh();
+    showText();
+    const platform::Selection replaced = selection();
+    const auto typed = static_cast<char16_t>(unit);
+    const int left = static_cast<int>(text_.size()) - replaced.length;
+    std::u16string result = spliced(text_, replaced, {&typed, 1});
+    if (result == text_ || (traits_.maxLength > 0 && left >= traits_.maxLength))
+        return false;
+    text_ = std::move(result);
+    kept_ = {replaced.start + 1, 0};
+    behind_ = true;
+    Watch watch(life_);
+    guarded([this] { reportChange(); });
+    if (watch.alive())
+        showText();
+    return true;
+}
+
+void EditBox::showText()
+{
+    if (!std::exchange(behind_, false) || !edit_)
+        return;
+    const platform::Selection caret = kept_;
+    const Raised quiet(quiet_);
+    native(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text_.c_str()));
+    select(caret);
 }
 
 // One unit typed or rubbed out without a selection is known without reading the window again.

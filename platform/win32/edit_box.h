@@ -85,6 +85,8 @@ private:
     LRESULT native(UINT message, WPARAM first, LPARAM second) const noexcept;
     void refresh() const; // text_ is what the window shows
     [[nodiscard]] bool sameText() const;
+    [[nodiscard]] bool typeUnseen(int unit);
+    void showText();
     void expectTyped(int unit, LRESULT selected) noexcept;
     [[nodiscard]] bool adoptTyped();
     [[nodiscard]] bool becameAnother();
@@ -110,6 +112,7 @@ private:
     bool rebuilding_ = false;
     bool dropTarget_ = false;
     mutable bool stale_ = false; // the window holds a newer text than text_
+    bool behind_ = false;        // or an older one, and kept_ is where the caret will stand
     int passing_ = 0;
     int typedAt_ = -1; // where one unit is about to be typed, or rubbed out (0); -1: not known
     char16_t typedUnit_ = 0;

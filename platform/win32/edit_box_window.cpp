@@ -80,6 +80,7 @@ EditBox* EditBox::withFocus() noexcept
 
 LRESULT EditBox::handle(UINT message, WPARAM first, LPARAM second)
 {
+    showText();
     switch (message) {
     case WM_CHAR: return onChar(first, second);
     case WM_KEYDOWN:
@@ -209,6 +210,8 @@ LRESULT EditBox::onChar(WPARAM unit, LPARAM data)
         return 0;
     if (isSingle() && (key == VK_RETURN || key == '\n' || key == VK_ESCAPE))
         return 0; // the EDIT would only beep
+    if (typeUnseen(key))
+        return 0;
     const LRESULT selected = native(EM_GETSEL, 0, 0);
     refresh();
     expectTyped(key, selected);
