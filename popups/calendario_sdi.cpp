@@ -14,8 +14,8 @@ constexpr HighlightRule highlightRule{10000, u"Vela.IDR", u"Acesso Negado!"};
 
 CalendarioSDI::CalendarioSDI(platform::Environment& environment, platform::FormFactory& forms,
                              const CalendarColours& colours, PopupRecord& record)
-    : PopupForm(environment, forms, calendarPopupLayout(), record, u"Procedimento: CJA"),
-      calendar_(std::make_unique<CalendarOperations>(environment, *form_, colours, highlightRule))
+    : record_(record), life_(environment, forms, calendarPopupLayout(), *this, record, u"Procedimento: CJA"),
+      calendar_(std::make_unique<CalendarOperations>(environment, life_.form(), colours, highlightRule))
 {
     calendar_->load();
 }
@@ -56,15 +56,20 @@ void CalendarioSDI::pickDay(int cell)
     calendar_->view.refresh();
     if (grid().frameCell() < 0)
         return; // no month has been drawn: there was no day to pick
-    if (owner_ != nullptr)
-        owner_->putPopupText(grid().selectedText());
+    if (owner() != nullptr)
+        owner()->putPopupText(grid().selectedText());
     unload();
+}
+
+void CalendarioSDI::show(engine::RectPixels place, platform::WindowId parent)
+{
+    life_.form().showPopup(place, parent);
 }
 
 void CalendarioSDI::clicked(platform::WidgetId widget)
 {
     const HandlerScope running(record_);
-    if (!isLoaded())
+    if (!life_.isLoaded())
         return;
     if (widget == calendar_widget::months)
         calendar_->view.takeMonth();
@@ -77,7 +82,7 @@ void CalendarioSDI::clicked(platform::WidgetId widget)
 void CalendarioSDI::keyDown(platform::WidgetId, int& code, int& shift)
 {
     const HandlerScope running(record_);
-    if (!isLoaded())
+    if (!life_.isLoaded())
         return;
     const int key = code;
     if (key == escapeKey && shift == 0) {
@@ -92,10 +97,11 @@ void CalendarioSDI::keyDown(platform::WidgetId, int& code, int& shift)
     }
 }
 
-void CalendarioSDI::focusFirst()
+void CalendarioSDI::activated()
 {
-    if (form_->visible(calendar_widget::months))
-        form_->focus(calendar_widget::months);
+    const HandlerScope running(record_);
+    if (life_.activated() && life_.form().visible(calendar_widget::months))
+        life_.form().focus(calendar_widget::months);
 }
 
 } // namespace vela::popups

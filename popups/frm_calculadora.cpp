@@ -41,7 +41,8 @@ platform::WidgetId buttonOf(int character) noexcept
 } // namespace
 
 frmCalculadora::frmCalculadora(platform::Environment& environment, platform::FormFactory& forms, PopupRecord& record)
-    : PopupForm(environment, forms, calculatorLayout(), record, u"Procedimento: Calculadora")
+    : environment_(environment), record_(record),
+      life_(environment, forms, calculatorLayout(), *this, record, u"Procedimento: Calculadora")
 {
     load();
 }
@@ -64,7 +65,7 @@ void frmCalculadora::load()
 
 platform::WidgetLook frmCalculadora::lookOf(platform::WidgetId id) const
 {
-    platform::WidgetLook look = form_->look(id);
+    platform::WidgetLook look = life_.form().look(id);
     const engine::RectTwips place = calculatorLayout().rows[static_cast<std::size_t>(id.value)].place;
     look.left = place.left;
     look.top = place.top;
@@ -78,7 +79,7 @@ void frmCalculadora::nameButtons()
             continue;
         platform::WidgetLook look = lookOf({at});
         look.spokenName = spokenName({at});
-        form_->putLook({at}, look);
+        life_.form().putLook({at}, look);
     }
 }
 
@@ -89,49 +90,49 @@ void frmCalculadora::paintDisplay()
     look.back = engine::Colour{0x80000005}; // window
     look.opaque = true;
     look.border = true;
-    form_->putLook(widget::display, look);
+    life_.form().putLook(widget::display, look);
 }
 
 void frmCalculadora::putDisplay(std::u16string_view text)
 {
-    form_->putText(widget::display, text);
+    life_.form().putText(widget::display, text);
 }
 
 std::u16string frmCalculadora::display() const
 {
-    return form_->text(widget::display);
+    return life_.form().text(widget::display);
 }
 
 void frmCalculadora::clickWithMouse(platform::WidgetId button)
 {
-    form_->focus(button);
+    life_.form().focus(button);
     clicked(button);
 }
 
 void frmCalculadora::typeCharacter(char16_t character)
 {
     int key = character;
-    keyPress(form_->focused(), key);
+    keyPress(life_.form().focused(), key);
 }
 
 void frmCalculadora::pressF2()
 {
     int code = f2Key;
     int shift = 0;
-    keyDown(form_->focused(), code, shift);
+    keyDown(life_.form().focused(), code, shift);
 }
 
 void frmCalculadora::show(engine::RectPixels place, platform::WindowId parent)
 {
-    PopupForm::show(place, parent);
-    if (isLoaded())
-        focusFirst(); // shown again while it is the active one: it is not told so once more
+    life_.form().showPopup(place, parent);
+    if (life_.isLoaded())
+        life_.form().focus(widget::equals); // shown again while it is the active one: it is not told so once more
 }
 
 void frmCalculadora::clicked(platform::WidgetId id)
 {
     const HandlerScope running(record_);
-    if (!isLoaded())
+    if (!life_.isLoaded())
         return;
     if (widget::isOperator(id))
         operation(id.value);
@@ -154,12 +155,12 @@ void frmCalculadora::digit(int digit)
 
 void frmCalculadora::operation(int index)
 {
-    form_->focus(widget::equals);
+    life_.form().focus(widget::equals);
     const CalculatorAnswer answer = model_.operation(display(), index, locale());
     if (answer.dividedByZero)
         boxes_.show(environment_.desktop, platform::BoxIcon::exclamation, u"Tamber Calc",
                     u"Erro, Divisão por zero impossível");
-    if (isLoaded())
+    if (life_.isLoaded())
         putDisplay(answer.display);
 }
 
@@ -172,9 +173,9 @@ void frmCalculadora::take(const CalculatorAnswer& answer)
 {
     putDisplay(answer.display);
     if (answer.focus == CalculatorFocus::equals)
-        form_->focus(widget::equals);
+        life_.form().focus(widget::equals);
     else if (answer.focus == CalculatorFocus::zero)
-        form_->focus(widget::zero);
+        life_.form().focus(widget::zero);
 }
 
 void frmCalculadora::keyPress(platform::WidgetId focused, int& key)
@@ -188,7 +189,7 @@ void frmCalculadora::keyPress(platform::WidgetId focused, int& key)
 void frmCalculadora::keyDown(platform::WidgetId focused, int& code, int& shift)
 {
     const HandlerScope running(record_);
-    if (!isLoaded())
+    if (!life_.isLoaded())
         return;
     if (code == f2Key) {
         if (widget::isOperator(focused))
@@ -215,14 +216,16 @@ bool frmCalculadora::conventionalKey(int code)
 void frmCalculadora::valueToOwner()
 {
     const double value = engine::toDouble(std::u16string_view(display()), locale());
-    if (owner_ != nullptr)
-        owner_->putPopupText(value);
+    if (owner() != nullptr)
+        owner()->putPopupText(value);
     unload();
 }
 
-void frmCalculadora::focusFirst()
+void frmCalculadora::activated()
 {
-    form_->focus(widget::equals);
+    const HandlerScope running(record_);
+    if (life_.activated())
+        life_.form().focus(widget::equals);
 }
 
 } // namespace vela::popups

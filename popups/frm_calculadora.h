@@ -3,15 +3,19 @@
 
 #include "popups/calculator_model.h"
 #include "popups/own_box.h"
-#include "popups/popup_form.h"
+#include "popups/popup_life.h"
 
 namespace vela::popups {
 
-class frmCalculadora final : public PopupForm {
+class frmCalculadora final : public platform::FormEvents {
 public:
     // Loads with the display "0.". All outlive the object.
     frmCalculadora(platform::Environment& environment, platform::FormFactory& forms, PopupRecord& record);
-    ~frmCalculadora() { discard(); }
+    frmCalculadora(const frmCalculadora&) = delete;
+    frmCalculadora& operator=(const frmCalculadora&) = delete;
+
+    void setOwner(Owner* owner) noexcept { life_.owner = owner; }
+    [[nodiscard]] Owner* owner() const noexcept { return life_.owner; }
 
     void continueNumber() noexcept { model_.continueNumber(); }
     void handOver(bool decimalFlag) noexcept { model_.handOver(decimalFlag); }
@@ -25,15 +29,23 @@ public:
     void typeCharacter(char16_t character);
     void pressF2();
 
-    void show(engine::RectPixels place, platform::WindowId parent) override;
+    void show(engine::RectPixels place, platform::WindowId parent);
+    void unload() { life_.unload(); }
 
     void clicked(platform::WidgetId widget) override;
+    void doubleClicked(platform::WidgetId) override {}
+    void changed(platform::WidgetId) override {}
+    void gotFocus(platform::WidgetId) override {}
+    void lostFocus(platform::WidgetId) override {}
     void keyDown(platform::WidgetId widget, int& code, int& shift) override;
     void keyPress(platform::WidgetId widget, int& key) override;
+    void activated() override;
+    void deactivated() override { life_.deactivated(boxUp()); }
+    void tick() override { life_.tick(boxUp()); }
+    void closed() override { life_.closed(); }
 
 private:
-    void focusFirst() override;
-    [[nodiscard]] bool boxUp() const override { return boxes_.anyUp(); }
+    [[nodiscard]] bool boxUp() const { return life_.isLoaded() && boxes_.anyUp(); }
     void load();
     [[nodiscard]] platform::WidgetLook lookOf(platform::WidgetId id) const;
     void nameButtons();
@@ -46,6 +58,9 @@ private:
     void valueToOwner();
     [[nodiscard]] const engine::Locale& locale() const { return environment_.locales.locale(); }
 
+    platform::Environment& environment_;
+    PopupRecord& record_;
+    PopupLife life_;
     CalculatorModel model_;
     OwnBoxes boxes_;
 };

@@ -9,6 +9,18 @@ using platform::Selection;
 
 class EditBoxContract : public FieldCase {};
 
+// The same whether or not the field lays out what is typed.
+class TypingContract : public FieldCase, public testing::WithParamInterface<bool> {
+protected:
+    TypingContract()
+    {
+        first.layingOut = GetParam();
+        stage->focus(0);
+        log.clear();
+    }
+};
+INSTANTIATE_TEST_SUITE_P(LayingOut, TypingContract, testing::Bool());
+
 TEST_F(EditBoxContract, PutTextPutsTheCaretAtTheStartAndReportsOnlyAnotherText)
 {
     struct Row {
@@ -120,19 +132,16 @@ TEST_F(EditBoxContract, ColoursAreKeptOfALockedBoxToo)
     EXPECT_EQ(box().colours(), colours);
 }
 
-TEST_F(EditBoxContract, AKeyIsDownPressChangeUp)
+TEST_P(TypingContract, AKeyIsDownPressChangeUp)
 {
-    stage->focus(0);
-    log.clear();
     stage->type(u"a");
     EXPECT_EQ(log, (Log{"A down", "A press", "A changed", "A up"}));
     EXPECT_EQ(text(), u"a");
     EXPECT_EQ(box().selection(), (Selection{1, 0}));
 }
 
-TEST_F(EditBoxContract, TypingFollowsTheFilterTheLimitAndTheLock)
+TEST_P(TypingContract, TypingFollowsTheFilterTheLimitAndTheLock)
 {
-    stage->focus(0);
     first.filter = [](int& key) { key = key == 'x' ? 0 : key == 'a' ? 'A' : key; };
     EditTraits traits = box().traits();
     traits.maxLength = 3;
@@ -158,9 +167,8 @@ TEST_F(EditBoxContract, ASwallowedKeyTypesNothing)
     EXPECT_EQ(log, (Log{"A down", "A up"}));
 }
 
-TEST_F(EditBoxContract, TypingOverASelectionWithTheSameTextReportsNothing)
+TEST_P(TypingContract, TypingOverASelectionWithTheSameTextReportsNothing)
 {
-    stage->focus(0);
     box().putText(u"abc");
     box().select({1, 1});
     log.clear();
@@ -196,11 +204,11 @@ TEST_F(EditBoxContract, NamedKeysEditTheText)
     EXPECT_EQ(only({"changed"}), (Log{"A changed", "A changed"}));
 }
 
-TEST_F(EditBoxContract, AHandlerOfChangeMayPutTheTextAndTheCaret)
+TEST_P(TypingContract, AHandlerOfChangeMayPutTheTextAndTheCaret)
 {
-    stage->focus(0);
     first.during("changed", [this] {
         if (text() == u"1") {
+            EXPECT_EQ(box().selection(), (Selection{1, 0}));
             box().putText(u"0,01");
             box().select({4, 0});
         }
@@ -208,6 +216,12 @@ TEST_F(EditBoxContract, AHandlerOfChangeMayPutTheTextAndTheCaret)
     stage->type(u"12");
     EXPECT_EQ(text(), u"0,012");
     EXPECT_EQ(box().selection(), (Selection{5, 0}));
+    first.during("changed", [this] { box().select({0, 2}); });
+    stage->type(u"3");
+    EXPECT_EQ(text(), u"0,0123");
+    EXPECT_EQ(box().selection(), (Selection{0, 2}));
+    first.during("changed", [this] { stage->destroyField(0); });
+    stage->type(u"4");
 }
 
 TEST_F(EditBoxContract, AFilterMayDoTheTypingItself)

@@ -20,6 +20,7 @@ public:
     std::function<void(int&)> keyFilter;
     std::u16string lastPasted;
     int lastShift = 0;
+    bool layingOut = false;
 
     void gotFocus() override { tell("got"); }
     void lostFocus() override { tell("lost"); }
@@ -37,6 +38,7 @@ public:
         tell("press");
     }
     void keyUp(int, int) override { tell("up"); }
+    [[nodiscard]] bool laysOutTyping() const override { return layingOut; }
     void changed() override { tell("changed"); }
     void clicked() override { tell("clicked"); }
     void doubleClicked() override { tell("double"); }

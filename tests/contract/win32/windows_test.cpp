@@ -41,6 +41,22 @@ void CALLBACK pressButtonOfBox(HWND, UINT, UINT_PTR, DWORD)
     }
 }
 
+// A form's events that nobody listens to.
+class Unheard : public platform::FormEvents {
+public:
+    void clicked(platform::WidgetId) override {}
+    void doubleClicked(platform::WidgetId) override {}
+    void changed(platform::WidgetId) override {}
+    void gotFocus(platform::WidgetId) override {}
+    void lostFocus(platform::WidgetId) override {}
+    void keyDown(platform::WidgetId, int&, int&) override {}
+    void keyPress(platform::WidgetId, int&) override {}
+    void activated() override {}
+    void deactivated() override {}
+    void tick() override {}
+    void closed() override {}
+};
+
 // A surface that hands the focus to its box and opens something at its button.
 class Opening final : public platform::SurfaceEvents {
 public:
@@ -96,6 +112,29 @@ TEST_F(Windows, TheBoxIsAnEditThatOthersMayWriteTo)
     EXPECT_EQ(log, (std::vector<std::string>{"A changed", "A changed"}));
 }
 
+TEST_F(Windows, AWindowShowsWhatWasTypedToWhoeverLooksBeforeItIsLaidOut)
+{
+    const auto shown = [this] {
+        std::array<wchar_t, 16> read{};
+        GetWindowTextW(edit(), read.data(), static_cast<int>(read.size()));
+        return std::wstring(read.data());
+    };
+    first.layingOut = true;
+    stage->focus(0);
+    stage->type(u"0,01");
+    first.during("changed", [&] {
+        if (text() == u"0,012") {
+            EXPECT_EQ(shown(), L"0,012");
+            EXPECT_EQ(SendMessageW(edit(), EM_GETSEL, 0, 0), MAKELRESULT(5, 5));
+            first.box->putText(u"0,12");
+            first.box->select({4, 0});
+        }
+    });
+    stage->type(u"2");
+    EXPECT_EQ(shown(), L"0,12");
+    EXPECT_EQ(SendMessageW(edit(), EM_GETSEL, 0, 0), MAKELRESULT(4, 4));
+}
+
 TEST_F(Windows, ALockedBoxIsReadOnlyInItsOwnColours)
 {
     platform::EditTraits traits;
@@ -143,17 +182,8 @@ TEST_F(Windows, StateOutlivesTheWindows)
 
 TEST_F(Windows, ThePopUpOfAFieldBorrowsTheFocus)
 {
-    struct Quiet final : platform::FormEvents {
-        void clicked(platform::WidgetId) override {}
-        void doubleClicked(platform::WidgetId) override {}
-        void changed(platform::WidgetId) override {}
-        void gotFocus(platform::WidgetId) override {}
-        void lostFocus(platform::WidgetId) override {}
-        void keyDown(platform::WidgetId, int&, int&) override {}
-        void keyPress(platform::WidgetId, int&) override {}
-        void activated() override {}
+    struct Quiet final : Unheard {
         void deactivated() override { form->close(); }
-        void tick() override {}
         void closed() override { ++closings; }
         std::unique_ptr<platform::Form> form;
         int closings = 0;
@@ -250,18 +280,8 @@ TEST_F(Windows, TheTooltipsRecordReachesTheControl)
 
 TEST_F(Windows, AReaderHearsThePaintedLabels)
 {
-    struct Silent final : platform::FormEvents {
+    struct Silent final : Unheard {
         void clicked(platform::WidgetId widget) override { last = widget; }
-        void doubleClicked(platform::WidgetId) override {}
-        void changed(platform::WidgetId) override {}
-        void gotFocus(platform::WidgetId) override {}
-        void lostFocus(platform::WidgetId) override {}
-        void keyDown(platform::WidgetId, int&, int&) override {}
-        void keyPress(platform::WidgetId, int&) override {}
-        void activated() override {}
-        void deactivated() override {}
-        void tick() override {}
-        void closed() override {}
         platform::WidgetId last;
     } events;
     static constexpr std::array<platform::WidgetRow, 2> rows{
