@@ -11,32 +11,10 @@ namespace {
 using Field = FieldBench::Field;
 
 void none(Field&) {}
-void plate(Field& f)
-{
-    f.put(u"Mask", u"___-____");
-    f.put(u"TextType", 3);
-    f.put(u"MaskRules", u"@@@-####");
-}
 void telephone(Field& f)
 {
     f.put(u"Mask", u"+55 (__) ____");
     f.put(u"TextType", 3);
-}
-void date(Field& f)
-{
-    f.put(u"TextType", 2);
-}
-void number(Field& f)
-{
-    f.put(u"TextType", 1);
-    f.put(u"SimbolDecExib", 2);
-    f.put(u"QtdCasasDec", 2);
-    f.put(u"AceitaNegativos", 1);
-}
-void amount(Field& f)
-{
-    number(f);
-    f.put(u"MaskToNumeric", 1);
 }
 void capitals(Field& f)
 {

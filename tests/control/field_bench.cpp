@@ -137,4 +137,31 @@ void FieldBench::trace(const headless::TraceEntry& entry)
         append(seen_, describe(entry));
 }
 
+void plate(FieldBench::Field& field)
+{
+    field.put(u"Mask", u"___-____");
+    field.put(u"TextType", 3);
+    field.put(u"MaskRules", u"@@@-####");
+}
+
+void date(FieldBench::Field& field)
+{
+    field.put(u"TextType", 2);
+    field.put(u"DateFormat", u"dd/mm/yyyy");
+}
+
+void number(FieldBench::Field& field)
+{
+    field.put(u"TextType", 1);
+    field.put(u"SimbolDecExib", 2);
+    field.put(u"QtdCasasDec", 2);
+    field.put(u"AceitaNegativos", 1);
+}
+
+void amount(FieldBench::Field& field)
+{
+    number(field);
+    field.put(u"MaskToNumeric", 1);
+}
+
 } // namespace vela::control

@@ -3,13 +3,13 @@
 
 #include "control/property_table.h"
 #include "control/vela.h"
-#include "engine/error.h"
 #include "platform/headless/control_host.h"
 #include "platform/headless/control_surface.h"
 #include "platform/headless/environment.h"
 #include "platform/headless/form_window.h"
 #include "platform/headless/property_bag.h"
 #include "popups/popups.h"
+#include "tests/engine/error_of.h"
 
 #include <memory>
 #include <string>
@@ -18,17 +18,7 @@
 
 namespace vela::control {
 
-// The number of the error that the act ends in; 0 for none.
-template <class Act>
-[[nodiscard]] int errorOf(Act&& act)
-{
-    try {
-        act();
-    } catch (const engine::Error& error) {
-        return error.number;
-    }
-    return 0;
-}
+using engine::errorOf;
 
 [[nodiscard]] std::string narrow(std::u16string_view text); // ASCII; others as "?"
 
@@ -87,5 +77,11 @@ private:
     std::string seen_;
     std::string told_;
 };
+
+// Makes the field one of a kind.
+void plate(FieldBench::Field& field);  // "___-____", three letters and four digits
+void date(FieldBench::Field& field);   // "__/__/____"
+void number(FieldBench::Field& field); // comma, two decimals, negatives
+void amount(FieldBench::Field& field); // the same, typed from the right
 
 } // namespace vela::control

@@ -37,15 +37,16 @@ struct Act {
 void nothing(FieldBench&, Field&) {}
 void asDate(FieldBench&, Field& f)
 {
-    f.put(u"DateFormat", u"dd/mm/yyyy");
-    f.put(u"TextType", 2);
+    date(f);
+}
+void asPlate(FieldBench&, Field& f)
+{
+    plate(f);
 }
 void asNumber(FieldBench&, Field& f)
 {
-    f.put(u"TextType", 1);
-    f.put(u"SimbolDecExib", 2);
+    number(f);
     f.put(u"SimbolAgrupMilhar", 1);
-    f.put(u"QtdCasasDec", 2);
     f.put(u"SimboloMonetario", u"R$ ");
     f.put(u"ShowButtonCalculadora", 1);
 }
@@ -53,11 +54,6 @@ void asAmount(FieldBench& bench, Field& f)
 {
     asNumber(bench, f);
     f.put(u"MaskToNumeric", 1);
-}
-void asPlate(FieldBench&, Field& f)
-{
-    f.put(u"Mask", u"___-____");
-    f.put(u"TextType", 3);
 }
 void hovering(FieldBench& bench, Field& f)
 {

@@ -40,73 +40,12 @@ namespace {
 
 using Field = FieldBench::Field;
 
-constexpr engine::Colour red{0x000000FF};
-
-void wrongDate(FieldBench& bench, Field& f)
-{
-    f.put(u"TextType", 2);
-    f.put(u"DateFormat", u"dd/mm/yyyy");
-    f.put(u"ForeColor_GotFocus", 0x00FF0000);
-    bench.typeInto(f, u"3102"); // incomplete
-}
-
-TEST(WrongEntry, HoldsThePersonOnceAndKeepsItsColourMeanwhile)
-{
-    FieldBench bench;
-    Field& f = bench.add();
-    Field& other = bench.add(u"g");
-    wrongDate(bench, f);
-    bench.focus(other);
-    EXPECT_EQ(bench.form.focused(), f.surface.get());
-    EXPECT_EQ(f.box().colours().fore, red);
-    bench.focus(other);
-    EXPECT_EQ(bench.form.focused(), other.surface.get());
-    EXPECT_EQ(f.box().colours().fore, red); // wrong still, and left
-    bench.focus(f);
-    EXPECT_EQ(f.box().colours().fore, engine::Colour{0x00FF0000}); // entered by choice
-}
-
-TEST(WrongEntry, IsHeldForGoodByErrorFocus)
-{
-    FieldBench bench;
-    Field& f = bench.add();
-    Field& other = bench.add(u"g");
-    wrongDate(bench, f);
-    f.put(u"ErrorFocus", 1);
-    for (int attempt = 0; attempt < 3; ++attempt) {
-        bench.focus(other);
-        EXPECT_EQ(bench.form.focused(), f.surface.get());
-        EXPECT_EQ(f.box().colours().fore, red);
-    }
-    f.put(u"Text", u"01/02/2024");
-    bench.focus(other);
-    EXPECT_EQ(bench.form.focused(), other.surface.get());
-}
-
-TEST(WrongEntry, OfTwoNeighboursDoesNotChase)
-{
-    FieldBench bench;
-    Field& f = bench.add();
-    Field& g = bench.add(u"g");
-    wrongDate(bench, f);
-    bench.focus(g); // held
-    wrongDate(bench, g);
-    static_cast<void>(bench.seen());
-    bench.focus(f);
-    EXPECT_EQ(bench.seen(), "focus g"); // g holds, f sees nothing
-    bench.focus(f);
-    EXPECT_EQ(bench.seen(), "focus f");
-}
-
 TEST(Amount, IsFormattedForPersonsAndPutsNotForLoadingAndLeaving)
 {
     FieldBench bench;
     Field& f = bench.add();
-    f.put(u"TextType", 1);
-    f.put(u"SimbolDecExib", 2);
-    f.put(u"QtdCasasDec", 2);
+    amount(f);
     f.put(u"SimboloMonetario", u";%");
-    f.put(u"MaskToNumeric", 1);
     f.put(u"Text", u"1234");
     EXPECT_EQ(f.shows(), "1|2,34"); // as far from the end as the caret was: at the start of four characters
     bench.typeInto(f, u"5");
@@ -131,10 +70,7 @@ TEST(Amount, PutByAHandlerIsFormattedInsideAWriteOfTheControl)
 {
     FieldBench bench;
     Field& f = bench.add();
-    f.put(u"TextType", 1);
-    f.put(u"SimbolDecExib", 2);
-    f.put(u"QtdCasasDec", 2);
-    f.put(u"MaskToNumeric", 1);
+    amount(f);
     f.put(u"SimboloMonetario", u";%");
     bench.typeInto(f, u"1");
     bool once = true;
@@ -167,16 +103,11 @@ TEST(Log, ThatCannotBeWrittenReachesTheCaller)
     EXPECT_EQ(f.shows(), "|____");
 }
 
-TEST(Click, SelectsAllOnceAfterEntering)
+TEST(Click, AfterTheFirstOneSelectsNothing)
 {
     FieldBench bench;
     Field& f = bench.add();
     f.put(u"Text", u"abc");
-    bench.form.click(*f.surface);
-    EXPECT_EQ(f.shows(), "[abc]");
-    bench.form.click(*f.surface);
-    EXPECT_EQ(f.shows(), "abc|");
-    bench.leave();
     f.put(u"AutoSelect", 0);
     bench.form.click(*f.surface);
     f.put(u"AutoSelect", 1);
@@ -197,21 +128,12 @@ TEST(Keys, AllocateNothingOnceWarm)
              f.put(u"TextType", 3);
          },
          u"12345678901"},
-        {"a date", [](Field& f) { f.put(u"TextType", 2); }, u"29022024"},
-        {"a number",
-         [](Field& f) {
-             f.put(u"TextType", 1);
-             f.put(u"SimbolDecExib", 2);
-             f.put(u"QtdCasasDec", 2);
-         },
-         u"12345678,90"},
+        {"a date", date, u"29022024"},
+        {"a number", number, u"12345678,90"},
         {"an amount",
          [](Field& f) {
-             f.put(u"TextType", 1);
-             f.put(u"SimbolDecExib", 2);
+             amount(f);
              f.put(u"SimbolAgrupMilhar", 1);
-             f.put(u"QtdCasasDec", 2);
-             f.put(u"MaskToNumeric", 1);
          },
          u"123456789"},
     };
@@ -303,10 +225,6 @@ TEST(Look, FollowsAppearanceStyleAndHover)
     bench.form.tick();
     EXPECT_EQ(f.surface->look().border, f->BorderColorLostfocus());
     EXPECT_FALSE(f.surface->hoverTimerEnabled());
-    f->About();
-    f->terminate();
-    f->terminate();
-    EXPECT_EQ(errorOf([&] { static_cast<void>(f.get(u"Text")); }), 91);
 }
 
 } // namespace

@@ -67,11 +67,6 @@ TEST(Persistence, SomeDefaultsReadBackAsOtherValues)
         Value put;
         Value reloaded;
     } rows[] = {
-        {"TTIconInfo is lost", u"ToolTipGotFocusTipo", 1, 0},
-        {"TTIconWarning is not", u"ToolTipGotFocusTipo", 2, 2},
-        {"an empty date format is not kept", u"DateFormat", text(u""), text(u"dd/mm/yyyy")},
-        {"another one is", u"DateFormat", text(u"dd/mm/yy"), text(u"dd/mm/yy")},
-        {"an empty date display is not kept", u"FormatoExibData", text(u""), text(u"__/__/____")},
         {"no zeros", u"InserirZeros", false, false},
         {"the underline", u"FontUnderline", true, true},
         {"a half size", u"FontSize", 13, 13},
@@ -104,46 +99,6 @@ TEST(Persistence, AnEmptyBagIsNotANewControl)
     bag.values[u"FontUnderline"] = true;
     f->load(bag);
     EXPECT_FALSE(f->FontUnderline()); // the key has a capital L
-}
-
-TEST(Loading, PreparesTheDisplayOfTheType)
-{
-    const struct {
-        const char* rule;
-        std::map<std::u16string, Value> values;
-        const char* shows;
-        bool locked;
-        int limit;
-    } rows[] = {
-        {"free text as saved, whatever its lock", {{u"Text", text(u"abc")}, {u"Locked", true}}, "|abc", false, 0},
-        {"a number's template", {{u"TextType", 1}, {u"SimbolDecExib", 2}, {u"QtdCasasDec", 2}}, "|0,00", false, 0},
-        {"no template without a symbol", {{u"TextType", 1}, {u"Text", text(u"7")}}, "|7", false, 0},
-        {"a date without a mask", {{u"TextType", 2}}, "|__/__/____", true, 10},
-        {"a mask", {{u"TextType", 3}, {u"Mask", text(u"(__)")}}, "|(__)", true, 4},
-        {"a mask that is empty", {{u"TextType", 3}}, "|", true, 0},
-        {"a plain default", {{u"ValorPadrao", text(u"abc")}}, "|abc", false, 0},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.rule);
-        FieldBench bench;
-        ScriptedBag bag;
-        bag.values = row.values;
-        Field& f = bench.make(u"f");
-        f->load(bag);
-        EXPECT_EQ(f.shows(), row.shows);
-        EXPECT_EQ(f.box().traits().locked, row.locked);
-        EXPECT_EQ(f->MaxLength(), row.limit);
-    }
-}
-
-TEST(Loading, MakesOneBoxOnly)
-{
-    FieldBench bench;
-    ScriptedBag bag;
-    bag.values[u"MultLine"] = true;
-    Field& f = bench.make(u"f");
-    f->load(bag);
-    EXPECT_EQ(f.box().kind(), platform::EditBoxKind::multiLine);
 }
 
 // A bag that fails, or holds what does not convert, at each key in turn.

