@@ -145,6 +145,16 @@ private:
     platform::EditTraits traits_;
 };
 
+TEST(BalloonTip, ThroughTheBoxItself)
+{
+    Tip t;
+    BalloonBox box(t.log, true);
+    const auto server = ShowBalloonTip(u"text", u"", 3, box, 21, t.tip);
+    EXPECT_EQ(t.taken(), "box 3  text");
+    HideBalloonTip(box, server, t.tip);
+    EXPECT_EQ(t.taken(), "box hide");
+}
+
 TEST(BalloonTip, ThroughTheTooltipWhereTheBoxCannot)
 {
     Tip t;

@@ -154,26 +154,14 @@ void PageBench::check(std::u16string_view control, bool on)
         click(control);
 }
 
-void PageBench::typeAt(platform::Form& form, WidgetId control, std::u16string_view keys)
-{
-    for (const char16_t key : keys)
-        static_cast<headless::WidgetForm&>(form).type(
-            control, key == u'\b' ? headless::namedKey(headless::virtual_key::backspace) : headless::keyOf(key));
-}
-
-void PageBench::clickAt(platform::Form& form, WidgetId control)
-{
-    static_cast<headless::WidgetForm&>(form).click(control);
-}
-
 void PageBench::act(std::u16string_view control)
 {
     const WidgetId widget = id(control);
     switch (page->layout().rows[static_cast<std::size_t>(widget.value)].kind) {
-    case WidgetKind::textBox: keys(control, u"9"); break;
+    case WidgetKind::textBox: headlessForm().type(widget, headless::keyOf(u'9')); break;
     case WidgetKind::comboBox:
     case WidgetKind::dropDownList: choose(control, form().items(widget).chosen() == 1 ? 0 : 1); break;
-    case WidgetKind::swatch: doubleClick(control); break;
+    case WidgetKind::swatch: headlessForm().doubleClick(widget); break;
     default: click(control); break;
     }
 }
@@ -187,7 +175,7 @@ void PageBench::edit()
     case PageKind::ppFonte: act(u"Negrito"); break;
     case PageKind::ppCalendario:
         colour = engine::Colour{0x00010203};
-        doubleClick(u"PicCorCalendario", 0);
+        headlessForm().doubleClick(id(u"PicCorCalendario", 0));
         break;
     }
 }
@@ -200,21 +188,12 @@ WidgetId PageBench::id(std::u16string_view control, int index)
     return found;
 }
 
-void PageBench::useLocale(std::string_view name)
-{
-    machine_.locales.use(name == "en-US" ? engine::enUs() : engine::ptBr());
-}
-
 void PageBench::trace(const headless::TraceEntry& entry)
 {
     constexpr const char* icons[] = {"none", "information", "exclamation", "question"};
     if (const auto* box = std::get_if<headless::trace::MessageBox>(&entry))
         boxes_ +=
             std::string(icons[static_cast<int>(box->icon)]) + "|" + utf8(box->title) + "|" + utf8(box->text) + "\n";
-    else if (const auto* input = std::get_if<headless::trace::InputBox>(&entry))
-        boxes_ += "input|" + utf8(input->title) + "|" + utf8(input->prompt) + "\n";
-    else if (const auto* sent = std::get_if<headless::trace::KeysSent>(&entry))
-        boxes_ += "sendkeys " + utf8(sent->keys) + "\n";
 }
 
 // --- the store

@@ -1,9 +1,9 @@
 // A page on a headless machine with an object that records how it is read and written.
 #pragma once
 
-#include "engine/error.h"
 #include "pages/page.h"
 #include "platform/headless/environment.h"
+#include "tests/engine/error_of.h"
 
 #include <map>
 #include <optional>
@@ -12,22 +12,12 @@
 
 namespace vela::pages {
 
+using engine::errorOf;
+
 [[nodiscard]] std::string utf8(std::u16string_view text);
 [[nodiscard]] std::u16string utf16(std::string_view ascii);
 [[nodiscard]] std::string joined(const std::vector<std::u16string>& names);   // by blanks
 [[nodiscard]] bool sameValue(const engine::Value& a, const engine::Value& b); // 2 and 2.0 are the same
-
-// The number of the error that the act ends in; 0 for none.
-template <class Act>
-[[nodiscard]] int errorOf(Act&& act)
-{
-    try {
-        act();
-    } catch (const engine::Error& error) {
-        return error.number;
-    }
-    return 0;
-}
 
 // Has every property of the pages at first; one that was erased is unknown.
 class RecordingObject final : public PropertyObject {
@@ -38,13 +28,6 @@ public:
     void put(std::u16string_view name, const engine::Value& value) override;
 
     void makeAllDifferent(); // no two properties of one type hold the same value, as far as the type allows
-    template <class Act>
-    [[nodiscard]] std::size_t countWrites(Act&& act)
-    {
-        written.clear();
-        act();
-        return written.size();
-    }
 
     std::map<std::u16string, engine::Value, std::less<>> properties;
     std::vector<std::u16string> read;
@@ -63,34 +46,23 @@ public:
     void remake(); // a fresh page of the same kind
 
     // Acts of a person.
-    void click(std::u16string_view control) { clickAt(form(), id(control)); }
-    void doubleClick(std::u16string_view control, int index = -1) { headlessForm().doubleClick(id(control, index)); }
+    void click(std::u16string_view control) { headlessForm().click(id(control)); }
     void check(std::u16string_view control, bool on);
     void put(std::u16string_view control, std::u16string_view text) { headlessForm().enterText(id(control), text); }
     void choose(std::u16string_view control, int index) { headlessForm().choose(id(control), index); }
-    void keys(std::u16string_view control, std::u16string_view keys) { typeAt(form(), id(control), keys); }
-    void focus(std::u16string_view control) { headlessForm().moveFocus(id(control)); }
     void act(std::u16string_view control); // whatever is usual with a control of its kind, so that its value changes
     void edit();                           // the first control of the page that is edited by a person
-    void typeAt(platform::Form& form, platform::WidgetId control, std::u16string_view keys); // "\b" is Backspace
-    void clickAt(platform::Form& form, platform::WidgetId control);
 
     // What stands there.
     [[nodiscard]] platform::WidgetId id(std::u16string_view control, int index = -1);
     [[nodiscard]] std::u16string text(std::u16string_view control) { return form().text(id(control)); }
     [[nodiscard]] bool checked(std::u16string_view control) { return form().checked(id(control)); }
     [[nodiscard]] bool enabled(std::u16string_view control) { return form().enabled(id(control)); }
-    [[nodiscard]] bool visible(std::u16string_view control) { return form().visible(id(control)); }
-    [[nodiscard]] engine::Colour back(std::u16string_view control, int index = -1)
-    {
-        return form().look(id(control, index)).back;
-    }
+    [[nodiscard]] engine::Colour back(std::u16string_view control) { return form().look(id(control)).back; }
 
-    void answer(platform::BoxAnswer answer) { machine_.desktop.queueAnswer(answer); }
     void answerText(std::u16string text) { machine_.desktop.queueAnswer(std::move(text)); }
-    void useLocale(std::string_view name);
     void failStore(int number) { storeFailure_ = number; }
-    // "ICON|TITLE|TEXT\n" of every message box since the last call, "input|TITLE|PROMPT\n", "sendkeys KEYS\n".
+    // "ICON|TITLE|TEXT\n" of every message box since the last call.
     std::string takeBoxes() { return std::exchange(boxes_, {}); }
 
     [[nodiscard]] platform::Form& form() { return page->form(); }

@@ -53,50 +53,6 @@ TEST(ChangedFlag, IsSetByEditsOnly)
     }
 }
 
-TEST(Swatches, TakeTheChosenColourUnlessThePaletteWasCancelled)
-{
-    PageBench bench(PageKind::ppCalendario);
-    bench.object.properties[u"Calendar_DayInactive"] = static_cast<std::int32_t>(0x80000012);
-    bench.open();
-    EXPECT_EQ(bench.back(u"PicCorCalendario", 3).value, 0x80000012U);
-    bench.colour = std::nullopt;
-    bench.doubleClick(u"PicCorCalendario", 3);
-    EXPECT_EQ(bench.back(u"PicCorCalendario", 3).value, 0x80000012U);
-    EXPECT_FALSE(bench.page->changed());
-    bench.colour = Colour{0x0000C0FF};
-    bench.doubleClick(u"PicCorCalendario", 3);
-    EXPECT_TRUE(bench.page->changed());
-    EXPECT_TRUE(bench.page->apply());
-    EXPECT_EQ(bench.object.properties[u"Calendar_DayInactive"], Value(0x0000C0FF));
-    EXPECT_EQ(bench.object.properties[u"Calendar_DayActive"], Value(0));
-}
-
-TEST(Geral, ShowsOneGroupAtATime)
-{
-    PageBench bench(PageKind::ppGeral);
-    bench.open();
-    EXPECT_TRUE(bench.checked(u"optGotfocus"));
-    EXPECT_TRUE(bench.visible(u"chkAutoSelect"));
-    EXPECT_FALSE(bench.visible(u"txtISEmpty"));
-    bench.click(u"optLost");
-    EXPECT_FALSE(bench.checked(u"optGotfocus"));
-    EXPECT_FALSE(bench.visible(u"PicCorFundoGot"));
-    EXPECT_TRUE(bench.visible(u"txtISEmpty"));
-    bench.click(u"optGotfocus");
-    EXPECT_FALSE(bench.visible(u"txtISEmpty"));
-}
-
-TEST(Geral, TheHelpShowsTodayTwice)
-{
-    PageBench bench(PageKind::ppGeral);
-    bench.click(u"cmdHelpDelimitador");
-    EXPECT_EQ(
-        bench.takeBoxes(),
-        "information||Neste campo vc informa qual texto ficará antes e depois da String quando for solicitado pela "
-        "propriedade Vela1.Value\r\n\r\nExemplo:\r\nSe o texto na Vela1 estiver ( 29/02/2024 ) e o delimitador "
-        "estiver como #, então o Vela1.Value retornará #29/02/2024#\n");
-}
-
 class Erros : public testing::Test {
 protected:
     void load(bool alert, bool custom, bool clears, bool focus)
@@ -141,53 +97,6 @@ TEST_F(Erros, DependentControlsAfterLoading)
         EXPECT_EQ(state(), row.state);
         EXPECT_FALSE(bench.page->changed());
     }
-}
-
-TEST_F(Erros, DependentControlsFollowClicks)
-{
-    load(true, true, false, true);
-    bench.click(u"chkExibirAlertaPadrao");
-    EXPECT_EQ(state(), "0+ 0- 'texto'--grey 0+ 1+"); // a click keeps the text
-    bench.click(u"chkExibirAlertaPadrao");
-    EXPECT_EQ(state(), "1+ 0+ 'texto'--grey 0+ 1+");
-    bench.click(u"chkPersonalizarMsgErro");
-    EXPECT_EQ(state(), "1+ 1+ 'texto'++white 0+ 1+");
-    bench.click(u"chkLimpaCampo");
-    EXPECT_EQ(state(), "1+ 1+ 'texto'++white 1+ 0-");
-    bench.click(u"chkLimpaCampo");
-    EXPECT_EQ(state(), "1+ 1+ 'texto'++white 0+ 0+");
-}
-
-TEST_F(Erros, AnEnabledEmptyMessageIsRefused)
-{
-    load(true, true, false, false);
-    bench.put(u"txtMsgCustom", u"");
-    EXPECT_FALSE(bench.page->apply());
-    EXPECT_EQ(bench.takeBoxes(), "information||Informe o texto da mensagem.\n");
-    EXPECT_TRUE(bench.object.written.empty());
-    EXPECT_TRUE(bench.page->changed());
-    load(true, false, false, false);
-    EXPECT_TRUE(bench.page->apply());
-    EXPECT_EQ(bench.object.properties[u"ErrorTextMessage"], Value(std::u16string()));
-}
-
-TEST(Fonte, ListsTheFontsOpensTheListAndFiltersTheSize)
-{
-    PageBench bench(PageKind::ppFonte);
-    bench.object.properties[u"FontName"] = std::u16string(u"Tahoma");
-    bench.open();
-    platform::ItemList& fonts = bench.form().items(bench.id(u"CboFontName"));
-    ASSERT_EQ(fonts.count(), 5);
-    EXPECT_EQ(fonts.at(1), u"Courier New");
-    bench.takeBoxes();
-    bench.focus(u"CboFontName");
-    EXPECT_EQ(bench.takeBoxes(), "sendkeys {F4}\n");
-    bench.choose(u"CboFontName", 3); // Tahoma, as it stands
-    EXPECT_FALSE(bench.page->changed());
-    bench.keys(u"txtSize", u"\b1a2,5");
-    EXPECT_EQ(bench.text(u"txtSize"), u"125");
-    EXPECT_TRUE(bench.page->apply());
-    EXPECT_EQ(bench.object.properties[u"FontSize"], Value(125.0));
 }
 
 TEST(Fonte, ThePreviewIsDrawnWhenAskedFor)

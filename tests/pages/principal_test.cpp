@@ -77,33 +77,6 @@ TEST_F(Principal, ARefusedDateFormatWritesNothingAndResetsItsBox)
     EXPECT_FALSE(bench.page->changed());
 }
 
-TEST_F(Principal, TheMaskIsPreparedForMaskedTextOnly)
-{
-    for (const int type : {0, 3}) {
-        bench.open();
-        bench.choose(u"cboTextType", type);
-        bench.put(u"txtMascara", u"@@@-####");
-        bench.put(u"txtPromptChar", u"*");
-        EXPECT_TRUE(bench.page->apply());
-        EXPECT_EQ(bench.object.properties[u"Mask"], Value(std::u16string(type == 3 ? u"***-****" : u"@@@-####")));
-        EXPECT_EQ(bench.text(u"txtMascara"), u"@@@-####");
-    }
-}
-
-TEST_F(Principal, DecimalPlacesAreTheLeadingNumberOfTheirBox)
-{
-    struct Row {
-        std::u16string text;
-        double written;
-    };
-    bench.open();
-    for (const Row& row : {Row{u"2", 2}, Row{u"3 casas", 3}, Row{u"", 0}, Row{u"x", 0}, Row{u"1.5", 1.5}}) {
-        bench.put(u"txtQtdCasasDec", row.text);
-        EXPECT_TRUE(bench.page->apply());
-        EXPECT_EQ(bench.object.properties[u"QtdCasasDec"], Value(row.written)) << utf8(row.text);
-    }
-}
-
 TEST_F(Principal, LettersFollowFreeTyping)
 {
     platform::ItemList& letters = bench.form().items(bench.id(u"lstLetrasPermitidas"));
@@ -140,84 +113,6 @@ TEST_F(Principal, TheListOfLetters)
     EXPECT_EQ(all.substr(95), u"ÀÁÂÃÄÅÇÈÉÊÌÍÑÒÓÔÕ×Ùàáâãçèéêìíñòóôõ÷ùúû");
 }
 
-TEST_F(Principal, TheMaskBoxFollowsTheListOfMasks)
-{
-    bench.settings().save(storeApplication, u"Mascaras", u"Key_1", u"__/__");
-    bench.object.properties[u"Mask"] = std::u16string(u"own");
-    bench.open();
-    EXPECT_EQ(bench.text(u"txtMascara"), u"own"); // filling the list leaves it alone
-    bench.keys(u"cboMascarasProntas", u"A_");
-    EXPECT_EQ(bench.text(u"txtMascara"), u"A_");
-    EXPECT_TRUE(bench.page->changed());
-    bench.choose(u"cboMascarasProntas", 0);
-    EXPECT_EQ(bench.text(u"txtMascara"), u"__/__");
-    bench.put(u"txtMascara", u"other");
-    bench.focus(u"cboMascarasProntas");
-    EXPECT_EQ(bench.text(u"txtMascara"), u"other");
-    bench.focus(u"txtMascara");
-    EXPECT_EQ(bench.text(u"txtMascara"), u"__/__");
-}
-
-TEST_F(Principal, SavingAMask)
-{
-    bench.open();
-    bench.click(u"CmdADDNovoTipoMascara");
-    EXPECT_EQ(bench.takeBoxes(), "information||Informe o texto\n");
-    bench.put(u"cboMascarasProntas", u"___");
-    bench.answer(platform::BoxAnswer::no);
-    bench.click(u"CmdADDNovoTipoMascara");
-    EXPECT_EQ(bench.takeBoxes(), "question||Confirma Inclusão da Mascara <  ___  >\n");
-    EXPECT_TRUE(bench.settings().all(storeApplication, u"Mascaras").empty());
-
-    bench.click(u"CmdADDNovoTipoMascara");
-    bench.useLocale("en-US");
-    bench.click(u"CmdADDNovoTipoMascara");
-    bench.open(); // lists them now
-    bench.put(u"cboMascarasProntas", u"##");
-    bench.click(u"CmdADDNovoTipoMascara");
-    const std::vector<platform::SettingsStore::Entry> saved = bench.settings().all(storeApplication, u"Mascaras");
-    const std::vector<platform::SettingsStore::Entry> expected{
-        {u"Key_114:05:33", u"___"}, {u"Key_12:05:33 PM", u"___"}, {u"Key_32:05:33 PM", u"##"}};
-    EXPECT_EQ(saved, expected);
-}
-
-TEST_F(Principal, ProfilesAreSavedLoadedAndDeleted)
-{
-    platform::ItemList& letters = bench.form().items(bench.id(u"lstLetrasPermitidas"));
-    platform::ItemList& names = bench.form().items(bench.id(u"cboProfile"));
-    bench.object.properties[u"TextoLivre"] = false;
-    bench.open();
-    bench.click(u"CmdSalvarProfile");
-    EXPECT_EQ(bench.takeBoxes(), "information|Acesso Negado !|Selecione pelo menos um caractere da lista\n");
-    bench.click(u"CmdCarregaProfile");
-    EXPECT_EQ(bench.takeBoxes(), "information|Operação Cancelada !|Escolha um item para carregar\n");
-    bench.click(u"CmdExcluirProfile");
-    EXPECT_EQ(bench.takeBoxes(), "information|Operação Cancelada !|Escolha um item para excluir\n");
-
-    selectLetters(letters, u"aA1");
-    bench.click(u"CmdSalvarProfile"); // no name given
-    EXPECT_EQ(bench.takeBoxes(), "input|Vela - By Aldren|Digite o Nome do Profile\n");
-    EXPECT_EQ(names.count(), 0);
-    bench.answerText(u" Dois ");
-    bench.click(u"CmdSalvarProfile");
-    EXPECT_EQ(bench.settings().get(storeApplication, u"Profiles", u" Dois ", u""), u"1Aa");
-    ASSERT_EQ(names.count(), 1);
-    EXPECT_EQ(names.chosen(), -1);
-
-    selectLetters(letters, u"zé€");
-    bench.page->apply();
-    names.choose(0);
-    bench.click(u"CmdCarregaProfile");
-    EXPECT_EQ(selectedLetters(letters), u"1Aa");
-    EXPECT_FALSE(bench.page->changed());
-
-    bench.takeBoxes();
-    bench.click(u"CmdExcluirProfile");
-    EXPECT_EQ(names.count(), 0);
-    bench.click(u"CmdCarregaProfile");
-    EXPECT_EQ(bench.takeBoxes(), "information|Operação Cancelada !|Escolha um item para carregar\n");
-}
-
 TEST_F(Principal, ProfilesOfTheStoreAreListedOnceAndTheFirstIsChosen)
 {
     bench.settings().save(storeApplication, u"Profiles", u"b", u"B");
@@ -252,29 +147,6 @@ TEST_F(Principal, AFailingStoreLeavesTheListsEmptyAndReachesTheHostOtherwise)
     EXPECT_EQ(errorOf([&] { bench.click(u"CmdSalvarProfile"); }), 70);
     EXPECT_EQ(bench.form().items(bench.id(u"cboProfile")).count(), 0);
     EXPECT_TRUE(bench.page->apply());
-}
-
-TEST_F(Principal, TheSampleOfAReturnFormat)
-{
-    bench.open();
-    bench.put(u"cboDataRetorno", u"dd.MM.yyyy hh:nn");
-    bench.takeBoxes();
-    bench.click(u"cmdfRetorno");
-    EXPECT_EQ(bench.takeBoxes(),
-              "information||Formato de Retorno é a forma que será os dados serão formatados e exibidos "
-              "através da propriedade .Value \r\nTeste do formato de Retorno= 29.02.2024 14:05\n");
-    bench.click(u"CmdRegrasMascara");
-    EXPECT_EQ(bench.takeBoxes(), "information||# - Só poderá ser digitado Números na área delimitada\r\n"
-                                 "@ - Só poderá ser digitado Letras na área delimitada\r\n"
-                                 "? - Qualquer caractere de < Aa a Zz > e < 0 a 9 > será permitido\r\n"
-                                 "Exemplo: \r\nPlaca de Carro @@@-####\n");
-}
-
-TEST_F(Principal, TheSymbolBoxRefusesTheDigitsOneToEight)
-{
-    bench.open();
-    bench.keys(u"txtSimboloMonetario", u"R$0123456789;%");
-    EXPECT_EQ(bench.text(u"txtSimboloMonetario"), u"R$09;%");
 }
 
 } // namespace

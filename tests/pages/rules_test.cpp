@@ -13,24 +13,6 @@
 namespace vela::pages {
 namespace {
 
-TEST(KeyFilters, LetThrough)
-{
-    std::u16string symbol, size, amount;
-    for (int key = 8; key < 127; ++key) {
-        if (key >= u'0' && key <= u'9' && symbolKey(key))
-            symbol += static_cast<char16_t>(key);
-        if (digitOrBackspace(key))
-            size += static_cast<char16_t>(key);
-        if (digit(key))
-            amount += static_cast<char16_t>(key);
-    }
-    EXPECT_EQ(symbol, u"09");
-    EXPECT_TRUE(symbolKey(u'R') && symbolKey(8) && symbolKey(u';'));
-    EXPECT_EQ(size, u"\b0123456789");
-    EXPECT_EQ(amount, u"0123456789");
-    EXPECT_FALSE(digit(0x0663)); // a digit of another script
-}
-
 TEST(DateFormat, Check)
 {
     struct Row {

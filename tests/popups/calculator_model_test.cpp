@@ -86,26 +86,6 @@ INSTANTIATE_TEST_SUITE_P(
         Sequence{"EraseThenType", "1<7", u"7"}, Sequence{"EraseLeavesAResult", "2+3=<", u"5"}),
     [](const auto& row) { return row.param.name; });
 
-TEST(CalculatorModel, AHandedOverDisplayIsANumberBeingTyped)
-{
-    Player player(engine::ptBr());
-    player.display = u"1234,5"; // from a field
-    player.model.handOver(true);
-    player.play("6");
-    EXPECT_EQ(player.display, u"1234,56");
-    player.play("."); // it has its decimals already
-    EXPECT_EQ(player.display, u"1234,56");
-    player.play("+1=");
-    EXPECT_EQ(player.display, u"1235") << "the comma ends the operand";
-}
-
-TEST(CalculatorModel, EnglishReadsItsOwnResults)
-{
-    Player player(engine::enUs());
-    player.play("5/2=X3=");
-    EXPECT_EQ(player.display, u"7.5");
-}
-
 TEST(CalculatorModel, FocusAfterEachButton)
 {
     struct Row {
@@ -118,30 +98,6 @@ TEST(CalculatorModel, FocusAfterEachButton)
           Row{'%', CalculatorFocus::stays}, Row{'E', CalculatorFocus::zero}, Row{'C', CalculatorFocus::zero}}) {
         player.press(row.key);
         EXPECT_EQ(player.focus, row.focus) << row.key;
-    }
-}
-
-TEST(CalculatorModel, OverflowLeavesEverythingAsBefore)
-{
-    for (const char* keys : {"=", "%"}) {
-        Player player(engine::enUs());
-        player.display = u"1e200";
-        player.model.handOver(false);
-        player.press('X');
-        player.display = u"1e200";
-        player.model.handOver(true);
-        try {
-            player.play(keys);
-            FAIL() << "no overflow with " << keys;
-        } catch (const engine::Error& error) {
-            EXPECT_EQ(error.number, engine::error_number::overflow);
-        }
-        EXPECT_EQ(player.display, u"1e200");
-        EXPECT_EQ(player.model.firstOperand(), 1e200);
-        EXPECT_EQ(player.model.secondOperand(), 0);
-        EXPECT_EQ(player.model.operandCount(), 1);
-        EXPECT_EQ(player.model.lastInput(), LastInput::number);
-        EXPECT_EQ(player.model.pendingOperator(), u"X");
     }
 }
 

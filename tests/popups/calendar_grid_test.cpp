@@ -159,18 +159,6 @@ TEST(CalendarGrid, ASecondRunOfYearsLiesBeyondTheFirst)
     EXPECT_EQ(grid.yearIndex(), 101);
 }
 
-TEST(CalendarGrid, AYearOutsideTheListKeepsTheComboAndDrawsItsMonthThere)
-{
-    CalendarGrid grid = shown({2024, 3, 15});
-    const int frame = grid.frameCell();
-    grid.select(engine::CivilDate{2060, 5, 20});
-    grid.show();
-    EXPECT_EQ(narrow(grid.yearText()), "2024");
-    EXPECT_EQ(grid.monthIndex(), 4);
-    EXPECT_EQ(text(grid.cells()[3]), "01") << "May 2024 begins on a Wednesday";
-    EXPECT_EQ(grid.frameCell(), frame) << "the month on show does not hold the selected date";
-}
-
 TEST(CalendarGrid, WithoutAChosenYearTheFirstDrawingStands)
 {
     CalendarGrid grid = shown({2060, 5, 20});
@@ -182,36 +170,6 @@ TEST(CalendarGrid, WithoutAChosenYearTheFirstDrawingStands)
     EXPECT_EQ(text(grid.cells()[6]), "01");
     grid.clickDay(6);
     EXPECT_EQ(narrow(grid.selectedText()), "01/01/") << "no year is chosen";
-}
-
-TEST(CalendarGrid, PutsOutsideAListAndCellsOutsideTheGridAreRefused)
-{
-    CalendarGrid grid = shown({2024, 3, 15});
-    const auto numberOf = [](auto&& body) {
-        try {
-            body();
-        } catch (const engine::Error& error) {
-            return error.number;
-        }
-        return 0;
-    };
-    for (const int index : {-1, 12})
-        EXPECT_EQ(numberOf([&] { grid.putMonthIndex(index); }), 380);
-    for (const int index : {-1, 101})
-        EXPECT_EQ(numberOf([&] { grid.putYearIndex(index); }), 380);
-    for (const int cell : {-1, 42})
-        EXPECT_EQ(numberOf([&] { grid.clickDay(cell); }), 9);
-    EXPECT_EQ(narrow(grid.selectedText()), "15/03/2024");
-}
-
-TEST(CalendarGrid, TheCounterStopsAtItsLimit)
-{
-    CalendarGrid grid(3);
-    EXPECT_TRUE(grid.countHighlight());
-    EXPECT_TRUE(grid.countHighlight());
-    EXPECT_TRUE(grid.countHighlight());
-    EXPECT_FALSE(grid.countHighlight());
-    EXPECT_EQ(grid.highlightCount(), 3);
 }
 
 TEST(CalendarGrid, ASelectedTextThatIsNoDateIsATypeMismatch)

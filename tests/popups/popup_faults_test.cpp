@@ -92,17 +92,19 @@ TEST(PopupFaults, TheCalculatorPassesOverARefusedValueAndTellsOtherFailures)
     }
 }
 
-struct Kept {
-    const char* name;
-    const char16_t* dateInitial;
-    const char16_t* selected;
-    int boxes;
-};
-
 TEST(CCalendar, KeepsItsSelectedDate)
 {
-    for (const Kept& row : {Kept{"kept", u"29/02/2024", u"29/02/2024", 0}, Kept{"none: today", u"", u"15/03/2024", 0},
-                            Kept{"no date: told, and it stays usable", u"2024-02-29", u"2024-02-29", 1}}) {
+    const struct {
+        const char* name;
+        const char16_t* dateInitial;
+        const char16_t* selected;
+        std::size_t boxes;
+    } rows[] = {
+        {"kept", u"29/02/2024", u"29/02/2024", 0},
+        {"none: today", u"", u"15/03/2024", 0},
+        {"no date: told, and it stays usable", u"2024-02-29", u"2024-02-29", 1},
+    };
+    for (const auto& row : rows) {
         Recorder recorder;
         headless::Machine machine{recorder};
         machine.clock.freeze(engine::makeDate({2024, 3, 15}));
@@ -113,7 +115,7 @@ TEST(CCalendar, KeepsItsSelectedDate)
             bag.put(u"DateInitial", std::u16string(row.dateInitial));
         calendar.load(bag);
         EXPECT_EQ(calendar.grid().selectedText(), row.selected) << row.name;
-        EXPECT_EQ(recorder.lines.size(), static_cast<std::size_t>(row.boxes)) << row.name;
+        EXPECT_EQ(recorder.lines.size(), row.boxes) << row.name;
         headless::PropertyBag saved;
         calendar.save(saved);
         ASSERT_EQ(saved.entries().size(), 1U);

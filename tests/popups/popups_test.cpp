@@ -189,24 +189,6 @@ TEST_F(PopupsTest, OneInstanceOfEachAndOnlyOneOpen)
                                      u"open frmCalculadora 100 221 110 109"}));
 }
 
-TEST_F(PopupsTest, TheCalculatorTakesTheTextOver)
-{
-    struct Row {
-        const char16_t* text;
-        const char* keys;
-        const char16_t* display;
-    };
-    for (const Row& row :
-         {Row{u"1234,5", "", u"1234,5"}, Row{u"1234,5", ".6", u"1234,56"}, Row{u"12,00", ".", u"12,00."},
-          Row{u"abc", "", u"0."}, Row{u"", "5", u"0.5"}, Row{u"10", "+5=", u"15"}}) {
-        openCalculatorWith(row.text);
-        for (const char key : std::string_view(row.keys))
-            popups.calculator()->typeCharacter(static_cast<char16_t>(key));
-        EXPECT_EQ(popups.calculator()->display(), row.display) << row.keys;
-        popups.closeAll();
-    }
-}
-
 TEST_F(PopupsTest, F2OnlyWhileAnOperatorHasTheFocus)
 {
     openCalculatorWith(u"12,5");
@@ -287,20 +269,6 @@ TEST_F(PopupsTest, KeysOfTheCalendar)
     EXPECT_EQ(press(27), 0);
     EXPECT_EQ(popups.calendar(), nullptr);
     EXPECT_EQ(owner.puts.size(), 1U);
-}
-
-TEST_F(PopupsTest, AnotherWindowClosesThemAndWritesNothing)
-{
-    popups.openCalendar(owner);
-    machine.forms.tick();
-    EXPECT_NE(popups.calendar(), nullptr) << "it is the active window";
-    machine.desktop.activate(nullptr);
-    EXPECT_EQ(popups.calendar(), nullptr);
-    popups.openCalculator(owner);
-    machine.desktop.activate(nullptr);
-    EXPECT_EQ(popups.calculator(), nullptr);
-    EXPECT_TRUE(owner.puts.empty());
-    EXPECT_EQ(owner.focusTaken, 0);
 }
 
 TEST_F(PopupsTest, ATickWithoutTheForegroundClosesAndGivesTheFocusBack)

@@ -48,14 +48,4 @@ void Recorder::trace(const headless::TraceEntry& entry)
         duringBox();
 }
 
-int errorOf(const std::function<void()>& body)
-{
-    try {
-        body();
-    } catch (const engine::Error& error) {
-        return error.number;
-    }
-    return 0;
-}
-
 } // namespace vela::popups

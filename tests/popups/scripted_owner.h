@@ -1,15 +1,17 @@
 // An owner of pop-ups that keeps what is put into it, fails when told to, and does what a test wants inside a put.
 #pragma once
 
-#include "engine/error.h"
 #include "platform/headless/environment.h"
 #include "popups/popups.h"
+#include "tests/engine/error_of.h"
 
 #include <functional>
 #include <string>
 #include <vector>
 
 namespace vela::popups {
+
+using engine::errorOf;
 
 class ScriptedOwner final : public Owner {
 public:
@@ -62,6 +64,5 @@ public:
 };
 
 [[nodiscard]] std::u16string decimal(int number);
-[[nodiscard]] int errorOf(const std::function<void()>& body); // 0: none was raised
 
 } // namespace vela::popups
