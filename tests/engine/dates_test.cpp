@@ -70,36 +70,26 @@ void expectRead(const Row& row, const Locale& locale)
 TEST(Dates, AreReadInPortuguese)
 {
     const Row rows[] = {
-        {u" 1-2-2024 ", {2024, 2, 1}},
-        {u"1/2-24", {2024, 2, 1}},
-        {u"1,2,2024", {2024, 2, 1}},
         {u"12/31/1999", {1999, 12, 31}},
-        {u"2024-02-29", {2024, 2, 29}},
         {u"32/1/2", {1932, 1, 2}},
         {u"1/13/2", {2002, 1, 13}},
         {u"1/2", {2026, 2, 1}},
         {u"2/2024", {2024, 2, 1}},
-        {u"1/1/29", {2029, 1, 1}},
         {u"1/1/30", {1930, 1, 1}},
         {u"1/1/0099", {1999, 1, 1}},
         {u"1/1/100", {100, 1, 1}},
         {u"31/12/9999", {9999, 12, 31}},
         {u"15 março 2024", {2024, 3, 15}},
         {u"março 15 2024", {2024, 3, 15}},
-        {u"Março 2024", {2024, 3, 1}},
         {u"sexta-feira, 15 março 2024", {2024, 3, 15}},
         {u"10.11.2024", {2024, 11, 10}},
-        {u"01.02.60", {1960, 2, 1}},
         {u"01.02.03", noDate, {1, 2, 3}},
         {u"15:30", noDate, {15, 30, 0}},
-        {u"3 pm", noDate, {15, 0, 0}},
         {u"12:30am", noDate, {0, 30, 0}},
         {u"13:00 am", noDate, {13, 0, 0}},
         {u"01/02/2024 14:05:33", {2024, 2, 1}, {14, 5, 33}},
-        {u"14:05 01/02/2024", {2024, 2, 1}, {14, 5, 0}},
         {u"1/2 3:4", {2026, 2, 1}, {3, 4, 0}},
         {u"1/2/2024 3 pm", {2024, 2, 1}, {15, 0, 0}},
-        {u"1/2/1850 6:00", {1850, 2, 1}, {6, 0, 0}},
         {u"1/2/2024\0abc"sv, {2024, 2, 1}},
     };
     for (const Row& row : rows) {
@@ -128,27 +118,11 @@ TEST(Dates, AreReadInEnglishOrder)
 
 TEST(Dates, AreRefused)
 {
-    for (const std::u16string_view text : {u""sv,
-                                           u"12"sv,
-                                           u"2024"sv,
-                                           u"29/02/2023"sv,
-                                           u"1/0/2000"sv,
-                                           u"15/2024/3"sv,
-                                           u"24:00"sv,
-                                           u"12:"sv,
-                                           u"1/2/"sv,
-                                           u"1/2/3/4"sv,
-                                           u"-1/2/2024"sv,
-                                           u"1/2/2024 3"sv,
-                                           u"5 pm am"sv,
-                                           u"1 2 3 4 5 6 7"sv,
-                                           u"1:2 3:4"sv,
-                                           u"domingo"sv,
-                                           u"15 marx 2024"sv,
-                                           u"31.12"sv,
-                                           u"31.12.2024 10:00"sv,
-                                           u"\xD800"sv,
-                                           u"25.12.2024 pm"sv}) {
+    constexpr std::u16string_view refused[] = {
+        u"",        u"12",      u"2024",         u"29/02/2023", u"1/0/2000",         u"15/2024/3", u"24:00",
+        u"12:",     u"1/2/",    u"1/2/3/4",      u"-1/2/2024",  u"1/2/2024 3",       u"5 pm am",   u"1 2 3 4 5 6 7",
+        u"1:2 3:4", u"domingo", u"15 marx 2024", u"31.12",      u"31.12.2024 10:00", u"\xD800",    u"25.12.2024 pm"};
+    for (const auto text : refused) {
         SCOPED_TRACE(std::string(text.begin(), text.end()));
         EXPECT_FALSE(isDate(text, ptBr(), today));
         EXPECT_EQ(errorOf([&] { return toDate(text, ptBr(), today); }), error_number::typeMismatch);

@@ -28,14 +28,14 @@ TEST(NumberToText, FifteenDigits)
         {99999999999999.95, u"100000000000000"},
         {0.0001, u"0,0001"},
         {0.00001, u"1E-05"},
-        {std::numeric_limits<double>::max(), u"1,79769313486232E+308"},
-        {std::numeric_limits<double>::denorm_min(), u"4,94065645841247E-324"},
-        {15048581.80078125, u"15048581,8007813"}, // exactly half way
         {922337203685477.58, u"922337203685478"},
     };
     for (const General& row : rows) {
         EXPECT_EQ(numberToText(row.number, ptBr()), row.text);
     }
+    EXPECT_EQ(numberToText(15048581.80078125, ptBr()), u"15048581,8007813"); // exactly half way
+    EXPECT_EQ(numberToText(std::numeric_limits<double>::max(), ptBr()), u"1,79769313486232E+308");
+    EXPECT_EQ(numberToText(std::numeric_limits<double>::denorm_min(), ptBr()), u"4,94065645841247E-324");
     EXPECT_EQ(numberToText(-1234.5, enUs()), u"-1234.5");
     EXPECT_THROW(static_cast<void>(numberToText(std::numeric_limits<double>::infinity(), ptBr())), Error);
 }

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <span>
 #include <string>
 
 namespace vela::engine {
@@ -26,6 +27,12 @@ void expectFormatted(const Value& value, std::u16string_view pattern, std::u16st
 {
     SCOPED_TRACE(std::string(pattern.begin(), pattern.end()));
     EXPECT_EQ(format(value, pattern, ptBr(), today), text);
+}
+
+void expectFormatted(std::span<const NumberRow> rows)
+{
+    for (const NumberRow& row : rows)
+        expectFormatted(row.number, row.pattern, row.text);
 }
 
 TEST(NumberPatterns, DigitMarks)
@@ -59,9 +66,7 @@ TEST(NumberPatterns, DigitMarks)
         {5, u"0\\", u"5"},
         {5, u"0\"open", u"5open"},
     };
-    for (const NumberRow& row : rows) {
-        expectFormatted(row.number, row.pattern, row.text);
-    }
+    expectFormatted(rows);
 }
 
 TEST(NumberPatterns, TrailingCommasDivide)
@@ -73,9 +78,7 @@ TEST(NumberPatterns, TrailingCommasDivide)
         {1234567, u"0,0", u"1.234.567"},
         {1234567, u"#,##0,.00%", u"123.456,70%"},
     };
-    for (const NumberRow& row : rows) {
-        expectFormatted(row.number, row.pattern, row.text);
-    }
+    expectFormatted(rows);
 }
 
 TEST(NumberPatterns, OfTheLiveAmount)
@@ -90,9 +93,7 @@ TEST(NumberPatterns, OfTheLiveAmount)
         {1.5e-10, u"###.###.###.###.###.##0,00", u",000.000.000.15.000000"},
         {1234567.89, u"###,###,###,###,###,###,###,###,###,###,###,###,###,###,##0", u"1.234.568"},
     };
-    for (const NumberRow& row : rows) {
-        expectFormatted(row.number, row.pattern, row.text);
-    }
+    expectFormatted(rows);
 }
 
 TEST(NumberPatterns, Exponents)
@@ -106,9 +107,7 @@ TEST(NumberPatterns, Exponents)
         {0, u"00.00E+00", u"00,00E+00"},
         {5, u"0e", u"5e"},
     };
-    for (const NumberRow& row : rows) {
-        expectFormatted(row.number, row.pattern, row.text);
-    }
+    expectFormatted(rows);
 }
 
 TEST(NumberPatterns, SectionsBySign)
@@ -122,9 +121,7 @@ TEST(NumberPatterns, SectionsBySign)
         {-5, u"\"a;b\";\\;0", u";5"},
         {-5, u";(0.00)", u"(5,00)"},
     };
-    for (const NumberRow& row : rows) {
-        expectFormatted(row.number, row.pattern, row.text);
-    }
+    expectFormatted(rows);
     expectFormatted(Empty{}, u"0.00;n;z;\"nada\"", u"nada");
     expectFormatted(Empty{}, u"0.00", u"0,00");
     for (const std::u16string_view pattern : {u"0;1;2;3;4"sv, u"0;;;;"sv}) {
@@ -148,9 +145,7 @@ TEST(NamedFormats, OfNumbers)
         {45323.5, u"Short Date", u"01/02/2024"},
         {1e10, u"Short Date", u"10000000000"},
     };
-    for (const NumberRow& row : rows) {
-        expectFormatted(row.number, row.pattern, row.text);
-    }
+    expectFormatted(rows);
     EXPECT_EQ(format(-1234.5, u"Currency", enUs(), today), u"($1,234.50)");
     EXPECT_EQ(format(true, u"Yes/No", enUs(), today), u"Yes");
 }
@@ -164,11 +159,12 @@ TEST(DatePatterns, Letters)
 {
     const DateRow rows[] = {
         {u"", u"01/02/2024 14:05:33"},
+        {u"c", u"01/02/2024 14:05:33"},
         {u"dd/mm/yyyy", u"01/02/2024"},
         {u"dd.MM.yy", u"01.02.24"},
-        {u"dddd, d mmmm yyyy", u"quinta-feira, 1 fevereiro 2024"},
         {u"ddd d mmm", u"qui 1 fev"},
         {u"ddddd ttttt", u"01/02/2024 14:05:33"},
+        {u"dddd, d mmmm yyyy", u"quinta-feira, 1 fevereiro 2024"},
         {u"dddddd", u"quinta-feira, 1 de fevereiro de 2024"},
         {u"w ww q y", u"5 5 1 32"},
         {u"yyy", u"2432"},
@@ -184,7 +180,6 @@ TEST(DatePatterns, Letters)
         {u"AMPM h", u"PM 2"},
         {u"dd \\d\\e mmmm", u"01 de fevereiro"},
         {u"d0#", u"10#"},
-        {u"General Date", u"01/02/2024 14:05:33"},
         {u"Long Date", u"quinta-feira, 1 de fevereiro de 2024"},
         {u"Medium Date", u"01-fev-24"},
         {u"Medium Time", u"02:05 PM"},
