@@ -3,6 +3,7 @@
 #include "tooltip/about_box.h"
 #include "tooltip/balloon_tip.h"
 #include "tooltip/balloon_tooltip.h"
+#include "tooltip/tooltip_properties.h"
 #include "tooltip/windows_version.h"
 
 #include <gtest/gtest.h>
@@ -105,6 +106,17 @@ TEST(BalloonToolTip, PointsPackIntoThirtyTwoBits)
         const std::string position(row.position);
         EXPECT_EQ(error, position.empty() ? engine::error_number::overflow : 0) << row.x << " " << row.y;
         EXPECT_EQ(t.log, position.empty() ? "screen of 9" : "screen of 9; at " + position + "; on");
+    }
+}
+
+TEST(TooltipProperties, ThatShowNothingAreKeptByName)
+{
+    Tip t;
+    const std::pair<const char16_t*, engine::Value> rows[] = {
+        {u"Style", std::int32_t{4}}, {u"Centered", true}, {u"PopupOnDemand", true}};
+    for (const auto& [name, value] : rows) {
+        putTipProperty(t.tip, name, value, engine::ptBr());
+        EXPECT_EQ(getTipProperty(t.tip, name), value) << narrow(name);
     }
 }
 

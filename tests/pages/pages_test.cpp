@@ -53,6 +53,16 @@ TEST(ChangedFlag, IsSetByEditsOnly)
     }
 }
 
+TEST(Geral, ShowsOneGroupAtATime)
+{
+    PageBench bench(PageKind::ppGeral);
+    for (const bool entered : {false, true}) {
+        bench.click(entered ? u"optGotfocus" : u"optLost");
+        EXPECT_EQ(bench.form().visible(bench.id(u"chkAutoSelect")), entered);
+        EXPECT_EQ(bench.form().visible(bench.id(u"txtISEmpty")), !entered);
+    }
+}
+
 class Erros : public testing::Test {
 protected:
     void load(bool alert, bool custom, bool clears, bool focus)
@@ -97,6 +107,15 @@ TEST_F(Erros, DependentControlsAfterLoading)
         EXPECT_EQ(state(), row.state);
         EXPECT_FALSE(bench.page->changed());
     }
+}
+
+TEST(Fonte, ChoosingTheFontThatStandsChangesNothing)
+{
+    PageBench bench(PageKind::ppFonte);
+    bench.object.properties[u"FontName"] = std::u16string(u"Tahoma");
+    bench.open();
+    bench.choose(u"CboFontName", 3);
+    EXPECT_FALSE(bench.page->changed());
 }
 
 TEST(Fonte, ThePreviewIsDrawnWhenAskedFor)

@@ -77,6 +77,18 @@ TEST_F(Principal, ARefusedDateFormatWritesNothingAndResetsItsBox)
     EXPECT_FALSE(bench.page->changed());
 }
 
+TEST_F(Principal, TheMaskIsPreparedForMaskedTextOnly)
+{
+    for (const int type : {0, 3}) {
+        bench.open();
+        bench.choose(u"cboTextType", type);
+        bench.put(u"txtMascara", u"@@@-####");
+        bench.put(u"txtPromptChar", u"*");
+        EXPECT_TRUE(bench.page->apply());
+        EXPECT_EQ(bench.object.properties[u"Mask"], Value(std::u16string(type == 3 ? u"***-****" : u"@@@-####")));
+    }
+}
+
 TEST_F(Principal, LettersFollowFreeTyping)
 {
     platform::ItemList& letters = bench.form().items(bench.id(u"lstLetrasPermitidas"));
