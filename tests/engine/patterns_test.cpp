@@ -95,12 +95,9 @@ TEST(NumberPatterns, OfTheLiveAmount)
 TEST(NumberPatterns, Exponents)
 {
     const NumberRow rows[] = {
-        {1.7, u"0.0000E-000", u"1,7000E000"},
-        {0.0001e-11, u"##00.0000e-0", u"1000,0000e-18"},
-        {47.11, u".0000E+0", u",4711E+2"},
-        {3.0401e-13, u"#####.####e-0%", u"30401,e-15%"},
-        {0, u"00.00E+00", u"00,00E+00"},
-        {5, u"0e", u"5e"},
+        {1.7, u"0.0000E-000", u"1,7000E000"}, {0.0001e-11, u"##00.0000e-0", u"1000,0000e-18"},
+        {47.11, u".0000E+0", u",4711E+2"},    {3.0401e-13, u"#####.####e-0%", u"30401,e-15%"},
+        {0, u"00.00E+00", u"00,00E+00"},      {5, u"0e", u"5e"},
     };
     expectFormatted(rows);
 }
@@ -127,16 +124,11 @@ TEST(NumberPatterns, SectionsBySign)
 TEST(NamedFormats, OfNumbers)
 {
     const NumberRow rows[] = {
-        {1234.5, u"General Number", u"1234,5"},
-        {0.256, u"PERCENT", u"25,60%"},
-        {12345, u"Scientific", u"1,23E+04"},
-        {1234.5, u"Currency", u"R$ 1.234,50"},
-        {-1234.5, u"Currency", u"-R$ 1.234,50"},
-        {1, u"Yes/No", u"Sim"},
-        {-1, u"True/False", u"Verdadeiro"},
-        {0, u"On/Off", u"Desligado"},
-        {45323.5, u"Short Date", u"01/02/2024"},
-        {1e10, u"Short Date", u"10000000000"},
+        {1234.5, u"General Number", u"1234,5"},  {0.256, u"PERCENT", u"25,60%"},
+        {12345, u"Scientific", u"1,23E+04"},     {1234.5, u"Currency", u"R$ 1.234,50"},
+        {-1234.5, u"Currency", u"-R$ 1.234,50"}, {1, u"Yes/No", u"Sim"},
+        {-1, u"True/False", u"Verdadeiro"},      {0, u"On/Off", u"Desligado"},
+        {45323.5, u"Short Date", u"01/02/2024"}, {1e10, u"Short Date", u"10000000000"},
     };
     expectFormatted(rows);
     EXPECT_EQ(format(-1234.5, u"Currency", enUs(), today), u"($1,234.50)");
