@@ -69,7 +69,7 @@ compile() {
 
 # A display of our own, unless VELA_DISPLAY names one to use.
 start_display() {
-  local chosen=$logs/display.$$ tries=0
+  local chosen=$logs/display.$BASHPID tries=0
   : >"$chosen"
   Xvfb -displayfd 3 -screen 0 "${1:-1024x768x24}" -nolisten tcp 3>"$chosen" >"$logs/xvfb.log" 2>&1 &
   display_pid=$!
@@ -110,6 +110,7 @@ wine64_binary() { # the wrapper `wine` complains that wine32 is missing, which i
 # Makes the prefix once, and keeps one process of it alive: each start then takes 0.02 s instead of 2 s.
 start_wine() {
   local bits=$1
+  wine_started="${wine_started:-} $bits"
   if [ ! -f "$build/wine$bits/system.reg" ]; then
     say "Making the $bits-bit Wine prefix ..."
     mkdir -p "$build/wine$bits"
@@ -122,14 +123,18 @@ start_wine() {
       "HKCU\\Software\\Wine\\AppDefaults\\$program.exe\\X11 Driver" /v Managed /d N /f
   done
   wine_run "$bits" "$build/win$bits/keepalive.exe" >/dev/null 2>&1 </dev/null &
-  keepalive_pids="${keepalive_pids:-} $!"
 }
 
+# Those that this shell has started.
 stop_wine() {
-  local server=/usr/lib/wine/wineserver64
+  local server=/usr/lib/wine/wineserver64 bits
   [ -x "$server" ] || server=$(command -v wineserver || true)
-  [ ! -f "$build/wine64/system.reg" ] || WINEPREFIX=$build/wine64 timeout 20 "$server" -k >/dev/null 2>&1 || true
-  [ ! -f "$build/wine32/system.reg" ] || wine_run 32 --kill >/dev/null 2>&1 || true
+  for bits in ${wine_started:-}; do
+    case $bits in
+      64) WINEPREFIX=$build/wine64 timeout 20 "$server" -k >/dev/null 2>&1 || true ;;
+      32) wine_run 32 --kill >/dev/null 2>&1 || true ;;
+    esac
+  done
 }
 
 clean_up() {
