@@ -1,40 +1,43 @@
 // Calling an object through IDispatch.
 #include "automation.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 
 namespace vela::test {
 
-Variant text(std::u16string_view value)
+namespace {
+
+struct AsVariant {
+    Variant operator()(std::u16string_view value) const { return text(value); }
+    Variant operator()(std::int32_t value) const { return number(value); }
+    Variant operator()(bool value) const { return truth(value); }
+};
+
+} // namespace
+
+Variant given(VARTYPE type, long long bits)
 {
     Variant result;
-    result.ref().bstrVal = Bstr(value).release();
-    result.ref().vt = VT_BSTR;
+    result.ref().llVal = bits;
+    result.ref().vt = type;
     return result;
+}
+
+Variant text(std::u16string_view value)
+{
+    return given(VT_BSTR, reinterpret_cast<std::intptr_t>(Bstr(value).release()));
 }
 
 Variant number(std::int32_t value)
 {
-    Variant result;
-    result.ref().vt = VT_I4;
-    result.ref().lVal = value;
-    return result;
-}
-
-Variant fraction(double value)
-{
-    Variant result;
-    result.ref().vt = VT_R8;
-    result.ref().dblVal = value;
-    return result;
+    return given(VT_I4, value);
 }
 
 Variant truth(bool value)
 {
-    Variant result;
-    result.ref().vt = VT_BOOL;
-    result.ref().boolVal = value ? VARIANT_TRUE : VARIANT_FALSE;
-    return result;
+    return given(VT_BOOL, value ? VARIANT_TRUE : VARIANT_FALSE);
 }
 
 Automation::Automation(IUnknown* object) : object_(ComPtr<IDispatch>::from(object)) {}
@@ -82,6 +85,12 @@ Outcome Automation::put(std::u16string_view name, Variant value) const
     std::vector<Variant> arguments;
     arguments.push_back(std::move(value));
     return invoke(id(name).value_or(DISPID_UNKNOWN), DISPATCH_PROPERTYPUT, std::move(arguments));
+}
+
+void Automation::set(std::initializer_list<Setting> settings) const
+{
+    for (const auto& [name, value] : settings)
+        EXPECT_EQ(put(name, std::visit(AsVariant(), value)).result, S_OK) << Bstr(name).get();
 }
 
 Outcome Automation::call(std::u16string_view name, std::vector<Variant> arguments) const

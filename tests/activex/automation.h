@@ -3,17 +3,22 @@
 
 #include "com_object.h"
 
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <variant>
 #include <vector>
 
 namespace vela::test {
 
+[[nodiscard]] Variant given(VARTYPE type, long long bits = 0); // the value's own bits
 [[nodiscard]] Variant text(std::u16string_view value);
 [[nodiscard]] Variant number(std::int32_t value);
-[[nodiscard]] Variant fraction(double value);
 [[nodiscard]] Variant truth(bool value);
+
+using Setting = std::pair<std::u16string_view, std::variant<std::u16string_view, std::int32_t, bool>>;
 
 struct Outcome {
     HRESULT result = S_OK;
@@ -31,6 +36,7 @@ public:
     Outcome invoke(DISPID id, WORD flags, std::vector<Variant> arguments = {}) const;
     Outcome get(std::u16string_view name) const;
     Outcome put(std::u16string_view name, Variant value) const;
+    void set(std::initializer_list<Setting> settings) const; // each of them must be taken
     Outcome call(std::u16string_view name, std::vector<Variant> arguments = {}) const;
 
     [[nodiscard]] std::u16string textOf(std::u16string_view name) const; // converted to text, "?" when it fails

@@ -50,7 +50,6 @@ public:
             delete this;
         return left;
     }
-    [[nodiscard]] ULONG references() const noexcept { return references_; }
 
 protected:
     virtual bool offers(REFIID) { return true; }   // hides an interface from the control
@@ -58,6 +57,14 @@ protected:
 
 private:
     ULONG references_ = 1;
+};
+
+// An object that is called by number only.
+class Dispatch : public ComObject<IDispatch> {
+public:
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
 };
 
 template <class Object, class... Arguments>

@@ -8,48 +8,14 @@
 
 namespace vela::test {
 
-class Form::Frame final : public ComObject<IOleInPlaceFrame> {
-public:
-    explicit Frame(HWND window) : window_(window) {}
-    ComPtr<IOleInPlaceActiveObject> active;
-
-    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override
-    {
-        *window = window_;
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE GetBorder(LPRECT) override { return INPLACE_E_NOTOOLSPACE; }
-    HRESULT STDMETHODCALLTYPE RequestBorderSpace(LPCBORDERWIDTHS) override { return INPLACE_E_NOTOOLSPACE; }
-    HRESULT STDMETHODCALLTYPE SetBorderSpace(LPCBORDERWIDTHS) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR) override
-    {
-        active = ComPtr<IOleInPlaceActiveObject>::share(object);
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE InsertMenus(HMENU, LPOLEMENUGROUPWIDTHS) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetMenu(HMENU, HOLEMENU, HWND) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE RemoveMenus(HMENU) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetStatusText(LPCOLESTR) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
-
-private:
-    HWND window_;
-};
-
 namespace {
 
 constexpr wchar_t formClass[] = L"VelaTestForm";
 
 // Takes the events; separate from the site's own IDispatch, which answers for the ambients.
-class EventSink final : public ComObject<IDispatch> {
+class EventSink final : public Dispatch {
 public:
     explicit EventSink(Site& site) : site_(site) {}
-
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO* info,
                                      UINT*) override
     {
@@ -139,13 +105,12 @@ void Site::disconnect()
 HRESULT Site::activate(RECT place)
 {
     place_ = place;
-    const auto object = as<IOleObject>();
-    return object->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, this, 0, form_.window(), &place);
+    return activateBy(OLEIVERB_INPLACEACTIVATE);
 }
 
-HRESULT Site::activateInterface()
+HRESULT Site::activateBy(LONG verb)
 {
-    return as<IOleObject>()->DoVerb(OLEIVERB_UIACTIVATE, nullptr, this, 0, form_.window(), &place_);
+    return as<IOleObject>()->DoVerb(verb, nullptr, this, 0, form_.window(), &place_);
 }
 
 void Site::close()
@@ -178,12 +143,6 @@ int Site::count(std::string_view word) const
     return static_cast<int>(std::count(log.begin(), log.end(), word));
 }
 
-HRESULT Site::GetContainer(IOleContainer** container)
-{
-    *container = nullptr;
-    return E_NOINTERFACE;
-}
-
 HRESULT Site::GetWindow(HWND* window)
 {
     *window = form_.window();
@@ -202,8 +161,7 @@ HRESULT Site::OnUIActivate()
 HRESULT Site::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT place, LPRECT clip,
                                LPOLEINPLACEFRAMEINFO)
 {
-    *frame = form_.frame();
-    (*frame)->AddRef();
+    *frame = form_.frame().shared().release();
     *document = nullptr;
     *place = place_;
     GetClientRect(form_.window(), clip);
@@ -216,22 +174,12 @@ HRESULT Site::GetExtendedControl(IDispatch** object)
     return *object ? S_OK : E_NOTIMPL;
 }
 
-HRESULT Site::TranslateAccelerator(LPMSG message, DWORD)
-{
-    return onKey ? onKey(message) : S_FALSE;
-}
-
 HRESULT Site::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*)
 {
     const auto found = ambients.find(id);
     if (found == ambients.end())
         return DISP_E_MEMBERNOTFOUND;
     return VariantCopy(result, const_cast<VARIANT*>(&found->second.get()));
-}
-
-HRESULT Site::OnChanged(DISPID id)
-{
-    return note("changed " + std::to_string(id));
 }
 
 HRESULT Site::OnRequestEdit(DISPID id)
@@ -252,16 +200,17 @@ Form::Form()
     window_ = CreateWindowExW(WS_EX_CONTROLPARENT, formClass, L"Vela", WS_POPUP, 0, 0, 400, 300, nullptr, nullptr,
                               description.hInstance, nullptr);
     ShowWindow(window_, SW_SHOWNOACTIVATE);
-    frame_ = make<Frame>(window_);
+    frame_ = ComPtr<demo::FormFrame>::adopt(new demo::FormFrame(window_));
 }
 
 Form::~Form()
 {
     for (const auto& site : sites_)
         site->close();
-    frame_->active.reset();
+    frame_->SetActiveObject(nullptr, nullptr);
     destroyWindow();
     pump();
+    EXPECT_EQ(frame_.release()->Release(), 0u) << "the frame is held by a control";
 }
 
 void Form::destroyWindow()
@@ -293,14 +242,9 @@ void Form::remove(Site& site)
     run();
 }
 
-IOleInPlaceFrame* Form::frame() const noexcept
-{
-    return frame_.get();
-}
-
 IOleInPlaceActiveObject* Form::active() const noexcept
 {
-    return frame_->active.get();
+    return frame_->activeObject();
 }
 
 void Form::run()
@@ -308,7 +252,7 @@ void Form::run()
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         const bool key = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
-        const auto active = frame_->active.shared();
+        const auto active = ComPtr<IOleInPlaceActiveObject>::share(this->active());
         if (key && active && active->TranslateAccelerator(&message) == S_OK)
             continue;
         if (window_ && IsDialogMessageW(window_, &message))

@@ -1,8 +1,10 @@
 // A minimal OLE container of the tests: a real form window with sites whose every service can be left out.
 #pragma once
 
-#include "automation.h"
+#include "fields.h"
 #include "library.h"
+
+#include "apps/demo/container.h"
 
 #include <oleidl.h>
 
@@ -30,7 +32,7 @@ public:
 
     void hold(ComPtr<IUnknown> control); // SetClientSite, InitNew, events
     HRESULT activate(RECT place);        // as visible controls are
-    HRESULT activateInterface();
+    HRESULT activateInterface() { return activateBy(OLEIVERB_UIACTIVATE); }
     void close(); // Close, SetClientSite(null), release
 
     template <class Interface>
@@ -57,7 +59,7 @@ public:
     // IOleClientSite
     HRESULT STDMETHODCALLTYPE SaveObject() override { return note("SaveObject"); }
     HRESULT STDMETHODCALLTYPE GetMoniker(DWORD, DWORD, IMoniker**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetContainer(IOleContainer** container) override;
+    HRESULT STDMETHODCALLTYPE GetContainer(IOleContainer**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE ShowObject() override { return note("ShowObject"); }
     HRESULT STDMETHODCALLTYPE OnShowWindow(BOOL) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE RequestNewObjectLayout() override { return E_NOTIMPL; }
@@ -80,7 +82,10 @@ public:
     HRESULT STDMETHODCALLTYPE LockInPlaceActive(BOOL) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE GetExtendedControl(IDispatch** object) override;
     HRESULT STDMETHODCALLTYPE TransformCoords(POINTL*, POINTF*, DWORD) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG message, DWORD modifiers) override;
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG message, DWORD) override
+    {
+        return onKey ? onKey(message) : S_FALSE;
+    }
     HRESULT STDMETHODCALLTYPE OnFocus(BOOL has) override { return note(has ? "OnFocus 1" : "OnFocus 0"); }
     HRESULT STDMETHODCALLTYPE ShowPropertyFrame() override { return E_NOTIMPL; }
     // IDispatch: ambients; another identity takes the events
@@ -90,7 +95,7 @@ public:
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                                      UINT*) override;
     // IPropertyNotifySink
-    HRESULT STDMETHODCALLTYPE OnChanged(DISPID id) override;
+    HRESULT STDMETHODCALLTYPE OnChanged(DISPID id) override { return note("changed " + std::to_string(id)); }
     HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID id) override;
 
 protected:
@@ -98,6 +103,7 @@ protected:
 
 private:
     HRESULT note(std::string word);
+    HRESULT activateBy(LONG verb);
     void connect();
     void disconnect();
 
@@ -123,7 +129,7 @@ public:
     Site& addActive(const wchar_t* progId = L"Vela.Vela"); // in place, one below the other
     void remove(Site& site);                               // closed and let go
     [[nodiscard]] HWND window() const noexcept { return window_; }
-    [[nodiscard]] IOleInPlaceFrame* frame() const noexcept;
+    [[nodiscard]] const ComPtr<demo::FormFrame>& frame() const noexcept { return frame_; }
     [[nodiscard]] IOleInPlaceActiveObject* active() const noexcept;
 
     // A key to the focused window through the form's loop: the active object first, then the dialog keys.
@@ -134,9 +140,8 @@ public:
     void destroyWindow();
 
 private:
-    class Frame;
     HWND window_ = nullptr;
-    ComPtr<Frame> frame_;
+    ComPtr<demo::FormFrame> frame_;
     std::vector<ComPtr<Site>> sites_;
 };
 

@@ -34,40 +34,10 @@ std::u16string clipboard()
     return text;
 }
 
-void asPlate(const Automation& field)
-{
-    field.put(u"PromptChar", text(u"_"));
-    field.put(u"Mask", text(u"___-____"));
-    field.put(u"TextType", number(3));
-    field.put(u"MaskRules", text(u"@@@-####"));
-}
-
-void asTelephone(const Automation& field)
-{
-    field.put(u"PromptChar", text(u"_"));
-    field.put(u"Mask", text(u"(__) ____-____"));
-    field.put(u"TextType", number(3));
-}
-
-void asNumber(const Automation& field)
-{
-    field.put(u"TextType", number(1));
-    field.put(u"SimbolDecExib", number(2));
-    field.put(u"QtdCasasDec", number(2));
-}
-
-void asAmount(const Automation& field)
-{
-    asNumber(field);
-    field.put(u"MaskToNumeric", truth(true));
-}
-
-void asText_(const Automation&) {}
-
 // A control with the focus, of one kind.
 class Field {
 public:
-    explicit Field(void (*kind)(const Automation&)) : site(form.addActive())
+    explicit Field(Kind kind) : site(form.addActive())
     {
         kind(site.automation());
         form.focus(site);
@@ -90,7 +60,7 @@ public:
 
 struct Paste {
     const char* rule;
-    void (*kind)(const Automation&);
+    Kind kind;
     const char16_t* typed;
     int start;
     int end; // of the selection; -1 to the end
@@ -99,7 +69,7 @@ struct Paste {
 };
 
 const Paste pastes[] = {
-    {"free text over a selection", asText_, u"abcd", 1, 3, u"XYZ", u"aXYZd"},
+    {"free text over a selection", asPlainText, u"abcd", 1, 3, u"XYZ", u"aXYZd"},
     {"a mask with its literals", asPlate, u"", 0, 0, u"abc-1234", u"ABC-1234"},
     {"a mask without, what a rule refuses left out", asPlate, u"", 0, 0, u"ab9c1-2", u"ABC-12__"},
     {"over a full mask, all selected", asPlate, u"abc1234", 0, -1, u"XYZ9876", u"XYZ-9876"},
@@ -135,7 +105,7 @@ TEST(Editing, PasteGoesThroughTheRules)
 
 struct Edit {
     const char* rule;
-    void (*kind)(const Automation&);
+    Kind kind;
     const char16_t* typed;
     int start;
     int end;
@@ -144,7 +114,7 @@ struct Edit {
 };
 
 const Edit cuts[] = {
-    {"free text", asText_, u"abcd", 1, 3, u"bc", u"ad"},
+    {"free text", asPlainText, u"abcd", 1, 3, u"bc", u"ad"},
     {"prompts come back into a mask", asPlate, u"abc1234", 1, 6, u"BC-12", u"A__-__34"},
     {"a number", asNumber, u"12,34", 0, 1, u"1", u"2,34"},
     {"an amount is laid out again", asAmount, u"1234", 0, 1, u"1", u"2,34"},
@@ -205,7 +175,7 @@ TEST(Editing, TheMenusCommands)
 
 TEST(Editing, APasswordStays)
 {
-    Field field(asText_);
+    Field field(asPlainText);
     field.site.automation().put(u"PasswordChar", text(u"*"));
     field.form.focus(field.site);
     field.form.type(u"segredo");

@@ -9,7 +9,9 @@ namespace {
 
 constexpr COLORREF wrongColour = 0x000000C8;
 
-// A push button, two date fields with a wrong entry each, and a plain edit window, in the order of the Tab key.
+// In the order of the Tab key: a push button, two date fields with a wrong entry each, and a plain edit window.
+enum Place { buttonBefore, firstField, secondField, boxAfter };
+
 class TwoDates {
 public:
     explicit TwoDates(bool errorFocus, bool errorAlert = false)
@@ -17,12 +19,12 @@ public:
     {
         for (Site* const site : {&first, &second}) {
             makeDate(*site, u"1_/__/____");
-            site->automation().put(u"Error_ForeColor", number(static_cast<std::int32_t>(wrongColour)));
-            site->automation().put(u"ForeColor_GotFocus", number(0x00008000));
-            site->automation().put(u"ErrorFocus", truth(errorFocus));
-            site->automation().put(u"ErrorAlert", truth(errorAlert));
-            site->automation().put(u"ErrorMsgCustom", truth(errorAlert && errorFocus));
-            site->automation().put(u"ErrorTextMessage", text(u"Corrija a data"));
+            site->automation().set({{u"Error_ForeColor", static_cast<std::int32_t>(wrongColour)},
+                                    {u"ForeColor_GotFocus", 0x00008000},
+                                    {u"ErrorFocus", errorFocus},
+                                    {u"ErrorAlert", errorAlert},
+                                    {u"ErrorMsgCustom", errorAlert && errorFocus},
+                                    {u"ErrorTextMessage", u"Corrija a data"}});
         }
     }
 
@@ -31,8 +33,22 @@ public:
         form.focus(site);
         settle(form);
         ASSERT_EQ(GetFocus(), site.edit());
+        clearLogs();
+    }
+    void clearLogs()
+    {
         first.log.clear();
         second.log.clear();
+    }
+    [[nodiscard]] HWND at(Place place) const
+    {
+        const HWND windows[] = {before, first.edit(), second.edit(), after};
+        return windows[place];
+    }
+    [[nodiscard]] Site* fieldAt(Place place) const
+    {
+        Site* const fields[] = {nullptr, &first, &second, nullptr};
+        return fields[place];
     }
 
     Form form;
@@ -49,56 +65,36 @@ private:
     }
 };
 
+using Go = void (*)(TwoDates&, HWND to);
+
 struct Move {
     const char* how;
-    Site& (*from)(TwoDates&);
-    HWND (*to)(TwoDates&);
-    void (*go)(TwoDates&);
+    Place from;
+    Place to;
+    Go go;
 };
 
-Site& firstOf(TwoDates& dates)
-{
-    return dates.first;
-}
-Site& secondOf(TwoDates& dates)
-{
-    return dates.second;
-}
-HWND firstEdit(TwoDates& dates)
-{
-    return dates.first.edit();
-}
-HWND secondEdit(TwoDates& dates)
-{
-    return dates.second.edit();
-}
+constexpr Go byTab = [](TwoDates& dates, HWND) { strike(dates.form, VK_TAB); };
+constexpr Go byShiftTab = [](TwoDates& dates, HWND) { strike(dates.form, VK_TAB, VK_SHIFT); };
+constexpr Go byClick = [](TwoDates& dates, HWND to) { clickAt(dates.form, to, {20, 8}); };
+constexpr Go byProgram = [](TwoDates& dates, HWND to) {
+    SetFocus(to);
+    settle(dates.form);
+};
+constexpr Go byActivation = [](TwoDates& dates, HWND) {
+    dates.second.activateInterface();
+    settle(dates.form);
+};
 
 const Move moves[] = {
-    {"Tab to the other field", firstOf, secondEdit, [](TwoDates& dates) { strike(dates.form, VK_TAB); }},
-    {"Shift+Tab to the other field", secondOf, firstEdit,
-     [](TwoDates& dates) { strike(dates.form, VK_TAB, VK_SHIFT); }},
-    {"Tab to a plain control", secondOf, [](TwoDates& dates) { return dates.after; },
-     [](TwoDates& dates) { strike(dates.form, VK_TAB); }},
-    {"Shift+Tab to a plain control", firstOf, [](TwoDates& dates) { return dates.before; },
-     [](TwoDates& dates) { strike(dates.form, VK_TAB, VK_SHIFT); }},
-    {"a click on the other field", firstOf, secondEdit,
-     [](TwoDates& dates) {
-         clickAt(dates.form, dates.second.edit(), {20, 8});
-     }},
-    {"a click on a plain control", firstOf, [](TwoDates& dates) { return dates.after; },
-     [](TwoDates& dates) {
-         clickAt(dates.form, dates.after, {20, 8});
-     }},
-    {"the program's own move", secondOf, firstEdit,
-     [](TwoDates& dates) {
-         SetFocus(dates.first.edit());
-         settle(dates.form);
-     }},
-    {"the host activating the other field", firstOf, secondEdit,
-     [](TwoDates& dates) {
-         dates.second.activateInterface();
-         settle(dates.form);
-     }},
+    {"Tab to the other field", firstField, secondField, byTab},
+    {"Shift+Tab to the other field", secondField, firstField, byShiftTab},
+    {"Tab to a plain control", secondField, boxAfter, byTab},
+    {"Shift+Tab to a plain control", firstField, buttonBefore, byShiftTab},
+    {"a click on the other field", firstField, secondField, byClick},
+    {"a click on a plain control", firstField, boxAfter, byClick},
+    {"the program's own move", secondField, firstField, byProgram},
+    {"the host activating the other field", firstField, secondField, byActivation},
 };
 
 BOOL CALLBACK countBalloon(HWND window, LPARAM count)
@@ -116,44 +112,32 @@ int balloons()
     return shown;
 }
 
-Site* fieldOf(TwoDates& dates, HWND edit)
+void expectKept(TwoDates& dates, const Move& move)
 {
-    for (Site* const site : {&dates.first, &dates.second})
-        if (site->edit() == edit)
-            return site;
-    return nullptr;
-}
-
-void expectKept(TwoDates& dates, Site& own, HWND target)
-{
+    const Site& own = *dates.fieldAt(move.from);
     EXPECT_TRUE(until(dates.form, [&] { return GetFocus() == own.edit(); }));
     settle(dates.form);
-    EXPECT_EQ(FocusPath::windows(), (std::vector<HWND>{target, own.edit()})) << "there and back, once";
+    EXPECT_EQ(FocusPath::windows(), (std::vector<HWND>{dates.at(move.to), own.edit()})) << "there and back, once";
     EXPECT_EQ(own.count("OnFocus 1"), 1) << "entered again";
     EXPECT_EQ(own.count("OnFocus 0"), 0);
     EXPECT_EQ(coloursOf(own).fore, wrongColour);
     EXPECT_EQ(GetCapture(), nullptr);
-    if (const Site* const visited = fieldOf(dates, target)) {
+    if (const Site* const visited = dates.fieldAt(move.to)) {
         EXPECT_EQ(visited->count("OnFocus 1") + visited->count("OnFocus 0"), 0) << "neither entered nor left";
     }
 }
 
-void expectLetGo(TwoDates& dates, Site& own, HWND target)
+void expectLetGo(TwoDates& dates, const Move& move)
 {
+    const HWND target = dates.at(move.to);
     EXPECT_TRUE(until(dates.form, [&] { return GetFocus() == target; }));
     settle(dates.form);
     EXPECT_EQ(FocusPath::windows(), std::vector<HWND>{target});
-    EXPECT_EQ(own.count("OnFocus 0"), 1);
-    if (const Site* const entered = fieldOf(dates, target)) {
+    EXPECT_EQ(dates.fieldAt(move.from)->count("OnFocus 0"), 1);
+    if (const Site* const entered = dates.fieldAt(move.to)) {
         EXPECT_EQ(entered->count("OnFocus 1"), 1);
         EXPECT_EQ(entered->count("OnFocus 0"), 0);
     }
-}
-
-void clearLogs(TwoDates& dates)
-{
-    dates.first.log.clear();
-    dates.second.log.clear();
 }
 
 TEST(Focus, AWrongEntryKeepsItOnceAndTheOtherFieldSeesNothing)
@@ -164,25 +148,21 @@ TEST(Focus, AWrongEntryKeepsItOnceAndTheOtherFieldSeesNothing)
             SCOPED_TRACE(std::string(move.how) + (errorFocus ? ", ErrorFocus" : ""));
             const LeakCheck leaks;
             TwoDates dates(errorFocus);
-            Site& own = move.from(dates);
-            dates.enter(own);
-            const HWND target = move.to(dates);
-            Site* const other = fieldOf(dates, target);
+            dates.enter(*dates.fieldAt(move.from));
+            const Site* const other = dates.fieldAt(move.to);
             const COLORREF otherBefore = other ? coloursOf(*other).fore : 0;
-            {
+            for (const bool again : {false, true}) {
+                dates.clearLogs();
                 const FocusPath path;
-                move.go(dates);
-                expectKept(dates, own, target);
+                move.go(dates, dates.at(move.to));
+                if (again && !errorFocus) {
+                    expectLetGo(dates, move);
+                    continue;
+                }
+                expectKept(dates, move);
+                EXPECT_EQ(other ? coloursOf(*other).fore : 0, otherBefore);
+                EXPECT_EQ(shownBy(dates.at(move.from)), u"1_/__/____");
             }
-            EXPECT_EQ(other ? coloursOf(*other).fore : 0, otherBefore);
-            EXPECT_EQ(shownBy(own.edit()), u"1_/__/____");
-            clearLogs(dates);
-            const FocusPath path;
-            move.go(dates);
-            if (errorFocus)
-                expectKept(dates, own, target);
-            else
-                expectLetGo(dates, own, target);
         }
     EXPECT_TRUE(AnsweredBoxes::texts().empty());
 }
@@ -194,7 +174,6 @@ TEST(Focus, TwoWrongFieldsDoNotPassItToAndFro)
     TwoDates dates(false);
     dates.enter(dates.first);
     const FocusPath path;
-    std::vector<HWND> expected;
     for (const HWND next : {dates.first.edit(), dates.second.edit(), dates.second.edit(), dates.after}) {
         strike(dates.form, VK_TAB);
         EXPECT_TRUE(until(dates.form, [&] { return GetFocus() == next; }));

@@ -1,7 +1,5 @@
-// The property pages through a frame of the tests and through the system's: shown, changed, applied.
+// The property pages one by one, and all of them in the system's own frame.
 #include "shown_page.h"
-
-#include "tests/windows/usage.h"
 
 #include <commctrl.h>
 
@@ -26,27 +24,6 @@ TEST(Pages, EachIsShownWithItsTitleAndFitsItsSize)
         EXPECT_EQ(shown.page->IsPageDirty(), S_FALSE);
         EXPECT_NE(GetWindow(shown.window(), GW_CHILD), nullptr);
     }
-}
-
-TEST(Pages, AChangeIsReportedAndAppliedToTheFirstControlOnly)
-{
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> first = create();
-    const ComPtr<IUnknown> second = create();
-    Automation(first.get()).put(u"IF_IsEmpty", text(u"vazio um"));
-    Automation(second.get()).put(u"IF_IsEmpty", text(u"vazio dois"));
-    const ShownPage shown(activex::geralPage, {first.get(), second.get()});
-    const HWND box = shown.find(L"EDIT", L"vazio um");
-    ASSERT_NE(box, nullptr) << "loaded from the first control";
-    EXPECT_EQ(shown.page->IsPageDirty(), S_FALSE);
-    ShownPage::type(box, L'n');
-    EXPECT_EQ(shown.page->IsPageDirty(), S_OK);
-    EXPECT_EQ(shown.frame->status, static_cast<DWORD>(PROPPAGESTATUS_DIRTY));
-    EXPECT_EQ(Automation(first.get()).textOf(u"IF_IsEmpty"), u"vazio um") << "not before it is applied";
-    EXPECT_EQ(shown.page->Apply(), S_OK);
-    EXPECT_EQ(shown.page->IsPageDirty(), S_FALSE);
-    EXPECT_EQ(Automation(first.get()).textOf(u"IF_IsEmpty"), u"n");
-    EXPECT_EQ(Automation(second.get()).textOf(u"IF_IsEmpty"), u"vazio dois");
 }
 
 // The system's own frame has every page; it is looked through and cancelled from a timer.
@@ -91,19 +68,6 @@ TEST(Pages, TheSystemsFrameShowsThemAll)
         S_OK);
     EXPECT_EQ(FrameVisit::tabs, 5);
     EXPECT_EQ(FrameVisit::shown, 5);
-}
-
-TEST(Pages, OpenedAndClosedManyTimes)
-{
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
-    const auto once = [&](int round) { const ShownPage shown(allPages[round % 5], {control.get()}); };
-    for (int round = 0; round < 10; ++round)
-        once(round);
-    const Usage before;
-    for (int round = 0; round < 50; ++round)
-        once(round);
-    expectFlat(before, Usage(), 512 * 1024);
 }
 
 } // namespace

@@ -71,32 +71,22 @@ ComPtr<IUnknown> configured()
 {
     ComPtr<IUnknown> control = create();
     const Automation field(control.get());
-    const std::pair<const char16_t*, Variant (*)()> puts[] = {
-        {u"AceitaNegativos", [] { return truth(true); }},
-        {u"Alignment", [] { return number(1); }},
-        {u"AutoSelect", [] { return truth(false); }},
-        {u"BackColorLostFocus", [] { return number(0x00C0FFC0); }},
-        {u"BorderStyle", [] { return number(2); }},
-        {u"CaractLiberados", [] { return text(u"a\u00E7\u00E3o"); }},
-        {u"DateFormat", [] { return text(u"dd/mm/yy"); }},
-        {u"Delimitador03", [] { return text(u"#"); }},
-        {u"EnterAsTab", [] { return truth(true); }},
-        {u"Error_ForeColor", [] { return number(0x00123456); }},
-        {u"FontBold", [] { return truth(true); }},
-        {u"FontSize", [] { return number(11); }},
-        {u"FontUnderline", [] { return truth(true); }},
-        {u"Mask", [] { return text(u"__-__"); }},
-        {u"NomeCampo", [] { return text(u"Pre\u00E7o"); }},
-        {u"PasswordChar", [] { return text(u"*"); }},
-        {u"QtdCasasDec", [] { return number(3); }},
-        {u"SimbolDecExib", [] { return number(2); }},
-        {u"ToolTipGotFocusTipo", [] { return number(2); }},
-        {u"UpTAB", [] { return truth(false); }},
-        {u"Calendar_Selected", [] { return number(0x0000FF00); }},
-        {u"Text", [] { return text(u"segredo"); }},
-    };
-    for (const auto& [name, value] : puts)
-        EXPECT_EQ(field.put(name, value()).result, S_OK) << Bstr(name).get();
+    field.set({{u"AceitaNegativos", true},
+               {u"Alignment", 1},
+               {u"AutoSelect", false},
+               {u"BackColorLostFocus", 0x00C0FFC0},
+               {u"BorderStyle", 2},
+               {u"CaractLiberados", u"a\u00E7\u00E3o"},
+               {u"DateFormat", u"dd/mm/yy"},
+               {u"Delimitador03", u"#"},
+               {u"FontBold", true},
+               {u"FontSize", 11},
+               {u"FontUnderline", true},
+               {u"Mask", u"__-__"},
+               {u"PasswordChar", u"*"},
+               {u"QtdCasasDec", 3},
+               {u"Calendar_Selected", 0x0000FF00},
+               {u"Text", u"segredo"}});
     return control;
 }
 

@@ -158,6 +158,19 @@ HWND buttonOf(const Site& site)
     return FindWindowExW(site.window(), nullptr, L"Button", nullptr);
 }
 
+HWND openPopup(Form& form, const Site& site)
+{
+    clickAt(form, buttonOf(site), middleOf(buttonOf(site)));
+    return popupOf(form);
+}
+
+HWND popupOf(Form& form)
+{
+    EXPECT_TRUE(until(form, [&] { return GetActiveWindow() && GetActiveWindow() != form.window(); }));
+    settle(form);
+    return GetActiveWindow();
+}
+
 std::u16string shownBy(HWND window)
 {
     wchar_t shown[256]{};
@@ -167,10 +180,7 @@ std::u16string shownBy(HWND window)
 
 void makeDate(const Site& site, std::u16string_view shown)
 {
-    const Automation field = site.automation();
-    ASSERT_EQ(field.put(u"FormatoExibData", text(u"__/__/____")).result, S_OK);
-    ASSERT_EQ(field.put(u"DateFormat", text(u"dd/mm/yyyy")).result, S_OK);
-    ASSERT_EQ(field.put(u"TextType", number(2)).result, S_OK);
+    asDate(site.automation());
     SetWindowTextW(site.edit(), asWide(std::u16string(shown).c_str()));
 }
 

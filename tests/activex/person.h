@@ -33,6 +33,8 @@ struct SeenColours {
 [[nodiscard]] RECT clientOf(HWND window);
 [[nodiscard]] RECT placeIn(HWND window, HWND parent);
 [[nodiscard]] HWND buttonOf(const Site& site); // the field's own; null without one
+HWND openPopup(Form& form, const Site& site);  // by its button
+HWND popupOf(Form& form);                      // once it is up and active
 [[nodiscard]] std::u16string shownBy(HWND window);
 
 // A date field whose entry is no date.

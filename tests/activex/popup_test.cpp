@@ -10,52 +10,18 @@ namespace vela::test {
 
 namespace {
 
-constexpr std::int32_t wrongColour = 0x000000C8;
-
-void asDate(const Site& site)
-{
-    makeDate(site, u"__/__/____");
-    site.automation().put(u"ShowButtonCalendario", truth(true));
-    site.automation().put(u"Error_ForeColor", number(wrongColour));
-}
-
-void asNumber(const Site& site)
-{
-    const Automation field = site.automation();
-    field.put(u"TextType", number(1));
-    field.put(u"SimbolDecExib", number(2));
-    field.put(u"QtdCasasDec", number(2));
-    field.put(u"ShowButtonCalculadora", truth(true));
-}
-
 // A form with one field that has the focus and a neighbour.
 class Desk {
 public:
-    explicit Desk(void (*kind)(const Site&)) : site(form.addActive()), neighbour(form.addActive())
+    explicit Desk(Kind kind) : site(form.addActive()), neighbour(form.addActive())
     {
-        kind(site);
+        kind(site.automation());
         form.focus(site);
         settle(form);
         site.log.clear();
     }
 
-    // The pop-up's window once it is up and active.
-    HWND popup()
-    {
-        EXPECT_TRUE(until(form, [&] { return GetActiveWindow() && GetActiveWindow() != form.window(); }));
-        settle(form);
-        return GetActiveWindow();
-    }
-    HWND openByButton()
-    {
-        clickAt(form, buttonOf(site), middleOf(buttonOf(site)));
-        return popup();
-    }
-    HWND openByF2()
-    {
-        form.press(VK_F2);
-        return popup();
-    }
+    HWND open() { return openPopup(form, site); }
     void expectClosed(HWND window)
     {
         EXPECT_TRUE(until(form, [&] { return !IsWindow(window) || !IsWindowVisible(window); }));
@@ -86,18 +52,14 @@ TEST(Popup, AClickOnTheButtonOpensTheCalendarAndAClickOnADayWritesIt)
     const AnsweredBoxes boxes;
     const LeakCheck leaks;
     Desk desk(asDate);
-    desk.site.automation().put(u"Text", text(u"15/03/2024"));
-    desk.site.automation().put(u"ErrorAlert", truth(true));
+    desk.site.automation().set({{u"Text", u"15/03/2024"}, {u"ErrorAlert", true}});
     for (int round = 0; round < 2; ++round) {
-        const HWND calendar = desk.openByButton();
+        const HWND calendar = desk.open();
         ASSERT_NE(calendar, desk.form.window());
-        RECT place{};
-        RECT field{};
-        GetWindowRect(calendar, &place);
-        GetWindowRect(desk.site.window(), &field);
-        EXPECT_EQ(place.left, field.left);
-        EXPECT_EQ(place.top, field.bottom);
-        EXPECT_EQ(place.right - place.left, 184);
+        const RECT place = placeIn(calendar, desk.site.window());
+        EXPECT_EQ(place.left, 0);
+        EXPECT_EQ(place.top, clientOf(desk.site.window()).bottom);
+        EXPECT_EQ(place.right, 184);
         EXPECT_EQ(place.bottom - place.top, 167);
         desk.site.log.clear();
         clickAt(desk.form, calendar, dayAt(calendar, 41)); // the last cell: after the month's end
@@ -109,37 +71,40 @@ TEST(Popup, AClickOnTheButtonOpensTheCalendarAndAClickOnADayWritesIt)
     EXPECT_TRUE(AnsweredBoxes::texts().empty());
 }
 
-// A wrong entry: neither checked nor marked while its own calendar is up.
-TEST(Popup, OpeningIsNoLeaving)
-{
-    const LeakCheck leaks;
-    Desk desk(asDate);
-    desk.form.type(u"1");
-    const SeenColours entered = coloursOf(desk.site);
-    const HWND calendar = desk.openByButton();
-    EXPECT_EQ(coloursOf(desk.site), entered);
-    EXPECT_EQ(desk.site.count("OnFocus 0"), 0);
-    desk.form.press(VK_ESCAPE);
-    desk.expectClosed(calendar);
-    desk.expectBackInTheField();
-    EXPECT_EQ(shownBy(desk.site.edit()), u"1_/__/____");
-    EXPECT_EQ(coloursOf(desk.site), entered);
-}
-
-TEST(Popup, EscWritesNothing)
+// A wrong entry is neither checked nor marked while the field's own pop-up is up.
+TEST(Popup, OpeningIsNoLeavingAndEscWritesNothing)
 {
     for (const auto kind : {asDate, asNumber}) {
         const LeakCheck leaks;
         Desk desk(kind);
         desk.form.type(u"3");
         const std::u16string shown = shownBy(desk.site.edit());
-        const HWND popup = desk.openByButton();
+        const SeenColours entered = coloursOf(desk.site);
+        const HWND popup = desk.open();
+        EXPECT_EQ(coloursOf(desk.site), entered);
         desk.form.type(u"4");
         desk.form.press(VK_ESCAPE);
         desk.expectClosed(popup);
         desk.expectBackInTheField();
         EXPECT_EQ(shownBy(desk.site.edit()), shown);
+        EXPECT_EQ(coloursOf(desk.site), entered);
     }
+}
+
+TEST(Popup, KeysMoveTheDayAndEnterWritesIt)
+{
+    Desk desk(asDate);
+    desk.site.automation().put(u"Text", text(u"28/02/2024"));
+    const HWND calendar = desk.open();
+    SendMessageW(GetFocus(), CB_SHOWDROPDOWN, TRUE, 0);
+    desk.form.press(VK_DOWN);
+    desk.form.press(VK_RETURN); // closes the list of months, not the calendar, whose frame stands on 27 March now
+    ASSERT_TRUE(IsWindowVisible(calendar));
+    for (const WPARAM key : {VK_RIGHT, VK_NEXT, VK_RETURN})
+        desk.form.press(key);
+    desk.expectClosed(calendar);
+    desk.expectBackInTheField();
+    EXPECT_EQ(desk.site.automation().textOf(u"Text"), u"28/04/2024");
 }
 
 TEST(Popup, AnotherWindowInFrontClosesAndLeaves)
@@ -148,7 +113,7 @@ TEST(Popup, AnotherWindowInFrontClosesAndLeaves)
         const LeakCheck leaks;
         Desk desk(kind);
         const OtherWindow other;
-        const HWND popup = desk.openByButton();
+        const HWND popup = desk.open();
         SetForegroundWindow(other.window());
         desk.expectClosed(popup);
         EXPECT_TRUE(until(desk.form, [&] { return desk.site.count("OnFocus 0") == 1; })) << "left now";
@@ -164,7 +129,7 @@ TEST(Popup, AClickOnTheNeighbourClosesAndLeaves)
     for (const auto kind : {asDate, asNumber}) {
         const LeakCheck leaks;
         Desk desk(kind);
-        const HWND popup = desk.openByButton();
+        const HWND popup = desk.open();
         clickAt(desk.form, desk.neighbour.edit(), {195, 8}); // the pop-up covers the rest
         desk.expectClosed(popup);
         EXPECT_TRUE(until(desk.form, [&] { return GetFocus() == desk.neighbour.edit(); }));
@@ -175,46 +140,39 @@ TEST(Popup, AClickOnTheNeighbourClosesAndLeaves)
     }
 }
 
-TEST(Popup, F2CalculatesAndWrites)
-{
-    const LeakCheck leaks;
-    Desk desk(asNumber);
-    desk.form.type(u"12");
-    const HWND calculator = desk.openByF2();
-    ASSERT_NE(calculator, desk.form.window());
-    desk.form.type(u"0+7=");
-    desk.form.press(VK_F2);
-    desk.expectClosed(calculator);
-    desk.expectBackInTheField();
-    EXPECT_EQ(desk.site.automation().textOf(u"Text"), u"127");
-}
-
-TEST(Popup, TheCalculatorsKeysAreClicked)
+TEST(Popup, KeysAndClicksCalculateAndF2Writes)
 {
     const LeakCheck leaks;
     Desk desk(asNumber);
     desk.form.type(u"1");
-    const HWND calculator = desk.openByButton();
+    desk.form.press(VK_F2);
+    const HWND calculator = popupOf(desk.form);
+    ASSERT_NE(calculator, desk.form.window());
     namespace widget = popups::calculator_widget;
-    for (const platform::WidgetId id : {widget::number(4), widget::operation(1), widget::number(2), widget::equals}) {
+    const auto click = [&](platform::WidgetId id) {
         const HWND key = GetDlgItem(calculator, 100 + id.value);
-        ASSERT_NE(key, nullptr);
         clickAt(desk.form, key, middleOf(key));
-    }
+    };
+    desk.form.type(u"2+");
+    click(widget::number(4));
+    click(widget::decimal);
+    desk.form.type(u"7"); // goes nowhere: the point has the focus
+    click(widget::number(5));
+    desk.form.type(u"1"); // 12 + 4.51
+    click(widget::equals);
     desk.form.press(VK_F2);
     desk.expectClosed(calculator);
     desk.expectBackInTheField();
-    EXPECT_EQ(desk.site.automation().textOf(u"Text"), u"16");
+    EXPECT_EQ(desk.site.automation().textOf(u"Text"), u"16,51");
 }
 
 TEST(Popup, OneIsOpenForTheFieldThatAskedLast)
 {
     const LeakCheck leaks;
     Desk desk(asDate);
-    asDate(desk.neighbour);
-    const HWND first = desk.openByButton();
-    clickAt(desk.form, buttonOf(desk.neighbour), middleOf(buttonOf(desk.neighbour)));
-    const HWND second = desk.popup();
+    asDate(desk.neighbour.automation());
+    const HWND first = desk.open();
+    const HWND second = openPopup(desk.form, desk.neighbour);
     if (second != first)
         desk.expectClosed(first);
     clickAt(desk.form, second, dayAt(second, 20));
@@ -247,7 +205,7 @@ TEST(Popup, GoesWithItsFieldAndItsForm)
             const AnsweredBoxes boxes;
             const LeakCheck leaks;
             Desk desk(kind);
-            const HWND popup = desk.openByButton();
+            const HWND popup = desk.open();
             end.act(desk);
             desk.expectClosed(popup);
             settle(desk.form);
@@ -263,7 +221,7 @@ TEST(Popup, TheHostMayDestroyInsideTheWrite)
         const AnsweredBoxes boxes;
         const LeakCheck leaks;
         Desk desk(asDate);
-        const HWND calendar = desk.openByButton();
+        const HWND calendar = desk.open();
         bool done = false;
         desk.site.onEvent = [&](DISPID id, DISPPARAMS&) {
             if (id == 1 && !std::exchange(done, true))

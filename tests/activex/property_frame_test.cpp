@@ -1,5 +1,5 @@
 // The demonstration's property frame on live controls: all five pages, Apply, OK and Cancel.
-#include "container.h"
+#include "shown_page.h"
 
 #include "apps/demo/property_frame.h"
 #include "tests/windows/usage.h"
@@ -15,28 +15,6 @@ namespace {
 constexpr WPARAM applyButton = 101;
 constexpr std::size_t geralPage = 1;
 
-HWND boxShowing(HWND frame, const wchar_t* text)
-{
-    struct Search {
-        const wchar_t* text;
-        HWND found;
-    } search{text, nullptr};
-    struct Look {
-        static BOOL CALLBACK at(HWND window, LPARAM given)
-        {
-            auto& wanted = *reinterpret_cast<Search*>(given);
-            wchar_t shown[64]{};
-            GetWindowTextW(window, shown, 64);
-            if (lstrcmpW(shown, wanted.text) != 0)
-                return TRUE;
-            wanted.found = window;
-            return FALSE;
-        }
-    };
-    EnumChildWindows(frame, Look::at, reinterpret_cast<LPARAM>(&search));
-    return search.found;
-}
-
 class TwoControls {
 public:
     TwoControls()
@@ -47,12 +25,9 @@ public:
         opened = frame.open(selected, L"dois campos");
         frame.select(geralPage);
     }
-    void type(const wchar_t* over, wchar_t letter)
+    void type(std::u16string_view over, wchar_t letter)
     {
-        const HWND box = boxShowing(frame.window(), over);
-        ASSERT_NE(box, nullptr);
-        SendMessageW(box, EM_SETSEL, 0, -1);
-        SendMessageW(box, WM_CHAR, letter, 1);
+        typeOver(childShowing(frame.window(), over, L"Edit"), letter);
     }
     void press(WPARAM button)
     {
@@ -75,14 +50,14 @@ TEST(PropertyFrame, ApplyAndOkWriteTheFirstControlOnly)
     ASSERT_TRUE(on.opened);
     EXPECT_EQ(on.frame.pageCount(), 5U);
     EXPECT_FALSE(on.frame.canApply());
-    on.type(L"vazio um", L'n');
+    on.type(u"vazio um", L'n');
     EXPECT_TRUE(on.frame.canApply());
     EXPECT_EQ(on.ofFirst(), u"vazio um");
     on.press(applyButton);
     EXPECT_EQ(on.ofFirst(), u"n");
     EXPECT_FALSE(on.frame.canApply());
     EXPECT_NE(on.frame.window(), nullptr);
-    on.type(L"n", L'o');
+    on.type(u"n", L'o');
     on.press(IDOK);
     EXPECT_EQ(on.ofFirst(), u"o");
     EXPECT_EQ(on.ofSecond(), u"vazio dois");
@@ -94,7 +69,7 @@ TEST(PropertyFrame, CancelWritesNothing)
     const LeakCheck leaks;
     TwoControls on;
     ASSERT_TRUE(on.opened);
-    on.type(L"vazio um", L'n');
+    on.type(u"vazio um", L'n');
     on.press(IDCANCEL);
     EXPECT_EQ(on.ofFirst(), u"vazio um");
     EXPECT_EQ(on.frame.window(), nullptr);

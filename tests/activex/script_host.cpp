@@ -4,6 +4,8 @@
 
 #include "automation.h"
 
+#include "apps/demo/event_sink.h"
+
 #include <activscp.h>
 
 #include <string>
@@ -49,16 +51,13 @@ public:
     HRESULT STDMETHODCALLTYPE OnLeaveScript() override { return S_OK; }
 };
 
-class ScriptSink final : public ComObject<IDispatch> {
+class ScriptSink final : public Dispatch {
 public:
     ScriptSink(IDispatch* script, ITypeInfo* events, std::wstring prefix)
         : script_(ComPtr<IDispatch>::share(script)), events_(ComPtr<ITypeInfo>::share(events)),
           prefix_(std::move(prefix))
     {
     }
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* given, VARIANT*, EXCEPINFO* info,
                                      UINT*) override
     {
@@ -106,20 +105,11 @@ struct ScriptHost::State {
 
     void connect(IUnknown* object, const wchar_t* name)
     {
-        ComPtr<ITypeInfo> classInfo;
-        ComPtr<ITypeInfo> events;
-        HREFTYPE reference = 0;
-        const auto provider = ComPtr<IProvideClassInfo2>::from(object);
-        GUID source{};
-        if (!provider || FAILED(provider->GetClassInfo(classInfo.put())) ||
-            FAILED(classInfo->GetRefTypeOfImplType(1, &reference)) ||
-            FAILED(classInfo->GetRefTypeInfo(reference, events.put())) ||
-            FAILED(provider->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &source)))
-            return;
+        IID source{};
+        const auto events = demo::sourceTypeInfo(object, source);
         const auto container = ComPtr<IConnectionPointContainer>::from(object);
-        if (FAILED(container->FindConnectionPoint(source, point.put())))
-            return;
-        running = SUCCEEDED(point->Advise(make<ScriptSink>(script.get(), events.get(), name).get(), &cookie));
+        if (events && SUCCEEDED(container->FindConnectionPoint(source, point.put())))
+            running = SUCCEEDED(point->Advise(make<ScriptSink>(script.get(), events.Get(), name).get(), &cookie));
     }
 };
 

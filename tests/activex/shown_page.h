@@ -1,7 +1,7 @@
 // A property page in a window of the tests, driven as a frame drives it.
 #pragma once
 
-#include "container.h"
+#include "person.h"
 
 #include "activex/guids.h"
 
@@ -18,7 +18,6 @@ namespace vela::test {
 class PageFrame final : public ComObject<IPropertyPageSite> {
 public:
     DWORD status = 0;
-    int keys = 0;
     std::function<void()> onStatus; // inside the next change of the status
     HRESULT STDMETHODCALLTYPE OnStatusChange(DWORD flags) override
     {
@@ -33,12 +32,30 @@ public:
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetPageContainer(IUnknown**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG*) override
-    {
-        ++keys;
-        return S_FALSE;
-    }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG*) override { return S_FALSE; }
 };
+
+// The window inside another, at any depth, that shows this text.
+[[nodiscard]] inline HWND childShowing(HWND parent, std::u16string_view text, const wchar_t* windowClass)
+{
+    for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        wchar_t name[64]{};
+        GetClassNameW(child, name, 64);
+        if (lstrcmpiW(name, windowClass) == 0 && shownBy(child) == text)
+            return child;
+        if (const HWND inner = childShowing(child, text, windowClass))
+            return inner;
+    }
+    return nullptr;
+}
+
+// Types over what stands in a box, as a person does.
+inline void typeOver(HWND box, wchar_t letter)
+{
+    ASSERT_NE(box, nullptr);
+    SendMessageW(box, EM_SETSEL, 0, -1);
+    SendMessageW(box, WM_CHAR, letter, 1);
+}
 
 // One page in a window, as a frame drives it.
 class ShownPage {
@@ -80,18 +97,9 @@ public:
         page.reset();
     }
     [[nodiscard]] HRESULT select(IUnknown* object) const { return page->SetObjects(1, &object); }
-    // Types over what stands in a box, as a person does.
-    static void type(HWND box, wchar_t letter)
+    [[nodiscard]] HWND find(const wchar_t* windowClass, std::u16string_view text) const
     {
-        SendMessageW(box, EM_SETSEL, 0, -1);
-        SendMessageW(box, WM_CHAR, letter, 1);
-    }
-    // The child window that shows this text, anywhere in the page.
-    [[nodiscard]] HWND find(const wchar_t* windowClass, const wchar_t* text) const
-    {
-        Search search{windowClass, text, nullptr};
-        EnumChildWindows(window_, look, reinterpret_cast<LPARAM>(&search));
-        return search.found;
+        return childShowing(window_, text, windowClass);
     }
     [[nodiscard]] HWND window() const { return window_; }
 
@@ -101,23 +109,6 @@ public:
     std::wstring title;
 
 private:
-    struct Search {
-        const wchar_t* windowClass;
-        const wchar_t* text;
-        HWND found;
-    };
-    static BOOL CALLBACK look(HWND window, LPARAM given)
-    {
-        auto& search = *reinterpret_cast<Search*>(given);
-        wchar_t name[64]{};
-        wchar_t text[128]{};
-        GetClassNameW(window, name, 64);
-        GetWindowTextW(window, text, 128);
-        if (lstrcmpiW(name, search.windowClass) != 0 || lstrcmpW(text, search.text) != 0)
-            return TRUE;
-        search.found = window;
-        return FALSE;
-    }
     HWND window_;
 };
 

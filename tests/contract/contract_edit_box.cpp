@@ -122,16 +122,6 @@ TEST_F(EditBoxContract, TraitsAreKeptAndTextAndSelectionOutliveThem)
     EXPECT_TRUE(log.empty());
 }
 
-TEST_F(EditBoxContract, ColoursAreKeptOfALockedBoxToo)
-{
-    EditTraits traits;
-    traits.locked = true;
-    box().putTraits(traits);
-    const platform::EditColours colours{engine::Colour{0x000000FF}, engine::Colour{0x80000005}};
-    box().putColours(colours);
-    EXPECT_EQ(box().colours(), colours);
-}
-
 TEST_P(TypingContract, AKeyIsDownPressChangeUp)
 {
     stage->type(u"a");
@@ -222,29 +212,6 @@ TEST_P(TypingContract, AHandlerOfChangeMayPutTheTextAndTheCaret)
     EXPECT_EQ(box().selection(), (Selection{0, 2}));
     first.during("changed", [this] { stage->destroyField(0); });
     stage->type(u"4");
-}
-
-TEST_F(EditBoxContract, AFilterMayDoTheTypingItself)
-{
-    EditTraits traits = box().traits();
-    traits.locked = true;
-    box().putTraits(traits);
-    box().putText(u"__/__");
-    stage->focus(0);
-    first.filter = [this](int& key) {
-        const int caret = box().selection().start;
-        std::u16string mask = text();
-        mask[static_cast<std::size_t>(caret)] = static_cast<char16_t>(key);
-        box().putText(mask);
-        box().select({caret + 1, 0});
-        key = 0;
-    };
-    box().select({0, 0});
-    log.clear();
-    stage->type(u"31");
-    EXPECT_EQ(text(), u"31/__");
-    EXPECT_EQ(box().selection(), (Selection{2, 0}));
-    EXPECT_EQ(count("A changed"), 2);
 }
 
 TEST_F(EditBoxContract, ClipboardAndHistoryAreTheFieldsOwn)

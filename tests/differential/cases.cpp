@@ -4,6 +4,7 @@
 #include "engine/conversions.h"
 #include "engine/error.h"
 #include "engine/pattern.h"
+#include "tests/differential/system_library.h"
 
 #include <cmath>
 #include <cstdio>
@@ -12,12 +13,6 @@ namespace vela::differential {
 namespace {
 
 constexpr double tolerance = 1e-14;
-
-template <typename T>
-Outcome outcomeOf(const Answer<T>& answer)
-{
-    return answer.value ? Outcome(*answer.value) : Outcome(answer.refusal);
-}
 
 Refusal refusalOf(int number)
 {
@@ -102,22 +97,6 @@ Outcome engineOutcome(const Request& request)
     }
 }
 
-Outcome systemOutcome(const Case& asked)
-{
-    switch (asked.question) {
-    case Question::readNumber: return outcomeOf(systemDouble(asked.text, asked.language));
-    case Question::readCurrency: return outcomeOf(systemCurrency(asked.text, asked.language));
-    case Question::readDate: return outcomeOf(systemDate(asked.text, asked.language));
-    case Question::writeNumber: return outcomeOf(systemNumberText(asked.number, asked.language));
-    case Question::writeDate: return outcomeOf(systemDateText(asked.number, asked.language));
-    case Question::formatNumber: return outcomeOf(systemFormatNumber(asked.number, asked.pattern, asked.language));
-    case Question::formatDate: return outcomeOf(systemFormatDate(asked.number, asked.pattern, asked.language));
-    case Question::formatText: return outcomeOf(systemFormatText(asked.text, asked.pattern, asked.language));
-    case Question::fixedDecimals: return outcomeOf(systemFixed(asked.number, asked.decimals));
-    }
-    return Refusal::other;
-}
-
 bool agree(const Outcome& ours, const Outcome& theirs)
 {
     const double* const ourNumber = std::get_if<double>(&ours);
@@ -149,15 +128,12 @@ std::string describe(const Case& asked)
 
 std::string describe(const Outcome& outcome)
 {
-    if (const auto* text = std::get_if<std::u16string>(&outcome)) {
+    if (const auto* text = std::get_if<std::u16string>(&outcome))
         return '"' + utf8(*text) + '"';
-    }
-    if (const auto* number = std::get_if<double>(&outcome)) {
+    if (const auto* number = std::get_if<double>(&outcome))
         return exact(*number);
-    }
-    if (const auto* currency = std::get_if<long long>(&outcome)) {
+    if (const auto* currency = std::get_if<long long>(&outcome))
         return std::to_string(*currency);
-    }
     switch (std::get<Refusal>(outcome)) {
     case Refusal::typeMismatch: return "type mismatch";
     case Refusal::overflow: return "overflow";

@@ -15,6 +15,7 @@ public:
 
 private:
     [[nodiscard]] int below(int limit);
+    [[nodiscard]] const std::u16string& oneOf(const std::vector<std::u16string>& texts);
     [[nodiscard]] double number();
     [[nodiscard]] double serial();
     [[nodiscard]] std::u16string textFrom(std::u16string_view alphabet, int most);

@@ -21,7 +21,6 @@ struct KnownDifference {
 
 [[nodiscard]] std::span<const KnownDifference> dateDifferences();
 [[nodiscard]] std::span<const KnownDifference> numberDifferences();
-[[nodiscard]] std::span<const KnownDifference> knownDifferences();
 
 // The fewest known differences, at most five, that together explain the library's answer; none when it is unlisted.
 [[nodiscard]] std::vector<const KnownDifference*> explain(const Case& asked, const Outcome& theirs);

@@ -58,115 +58,21 @@ bool opensWithoutMarks(const Request& request, const Outcome&)
 void laterSectionsAreLiterals(Request& request)
 {
     const auto plain = plainCharacters(request.asked.pattern);
-    for (auto character = plain.rbegin(); character != plain.rend() && character->section > 0; ++character) {
+    for (auto character = plain.rbegin(); character != plain.rend() && character->section > 0; ++character)
         request.asked.pattern.insert(character->position, u"\\");
-    }
-}
-
-// --- commas ---
-
-bool divides(const Request& request, const Outcome&)
-{
-    const auto pattern = compiled(request);
-    return isNumberPattern(request) &&
-           std::ranges::any_of(pattern.sections, [](const engine::Section& section) { return section.thousands > 0; });
-}
-
-// One of the zeros of "e+00".
-bool isExponentZero(std::span<const PlainCharacter> plain, std::size_t at)
-{
-    while (at > 0 && plain[at].unit == u'0') {
-        --at;
-    }
-    return at > 0 && (plain[at].unit == u'+' || plain[at].unit == u'-') && (plain[at - 1].unit | 0x20) == u'e' &&
-           plain[at - 1].position + 1 == plain[at].position;
-}
-
-// The commas of one section that divide, last first.
-std::vector<std::size_t> dividingCommas(std::span<const PlainCharacter> plain)
-{
-    std::vector<std::size_t> result, pending;
-    bool marks = false, decimal = false;
-    const auto settle = [&] {
-        result.insert(result.end(), pending.begin(), pending.end());
-        pending.clear();
-    };
-    for (std::size_t i = 0; i < plain.size(); ++i) {
-        const PlainCharacter character = plain[i];
-        if (isDigitMark(character.unit) && marks && isExponentZero(plain, i)) {
-            continue;
-        }
-        if (isDigitMark(character.unit)) {
-            pending.clear();
-            marks = true;
-        } else if (character.unit == u'.' && !decimal) {
-            settle();
-            decimal = marks = true;
-        } else if (character.unit == u',' && (marks || character.section > 0)) {
-            pending.push_back(character.position);
-        }
-    }
-    settle();
-    std::ranges::reverse(result);
-    return result;
-}
-
-// Grouping without another mark where there are two, with a first "#" where there is one (with an exponent one mark is
-// one digit).
-void group(std::u16string& pattern, std::span<const PlainCharacter> plain, bool exponent)
-{
-    std::size_t first = 0, count = 0;
-    for (std::size_t i = 0; i < plain.size() && plain[i].unit != u'.'; ++i) {
-        if (isDigitMark(plain[i].unit) && !(exponent && isExponentZero(plain, i)) && ++count == 1) {
-            first = plain[i].position;
-        }
-    }
-    if (count == 1 && !exponent) {
-        pattern.insert(first, u"#,");
-    } else if (count > 1) {
-        pattern.insert(first + 1, u",");
-    }
-}
-
-void commasOnlyGroup(Request& request)
-{
-    const auto all = plainCharacters(request.asked.pattern);
-    const auto sections = compiled(request).sections;
-    for (std::size_t section = 4; section-- > 0;) {
-        std::vector<PlainCharacter> plain;
-        std::ranges::copy_if(all, std::back_inserter(plain),
-                             [&](const PlainCharacter character) { return character.section == section; });
-        const auto commas = dividingCommas(plain);
-        for (const std::size_t position : commas) {
-            request.asked.pattern.replace(position, 1, u"\"\"");
-        }
-        if (!commas.empty()) {
-            std::erase_if(plain, [&](const PlainCharacter character) {
-                return std::ranges::find(commas, character.position) != commas.end();
-            });
-            for (PlainCharacter& character : plain) {
-                character.position += static_cast<std::size_t>(
-                    std::ranges::count_if(commas, [&](std::size_t position) { return position < character.position; }));
-            }
-            group(request.asked.pattern, plain, sections[section].exponent);
-        }
-    }
 }
 
 // --- percent ---
 
 bool percentStandsFirst(const Request& request, const Outcome&)
 {
-    if (!isNumberPattern(request)) {
+    if (!isNumberPattern(request))
         return false;
-    }
     for (const PlainCharacter plain : plainCharacters(request.asked.pattern)) {
-        if (plain.section > 0 || isDigitMark(plain.unit) || plain.unit == u'.') {
+        if (plain.section > 0 || isDigitMark(plain.unit) || plain.unit == u'.')
             return false;
-        }
-        if (plain.unit == u'%') {
+        if (plain.unit == u'%')
             return true;
-        }
     }
     return false;
 }
@@ -175,12 +81,10 @@ void firstPercentsAreLiterals(Request& request)
 {
     std::size_t inserted = 0;
     for (const PlainCharacter plain : plainCharacters(request.asked.pattern)) {
-        if (plain.section > 0 || isDigitMark(plain.unit) || plain.unit == u'.') {
+        if (plain.section > 0 || isDigitMark(plain.unit) || plain.unit == u'.')
             return;
-        }
-        if (plain.unit == u'%') {
+        if (plain.unit == u'%')
             request.asked.pattern.insert(plain.position + inserted++, u"\\");
-        }
     }
 }
 
@@ -188,14 +92,13 @@ void firstPercentsAreLiterals(Request& request)
 
 double scaled(const Request& request, const engine::Section& section)
 {
-    return std::fabs(*formattedNumber(request)) * (section.percent ? 100 : 1) * std::pow(1000.0, -section.thousands);
+    return std::fabs(*formattedNumber(request)) * (section.percent ? 100 : 1);
 }
 
 bool roundsUpFromNothing(const Request& request, const Outcome&)
 {
-    if (!isNumberPattern(request) || !formattedNumber(request)) {
+    if (!isNumberPattern(request) || !formattedNumber(request))
         return false;
-    }
     const engine::Section section = sectionOf(compiled(request), *formattedNumber(request));
     const double value = scaled(request, section);
     return !section.exponent && section.fraction == 0 && value < 1 && value >= 0.4999999;
@@ -209,9 +112,8 @@ void roundsDown(Request& request)
 
 bool losesWholeDigits(const Request& request, const Outcome&)
 {
-    if (!isNumberPattern(request) || !formattedNumber(request)) {
+    if (!isNumberPattern(request) || !formattedNumber(request))
         return false;
-    }
     const engine::Section section = sectionOf(compiled(request), *formattedNumber(request));
     return section.whole == 0 && section.decimal && !section.exponent && scaled(request, section) >= 0.5;
 }
@@ -219,16 +121,14 @@ bool losesWholeDigits(const Request& request, const Outcome&)
 // "0#" with 680, "0##" with 0: a last "#" has only a zero left to write.
 bool losesLastZero(const Request& request, const Outcome&)
 {
-    if (!isNumberPattern(request) || !formattedNumber(request)) {
+    if (!isNumberPattern(request) || !formattedNumber(request))
         return false;
-    }
     const auto pattern = compiled(request);
     const engine::Section section = sectionOf(pattern, *formattedNumber(request));
     const engine::Token* last = nullptr;
     for (const engine::Token& token : pattern.tokensOf(section)) {
-        if (token.mark == Mark::decimal) {
+        if (token.mark == Mark::decimal)
             break;
-        }
         last = token.mark == Mark::zero || token.mark == Mark::hash ? &token : last;
     }
     return last != nullptr && last->mark == Mark::hash && section.whole > 1 &&
@@ -238,18 +138,16 @@ bool losesLastZero(const Request& request, const Outcome&)
 // A literal behind an exponent or a half mark extends the literal in front of it, into the marks between.
 bool literalsRunTogether(const Request& request, const Outcome&)
 {
-    if (!formats(request)) {
+    if (!formats(request))
         return false;
-    }
     const auto pattern = compiled(request);
     bool literalBefore = false, markBetween = false;
     for (const engine::Token& token : pattern.tokens) {
         const bool harmful =
             token.mark == Mark::exponent || (token.mark >= Mark::halfOfLocale && token.mark <= Mark::letterLower);
         if (token.mark == Mark::literal) {
-            if (literalBefore && markBetween) {
+            if (literalBefore && markBetween)
                 return true;
-            }
             literalBefore = true;
             markBetween = false;
         } else if (harmful) {
@@ -270,9 +168,8 @@ bool isZeroWithExponent(const Request& request, const Outcome&)
 
 bool writesExponentWithPoint(const Request& request, const Outcome&)
 {
-    if (!isPortuguese(request)) {
+    if (!isPortuguese(request))
         return false;
-    }
     const bool writes = asks(request, Question::writeNumber) ||
                         (asks(request, Question::formatNumber) &&
                          (isKind(request, PatternKind::general) || isKind(request, PatternKind::text)));
@@ -335,9 +232,8 @@ bool isCurrencyThroughDouble(const Request& request, const Outcome& theirs)
     const Outcome ours = engineOutcome(request);
     const auto* const own = std::get_if<long long>(&ours);
     if (own != nullptr && std::fabs(static_cast<double>(*own)) > 9.2233720368547e18 &&
-        isRefusal(theirs, Refusal::overflow)) {
+        isRefusal(theirs, Refusal::overflow))
         return true;
-    }
     return asks(request, Question::readCurrency) && amount != nullptr && own != nullptr &&
            std::fabs(static_cast<double>(*amount - *own)) <= 1 + std::fabs(static_cast<double>(*own)) * 1e-15;
 }
@@ -378,9 +274,8 @@ bool isCurrencyFormat(const Request& request, const Outcome&)
 
 bool isBeyondFixed(const Request& request, const Outcome& theirs)
 {
-    if (!asks(request, Question::fixedDecimals)) {
+    if (!asks(request, Question::fixedDecimals))
         return false;
-    }
     const bool exponent = engine::numberToText(request.asked.number, request.locale).find(u'E') != std::u16string::npos;
     return (exponent && isRefusal(theirs, Refusal::typeMismatch)) ||
            (request.asked.decimals > 9 && isRefusal(theirs, Refusal::invalidArgument));
@@ -390,9 +285,8 @@ bool isBeyondFixed(const Request& request, const Outcome& theirs)
 void isNoNumber(Request& request)
 {
     request.asked.pattern.clear();
-    if (readsNumber(request)) {
+    if (readsNumber(request))
         request.asked.text = u"no number";
-    }
 }
 
 constexpr KnownDifference differences[] = {
@@ -400,7 +294,6 @@ constexpr KnownDifference differences[] = {
      readsBackExponentWithPoint, pointIsGrouping},
     {"first section without marks", "each section has its own; the library takes the others for literals",
      opensWithoutMarks, laterSectionsAreLiterals},
-    {"trailing comma", "documented to divide by 1000; the library only groups", divides, commasOnlyGroup},
     {"percent before the digits", "documented to multiply by 100 wherever it stands", percentStandsFirst,
      firstPercentsAreLiterals},
     {"sign before literals", "documented: in front of the whole; the library writes it at the first digit mark",

@@ -2,6 +2,7 @@
 #include "tests/differential/requests.h"
 
 #include "engine/conversions.h"
+#include "tests/differential/system_library.h"
 
 #include <algorithm>
 
@@ -47,9 +48,8 @@ bool isKind(const Request& request, engine::PatternKind kind)
 
 int countMarks(const Request& request, Mark first, Mark last)
 {
-    if (!formats(request)) {
+    if (!formats(request))
         return 0;
-    }
     const auto pattern = compiled(request);
     return static_cast<int>(std::ranges::count_if(
         pattern.tokens, [&](const engine::Token& token) { return token.mark >= first && token.mark <= last; }));
@@ -74,12 +74,10 @@ bool isRefusal(const Outcome& outcome, Refusal refusal)
 std::optional<double> formattedNumber(const Request& request)
 {
     if (isKind(request, engine::PatternKind::number) || isKind(request, engine::PatternKind::unknown)) {
-        if (asks(request, Question::formatNumber)) {
+        if (asks(request, Question::formatNumber))
             return request.asked.number;
-        }
-        if (asks(request, Question::formatText)) {
+        if (asks(request, Question::formatText))
             return engine::tryParseDouble(request.asked.text, request.locale);
-        }
     }
     return std::nullopt;
 }
@@ -98,9 +96,8 @@ void setNumber(Request& request, double number)
 
 std::optional<engine::Moment> formattedMoment(const Request& request)
 {
-    if (!isKind(request, engine::PatternKind::date)) {
+    if (!isKind(request, engine::PatternKind::date))
         return std::nullopt;
-    }
     if (asks(request, Question::formatText)) {
         const auto date = engine::tryParseDate(request.asked.text, request.locale, {systemToday()});
         const auto number = engine::tryParseDouble(request.asked.text, request.locale);

@@ -49,23 +49,15 @@ Refusal refusalOf(HRESULT result)
     }
 }
 
-template <typename T, typename U>
-Answer<T> answer(HRESULT result, const U& value)
+template <typename T>
+Outcome outcome(HRESULT result, const T& value)
 {
-    return SUCCEEDED(result) ? Answer<T>{value, Refusal::none} : Answer<T>{std::nullopt, refusalOf(result)};
+    return SUCCEEDED(result) ? Outcome(value) : Outcome(refusalOf(result));
 }
 
-Answer<std::u16string> formatVariant(VARIANT& value, const std::u16string& pattern, Language language)
+Outcome outcome(HRESULT result, const Text& text)
 {
-    const Text patternText(pattern);
-    std::array<BYTE, 512> tokens{};
-    HRESULT result = VarTokenizeFormatString(patternText.get(), tokens.data(), static_cast<int>(tokens.size()), 0, 0,
-                                             localeOf(language), nullptr);
-    Text text;
-    if (SUCCEEDED(result)) {
-        result = VarFormatFromTokens(&value, patternText.get(), tokens.data(), 0, text.put(), localeOf(language));
-    }
-    return answer<std::u16string>(result, text.string());
+    return outcome(result, text.string());
 }
 
 VARIANT variantOf(double number, VARTYPE type)
@@ -77,69 +69,45 @@ VARIANT variantOf(double number, VARTYPE type)
     return value;
 }
 
+Outcome formatted(VARIANT value, const Case& asked)
+{
+    const LCID locale = localeOf(asked.language);
+    const Text pattern(asked.pattern);
+    std::array<BYTE, 512> tokens{};
+    HRESULT result =
+        VarTokenizeFormatString(pattern.get(), tokens.data(), static_cast<int>(tokens.size()), 0, 0, locale, nullptr);
+    Text written;
+    if (SUCCEEDED(result))
+        result = VarFormatFromTokens(&value, pattern.get(), tokens.data(), 0, written.put(), locale);
+    return outcome(result, written);
+}
+
 } // namespace
 
-Answer<double> systemDouble(const std::u16string& text, Language language)
+Outcome systemOutcome(const Case& asked)
 {
+    const LCID locale = localeOf(asked.language);
+    const Text text(asked.text);
+    VARIANT value = variantOf(asked.number, asked.question == Question::formatDate ? VT_DATE : VT_R8);
+    Text written;
     double number = 0;
-    return answer<double>(VarR8FromStr(Text(text).get(), localeOf(language), 0, &number), number);
-}
-
-Answer<long long> systemCurrency(const std::u16string& text, Language language)
-{
     CY currency{};
-    const HRESULT result = VarCyFromStr(Text(text).get(), localeOf(language), 0, &currency);
-    return answer<long long>(result, currency.int64);
-}
-
-Answer<double> systemDate(const std::u16string& text, Language language)
-{
-    double serial = 0;
-    return answer<double>(VarDateFromStr(Text(text).get(), localeOf(language), 0, &serial), serial);
-}
-
-Answer<std::u16string> systemNumberText(double number, Language language)
-{
-    Text text;
-    const HRESULT result = VarBstrFromR8(number, localeOf(language), 0, text.put());
-    return answer<std::u16string>(result, text.string());
-}
-
-Answer<std::u16string> systemDateText(double serial, Language language)
-{
-    Text text;
-    const HRESULT result = VarBstrFromDate(serial, localeOf(language), 0, text.put());
-    return answer<std::u16string>(result, text.string());
-}
-
-Answer<std::u16string> systemFormatNumber(double number, const std::u16string& pattern, Language language)
-{
-    VARIANT value = variantOf(number, VT_R8);
-    return formatVariant(value, pattern, language);
-}
-
-Answer<std::u16string> systemFormatDate(double serial, const std::u16string& pattern, Language language)
-{
-    VARIANT value = variantOf(serial, VT_DATE);
-    return formatVariant(value, pattern, language);
-}
-
-Answer<std::u16string> systemFormatText(const std::u16string& text, const std::u16string& pattern, Language language)
-{
-    const Text held(text);
-    VARIANT value;
-    VariantInit(&value);
-    value.vt = VT_BSTR;
-    value.bstrVal = held.get();
-    return formatVariant(value, pattern, language);
-}
-
-Answer<std::u16string> systemFixed(double number, int decimals)
-{
-    VARIANT value = variantOf(number, VT_R8);
-    Text text;
-    const HRESULT result = VarFormatNumber(&value, decimals, -2, -2, 0, 0, text.put());
-    return answer<std::u16string>(result, text.string());
+    switch (asked.question) {
+    case Question::readNumber: return outcome(VarR8FromStr(text.get(), locale, 0, &number), number);
+    case Question::readCurrency: return outcome(VarCyFromStr(text.get(), locale, 0, &currency), currency.int64);
+    case Question::readDate: return outcome(VarDateFromStr(text.get(), locale, 0, &number), number);
+    case Question::writeNumber: return outcome(VarBstrFromR8(asked.number, locale, 0, written.put()), written);
+    case Question::writeDate: return outcome(VarBstrFromDate(asked.number, locale, 0, written.put()), written);
+    case Question::formatNumber:
+    case Question::formatDate: return formatted(value, asked);
+    case Question::formatText:
+        value.vt = VT_BSTR;
+        value.bstrVal = text.get();
+        return formatted(value, asked);
+    case Question::fixedDecimals:
+        return outcome(VarFormatNumber(&value, asked.decimals, -2, -2, 0, 0, written.put()), written);
+    }
+    return Refusal::other;
 }
 
 bool userIsPortuguese()

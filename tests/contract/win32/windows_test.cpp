@@ -1,15 +1,10 @@
-// What only real windows have: the EDIT itself, colours asked for by it, tooltip records, borrowed focus, clean exits.
-#include "tests/contract/recorder.h"
-#include "tests/contract/stage.h"
+// What only real windows have: the EDIT itself, colours asked for by it, tooltip records, windows that go, names for
+// readers.
+#include "tests/contract/form_case.h"
 
 #include "platform/win32/control_surface.h"
-#include "platform/win32/desktop.h"
-#include "platform/win32/form.h"
 #include "platform/win32/owners.h"
 #include "platform/win32/tooltip_window.h"
-#include "tests/windows/usage.h"
-
-#include <gtest/gtest.h>
 
 #include <commctrl.h>
 #include <objbase.h>
@@ -17,11 +12,8 @@
 
 #include <oleacc.h>
 
-#include <algorithm>
 #include <array>
-#include <memory>
 #include <string>
-#include <vector>
 
 namespace vela::contract {
 namespace {
@@ -31,20 +23,9 @@ HWND windowOf(platform::WindowId id)
     return reinterpret_cast<HWND>(id.value);
 }
 
-bool boxSeen = false;
-
-void CALLBACK pressButtonOfBox(HWND, UINT, UINT_PTR, DWORD)
-{
-    if (const HWND box = FindWindowW(L"#32770", L"Vela")) {
-        boxSeen = true;
-        SendMessageW(box, WM_COMMAND, IDOK, 0);
-    }
-}
-
-// A form's events that nobody listens to.
-class Unheard : public platform::FormEvents {
-public:
-    void clicked(platform::WidgetId) override {}
+// Of a form's events only the last click is kept.
+struct Clicks final : platform::FormEvents {
+    void clicked(platform::WidgetId widget) override { last = widget; }
     void doubleClicked(platform::WidgetId) override {}
     void changed(platform::WidgetId) override {}
     void gotFocus(platform::WidgetId) override {}
@@ -55,47 +36,13 @@ public:
     void deactivated() override {}
     void tick() override {}
     void closed() override {}
+    platform::WidgetId last;
 };
 
-// A surface that hands the focus to its box and opens something at its button.
-class Opening final : public platform::SurfaceEvents {
-public:
-    Opening(Recorder& field, std::function<void()> open) : field_(field), open_(std::move(open)) {}
-    void surfaceGotFocus() override { field_.surfaceGotFocus(); }
-    void surfaceLostFocus() override {}
-    void resized() override {}
-    void buttonClicked() override { open_(); }
-    void hoverTick() override {}
-
-private:
-    Recorder& field_;
-    std::function<void()> open_;
-};
-
-class Windows : public testing::Test {
+class Windows : public FieldCase {
 protected:
-    Windows()
-    {
-        for (int index : {0, 1}) {
-            Recorder& recorder = index == 0 ? first : second;
-            recorder.box = &stage->field(index).activate(platform::EditBoxKind::singleLine);
-            stage->listen(index, recorder, recorder);
-            stage->field(index).arrange({.edit = {0, 0, 100, 21}, .button = {100, 0, 21, 21}});
-        }
-    }
-    [[nodiscard]] HWND edit(int index = 0) { return windowOf((index == 0 ? first : second).box->window()); }
-    [[nodiscard]] HWND surface(int index = 0) { return windowOf(stage->field(index).window()); }
-    [[nodiscard]] std::u16string text()
-    {
-        std::u16string read;
-        first.box->text(read);
-        return read;
-    }
-
-    std::vector<std::string> log;
-    std::unique_ptr<Stage> stage = Stage::make();
-    Recorder first{log, "A"};
-    Recorder second{log, "B"};
+    [[nodiscard]] HWND edit() { return windowOf(box().window()); }
+    [[nodiscard]] HWND surface() { return windowOf(stage->field(0).window()); }
 };
 
 TEST_F(Windows, TheBoxIsAnEditThatOthersMayWriteTo)
@@ -109,7 +56,7 @@ TEST_F(Windows, TheBoxIsAnEditThatOthersMayWriteTo)
     SendMessageW(edit(), EM_SETSEL, 0, 2);
     SendMessageW(edit(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"De"));
     EXPECT_EQ(text(), u"De fora");
-    EXPECT_EQ(log, (std::vector<std::string>{"A changed", "A changed"}));
+    EXPECT_EQ(log, (Log{"A changed", "A changed"}));
 }
 
 TEST_F(Windows, AWindowShowsWhatWasTypedToWhoeverLooksBeforeItIsLaidOut)
@@ -126,8 +73,8 @@ TEST_F(Windows, AWindowShowsWhatWasTypedToWhoeverLooksBeforeItIsLaidOut)
         if (text() == u"0,012") {
             EXPECT_EQ(shown(), L"0,012");
             EXPECT_EQ(SendMessageW(edit(), EM_GETSEL, 0, 0), MAKELRESULT(5, 5));
-            first.box->putText(u"0,12");
-            first.box->select({4, 0});
+            box().putText(u"0,12");
+            box().select({4, 0});
         }
     });
     stage->type(u"2");
@@ -139,8 +86,8 @@ TEST_F(Windows, ALockedBoxIsReadOnlyInItsOwnColours)
 {
     platform::EditTraits traits;
     traits.locked = true;
-    first.box->putTraits(traits);
-    first.box->putColours({engine::Colour{0x000000FF}, engine::Colour{0x00C0FFC0}});
+    box().putTraits(traits);
+    box().putColours({engine::Colour{0x000000FF}, engine::Colour{0x00C0FFC0}});
     EXPECT_TRUE(GetWindowLongPtrW(edit(), GWL_STYLE) & ES_READONLY);
     const win32::WindowDc dc(edit());
     const auto brush = reinterpret_cast<HBRUSH>(SendMessageW(
@@ -157,7 +104,7 @@ TEST_F(Windows, AlignmentAndPasswordAreRealStyles)
     traits.passwordChar = u'#';
     stage->focus(0);
     log.clear();
-    first.box->putTraits(traits);
+    box().putTraits(traits);
     EXPECT_TRUE(GetWindowLongPtrW(edit(), GWL_STYLE) & ES_RIGHT);
     EXPECT_EQ(SendMessageW(edit(), EM_GETPASSWORDCHAR, 0, 0), '#');
     EXPECT_EQ(GetFocus(), edit());
@@ -167,93 +114,23 @@ TEST_F(Windows, AlignmentAndPasswordAreRealStyles)
 TEST_F(Windows, StateOutlivesTheWindows)
 {
     auto& field = static_cast<win32::ControlSurface&>(stage->field(0));
-    first.box->putText(u"fica");
-    first.box->select({1, 2});
+    box().putText(u"fica");
+    box().select({1, 2});
     const HWND form = GetParent(field.handle());
     DestroyWindow(field.handle()); // as a host does with its form
-    EXPECT_FALSE(first.box->window());
+    EXPECT_FALSE(box().window());
     EXPECT_EQ(text(), u"fica");
-    first.box->insert(u"OR");
+    box().insert(u"OR");
     EXPECT_EQ(text(), u"fORa");
     field.create(form, {8, 8, 129, 29});
     EXPECT_EQ(text(), u"fORa");
-    EXPECT_EQ(first.box->selection(), (platform::Selection{3, 0}));
-}
-
-TEST_F(Windows, ThePopUpOfAFieldBorrowsTheFocus)
-{
-    struct Quiet final : Unheard {
-        void deactivated() override { form->close(); }
-        void closed() override { ++closings; }
-        std::unique_ptr<platform::Form> form;
-        int closings = 0;
-    } events;
-    static constexpr std::array<platform::WidgetRow, 1> rows{
-        {{.kind = platform::WidgetKind::button, .name = u"b", .caption = u"b", .place = {0, 0, 600, 300}}}};
-    static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
-    Opening opening{first, [&] {
-                        events.form = stage->forms().make(layout, events);
-                        events.form->showPopup({200, 200, 110, 109}, stage->field(0).window());
-                    }};
-    platform::SurfaceLook look = stage->field(0).look();
-    look.button = true;
-    stage->field(0).putLook(look);
-    stage->listen(0, first, opening);
-    stage->focus(0);
-    log.clear();
-    stage->clickButton(0);
-    EXPECT_EQ(GetActiveWindow(), windowOf(events.form->window()));
-    EXPECT_TRUE(log.empty());
-    events.form->close();
-    stage->settle();
-    EXPECT_EQ(GetFocus(), edit());
-    EXPECT_TRUE(log.empty());
-    stage->clickButton(0);
-    stage->focus(1); // elsewhere on the form: now the field is left, and the pop-up closes
-    EXPECT_EQ(log, (std::vector<std::string>{"A lost", "B got"}));
-    EXPECT_EQ(events.closings, 2);
-}
-
-TEST_F(Windows, AFieldThatIsLeftForAnotherFormDoesNotHoldIt)
-{
-    stage->focus(0);
-    first.during("lost", [this] { first.box->takeFocus(); });
-    const win32::UniqueWindow other(CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 400, 400, 50, 50, nullptr,
-                                                    nullptr, GetModuleHandleW(nullptr), nullptr));
-    SetActiveWindow(other.get());
-    SetFocus(other.get());
-    stage->settle();
-    EXPECT_EQ(GetFocus(), other.get());
-    EXPECT_EQ(std::ranges::count(log, "A lost"), 1);
-}
-
-TEST_F(Windows, ABoxAskedForWhileTheFocusMovesIsShownAfterwards)
-{
-    stage->focus(0);
-    bool openedInside = false;
-    first.during("lost", [&] {
-        stage->environment().desktop.messageBox(platform::BoxIcon::information, platform::BoxButtons::ok, u"Vela",
-                                                u"depois");
-        openedInside = FindWindowW(L"#32770", L"Vela") != nullptr;
-    });
-    // The box's own loop runs inside settle(); a timer of the thread presses its button.
-    boxSeen = false;
-    const UINT_PTR timer = SetTimer(nullptr, 0, 20, pressButtonOfBox);
-    stage->focus(1);
-    for (int i = 0; i < 50 && !boxSeen; ++i)
-        stage->settle();
-    KillTimer(nullptr, timer);
-    EXPECT_TRUE(boxSeen);
-    EXPECT_FALSE(openedInside);
-    EXPECT_EQ(GetFocus(), edit(1));
-    EXPECT_EQ(std::ranges::count(log, "B got"), 1);
-    EXPECT_EQ(std::ranges::count(log, "B lost"), 0);
+    EXPECT_EQ(box().selection(), (platform::Selection{3, 0}));
 }
 
 TEST_F(Windows, TheTooltipsRecordReachesTheControl)
 {
     win32::TooltipWindow tip;
-    ASSERT_TRUE(tip.create(first.box->window()));
+    ASSERT_TRUE(tip.create(box().window()));
     tip.addTool(u"Preço é 10");
     tip.setTextColour(engine::Colour{0x000000FF});
     tip.setBackColour(engine::Colour{0x80000005});
@@ -280,10 +157,7 @@ TEST_F(Windows, TheTooltipsRecordReachesTheControl)
 
 TEST_F(Windows, AReaderHearsThePaintedLabels)
 {
-    struct Silent final : Unheard {
-        void clicked(platform::WidgetId widget) override { last = widget; }
-        platform::WidgetId last;
-    } events;
+    Clicks events;
     static constexpr std::array<platform::WidgetRow, 2> rows{
         {{.kind = platform::WidgetKind::label, .name = u"a", .caption = u"&Nome", .place = {0, 0, 600, 300}},
          {.kind = platform::WidgetKind::label, .name = u"b", .caption = u"31", .place = {0, 600, 600, 300}}}};
@@ -327,27 +201,6 @@ TEST_F(Windows, AReaderHearsThePaintedLabels)
         reader->Release();
     }
     CoUninitialize();
-}
-
-TEST_F(Windows, ManyFieldsLeaveNothingBehind)
-{
-    const HWND form = GetParent(surface());
-    const auto round = [form](int fields) {
-        for (int i = 0; i < fields; ++i) {
-            win32::ControlSurface field;
-            platform::SurfaceLook look;
-            look.button = true;
-            field.putLook(look);
-            field.arrange({.edit = {0, 0, 100, 21}, .button = {100, 0, 21, 21}, .cornerRadius = 4});
-            field.create(form, {0, 100, 121, 121});
-            field.edit().putText(u"texto");
-        }
-    };
-    round(20); // fonts, classes
-    const test::Usage before;
-    round(200);
-    test::expectFlat(before, test::Usage(), 512 * 1024);
-    EXPECT_EQ(FindWindowExW(form, nullptr, L"VelaControl", nullptr), surface(0));
 }
 
 } // namespace
