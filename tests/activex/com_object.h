@@ -6,7 +6,7 @@
 #include <ocidl.h>
 
 #include <atomic>
-#include <tuple>
+#include <utility>
 
 namespace vela::test {
 
@@ -72,5 +72,30 @@ ComPtr<Object> make(Arguments&&... arguments)
 {
     return ComPtr<Object>::adopt(new Object(std::forward<Arguments>(arguments)...));
 }
+
+// A sink at one of an object's connection points, while this lives.
+class Connection {
+public:
+    Connection() = default;
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    ~Connection() { close(); }
+
+    bool open(IUnknown* source, REFIID events, IUnknown* sink)
+    {
+        const auto container = ComPtr<IConnectionPointContainer>::from(source);
+        return container && SUCCEEDED(container->FindConnectionPoint(events, point_.put())) &&
+               SUCCEEDED(point_->Advise(sink, &cookie_));
+    }
+    HRESULT close()
+    {
+        const auto point = std::exchange(point_, {});
+        return point ? point->Unadvise(cookie_) : S_FALSE;
+    }
+
+private:
+    ComPtr<IConnectionPoint> point_;
+    DWORD cookie_ = 0;
+};
 
 } // namespace vela::test

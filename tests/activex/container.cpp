@@ -35,14 +35,6 @@ private:
     Site& site_;
 };
 
-ComPtr<IConnectionPoint> pointOf(IUnknown* control, REFIID iid)
-{
-    ComPtr<IConnectionPoint> point;
-    if (const auto container = ComPtr<IConnectionPointContainer>::from(control))
-        container->FindConnectionPoint(iid, point.put());
-    return point;
-}
-
 } // namespace
 
 HRESULT Site::note(std::string word)
@@ -74,32 +66,13 @@ void Site::hold(ComPtr<IUnknown> control)
     if (options_.initialise) {
         ASSERT_EQ(as<IPersistStreamInit>()->InitNew(), S_OK);
     }
-    if (options_.connectEvents)
-        connect();
-}
-
-void Site::connect()
-{
+    if (!options_.connectEvents)
+        return;
     IID source{};
     if (const auto info = as<IProvideClassInfo2>())
         info->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &source);
-    events_ = pointOf(control_.get(), source);
-    if (events_)
-        events_->Advise(make<EventSink>(*this).get(), &eventCookie_);
-    properties_ = pointOf(control_.get(), IID_IPropertyNotifySink);
-    if (properties_)
-        properties_->Advise(static_cast<IPropertyNotifySink*>(this), &propertyCookie_);
-}
-
-void Site::disconnect()
-{
-    if (events_ && eventCookie_)
-        events_->Unadvise(eventCookie_);
-    if (properties_ && propertyCookie_)
-        properties_->Unadvise(propertyCookie_);
-    eventCookie_ = propertyCookie_ = 0;
-    events_.reset();
-    properties_.reset();
+    events_.open(control_.get(), source, make<EventSink>(*this).get());
+    properties_.open(control_.get(), IID_IPropertyNotifySink, static_cast<IPropertyNotifySink*>(this));
 }
 
 HRESULT Site::activate(RECT place)
@@ -116,7 +89,8 @@ HRESULT Site::activateBy(LONG verb)
 void Site::close()
 {
     const ComPtr<Site> alive = ComPtr<Site>::share(this);
-    disconnect();
+    events_.close();
+    properties_.close();
     if (const auto object = as<IOleObject>()) {
         object->Close(OLECLOSE_NOSAVE);
         object->SetClientSite(nullptr);

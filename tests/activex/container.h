@@ -104,16 +104,12 @@ protected:
 private:
     HRESULT note(std::string word);
     HRESULT activateBy(LONG verb);
-    void connect();
-    void disconnect();
 
     Form& form_;
     SiteOptions options_;
     ComPtr<IUnknown> control_;
-    ComPtr<IConnectionPoint> events_;
-    ComPtr<IConnectionPoint> properties_;
-    DWORD eventCookie_ = 0;
-    DWORD propertyCookie_ = 0;
+    Connection events_;
+    Connection properties_;
     RECT place_{};
 };
 

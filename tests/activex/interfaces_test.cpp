@@ -233,6 +233,7 @@ TEST(Interfaces, QuickActivationGivesBothSidesWhatTheyWant)
     ComPtr<IConnectionPoint> point;
     site.as<IConnectionPointContainer>()->FindConnectionPoint(IID_IPropertyNotifySink, point.put());
     EXPECT_EQ(point->Unadvise(control.dwPropNotifyCookie), S_OK);
+    EXPECT_EQ(point->Unadvise(control.dwPropNotifyCookie), CONNECT_E_NOCONNECTION);
     container.cbSize = 4;
     EXPECT_EQ(quick->QuickActivate(&container, &control), E_INVALIDARG);
 }

@@ -55,11 +55,6 @@ std::wstring libraryPath()
     return windowsPath("Vela.ocx");
 }
 
-std::wstring manifestPath()
-{
-    return windowsPath("Vela.ocx.manifest");
-}
-
 HRESULT callServer(const char* name)
 {
     const auto function = entry<HRESULT(STDAPICALLTYPE*)()>(name);

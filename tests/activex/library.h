@@ -11,7 +11,6 @@ namespace vela::test {
 
 // "Z:\...\build\win64\Vela.ocx"
 [[nodiscard]] std::wstring libraryPath();
-[[nodiscard]] std::wstring manifestPath();
 
 // An entry point of the library, called.
 HRESULT callServer(const char* name); // DllRegisterServer ...

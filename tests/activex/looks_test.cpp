@@ -166,25 +166,6 @@ TEST(Looks, DisabledIsGreyAndDeaf)
     EXPECT_GT(screen.inked(foreRest), 0);
 }
 
-TEST(Looks, RightAlignedStandsAtTheRight)
-{
-    const LeakCheck leaks;
-    Screen screen;
-    screen.site.automation().put(u"Text", text(u"MM"));
-    const auto inkedHalf = [&](bool right) {
-        RECT half = clientOf(screen.site.edit());
-        (right ? half.left : half.right) = half.right / 2;
-        settle(screen.form);
-        const int area = (half.right - half.left) * (half.bottom - half.top);
-        return pixelsOf(screen.site.edit(), backRest, half) < area;
-    };
-    EXPECT_TRUE(inkedHalf(false));
-    EXPECT_FALSE(inkedHalf(true));
-    screen.site.automation().put(u"Alignment", number(1));
-    EXPECT_FALSE(inkedHalf(false));
-    EXPECT_TRUE(inkedHalf(true));
-}
-
 TEST(Looks, SeveralLines)
 {
     const LeakCheck leaks;

@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 #include <olectl.h>
-#include <shlwapi.h>
 
 #include <cstring>
 #include <map>

@@ -149,23 +149,6 @@ void expectActivation()
     EXPECT_EQ(LoadRegTypeLib(activex::libraryId, 1, 0, 0, found.put()), S_OK);
 }
 
-TEST_F(Registration, WithoutARegistry)
-{
-    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
-    ASSERT_FALSE(create());
-    const std::wstring manifest = manifestPath();
-    ACTCTXW description{};
-    description.cbSize = sizeof description;
-    description.lpSource = manifest.c_str();
-    const HANDLE context = CreateActCtxW(&description);
-    ASSERT_NE(context, INVALID_HANDLE_VALUE) << GetLastError();
-    ULONG_PTR cookie = 0;
-    ASSERT_TRUE(ActivateActCtx(context, &cookie));
-    expectActivation();
-    DeactivateActCtx(0, cookie);
-    ReleaseActCtx(context);
-}
-
 // A program beside the library whose manifest names the library's as a dependency, as the manual tells.
 class DependentProgram {
 public:

@@ -99,17 +99,14 @@ struct ScriptHost::State {
     ComPtr<ScriptSite> site = make<ScriptSite>();
     ComPtr<IActiveScript> engine;
     ComPtr<IDispatch> script;
-    ComPtr<IConnectionPoint> point;
-    DWORD cookie = 0;
+    Connection events;
     bool running = false;
 
     void connect(IUnknown* object, const wchar_t* name)
     {
         IID source{};
-        const auto events = demo::sourceTypeInfo(object, source);
-        const auto container = ComPtr<IConnectionPointContainer>::from(object);
-        if (events && SUCCEEDED(container->FindConnectionPoint(source, point.put())))
-            running = SUCCEEDED(point->Advise(make<ScriptSink>(script.get(), events.Get(), name).get(), &cookie));
+        if (const auto description = demo::sourceTypeInfo(object, source))
+            running = events.open(object, source, make<ScriptSink>(script.get(), description.Get(), name).get());
     }
 };
 
@@ -135,8 +132,7 @@ ScriptHost::ScriptHost(std::wstring_view code, const wchar_t* name, IUnknown* ob
 
 ScriptHost::~ScriptHost()
 {
-    if (state_->point && state_->cookie)
-        state_->point->Unadvise(state_->cookie);
+    state_->events.close();
     state_->script.reset();
     if (state_->engine)
         state_->engine->Close();

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
+#include <set>
 
 namespace vela::test {
 
@@ -184,11 +184,10 @@ TEST(View, TheCalendarDrawsItsMonth)
     ASSERT_EQ(view->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, picture.dc(), &bounds, nullptr, nullptr, 0),
               S_OK);
     EXPECT_EQ(picture.count(Picture::background, {0, 0, 200, 200}), 0);
-    std::vector<DWORD> colours;
+    std::set<DWORD> colours;
     for (int x = 0; x < 200; ++x)
         for (int y = 0; y < 200; ++y)
-            if (std::find(colours.begin(), colours.end(), picture.at(x, y)) == colours.end())
-                colours.push_back(picture.at(x, y));
+            colours.insert(picture.at(x, y));
     EXPECT_GT(colours.size(), 3u) << "more than a plain panel";
 }
 

@@ -63,12 +63,6 @@ bool hasRun(const Request& request, std::u16string_view letters)
 
 // --- names ---
 
-bool usesShortNames(const Request& request, const Outcome&)
-{
-    return isPortuguese(request) &&
-           (hasMark(request, Mark::monthShort) || hasMark(request, Mark::dayShort) || readsDate(request));
-}
-
 void shortNamesWithPoints(Request& request)
 {
     for (auto& name : request.locale.shortMonths)
@@ -77,56 +71,11 @@ void shortNamesWithPoints(Request& request)
         name += u'.';
 }
 
-bool usesLongDate(const Request& request, const Outcome&)
-{
-    return isPortuguese(request) && (hasMark(request, Mark::longDate) || hasMark(request, Mark::mediumDate));
-}
-
-void quotesAreLiterals(Request& request)
-{
-    request.locale.longDate = u"dddd, d ''''d'e''' mmmm ''''d'e''' yyyy";
-}
-
-bool usesMediumDate(const Request& request, const Outcome&)
-{
-    return hasMark(request, Mark::mediumDate);
-}
-
 // --- letters ---
 
 int halves(const Request& request)
 {
     return countMarks(request, Mark::halfOfLocale, Mark::letterLower);
-}
-
-bool mixesHours(const Request& request, const Outcome&)
-{
-    const auto moment = formattedMoment(request);
-    return moment && halves(request) > 0 && (moment->time.hour == 0 || moment->time.hour > 12) &&
-           countMarks(request, Mark::hour, Mark::hourZero) > 0;
-}
-
-bool hasTwoHalves(const Request& request, const Outcome& theirs)
-{
-    return isDatePattern(request) && halves(request) > 1 && isRefusal(theirs, Refusal::invalidArgument);
-}
-
-bool hasLongRun(const Request& request, const Outcome&)
-{
-    return isDatePattern(request) && (hasRun(request, u"mmmmm") || hasRun(request, u"yyyyy"));
-}
-
-bool hasHalfAmongDigits(const Request& request, const Outcome&)
-{
-    return (isKind(request, PatternKind::number) || isKind(request, PatternKind::text)) &&
-           (hasRun(request, u"am/pm") || hasRun(request, u"ampm") || hasRun(request, u"a/p") ||
-            hasRun(request, u"ttttt"));
-}
-
-bool isLongTimeOfMidnight(const Request& request, const Outcome&)
-{
-    const auto moment = formattedMoment(request);
-    return moment && hasMark(request, Mark::longTime) && moment->time == engine::TimeOfDay{};
 }
 
 void noTimeAtMidnight(Request& request)
@@ -143,17 +92,6 @@ void noTimeAtMidnight(Request& request)
 
 // --- values of another kind ---
 
-bool isDateWithNumberPattern(const Request& request, const Outcome&)
-{
-    return asks(request, Question::formatDate) &&
-           (isKind(request, PatternKind::number) || compiled(request).named == NamedNumber::general);
-}
-
-bool isNumberTextWithDatePattern(const Request& request, const Outcome&)
-{
-    return asks(request, Question::formatText) && isDatePattern(request) && !isDateText(request);
-}
-
 void readsPlainNumber(Request& request)
 {
     std::string text(request.asked.text.begin(), request.asked.text.end());
@@ -169,34 +107,7 @@ void readsPlainNumber(Request& request)
     }
 }
 
-bool isDateTextWithNumberPattern(const Request& request, const Outcome&)
-{
-    return asks(request, Question::formatText) && !isDatePattern(request) && !isKind(request, PatternKind::text) &&
-           !isNumericText(request) && isDateText(request);
-}
-
-bool isEmptyTextWithDatePattern(const Request& request, const Outcome&)
-{
-    return asks(request, Question::formatText) && isDatePattern(request) && request.asked.text.empty();
-}
-
-void emptyIsDateZero(Request& request)
-{
-    request.asked.question = Question::formatDate;
-    request.asked.number = 0;
-}
-
-bool isTextWithGeneralNumber(const Request& request, const Outcome&)
-{
-    return asks(request, Question::formatText) && compiled(request).named == NamedNumber::general;
-}
-
 // --- reading ---
-
-bool hasTwoDigitYear(const Request& request, const Outcome&)
-{
-    return readsDate(request);
-}
 
 // A number that the library cuts to 16 bits.
 bool hasLongNumber(const Request& request, const Outcome&)
@@ -206,40 +117,13 @@ bool hasLongNumber(const Request& request, const Outcome&)
     return readsDate(request) && std::ranges::search_n(text, 5, true, {}, isDigit).begin() != text.end();
 }
 
-bool isPointedDate(const Request& request, const Outcome&)
-{
-    return readsDate(request) && std::ranges::count(request.asked.text, u'.') == 2 && isDateText(request);
-}
-
-bool isBeyondTheCalendar(const Request& request, const Outcome& theirs)
-{
-    return asks(request, Question::readDate) && isRefusal(theirs, Refusal::typeMismatch) &&
-           isRefusal(engineOutcome(request), Refusal::overflow);
-}
-
-bool isSerialBeyondTheCalendar(const Request& request, const Outcome& theirs)
-{
-    return isRefusal(theirs, Refusal::invalidArgument) && isRefusal(engineOutcome(request), Refusal::overflow) &&
-           !engine::momentOf({request.asked.number});
-}
-
 // --- "@" marks ---
-
-bool keepsLetters(const Request& request, const Outcome&)
-{
-    return isKind(request, PatternKind::text);
-}
 
 void smallLettersByDefault(Request& request)
 {
     const auto section = compiled(request).sections[0];
     if (!section.upper || section.lower)
         request.asked.pattern.insert(0, u"<");
-}
-
-bool fillsFromLeft(const Request& request, const Outcome&)
-{
-    return isKind(request, PatternKind::text) && compiled(request).sections[0].fromLeft;
 }
 
 void ignoresFillOrder(Request& request)
@@ -250,44 +134,114 @@ void ignoresFillOrder(Request& request)
             request.asked.pattern[plain.position] = upper ? u'>' : u'<';
 }
 
-bool hasAccents(const Request& request, const Outcome&)
-{
-    return isKind(request, PatternKind::text) &&
-           std::ranges::any_of(request.asked.text, [](char16_t unit) { return unit >= 0x80; });
-}
-
 constexpr KnownDifference differences[] = {
     {"two-digit years", "30 to 99 are 1930 to 1999 in the fixed locales; the system here turns at 2049",
-     hasTwoDigitYear, [](Request& request) { request.locale.twoDigitYearMax = 2049; }},
-    {"dates with points", "read when they cannot be times; the library refuses", isPointedDate, isNoDate},
-    {"years beyond the calendar", "an overflow; the library calls it a mismatch", isBeyondTheCalendar, isNoDate},
+     [](const Request& request, const Outcome&) { return readsDate(request); },
+     [](Request& request) { request.locale.twoDigitYearMax = 2049; }},
+    {"dates with points", "read when they cannot be times; the library refuses",
+     [](const Request& request, const Outcome&) {
+         return readsDate(request) && std::ranges::count(request.asked.text, u'.') == 2 && isDateText(request);
+     },
+     isNoDate},
+    {"years beyond the calendar", "an overflow; the library calls it a mismatch",
+     [](const Request& request, const Outcome& theirs) {
+         return asks(request, Question::readDate) && isRefusal(theirs, Refusal::typeMismatch) &&
+                isRefusal(engineOutcome(request), Refusal::overflow);
+     },
+     isNoDate},
     {"numbers beyond 16 bits", "no year; the library cuts them", hasLongNumber, nullptr},
-    {"date with a number pattern", "formats the serial; the library gives the general date", isDateWithNumberPattern,
+    {"date with a number pattern", "formats the serial; the library gives the general date",
+     [](const Request& request, const Outcome&) {
+         return asks(request, Question::formatDate) &&
+                (isKind(request, PatternKind::number) || compiled(request).named == NamedNumber::general);
+     },
      generalForm},
     {"number text with a date pattern", "read in the locale; the library reads it as program text",
-     isNumberTextWithDatePattern, readsPlainNumber},
-    {"date text with a number pattern", "the date's serial; the library leaves the text", isDateTextWithNumberPattern,
+     [](const Request& request, const Outcome&) {
+         return asks(request, Question::formatText) && isDatePattern(request) && !isDateText(request);
+     },
+     readsPlainNumber},
+    {"date text with a number pattern", "the date's serial; the library leaves the text",
+     [](const Request& request, const Outcome&) {
+         return asks(request, Question::formatText) && !isDatePattern(request) && !isKind(request, PatternKind::text) &&
+                !isNumericText(request) && isDateText(request);
+     },
      generalForm},
-    {"text as General Number", "read as a number or date; the library leaves the text", isTextWithGeneralNumber,
+    {"text as General Number", "read as a number or date; the library leaves the text",
+     [](const Request& request, const Outcome&) {
+         return asks(request, Question::formatText) && compiled(request).named == NamedNumber::general;
+     },
      generalForm},
     {"empty text with a date pattern", "no date, so unchanged; the library takes it for day zero",
-     isEmptyTextWithDatePattern, emptyIsDateZero},
-    {"long runs", "five m or y are four and one; the library takes another mark or refuses", hasLongRun, nullptr},
-    {"half marks among digits", "literals in a number pattern; the library takes them for a date's", hasHalfAmongDigits,
+     [](const Request& request, const Outcome&) {
+         return asks(request, Question::formatText) && isDatePattern(request) && request.asked.text.empty();
+     },
+     [](Request& request) {
+         request.asked.question = Question::formatDate;
+         request.asked.number = 0;
+     }},
+    {"long runs", "five m or y are four and one; the library takes another mark or refuses",
+     [](const Request& request, const Outcome&) {
+         return isDatePattern(request) && (hasRun(request, u"mmmmm") || hasRun(request, u"yyyyy"));
+     },
      nullptr},
-    {"two half marks", "the library corrupts the mark of the hour", hasTwoHalves, nullptr},
+    {"half marks among digits", "literals in a number pattern; the library takes them for a date's",
+     [](const Request& request, const Outcome&) {
+         return (isKind(request, PatternKind::number) || isKind(request, PatternKind::text)) &&
+                (hasRun(request, u"am/pm") || hasRun(request, u"ampm") || hasRun(request, u"a/p") ||
+                 hasRun(request, u"ttttt"));
+     },
+     nullptr},
+    {"two half marks", "the library corrupts the mark of the hour",
+     [](const Request& request, const Outcome& theirs) {
+         return isDatePattern(request) && halves(request) > 1 && isRefusal(theirs, Refusal::invalidArgument);
+     },
+     nullptr},
     {"hours with a half mark", "twelve hours in the whole pattern; the library changes one mark, and none for AM/PM",
-     mixesHours, nullptr},
-    {"medium date", "dd-mmm-yy; the library takes the long date", usesMediumDate, nullptr},
-    {"long date", "the library takes apostrophes and what is between them for letters of the date", usesLongDate,
-     quotesAreLiterals},
-    {"long time of midnight", "00:00:00; the library writes nothing", isLongTimeOfMidnight, noTimeAtMidnight},
-    {"short names", "without a point in the fixed locale", usesShortNames, shortNamesWithPoints},
-    {"serials beyond the calendar", "an overflow; the library calls it an invalid argument", isSerialBeyondTheCalendar,
+     [](const Request& request, const Outcome&) {
+         const auto moment = formattedMoment(request);
+         return moment && halves(request) > 0 && (moment->time.hour == 0 || moment->time.hour > 12) &&
+                countMarks(request, Mark::hour, Mark::hourZero) > 0;
+     },
      nullptr},
-    {"fill order", "\"!\" fills from the left; the library ignores it", fillsFromLeft, ignoresFillOrder},
-    {"letter case of accents", "mapped; the library knows the basic letters alone", hasAccents, nullptr},
-    {"letter case by default", "kept; the library writes small letters", keepsLetters, smallLettersByDefault},
+    {"medium date", "dd-mmm-yy; the library takes the long date",
+     [](const Request& request, const Outcome&) { return hasMark(request, Mark::mediumDate); }, nullptr},
+    {"long date", "the library takes apostrophes and what is between them for letters of the date",
+     [](const Request& request, const Outcome&) {
+         return isPortuguese(request) && (hasMark(request, Mark::longDate) || hasMark(request, Mark::mediumDate));
+     },
+     [](Request& request) { request.locale.longDate = u"dddd, d ''''d'e''' mmmm ''''d'e''' yyyy"; }},
+    {"long time of midnight", "00:00:00; the library writes nothing",
+     [](const Request& request, const Outcome&) {
+         const auto moment = formattedMoment(request);
+         return moment && hasMark(request, Mark::longTime) && moment->time == engine::TimeOfDay{};
+     },
+     noTimeAtMidnight},
+    {"short names", "without a point in the fixed locale",
+     [](const Request& request, const Outcome&) {
+         return isPortuguese(request) &&
+                (hasMark(request, Mark::monthShort) || hasMark(request, Mark::dayShort) || readsDate(request));
+     },
+     shortNamesWithPoints},
+    {"serials beyond the calendar", "an overflow; the library calls it an invalid argument",
+     [](const Request& request, const Outcome& theirs) {
+         return isRefusal(theirs, Refusal::invalidArgument) && isRefusal(engineOutcome(request), Refusal::overflow) &&
+                !engine::momentOf({request.asked.number});
+     },
+     nullptr},
+    {"fill order", "\"!\" fills from the left; the library ignores it",
+     [](const Request& request, const Outcome&) {
+         return isKind(request, PatternKind::text) && compiled(request).sections[0].fromLeft;
+     },
+     ignoresFillOrder},
+    {"letter case of accents", "mapped; the library knows the basic letters alone",
+     [](const Request& request, const Outcome&) {
+         return isKind(request, PatternKind::text) &&
+                std::ranges::any_of(request.asked.text, [](char16_t unit) { return unit >= 0x80; });
+     },
+     nullptr},
+    {"letter case by default", "kept; the library writes small letters",
+     [](const Request& request, const Outcome&) { return isKind(request, PatternKind::text); }, smallLettersByDefault},
 };
 
 } // namespace

@@ -29,13 +29,6 @@ constexpr bool isDigitMark(char16_t unit)
 
 // --- the sign ---
 
-bool writesSign(const Request& request, const Outcome&)
-{
-    const auto number = formattedNumber(request);
-    const auto pattern = compiled(request);
-    return number && *number < 0 && pattern.named == NamedNumber::none && !pattern.sections[1].written;
-}
-
 void signAtFirstMark(Request& request)
 {
     setNumber(request, -*formattedNumber(request));
@@ -48,12 +41,6 @@ void signAtFirstMark(Request& request)
 }
 
 // --- sections ---
-
-bool opensWithoutMarks(const Request& request, const Outcome&)
-{
-    const engine::Section first = compiled(request).sections[0];
-    return isNumberPattern(request) && first.whole == 0 && first.fraction == 0 && !first.decimal;
-}
 
 void laterSectionsAreLiterals(Request& request)
 {
@@ -159,11 +146,6 @@ bool literalsRunTogether(const Request& request, const Outcome&)
     return false;
 }
 
-bool isZeroWithExponent(const Request& request, const Outcome&)
-{
-    return formattedNumber(request) == 0.0 && hasMark(request, Mark::exponent);
-}
-
 // --- exponents in texts ---
 
 bool writesExponentWithPoint(const Request& request, const Outcome&)
@@ -191,40 +173,6 @@ void pointIsGrouping(Request& request)
 
 // --- reading ---
 
-bool hasExponentD(const Request& request, const Outcome&)
-{
-    return (readsNumber(request) || asks(request, Question::formatText)) &&
-           request.asked.text.find_first_of(u"dD") != std::u16string::npos;
-}
-
-bool isAmountWithExponent(const Request& request, const Outcome&)
-{
-    return !asks(request, Question::readDate) &&
-           request.asked.text.find(request.locale.currencySymbol) != std::u16string::npos &&
-           request.asked.text.find_first_of(u"eEdD&") != std::u16string::npos;
-}
-
-bool startsWithExponent(const Request& request, const Outcome&)
-{
-    const std::size_t letter = request.asked.text.find_first_of(u"eE");
-    return (readsNumber(request) || asks(request, Question::formatText)) && letter != std::u16string::npos &&
-           request.asked.text.find_first_of(u"0123456789") > letter;
-}
-
-// "0.0277" is 277 where the point groups.
-bool groupsAfterZero(const Request& request, const Outcome&)
-{
-    const std::u16string& text = request.asked.text;
-    return asks(request, Question::formatText) && isNumberPattern(request) &&
-           text.find(request.locale.grouping) < text.find_first_of(u"123456789");
-}
-
-bool isHexadecimalCurrency(const Request& request, const Outcome& theirs)
-{
-    return asks(request, Question::readCurrency) && isRefusal(theirs, Refusal::overflow) &&
-           request.asked.text.find(u'&') != std::u16string::npos;
-}
-
 // One ten-thousandth, or what a double cannot hold of the amount.
 bool isCurrencyThroughDouble(const Request& request, const Outcome& theirs)
 {
@@ -238,39 +186,7 @@ bool isCurrencyThroughDouble(const Request& request, const Outcome& theirs)
            std::fabs(static_cast<double>(*amount - *own)) <= 1 + std::fabs(static_cast<double>(*own)) * 1e-15;
 }
 
-bool isLongText(const Request& request, const Outcome&)
-{
-    const auto& text = request.asked.text;
-    return asks(request, Question::formatText) && isNumberPattern(request) &&
-           std::ranges::count_if(text, [](char16_t unit) { return unit >= u'0' && unit <= u'9'; }) > 15;
-}
-
-bool isTextBeyondDouble(const Request& request, const Outcome&)
-{
-    Request reading = request;
-    reading.asked.question = Question::readNumber;
-    return asks(request, Question::formatText) && isRefusal(engineOutcome(reading), Refusal::overflow);
-}
-
-bool isHexadecimalText(const Request& request, const Outcome&)
-{
-    return asks(request, Question::formatText) && isNumberPattern(request) &&
-           request.asked.text.find(u'&') != std::u16string::npos;
-}
-
-// "-0", "0,0", "0e1": signed, or positive to the library.
-bool isWrittenOutZero(const Request& request, const Outcome&)
-{
-    return asks(request, Question::formatText) && formattedNumber(request) == 0.0 &&
-           request.asked.text.find_first_not_of(u"0 ") != std::u16string::npos;
-}
-
 // --- named formats and fixed decimals ---
-
-bool isCurrencyFormat(const Request& request, const Outcome&)
-{
-    return formats(request) && compiled(request).named == NamedNumber::currency;
-}
 
 bool isBeyondFixed(const Request& request, const Outcome& theirs)
 {
@@ -293,11 +209,20 @@ constexpr KnownDifference differences[] = {
     {"exponent text read back", "the library formats from its own exponent text, whose point it takes for grouping",
      readsBackExponentWithPoint, pointIsGrouping},
     {"first section without marks", "each section has its own; the library takes the others for literals",
-     opensWithoutMarks, laterSectionsAreLiterals},
+     [](const Request& request, const Outcome&) {
+         const engine::Section first = compiled(request).sections[0];
+         return isNumberPattern(request) && first.whole == 0 && first.fraction == 0 && !first.decimal;
+     },
+     laterSectionsAreLiterals},
     {"percent before the digits", "documented to multiply by 100 wherever it stands", percentStandsFirst,
      firstPercentsAreLiterals},
     {"sign before literals", "documented: in front of the whole; the library writes it at the first digit mark",
-     writesSign, signAtFirstMark},
+     [](const Request& request, const Outcome&) {
+         const auto number = formattedNumber(request);
+         const auto pattern = compiled(request);
+         return number && *number < 0 && pattern.named == NamedNumber::none && !pattern.sections[1].written;
+     },
+     signAtFirstMark},
     {"half of the last place", "halves round away from zero; the library loses a carry into an empty number",
      roundsUpFromNothing, roundsDown},
     {"whole digits without a mark", "documented to be kept; the library writes them as fraction digits",
@@ -305,25 +230,77 @@ constexpr KnownDifference differences[] = {
     {"last zero under one #", "the library takes a last digit 0 for the number zero", losesLastZero, nullptr},
     {"literals run together", "the library counts a literal behind an exponent or half mark to the one in front",
      literalsRunTogether, nullptr},
-    {"zero with an exponent", "the library shifts the exponent of zero by the number of marks", isZeroWithExponent,
+    {"zero with an exponent", "the library shifts the exponent of zero by the number of marks",
+     [](const Request& request, const Outcome&) {
+         return formattedNumber(request) == 0.0 && hasMark(request, Mark::exponent);
+     },
      nullptr},
     {"exponent text", "the decimal symbol is the locale's; the library leaves the point in exponent texts",
      writesExponentWithPoint, [](Request& request) { request.locale.decimal = u"."; }},
-    {"exponent letter d", "accepted as documented", hasExponentD, isNoNumber},
-    {"amounts with an exponent", "accepted as any number; the library refuses", isAmountWithExponent, isNoNumber},
-    {"exponent in front", "no number; the library takes digits behind an exponent for the number's", startsWithExponent,
+    {"exponent letter d", "accepted as documented",
+     [](const Request& request, const Outcome&) {
+         return (readsNumber(request) || asks(request, Question::formatText)) &&
+                request.asked.text.find_first_of(u"dD") != std::u16string::npos;
+     },
+     isNoNumber},
+    {"amounts with an exponent", "accepted as any number; the library refuses",
+     [](const Request& request, const Outcome&) {
+         return !asks(request, Question::readDate) &&
+                request.asked.text.find(request.locale.currencySymbol) != std::u16string::npos &&
+                request.asked.text.find_first_of(u"eEdD&") != std::u16string::npos;
+     },
+     isNoNumber},
+    {"exponent in front", "no number; the library takes digits behind an exponent for the number's",
+     [](const Request& request, const Outcome&) {
+         const std::size_t letter = request.asked.text.find_first_of(u"eE");
+         return (readsNumber(request) || asks(request, Question::formatText)) && letter != std::u16string::npos &&
+                request.asked.text.find_first_of(u"0123456789") > letter;
+     },
      nullptr},
     {"zeros behind grouping", "not written; the library drops only those in front of the first grouping symbol",
-     groupsAfterZero, nullptr},
-    {"hexadecimal currency", "the library refuses it as too big", isHexadecimalCurrency, nullptr},
+     [](const Request& request, const Outcome&) {
+         const std::u16string& text = request.asked.text;
+         return asks(request, Question::formatText) && isNumberPattern(request) &&
+                text.find(request.locale.grouping) < text.find_first_of(u"123456789");
+     },
+     nullptr},
+    {"hexadecimal currency", "the library refuses it as too big",
+     [](const Request& request, const Outcome& theirs) {
+         return asks(request, Question::readCurrency) && isRefusal(theirs, Refusal::overflow) &&
+                request.asked.text.find(u'&') != std::u16string::npos;
+     },
+     nullptr},
     {"currency", "exact on the decimal text; the library goes through a double", isCurrencyThroughDouble, nullptr},
-    {"number texts of many digits", "a text becomes a double first; the library formats all its digits", isLongText,
+    {"number texts of many digits", "a text becomes a double first; the library formats all its digits",
+     [](const Request& request, const Outcome&) {
+         const auto& text = request.asked.text;
+         return asks(request, Question::formatText) && isNumberPattern(request) &&
+                std::ranges::count_if(text, [](char16_t unit) { return unit >= u'0' && unit <= u'9'; }) > 15;
+     },
      nullptr},
-    {"texts beyond a double", "no number, so unchanged; the library formats their digits", isTextBeyondDouble, nullptr},
-    {"hexadecimal texts", "formatted in decimal; the library writes their digits as they are", isHexadecimalText,
+    {"texts beyond a double", "no number, so unchanged; the library formats their digits",
+     [](const Request& request, const Outcome&) {
+         Request reading = request;
+         reading.asked.question = Question::readNumber;
+         return asks(request, Question::formatText) && isRefusal(engineOutcome(reading), Refusal::overflow);
+     },
      nullptr},
-    {"zero texts", "a text becomes a double first, and zero has no sign and no decimals", isWrittenOutZero, nullptr},
-    {"named format Currency", "the locale's own form of amounts; the library has one form for all", isCurrencyFormat,
+    {"hexadecimal texts", "formatted in decimal; the library writes their digits as they are",
+     [](const Request& request, const Outcome&) {
+         return asks(request, Question::formatText) && isNumberPattern(request) &&
+                request.asked.text.find(u'&') != std::u16string::npos;
+     },
+     nullptr},
+    {"zero texts", "a text becomes a double first, and zero has no sign and no decimals",
+     [](const Request& request, const Outcome&) {
+         return asks(request, Question::formatText) && formattedNumber(request) == 0.0 &&
+                request.asked.text.find_first_not_of(u"0 ") != std::u16string::npos;
+     },
+     nullptr},
+    {"named format Currency", "the locale's own form of amounts; the library has one form for all",
+     [](const Request& request, const Outcome&) {
+         return formats(request) && compiled(request).named == NamedNumber::currency;
+     },
      [](Request& request) { request.locale.currencyPositive = request.locale.currencyNegative = 0; }},
     {"fixed decimals", "any number, 0 to 255 places; the library refuses exponent texts and more than 9", isBeyondFixed,
      nullptr},

@@ -1,6 +1,6 @@
-' Value as number, text, date and Empty on the four text types.
+' Value as number, text, date and Empty on the four text types; the date of a calendar.
 Option Explicit
-Dim c, failures
+Dim c, calendar, failures
 failures = 0
 
 Sub Same(what, found, expected)
@@ -74,6 +74,21 @@ Same "mask back", c.Value, "112345"
 c.Value = Empty
 Same "Empty into a mask", c.Text, "(__) ____"
 Same "Empty mask back", c.Value, "null"
+
+' The calendar as a control of its own
+Set calendar = CreateObject("Vela.cCalendar")
+Same "a new one shows today", calendar.DateInitial, Date
+calendar.IniciaCalendario DateSerial(2024, 2, 29)
+Same "a date", calendar.DateInitial, DateSerial(2024, 2, 29)
+calendar.IniciaCalendario "15/03/2024"
+Same "a text that is a date", calendar, DateSerial(2024, 3, 15)
+calendar.IniciaCalendario "nunca"
+Same "a text that is none: today", calendar.DateInitial, Date
+Same "highlights give nothing back", VarType(calendar.IncluiDataRealcada(Date)), vbEmpty
+On Error Resume Next
+calendar.DateInitial = Date
+Same "read-only", Err.Number, 438
+On Error GoTo 0
 
 If failures = 0 Then WScript.Echo "passed"
 WScript.Quit failures
