@@ -1,4 +1,4 @@
-// The demonstration's property frame on live controls: all five pages, Apply, OK and Cancel.
+// Property frames on live controls: the demonstration's with Apply, OK and Cancel, and the system's.
 #include "shown_page.h"
 
 #include "apps/demo/property_frame.h"
@@ -6,7 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <commctrl.h>
+
 #include <cstdlib>
+#include <cwchar>
 
 namespace vela::test {
 
@@ -97,6 +100,50 @@ TEST(PropertyFrame, OpenedAndClosedManyTimes)
     for (int round = 0; round < rounds; ++round)
         once();
     expectFlat(before, Usage(), 512 * 1024);
+}
+
+// The system's own frame has every page; it is looked through and cancelled from a timer.
+struct FrameVisit {
+    static inline int tabs = 0;
+    static inline int shown = 0; // pages that had a window
+    static inline int next = 0;
+
+    static void CALLBACK step(HWND, UINT, UINT_PTR timer, DWORD)
+    {
+        const HWND frame = GetActiveWindow();
+        const HWND strip = frame ? FindWindowExW(frame, nullptr, WC_TABCONTROLW, nullptr) : nullptr;
+        if (!strip)
+            return;
+        tabs = static_cast<int>(SendMessageW(strip, TCM_GETITEMCOUNT, 0, 0));
+        if (next < tabs) {
+            SendMessageW(strip, TCM_SETCURFOCUS, static_cast<WPARAM>(next++), 0);
+            int pages = 0;
+            EnumChildWindows(frame, countPages, reinterpret_cast<LPARAM>(&pages));
+            shown += pages == 1;
+        } else {
+            KillTimer(nullptr, timer);
+            PostMessageW(frame, WM_COMMAND, IDCANCEL, 0);
+        }
+    }
+    static BOOL CALLBACK countPages(HWND window, LPARAM pages)
+    {
+        wchar_t name[32]{};
+        GetClassNameW(window, name, 32);
+        *reinterpret_cast<int*>(pages) += std::wcsncmp(name, L"Vela", 4) == 0 && IsWindowVisible(window);
+        return TRUE;
+    }
+};
+
+TEST(PropertyFrame, TheSystemsShowsAllPages)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    SetTimer(nullptr, 0, 50, FrameVisit::step);
+    EXPECT_EQ(
+        ComPtr<IOleObject>::from(control.get())->DoVerb(OLEIVERB_PROPERTIES, nullptr, nullptr, 0, nullptr, nullptr),
+        S_OK);
+    EXPECT_EQ(FrameVisit::tabs, 5);
+    EXPECT_EQ(FrameVisit::shown, 5);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <cstring>
 #include <iterator>
 
@@ -63,37 +64,6 @@ void putImport(Ask* slot, Ask function)
     VirtualProtect(slot, sizeof *slot, before, &before);
 }
 
-// A file that a child process writes to; it goes when it is closed.
-class Output {
-public:
-    Output()
-    {
-        char folder[MAX_PATH]{};
-        char name[MAX_PATH]{};
-        GetTempPathA(MAX_PATH, folder);
-        GetTempFileNameA(folder, "vel", 0, name);
-        SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
-        handle_ =
-            CreateFileA(name, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                        &inherited, CREATE_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
-    }
-    Output(const Output&) = delete;
-    Output& operator=(const Output&) = delete;
-    ~Output() { CloseHandle(handle_); }
-    [[nodiscard]] HANDLE handle() const noexcept { return handle_; }
-    [[nodiscard]] std::string text() const
-    {
-        std::string text(GetFileSize(handle_, nullptr), ' ');
-        DWORD read = 0;
-        SetFilePointer(handle_, 0, nullptr, FILE_BEGIN);
-        ReadFile(handle_, text.data(), static_cast<DWORD>(text.size()), &read, nullptr);
-        return text;
-    }
-
-private:
-    HANDLE handle_;
-};
-
 } // namespace
 
 ScreenResolution::ScreenResolution()
@@ -120,31 +90,20 @@ void ScreenResolution::put(int dpi) const
 // What the child prints is shown only when it fails: the program's own totals stay the only ones.
 int runTests(const std::string& program, const std::string& filter, const char* variable, int value)
 {
-    std::string command = "\"" + program + "\" --gtest_filter=" + filter;
-    const Output output;
     SetEnvironmentVariableA(variable, std::to_string(value).c_str());
-    STARTUPINFOA start{};
-    start.cb = sizeof start;
-    start.dwFlags = STARTF_USESTDHANDLES;
-    start.hStdOutput = start.hStdError = output.handle();
-    PROCESS_INFORMATION started{};
-    const BOOL running =
-        CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &started);
+    std::FILE* const child = _popen(("\"" + program + "\" --gtest_filter=" + filter).c_str(), "r");
     SetEnvironmentVariableA(variable, nullptr);
-    if (!running)
+    if (!child)
         return -1;
-    constexpr DWORD longest = 120000;
-    if (WaitForSingleObject(started.hProcess, longest) != WAIT_OBJECT_0)
-        TerminateProcess(started.hProcess, ERROR_TIMEOUT);
-    DWORD code = ERROR_TIMEOUT;
-    GetExitCodeProcess(started.hProcess, &code);
-    CloseHandle(started.hThread);
-    CloseHandle(started.hProcess);
-    const std::string printed = output.text();
+    std::string printed;
+    char piece[256];
+    while (std::fgets(piece, sizeof piece, child))
+        printed += piece;
+    const int code = _pclose(child);
     const bool ran = printed.find("[  PASSED  ]") != std::string::npos && printed.find("SKIPPED") == std::string::npos;
     if (code != 0 || !ran)
         ADD_FAILURE() << printed;
-    return static_cast<int>(code);
+    return code;
 }
 
 std::string thisProgram()
