@@ -8,7 +8,6 @@
 
 #include <commctrl.h>
 
-#include <cstdlib>
 #include <cwchar>
 
 namespace vela::test {
@@ -83,8 +82,7 @@ TEST(PropertyFrame, OpenedAndClosedManyTimes)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const char* const asked = std::getenv("VELA_TEST_COUNT");
-    const int rounds = asked ? std::atoi(asked) : 6;
+    const int rounds = asked("VELA_TEST_COUNT", 6);
     const auto once = [&] {
         demo::PropertyFrame frame(GetModuleHandleW(nullptr), nullptr);
         IUnknown* selected[] = {control.get()};

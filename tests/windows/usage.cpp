@@ -5,6 +5,7 @@
 #include <psapi.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <vector>
 
 namespace vela::test {
@@ -114,6 +115,13 @@ SIZE_T privateBytes()
 
 Usage::Usage() : windows(windowsOfThread()), drawing(drawingObjects()), handles(kernelHandles()), memory(privateBytes())
 {
+}
+
+int asked(const char* variable, int otherwise)
+{
+    const char* const text = std::getenv(variable);
+    const int value = text ? std::atoi(text) : 0;
+    return value > 0 ? value : otherwise;
 }
 
 void expectFlat(const Usage& before, const Usage& after, SIZE_T memoryAllowed)

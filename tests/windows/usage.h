@@ -14,6 +14,9 @@ struct Usage {
     SIZE_T memory = 0; // bytes of its own
 };
 
+// A number from the environment above 0, or the other one: how long or often a test shall run.
+[[nodiscard]] int asked(const char* variable, int otherwise);
+
 // Fails the test when more is in use than before, beyond what a caching system takes.
 void expectFlat(const Usage& before, const Usage& after, SIZE_T memoryAllowed);
 
