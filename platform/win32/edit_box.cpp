@@ -347,14 +347,13 @@ bool EditBox::typeUnseen(int unit)
     if (!listener || !listener->laysOutTyping() || !isSingle() || traits_.locked || unit < ' ')
         return false;
     refresh();
-    showText();
     const platform::Selection replaced = selection();
+    const auto at = static_cast<std::size_t>(replaced.start);
     const auto typed = static_cast<char16_t>(unit);
-    const int left = static_cast<int>(text_.size()) - replaced.length;
-    std::u16string result = spliced(text_, replaced, {&typed, 1});
-    if (result == text_ || (traits_.maxLength > 0 && left >= traits_.maxLength))
+    const bool full = traits_.maxLength > 0 && static_cast<int>(text_.size()) - replaced.length >= traits_.maxLength;
+    if (full || (replaced.length == 1 && text_[at] == typed))
         return false;
-    text_ = std::move(result);
+    text_.replace(at, static_cast<std::size_t>(replaced.length), 1, typed);
     kept_ = {replaced.start + 1, 0};
     behind_ = true;
     Watch watch(life_);
