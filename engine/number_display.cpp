@@ -84,7 +84,23 @@ void putWhole(std::u16string_view digits, char16_t grouping, TextWriter& writer)
     }
 }
 
-// The whole part is read as a locale-independent leading number, so that "1.234" is a fraction and groups as "1".
+// "1.234.567", "-12.345": what the display, the live layout or the calculator's result has grouped already.
+bool isGrouped(std::u16string_view whole, char16_t symbol) noexcept
+{
+    if (whole.starts_with(u'-') || whole.starts_with(u'+'))
+        whole.remove_prefix(1);
+    std::size_t digits = leadingDigits(whole);
+    if (digits < 1 || digits > 3 || digits == whole.size())
+        return false;
+    for (whole.remove_prefix(digits); !whole.empty(); whole.remove_prefix(1 + digits)) {
+        digits = leadingDigits(whole.substr(1));
+        if (whole.front() != symbol || digits != 3)
+            return false;
+    }
+    return true;
+}
+
+// The whole part is read as a locale-independent leading number, so that "1234.5" groups as "1.234".
 void putGrouped(std::u16string_view whole, std::u16string_view fraction, const Locale& locale, TextWriter& writer,
                 std::u16string& into)
 {
@@ -244,10 +260,15 @@ void displayNumber(std::u16string_view text, const NumberSettings& settings, std
     const auto whole = text.substr(0, symbol);
     const auto typed = symbol == npos ? std::u16string_view() : text.substr(symbol + 1);
     TextWriter writer(into);
-    if (settings.grouping.empty())
+    if (settings.grouping.empty()) {
         writer.put(whole);
-    else
+    } else if (isGrouped(whole, settings.grouping.front())) {
+        std::u16string plain;
+        removeAll(settings.grouping, whole, plain);
+        putGrouped(plain, typed, settings.locale, writer, into);
+    } else {
         putGrouped(whole, typed, settings.locale, writer, into);
+    }
     const auto places = static_cast<std::size_t>(std::max(settings.decimals, 0));
     const bool padded = settings.insertZeros && places > typed.size();
     if (symbol != npos || padded)

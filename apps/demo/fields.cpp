@@ -8,7 +8,7 @@ namespace {
 // Enumerated settings by their stored numbers.
 constexpr long numerico = 1, data = 2, mascara = 3;
 constexpr long maisculo = 1, properCase = 3;
-constexpr long vazio = 0, ponto = 1, virgula = 2;
+constexpr long ponto = 1, virgula = 2;
 constexpr long flat = 0;
 constexpr long warning = 2;
 
@@ -29,12 +29,12 @@ Setting text(const wchar_t* key, const wchar_t* value)
     return {key, OleValue(std::wstring_view(value))};
 }
 
-std::vector<Setting> money(const wchar_t* symbol, long grouping = ponto)
+std::vector<Setting> money(const wchar_t* symbol)
 {
     return {number(L"TextType", numerico),
             number(L"SimbolDecExib", virgula),
             number(L"SimbolDecRet", virgula),
-            number(L"SimbolAgrupMilhar", grouping),
+            number(L"SimbolAgrupMilhar", ponto),
             number(L"QtdCasasDec", 2),
             text(L"SimboloMonetario", symbol),
             on(L"AceitaNegativos"),
@@ -77,10 +77,9 @@ std::vector<Setting> with(std::vector<Setting> settings, std::initializer_list<S
     return settings;
 }
 
-// Ungrouped: leaving reads the whole part up to its first ".".
 std::vector<Setting> cashRegister()
 {
-    return with(money(L"", vazio), {on(L"MaskToNumeric")});
+    return with(money(L""), {on(L"MaskToNumeric")});
 }
 
 std::vector<FieldRow> textRows()
