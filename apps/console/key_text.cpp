@@ -12,7 +12,7 @@ namespace {
 
 namespace vk = headless::virtual_key;
 
-constexpr std::array<KeyName, 13> names{{
+constexpr std::array<KeyName, 18> names{{
     {u"{TAB}", {vk::tab, 0, false}},
     {u"+{TAB}", {backwardsTab, 0, false}},
     {u"{ENTER}", headless::namedKey(vk::enter)},
@@ -26,6 +26,11 @@ constexpr std::array<KeyName, 13> names{{
     {u"{END}", headless::namedKey(vk::end)},
     {u"{ESC}", headless::namedKey(vk::escape)},
     {u"{F2}", headless::namedKey(vk::f2)},
+    {u"{^Z}", headless::controlKey('Z')},
+    {u"{^Y}", headless::controlKey('Y')},
+    {u"{^X}", headless::controlKey('X')},
+    {u"{^C}", headless::controlKey('C')},
+    {u"{^V}", headless::controlKey('V')},
 }};
 
 } // namespace
@@ -48,7 +53,8 @@ std::vector<headless::Key> keysOf(std::u16string_view text, std::span<const KeyN
             keys.push_back(headless::keyOf(text[1]));
             text.remove_prefix(3);
         } else if (text.front() == u'{') {
-            notACommand("a brace names no key");
+            const std::size_t end = std::min({text.find(u'}'), text.size() - 1, std::size_t{11}});
+            notACommand("a brace names no key: \"" + toUtf8(text.substr(0, end + 1)) + "\"");
         } else {
             keys.push_back(headless::keyOf(text.front()));
             text.remove_prefix(1);

@@ -36,7 +36,7 @@ void runCaret(Session& session, Words words)
     const int start = integerOf(words[1]);
     const int length = words.size() == 3 ? integerOf(words[2]) : 0;
     if (start < 0 || length < 0)
-        notACommand("a caret stands at 0 or beyond");
+        notACommand("a caret stands at 0 or beyond", words[start < 0 ? 1 : 2]);
     session.form().placeCaret(start, length);
 }
 
@@ -44,6 +44,12 @@ void runPaste(Session& session, Words words)
 {
     requireWords(words, 2, 2);
     session.form().pasteIntoBox(textOf(words[1]));
+}
+
+void runPasteByRules(Session& session, Words words)
+{
+    requireWords(words, 2, 2);
+    session.form().paste(textOf(words[1]));
 }
 
 void runClick(Session& session, Words words)
@@ -92,11 +98,41 @@ void runOtherWindow(Session& session, Words words)
 CommandTable userCommands() noexcept
 {
     static constexpr Command commands[] = {
-        {u"focus", runFocus},   {u"keys", runKeys},
-        {u"caret", runCaret},   {u"paste", runPaste},
-        {u"click", runClick},   {u"dblclick", runDoubleClick},
-        {u"mouse", runMouse},   {u"tick", runTick},
-        {u"button", runButton}, {u"other-window", runOtherWindow},
+        {u"focus", runFocus,
+         "focus NAME|none\n"
+         "  Moves the focus to a control, a plain element or another window."},
+        {u"keys", runKeys,
+         "keys \"TEXT\"\n"
+         "  Types at the focused control: characters, {TAB} +{TAB} {ENTER} {BACKSPACE} {DELETE} {LEFT} {RIGHT} {UP} "
+         "{DOWN}\n"
+         "  {HOME} {END} {ESC} {F2}, with Control {^Z} {^Y} {^X} {^C} {^V}; {+} {{} {}} stand for themselves."},
+        {u"caret", runCaret,
+         "caret START [LENGTH]\n"
+         "  Places the caret, or selects, in the focused control; 0 is before the first character."},
+        {u"paste", runPaste,
+         "paste \"TEXT\"\n"
+         "  Pastes into the edit box as a plain text box would: whole, cut to fit, without the field's rules."},
+        {u"paste-rules", runPasteByRules,
+         "paste-rules \"TEXT\"\n"
+         "  Pastes as a person does: each character by the field's rules for typing."},
+        {u"click", runClick,
+         "click NAME\n"
+         "  Clicks at the text's end; gives the focus first."},
+        {u"dblclick", runDoubleClick,
+         "dblclick NAME\n"
+         "  Double-clicks at the text's end; gives the focus first."},
+        {u"mouse", runMouse,
+         "mouse NAME|none\n"
+         "  Moves the pointer over a control, or away from all."},
+        {u"tick", runTick,
+         "tick\n"
+         "  One tick of every enabled timer."},
+        {u"button", runButton,
+         "button NAME\n"
+         "  Clicks the button that opens the calendar or the calculator; gives the focus first."},
+        {u"other-window", runOtherWindow,
+         "other-window\n"
+         "  Another top-level window becomes active."},
     };
     return commands;
 }

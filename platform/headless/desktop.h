@@ -57,6 +57,8 @@ public:
     void retire(const TopLevel& window) noexcept;
     [[nodiscard]] TopLevel* active() const noexcept { return active_; }
 
+    std::u16string clipboard; // a text; empty: nothing has been copied
+
     void putPointer(platform::WindowId window) noexcept { pointer_ = window; } // 0: away from all
     void adopt(platform::WindowId parent, platform::WindowId window);          // for isChild()
 

@@ -192,6 +192,8 @@ void EditBox::key(Key key)
             return;
         if (key.pressed)
             applyCharacter(character);
+        else if (key.control)
+            applyControlKey(code);
         else
             applyNamedKey(code);
         if (watch.gone())
@@ -240,6 +242,34 @@ void EditBox::applyNamedKey(int code)
         break;
     default: break;
     }
+}
+
+// What the letters mean is the field's business, but for the copy.
+void EditBox::applyControlKey(int letter)
+{
+    platform::EditBoxEvents* const events = surface_.boxEvents(*this);
+    if (letter == 'C' || letter == 'X')
+        copySelection();
+    if (events == nullptr)
+        return;
+    switch (letter) {
+    case 'X':
+        if (traits_->passwordChar == 0)
+            events->cut();
+        break;
+    case 'V': events->pasted(surface_.form().desktop().clipboard); break;
+    case 'Z': events->undo(); break;
+    case 'Y': events->redo(); break;
+    default: break;
+    }
+}
+
+// A password is not copied.
+void EditBox::copySelection()
+{
+    if (selection_.length > 0 && traits_->passwordChar == 0)
+        surface_.form().desktop().clipboard =
+            text_.substr(static_cast<std::size_t>(selection_.start), static_cast<std::size_t>(selection_.length));
 }
 
 void EditBox::moveCaret(int start)

@@ -74,6 +74,8 @@ private:
     void applyCharacter(int key);
     void typeText(std::u16string_view text);
     void applyNamedKey(int code);
+    void applyControlKey(int letter);
+    void copySelection();
     void moveCaret(int start);
     void reportChange();
     [[nodiscard]] int room() const noexcept; // units that still fit, the selection given up
