@@ -32,7 +32,7 @@ need() {
 }
 
 need_native() {
-  need g++ cmake ninja-build python3 libgtest-dev locales
+  need g++ cmake ninja-build python3 libgtest-dev libedit-dev locales
   need_locale
 }
 

@@ -13,6 +13,7 @@ class Session;
 struct Command {
     std::u16string_view name;                   // the line's first word
     void (*run)(Session& session, Words words); // words[0] is the name
+    std::string_view help;                      // how it is written, a line each, then what it does; UTF-8
 };
 using CommandTable = std::span<const Command>;
 
@@ -24,5 +25,10 @@ using CommandTable = std::span<const Command>;
 [[nodiscard]] CommandTable engineCommands() noexcept;  // format isnumeric ...
 [[nodiscard]] CommandTable popupCommands() noexcept;   // calendar grid calculator (popup_commands.cpp)
 [[nodiscard]] CommandTable pageCommands() noexcept;    // page palette store (page_commands.cpp)
+[[nodiscard]] CommandTable checkCommands() noexcept;   // expect expect-error
+[[nodiscard]] CommandTable helpCommands() noexcept;    // help
+
+[[nodiscard]] std::span<const CommandTable> allCommands() noexcept;
+[[nodiscard]] const Command* findCommand(std::u16string_view name) noexcept; // null: there is none
 
 } // namespace vela::console

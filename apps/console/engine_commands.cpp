@@ -131,17 +131,39 @@ void runWindowsVersion(Session& session, Words words)
 CommandTable engineCommands() noexcept
 {
     static constexpr Command commands[] = {
-        {u"format", runFormat},
-        {u"isnumeric", runIsNumeric},
-        {u"isdate", runIsDate},
-        {u"todouble", runToDouble},
-        {u"todate", runToDate},
-        {u"tocurrency", runToCurrency},
-        {u"val", runVal},
-        {u"totext", runToText},
-        {u"formatnumber", runFormatNumber},
-        {u"propercase", runProperCase},
-        {u"windowsversion", runWindowsVersion},
+        {u"format", runFormat,
+         "format VALUE \"PATTERN\"\n"
+         "  Prints the value formatted with the pattern."},
+        {u"isnumeric", runIsNumeric,
+         "isnumeric \"TEXT\"\n"
+         "  Prints whether the text is a number in the locale."},
+        {u"isdate", runIsDate,
+         "isdate \"TEXT\"\n"
+         "  Prints whether the text is a date or time in the locale."},
+        {u"todouble", runToDouble,
+         "todouble \"TEXT\"\n"
+         "  Prints the number that the text is."},
+        {u"todate", runToDate,
+         "todate \"TEXT\"\n"
+         "  Prints the date that the text is."},
+        {u"tocurrency", runToCurrency,
+         "tocurrency \"TEXT\"\n"
+         "  Prints the amount that the text is, with at most four decimals."},
+        {u"val", runVal,
+         "val \"TEXT\"\n"
+         "  Prints the number that the text begins with; a dot is its decimal symbol in every locale."},
+        {u"totext", runToText,
+         "totext VALUE\n"
+         "  Prints the value as a text in the locale."},
+        {u"formatnumber", runFormatNumber,
+         "formatnumber VALUE DECIMALS\n"
+         "  Prints the number with so many decimals and no grouping."},
+        {u"propercase", runProperCase,
+         "propercase \"TEXT\"\n"
+         "  Prints the text as a proper name is written."},
+        {u"windowsversion", runWindowsVersion,
+         "windowsversion\n"
+         "  Prints the name of the reported version of the system."},
     };
     return commands;
 }

@@ -11,32 +11,10 @@ namespace vela::console {
 
 namespace {
 
-using control::Property;
-
-bool isColour(std::u16string_view property) noexcept
-{
-    const Property* const row = control::findProperty(property);
-    return row != nullptr && row->type == control::PropertyType::colour;
-}
-
-std::string printedOf(std::u16string_view property, const engine::Value& value)
-{
-    const auto* const number = std::get_if<std::int32_t>(&value);
-    if (number != nullptr && isColour(property))
-        return printed(engine::Colour{static_cast<std::uint32_t>(*number)});
-    return printed(value);
-}
-
-engine::Value valueFor(std::u16string_view property, const Word& word)
-{
-    const Property* const row = control::findProperty(property);
-    return valueOf(word, row != nullptr ? row->enumeration : nullptr);
-}
-
 const std::u16string& bareOf(const Word& word)
 {
     if (word.quoted)
-        notACommand("a name is wanted");
+        notACommand("a name is wanted", word);
     return word.bare;
 }
 
@@ -44,7 +22,7 @@ void runNew(Session& session, Words words)
 {
     requireWords(words, 2, 3);
     if (words.size() == 3 && !words[2].is(u"design"))
-        notACommand("design or nothing is wanted");
+        notACommand("design or nothing is wanted", words[2]);
     session.addField(session.freshName(words[1]), words.size() == 2).control.initNew();
 }
 
@@ -53,7 +31,7 @@ std::pair<std::u16string, engine::Value> entryOf(const Word& word)
 {
     const std::size_t equals = word.bare.find(u'=');
     if (equals == 0 || equals == std::u16string::npos)
-        notACommand("KEY=VALUE is wanted");
+        notACommand("KEY=VALUE is wanted", word);
     std::u16string key = word.bare.substr(0, equals);
     engine::Value value = valueFor(key, {word.bare.substr(equals + 1), word.text, word.quoted});
     return {std::move(key), std::move(value)};
@@ -128,7 +106,7 @@ void runCall(Session& session, Words words)
     const auto method =
         std::ranges::find_if(control::methods(), [&](const control::Method& m) { return words[2].is(m.name); });
     if (method == control::methods().end())
-        notACommand("no such method");
+        notACommand("no such method", words[2], namesOf(control::methods()));
     method->call(field.control);
 }
 
@@ -146,7 +124,7 @@ void runFail(Session& session, Words words)
     const auto operation =
         std::ranges::find_if(operations, [&](const auto& candidate) { return words[2].is(candidate.first); });
     if (operation == std::end(operations))
-        notACommand("no such operation");
+        notACommand("no such operation", words[2], {u"text", u"put-text", u"put-caret", u"put-colour"});
     const int number = integerOf(words[3]);
     field.surface.activeBox().failNext(operation->second, engine::Error{number, textOf(words[4])});
 }
@@ -179,9 +157,40 @@ void runShow(Session& session, Words words)
 CommandTable formCommands() noexcept
 {
     static constexpr Command commands[] = {
-        {u"new", runNew},         {u"load", runLoad},   {u"save", runSave}, {u"reload", runReload},
-        {u"destroy", runDestroy}, {u"plain", runPlain}, {u"set", runSet},   {u"get", runGet},
-        {u"call", runCall},       {u"fail", runFail},   {u"show", runShow},
+        {u"new", runNew,
+         "new NAME [design]\n"
+         "  Makes a control with the settings of a new one, next in the tab order; in design mode where asked for."},
+        {u"load", runLoad,
+         "load NAME [design] KEY=VALUE...\n"
+         "  Makes a control from saved settings that hold just these keys."},
+        {u"save", runSave,
+         "save NAME\n"
+         "  Prints the settings that are kept, in the order in which they are written."},
+        {u"reload", runReload,
+         "reload NAME\n"
+         "  Saves, destroys and loads the control again."},
+        {u"destroy", runDestroy,
+         "destroy NAME\n"
+         "  Ends the control."},
+        {u"plain", runPlain,
+         "plain NAME\n"
+         "  Puts a plain element of the host on the form, next in the tab order."},
+        {u"set", runSet,
+         "set NAME PROPERTY VALUE\n"
+         "  Puts a property. Values: True, 12, 12.5, &H00BBGGRR, \"text\", #2024-02-29#, Empty, or an enumerator's "
+         "name."},
+        {u"get", runGet,
+         "get NAME PROPERTY\n"
+         "  Prints a property."},
+        {u"call", runCall,
+         "call NAME About|DestruirToolTip|LimparMemoria\n"
+         "  Calls a method."},
+        {u"fail", runFail,
+         "fail NAME text|put-text|put-caret|put-colour NUMBER \"DESCRIPTION\"\n"
+         "  The edit box's next operation of that kind fails with that error, once."},
+        {u"show", runShow,
+         "show NAME\n"
+         "  Prints the edit box: text, caret, selection, colours, limits, state."},
     };
     return commands;
 }

@@ -40,7 +40,7 @@ struct ControlName {
 ControlName controlName(const Word& word)
 {
     if (word.quoted || word.bare.empty())
-        notACommand("a control is named by a bare word");
+        notACommand("a control is named by a bare word", word);
     const std::size_t open = word.bare.find(u'(');
     if (open == std::u16string::npos)
         return {word.bare};
@@ -49,7 +49,7 @@ ControlName controlName(const Word& word)
     const char* const end = digits.data() + digits.size();
     const auto [rest, fault] = std::from_chars(digits.data(), end, control.index);
     if (fault != std::errc() || control.index < 0 || std::string_view(rest, end) != ")")
-        notACommand("no control " + toUtf8(word.bare));
+        notACommand("no such control", word);
     return control;
 }
 
@@ -107,7 +107,8 @@ WidgetId control(Session& session, const Word& word, Kinds kinds)
     const PageDesk& pageDesk = desk(session);
     const WidgetId widget = pageDesk.hasPage() ? findControl(pageDesk.page().layout(), name, kinds) : WidgetId{};
     if (!widget && (pageDesk.hasPage() || std::ranges::none_of(pages::pageKinds(), onPage)))
-        notACommand("no such control here: " + toUtf8(word.bare));
+        notACommand("no such control here", word,
+                    pageDesk.hasPage() ? namesOf(pageDesk.page().layout().rows) : std::vector<std::u16string_view>{});
     static_cast<void>(pageDesk.page()); // 91 when none is open
     return widget;
 }
@@ -166,7 +167,7 @@ void openPage(Session& session, Words words)
     requireWords(words, 4, words.size() < 4 ? 4 : words.size());
     const auto kind = words[2].quoted ? std::nullopt : pages::findPageKind(words[2].bare);
     if (!kind)
-        notACommand("no page " + toUtf8(words[2].bare));
+        notACommand("no such page", words[2], {u"ppPrincipal", u"ppGeral", u"ppErros", u"ppFonte", u"ppCalendario"});
     std::vector<Field*> fields;
     for (const Word& word : words.subspan(3))
         fields.push_back(&session.fieldOf(word));
@@ -299,7 +300,7 @@ void runAct(Session& session, Words words, std::span<const PageAct> acts)
 {
     const auto act = std::ranges::find_if(acts, [&](const PageAct& entry) { return words[1].is(entry.name); });
     if (act == acts.end())
-        notACommand("unknown: " + toUtf8(words[0].bare) + " " + toUtf8(words[1].bare));
+        notACommand("no such act of " + toUtf8(words[0].bare), words[1], namesOf(acts));
     requireWords(words, act->words, act->words);
     act->run(session, words);
 }
@@ -344,7 +345,7 @@ void typeAtPalette(Session& session, Words words)
 {
     const auto keys = keysOf(textOf(words[3]), typingNames);
     if (!words[2].is(u"txtR") && !words[2].is(u"txtG") && !words[2].is(u"txtB"))
-        notACommand("no text box " + toUtf8(words[2].bare));
+        notACommand("no such text box", words[2], {u"txtR", u"txtG", u"txtB"});
     headless::WidgetForm& form = desk(session).paletteForm();
     const WidgetId box = form.find(words[2].bare);
     form.moveFocus(box);
@@ -395,7 +396,24 @@ void store(Session& session, Words words)
                           " = " + quoted(row.value));
 }
 
-constexpr std::array<Command, 3> commands{{{u"page", page}, {u"palette", palette}, {u"store", store}}};
+constexpr std::array<Command, 3> commands{
+    {{u"page", page,
+      "page\n"
+      "page open PAGE NAME...\n"
+      "page get|items|click|dblclick|focus CONTROL\n"
+      "page set CONTROL VALUE\n"
+      "page keys CONTROL \"TEXT\"\n"
+      "page apply|close\n"
+      "  Opens ppPrincipal, ppGeral, ppErros, ppFonte or ppCalendario for these controls; prints it, acts in it."},
+     {u"palette", palette,
+      "palette\n"
+      "palette open|ok|cancel|close\n"
+      "palette focus INDEX\n"
+      "palette keys CONTROL \"TEXT\"\n"
+      "  Drives one colour palette."},
+     {u"store", store,
+      "store\n"
+      "  Prints the settings that are kept for the user: masks and profiles."}}};
 
 } // namespace
 

@@ -83,7 +83,7 @@ Request requestOf(Words words)
             return {act, 0, valueOf(words[2])};
         return {act, integerOf(words[2]), {}};
     }
-    notACommand("no such act of a calendar");
+    notACommand("no such act of a calendar", words[1], {u"click", u"month", u"year", u"highlight", u"start"});
 }
 
 template <class Calendar>
@@ -162,7 +162,7 @@ platform::WidgetId buttonOf(const Word& word)
         if (rows[at].kind == platform::WidgetKind::button && word.is(name))
             return {static_cast<int>(at)};
     }
-    notACommand("no such button of the calculator");
+    notACommand("no such button of the calculator", word);
 }
 
 void calculatorCommand(Session& session, Words words)
@@ -179,7 +179,7 @@ void calculatorCommand(Session& session, Words words)
         const platform::WidgetId button = buttonOf(words[2]);
         openCalculator(session).clickWithMouse(button);
     } else {
-        notACommand("no such act of the calculator");
+        notACommand("no such act of the calculator", words[1], {u"keys", u"click"});
     }
 }
 
@@ -206,7 +206,23 @@ void printGrid(Session& session, std::string_view heading, const popups::Calenda
 CommandTable popupCommands() noexcept
 {
     static constexpr Command commands[] = {
-        {u"calendar", &calendarCommand}, {u"grid", &gridCommand}, {u"calculator", &calculatorCommand}};
+        {u"calendar", calendarCommand,
+         "calendar\n"
+         "calendar click CELL|month INDEX|year INDEX\n"
+         "calendar highlight VALUE|start VALUE\n"
+         "  Prints the open pop-up calendar, or acts in it; cells and indexes count from 0."},
+        {u"grid", gridCommand,
+         "grid\n"
+         "grid click CELL|month INDEX|year INDEX\n"
+         "grid highlight VALUE|start VALUE\n"
+         "  The same at one calendar that belongs to no control."},
+        {u"calculator", calculatorCommand,
+         "calculator\n"
+         "calculator keys \"TEXT\"\n"
+         "calculator click BUTTON\n"
+         "  Prints the open calculator's display, types at it, or clicks Number0 to Number9, Operator0 to Operator4, "
+         "Decimal,\n"
+         "  Percent, CancelEntry or Cancel."}};
     return commands;
 }
 

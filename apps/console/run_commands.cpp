@@ -19,7 +19,7 @@ void runLocale(Session& session, Words words)
     else if (words[1].is(u"en-US"))
         session.machine().locales.use(engine::enUs());
     else
-        notACommand("no such locale");
+        notACommand("no such locale", words[1], {u"pt-BR", u"en-US"});
 }
 
 void runClock(Session& session, Words words)
@@ -28,7 +28,7 @@ void runClock(Session& session, Words words)
     const engine::Value value = valueOf(words[1]);
     const auto* const date = std::get_if<engine::Date>(&value);
     if (date == nullptr)
-        notACommand("a date is wanted");
+        notACommand("a date is wanted", words[1]);
     session.machine().clock.freeze(*date);
 }
 
@@ -51,10 +51,13 @@ std::uint32_t categoryOf(const Word& word)
         {u"keys", TraceCategory::keys},     {u"log", TraceCategory::log},         {u"tooltip", TraceCategory::tooltip},
         {u"focus", TraceCategory::focus},   {u"window", TraceCategory::window},
     };
-    for (const auto& [name, category] : names)
+    std::vector<std::u16string_view> known{u"all", u"none"};
+    for (const auto& [name, category] : names) {
         if (word.is(name))
             return categoryBit(category);
-    notACommand("no such category");
+        known.push_back(name);
+    }
+    notACommand("no such category", word, known);
 }
 
 void runTrace(Session& session, Words words)
@@ -102,8 +105,28 @@ void runPrint(Session& session, Words words)
 CommandTable runCommands() noexcept
 {
     static constexpr Command commands[] = {
-        {u"locale", runLocale}, {u"clock", runClock},   {u"windows", runWindows}, {u"library", runLibrary},
-        {u"trace", runTrace},   {u"answer", runAnswer}, {u"print", runPrint},
+        {u"locale", runLocale,
+         "locale pt-BR|en-US\n"
+         "  The user's locale (at the start: pt-BR)."},
+        {u"clock", runClock,
+         "clock DATE\n"
+         "  Stops the local clock at a date such as #2024-02-29# or #2024-02-29 14:05:33#."},
+        {u"windows", runWindows,
+         "windows PLATFORM MINOR\n"
+         "  The version that the system reports (at the start: 2 0)."},
+        {u"library", runLibrary,
+         "library \"FOLDER\"\n"
+         "  The folder that the library was loaded from: its error log stands there."},
+        {u"trace", runTrace,
+         "trace CATEGORY...|all|none\n"
+         "  What is printed as it happens, in place of the former categories: events changed dialogs keys log tooltip\n"
+         "  focus window (at the start: dialogs keys log)."},
+        {u"answer", runAnswer,
+         "answer ok|yes|no|cancel|\"TEXT\"|COLOUR\n"
+         "  Queues the answer to the next message box, input box or palette."},
+        {u"print", runPrint,
+         "print \"TEXT\"\n"
+         "  Prints the text."},
     };
     return commands;
 }

@@ -1,6 +1,8 @@
 // Reading a line's words.
 #include "apps/console/script_line.h"
 
+#include "apps/console/nearest.h"
+
 #include <charconv>
 #include <optional>
 
@@ -193,6 +195,27 @@ void notACommand(std::string why)
     throw NotACommand{std::move(why)};
 }
 
+void notACommand(std::string_view why, const Word& word)
+{
+    constexpr std::size_t longest = 40;
+    const std::u16string_view text = word.quoted && word.bare.empty() ? word.text : word.bare;
+    const bool cut = text.size() > longest;
+    notACommand(std::string(why) + ": \"" + toUtf8(text.substr(0, longest)) + (cut ? "...\"" : "\""));
+}
+
+void notACommand(std::string_view why, const Word& word, const std::vector<std::u16string_view>& known)
+{
+    const auto meant = word.quoted ? std::nullopt : nearest(word.bare, known);
+    if (!meant)
+        notACommand(why, word);
+    try {
+        notACommand(why, word);
+    } catch (NotACommand& complaint) {
+        complaint.why += "; did you mean \"" + toUtf8(*meant) + "\"?";
+        throw;
+    }
+}
+
 std::vector<Word> splitWords(std::string_view line)
 {
     const std::u16string text = fromUtf8(line);
@@ -202,7 +225,7 @@ std::vector<Word> splitWords(std::string_view line)
 const std::u16string& textOf(const Word& word)
 {
     if (!word.isText())
-        notACommand("a text in quotes is wanted");
+        notACommand("a text in quotes is wanted", word);
     return word.text;
 }
 
@@ -212,16 +235,16 @@ int integerOf(const Word& word)
     int number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (digits.empty() || error != std::errc() || end != digits.data() + digits.size())
-        notACommand("a whole number is wanted");
+        notACommand("a whole number is wanted", word);
     return number;
 }
 
 void requireWords(Words words, std::size_t least, std::size_t most)
 {
     if (words.size() < least)
-        notACommand("words are missing");
+        notACommand("words are missing behind", words.back());
     if (words.size() > most)
-        notACommand("too many words");
+        notACommand("too many words", words[most]);
 }
 
 std::u16string fromUtf8(std::string_view bytes)
@@ -231,7 +254,7 @@ std::u16string fromUtf8(std::string_view bytes)
     for (std::size_t at = 0; at < bytes.size();) {
         const std::optional<char32_t> character = decode(bytes, at);
         if (!character)
-            notACommand("the line is not UTF-8");
+            notACommand("the line is not UTF-8 (a file in ANSI, Windows-1252, is read with --ansi)");
         if (*character < 0x10000) {
             text += static_cast<char16_t>(*character);
         } else {

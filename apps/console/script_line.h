@@ -12,7 +12,6 @@ namespace vela::console {
 struct NotACommand {
     std::string why; // UTF-8
 };
-[[noreturn]] void notACommand(std::string why);
 
 // `KEY="some text"` is bare "KEY=" with the text behind it; `"text"` has an empty bare part; `#2024-02-29 14:05:33#`
 // is one bare word, also behind "KEY=".
@@ -28,9 +27,25 @@ struct Word {
 };
 using Words = std::span<const Word>;
 
+// The names of a table's rows, to offer the nearest of them.
+template <class Rows>
+[[nodiscard]] std::vector<std::u16string_view> namesOf(const Rows& rows)
+{
+    std::vector<std::u16string_view> names;
+    for (const auto& row : rows)
+        names.push_back(row.name);
+    return names;
+}
+
 // Splits a line (UTF-8, without its line end) at blanks and drops its comment. Raises NotACommand for a quote that is
 // not closed, an unknown escape, or bytes that are no UTF-8.
 [[nodiscard]] std::vector<Word> splitWords(std::string_view line);
+
+[[noreturn]] void notACommand(std::string why);
+// Names the word that is wrong: `no such control: "pric"`.
+[[noreturn]] void notACommand(std::string_view why, const Word& word);
+// And offers the one it is nearest to: `no such control: "pric"; did you mean "price"?`.
+[[noreturn]] void notACommand(std::string_view why, const Word& word, const std::vector<std::u16string_view>& known);
 
 // The readings that commands share; each raises NotACommand when the word is something else.
 [[nodiscard]] const std::u16string& textOf(const Word& word);        // of a word in quotes

@@ -1,6 +1,7 @@
 // The run itself: lines to commands, errors to lines, controls by name.
 #include "apps/console/session.h"
 
+#include "apps/console/json_record.h"
 #include "apps/console/value_text.h"
 
 #include <algorithm>
@@ -16,27 +17,52 @@ namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-const Command* findCommand(std::u16string_view name)
-{
-    for (const CommandTable table : {formCommands(), userCommands(), runCommands(), engineCommands(), tooltipCommands(),
-                                     popupCommands(), pageCommands()})
-        for (const Command& command : table)
-            if (command.name == name)
-                return &command;
-    return nullptr;
-}
-
 std::string errorLine(const engine::Error& error)
 {
     return "error " + std::to_string(error.number) + " " + quoted(error.source) + " " + quoted(error.description);
 }
 
-std::string errorLine(int number)
+std::vector<std::u16string_view> commandNames()
 {
-    return errorLine(engine::Error{number, std::u16string(engine::errorDescription(number))});
+    std::vector<std::u16string_view> names;
+    for (const CommandTable table : allCommands())
+        for (const Command& command : table)
+            names.push_back(command.name);
+    return names;
+}
+
+engine::Error outOfMemory()
+{
+    constexpr int number = engine::error_number::outOfMemory;
+    return {number, std::u16string(engine::errorDescription(number))};
+}
+
+std::vector<std::u16string_view> elementNames(const headless::FormWindow& form)
+{
+    std::vector<std::u16string_view> names;
+    for (const headless::Element* element : form.elements())
+        names.push_back(element->name());
+    return names;
 }
 
 } // namespace
+
+std::span<const CommandTable> allCommands() noexcept
+{
+    static const std::array tables{formCommands(),   userCommands(),    runCommands(),
+                                   engineCommands(), tooltipCommands(), popupCommands(),
+                                   pageCommands(),   checkCommands(),   helpCommands()};
+    return tables;
+}
+
+const Command* findCommand(std::u16string_view name) noexcept
+{
+    for (const CommandTable table : allCommands())
+        for (const Command& command : table)
+            if (command.name == name)
+                return &command;
+    return nullptr;
+}
 
 Field::Field(headless::FormWindow& form, headless::Machine& machine, popups::Popups& popups, std::u16string name,
              int index, bool runMode)
@@ -51,10 +77,11 @@ Field::~Field()
     surface.disconnect();
 }
 
-Session::Session(Write output, Write errors)
+Session::Session(Write output, Write errors, RunOptions options)
     : output_(std::move(output)), errors_(std::move(errors)),
       printer_([this](std::string_view line) { printLine(line); }), machine_(printer_),
-      form_(machine_.desktop, printer_, machine_.faults), popups_(machine_.environment, machine_.forms)
+      form_(machine_.desktop, printer_, machine_.faults), popups_(machine_.environment, machine_.forms),
+      options_(std::move(options))
 {
     form_.focusArrived = [this] { popups_.closeAll(); };
 }
@@ -70,14 +97,70 @@ Session::~Session()
 
 void Session::printLine(std::string_view utf8)
 {
+    if (options_.json) {
+        lines_.emplace_back(utf8);
+        return;
+    }
     output_(utf8);
     output_("\n");
+}
+
+// "line 3" or, in a strict run, "form.vela:3".
+std::string Session::where(long line) const
+{
+    if (!options_.strict)
+        return "line " + std::to_string(line);
+    return (options_.fileName.empty() ? "-" : options_.fileName) + ":" + std::to_string(line);
 }
 
 void Session::complain(std::string_view why)
 {
     ++badLines_;
-    errors_("line " + std::to_string(line_) + ": " + std::string(why) + "\n");
+    told_ = engine::Error{0, fromUtf8(why), u"vela-console"};
+    errors_(where(line_) + ": " + std::string(why) + "\n");
+}
+
+void Session::failExpectation(const std::string& expected, const std::string& found)
+{
+    ++failures_;
+    const std::string what = "expected " + expected + ", found " + found;
+    told_ = engine::Error{0, fromUtf8(what), u"vela-console"};
+    errors_(where(line_) + ": " + what + "\n");
+}
+
+void Session::report(const engine::Error& error)
+{
+    error_ = told_ = error;
+    errorLine_ = line_;
+    errorWord_ = word_;
+    if (!options_.json)
+        printLine(errorLine(error));
+}
+
+std::optional<engine::Error> Session::takeError()
+{
+    return std::exchange(error_, std::nullopt);
+}
+
+void Session::stopAtError()
+{
+    stopped_ = true;
+    errors_(where(errorLine_) + ": " + errorWord_ + ": " + errorLine(*error_) + "\n");
+}
+
+void Session::finish()
+{
+    if (options_.strict && error_ && !stopped_)
+        stopAtError();
+}
+
+int Session::exitStatus() const noexcept
+{
+    if (stopped_)
+        return 3;
+    if (badLines_ > 0)
+        return 2;
+    return failures_ > 0 ? 4 : 0;
 }
 
 void Session::runScript(std::string_view script)
@@ -87,6 +170,7 @@ void Session::runScript(std::string_view script)
         runLine(script.substr(0, end));
         script.remove_prefix(end);
     }
+    finish();
 }
 
 void Session::runLine(std::string_view line)
@@ -97,33 +181,70 @@ void Session::runLine(std::string_view line)
         line.remove_suffix(1);
     if (line.ends_with('\r'))
         line.remove_suffix(1);
+    if (stopped_)
+        return;
+    bool command = true;
     try {
-        carryOut(line);
+        command = carryOut(line);
     } catch (const std::bad_alloc&) {
-        printLine(errorLine(engine::error_number::outOfMemory));
+        report(outOfMemory());
     } catch (const std::length_error&) {
-        printLine(errorLine(engine::error_number::outOfMemory));
+        report(outOfMemory());
     }
+    if (options_.json && command)
+        writeRecord(line);
 }
 
-void Session::carryOut(std::string_view line)
+// False for a line without a command, and for one before which a strict run has ended.
+bool Session::carryOut(std::string_view line)
 {
     try {
-        const std::vector<Word> words = splitWords(line);
-        if (!words.empty())
-            runWords(words);
+        const std::vector<Word> words = readWords(line);
+        if (stopped_ || words.empty())
+            return false;
+        runWords(words);
     } catch (const NotACommand& fault) {
         complain(fault.why);
     } catch (const engine::Error& error) {
-        printLine(errorLine(error));
+        report(error);
     }
+    return !stopped_;
+}
+
+// The error that the line before ended with is judged by an expect-error here, or ends a strict run.
+std::vector<Word> Session::readWords(std::string_view line)
+{
+    const auto forgetError = [this] {
+        finish();
+        error_.reset();
+    };
+    try {
+        std::vector<Word> words = splitWords(line);
+        if (!words.empty() && !words[0].is(u"expect-error")) {
+            forgetError();
+            word_ = toUtf8(words[0].bare);
+        }
+        return words;
+    } catch (const NotACommand&) {
+        forgetError();
+        if (stopped_)
+            return {};
+        throw;
+    }
+}
+
+void Session::writeRecord(std::string_view line)
+{
+    output_(jsonRecord(line_, line, lines_, told_ ? &*told_ : nullptr) + "\n");
+    lines_.clear();
+    told_.reset();
 }
 
 void Session::runWords(Words words)
 {
     const Command* const command = words[0].quoted ? nullptr : findCommand(words[0].bare);
     if (command == nullptr)
-        notACommand("no such command");
+        notACommand("no such command", words[0], commandNames());
     command->run(*this, words);
 }
 
@@ -137,7 +258,7 @@ Field& Session::fieldOf(const Word& word) const
 {
     Field* const field = word.quoted ? nullptr : findField(word.bare);
     if (field == nullptr)
-        notACommand("no such control");
+        notACommand("no such control", word, elementNames(form_));
     return *field;
 }
 
@@ -145,16 +266,16 @@ headless::Element& Session::elementOf(const Word& word) const
 {
     headless::Element* const element = word.quoted ? nullptr : form_.find(word.bare);
     if (element == nullptr)
-        notACommand("no such element");
+        notACommand("no such element", word, elementNames(form_));
     return *element;
 }
 
 const std::u16string& Session::freshName(const Word& word) const
 {
     if (word.quoted || word.bare == u"none")
-        notACommand("no name of an element");
+        notACommand("no name of an element", word);
     if (form_.find(word.bare) != nullptr)
-        notACommand("the name is in use");
+        notACommand("the name is in use", word);
     return word.bare;
 }
 

@@ -15,6 +15,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,18 +42,32 @@ private:
     int index_;
 };
 
+// How a run is made; a script that is valid prints the same whatever they are, but for `json`.
+struct RunOptions {
+    bool strict = false;       // the first error that no expect-error behind it expects ends the run
+    bool json = false;         // one object a command in place of its lines
+    std::string fileName = {}; // named before the line in complaints of a strict run; empty: standard input
+};
+
 class Session {
 public:
     using Write = std::function<void(std::string_view)>; // of bytes
-    Session(Write output, Write errors);
+    Session(Write output, Write errors, RunOptions options = {});
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
     ~Session();
 
     // Reads one line (its end may still be on it) and carries it out; counts lines for the messages.
     void runLine(std::string_view line);
-    void runScript(std::string_view script);
-    [[nodiscard]] int exitStatus() const noexcept { return badLines_ == 0 ? 0 : 2; }
+    void runScript(std::string_view script); // to its end, which finish() tells
+    void finish();                           // an error that nobody has expected ends a strict run here too
+    [[nodiscard]] bool ended() const noexcept { return stopped_; } // further lines would do nothing
+    // 3: a strict run met an error; 2: a line was no command; 4: an expectation failed; the first that applies.
+    [[nodiscard]] int exitStatus() const noexcept;
+
+    // The error that the last command ended with, if any; taking it makes it expected.
+    [[nodiscard]] std::optional<engine::Error> takeError();
+    void failExpectation(const std::string& expected, const std::string& found);
 
     void printLine(std::string_view utf8); // and a line end
 
@@ -78,9 +93,14 @@ public:
     TracePrinter& tracePrinter() noexcept { return printer_; }
 
 private:
-    void carryOut(std::string_view line);
+    [[nodiscard]] bool carryOut(std::string_view line);
+    [[nodiscard]] std::vector<Word> readWords(std::string_view line);
     void runWords(Words words);
     void complain(std::string_view why);
+    void report(const engine::Error& error);
+    void stopAtError();
+    void writeRecord(std::string_view line);
+    [[nodiscard]] std::string where(long line) const;
     [[nodiscard]] std::exception_ptr end(Field& field);
 
     Write output_;
@@ -92,8 +112,17 @@ private:
     std::vector<std::unique_ptr<Field>> fields_;
     std::map<const void*, std::shared_ptr<void>> states_;
     int nextIndex_ = 0;
+    RunOptions options_;
+    std::optional<engine::Error> error_; // of the last command
+    long errorLine_ = 0;
+    std::string errorWord_;             // that command's name
+    std::string word_;                  // the name of the command that runs
+    std::vector<std::string> lines_;    // printed by the command that runs, kept for its JSON object
+    std::optional<engine::Error> told_; // what that object says of an error
     long line_ = 0;
     long badLines_ = 0;
+    long failures_ = 0;
+    bool stopped_ = false;
 };
 
 template <class State>

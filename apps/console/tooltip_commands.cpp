@@ -45,7 +45,7 @@ private:
 const std::u16string& propertyOf(const Word& word)
 {
     if (word.quoted)
-        notACommand("the name of a property is wanted");
+        notACommand("the name of a property is wanted", word);
     return word.bare;
 }
 
@@ -100,7 +100,7 @@ void runTip(Session& session, Words words)
     if (act.is(u"create"))
         return createTip(session, words);
     if (!act.is(u"new") && !act.is(u"destroy"))
-        notACommand("no such act of a tooltip");
+        notACommand("no such act of a tooltip", words[1], {u"new", u"set", u"get", u"create", u"show", u"destroy"});
     requireWords(words, 2, 2);
     TipDesk& desk = session.state<TipDesk>();
     if (act.is(u"new"))
@@ -113,7 +113,12 @@ void runTip(Session& session, Words words)
 
 CommandTable tooltipCommands() noexcept
 {
-    static constexpr Command commands[] = {{u"tip", runTip}};
+    static constexpr Command commands[] = {{u"tip", runTip,
+                                            "tip new|create|destroy\n"
+                                            "tip set PROPERTY VALUE\n"
+                                            "tip get PROPERTY\n"
+                                            "tip show X Y\n"
+                                            "  Drives one balloon tooltip that belongs to no control."}};
     return commands;
 }
 

@@ -1,6 +1,8 @@
 // Reading and printing of values.
 #include "apps/console/value_text.h"
 
+#include "control/property_table.h"
+
 #include "engine/calendar_date.h"
 
 #include <charconv>
@@ -203,14 +205,16 @@ Value valueOf(const Word& word, const engine::Enumeration* enumeration)
 {
     if (auto value = tryValueOf(word, enumeration))
         return *std::move(value);
-    notACommand("no value: " + toUtf8(word.bare));
+    if (enumeration != nullptr)
+        notACommand("no value", word, namesOf(enumeration->members));
+    notACommand("no value", word, {u"True", u"False", u"Empty"});
 }
 
 engine::Colour colourOf(const Word& word)
 {
     if (const auto colour = word.quoted ? std::nullopt : tryColour(toUtf8(word.bare)))
         return *colour;
-    notACommand("a colour such as &H00FF00FF is wanted");
+    notACommand("a colour such as &H00FF00FF is wanted", word);
 }
 
 std::string printed(const Value& value)
@@ -251,6 +255,30 @@ std::string quoted(std::u16string_view text)
             escaped += unit;
     }
     return toUtf8(escaped + u"\"");
+}
+
+namespace {
+
+bool isColour(std::u16string_view property) noexcept
+{
+    const control::Property* const row = control::findProperty(property);
+    return row != nullptr && row->type == control::PropertyType::colour;
+}
+
+} // namespace
+
+std::string printedOf(std::u16string_view property, const engine::Value& value)
+{
+    const auto* const number = std::get_if<std::int32_t>(&value);
+    if (number != nullptr && isColour(property))
+        return printed(engine::Colour{static_cast<std::uint32_t>(*number)});
+    return printed(value);
+}
+
+engine::Value valueFor(std::u16string_view property, const Word& word)
+{
+    const control::Property* const row = control::findProperty(property);
+    return valueOf(word, row != nullptr ? row->enumeration : nullptr);
 }
 
 } // namespace vela::console

@@ -23,4 +23,8 @@ namespace vela::console {
 [[nodiscard]] std::string printed(bool value);
 [[nodiscard]] std::string quoted(std::u16string_view text); // in quotes, with escapes
 
+// As commands write and print what belongs to a property: by its enumerators and colours, where it has them.
+[[nodiscard]] engine::Value valueFor(std::u16string_view property, const Word& word);
+[[nodiscard]] std::string printedOf(std::u16string_view property, const engine::Value& value);
+
 } // namespace vela::console

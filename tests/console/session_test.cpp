@@ -31,7 +31,7 @@ TEST(Session, aHugeLineThatIsNoCommandIsOneComplaint)
 {
     const Transcript run(std::string(3'000'000, 'x') + "\n" + std::string(100'000, '"') + "\nprint \"on\"");
     EXPECT_EQ(run.output, "on\n");
-    EXPECT_EQ(run.complaints, "line 1: no such command\nline 2: no blank behind a closing quote\n");
+    EXPECT_EQ(run.complaints, "line 1: no such command: \"" + std::string(40, 'x') + "...\"\nline 2: no blank behind a closing quote\n");
     EXPECT_EQ(run.session.exitStatus(), 2);
 }
 
@@ -40,7 +40,7 @@ TEST(Session, nulBytesAreCharacters)
     using namespace std::string_literals;
     const Transcript run("new f\nset f Text \"a\0b\"\nget f Text\nset f Text \"a\\u0000b\"\nget f Text\n\0\n"s);
     EXPECT_EQ(run.output, "f.Text = \"a\\u0000b\"\nf.Text = \"a\\u0000b\"\n");
-    EXPECT_EQ(run.complaints, "line 6: no such command\n");
+    EXPECT_EQ(run.complaints, "line 6: no such command: \"\0\"\n"s);
 }
 
 TEST(Session, loneSurrogatesReadBack)
