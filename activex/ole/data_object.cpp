@@ -6,6 +6,7 @@
 
 #include <cstring>
 #include <iterator>
+#include <optional>
 
 namespace vela::activex {
 
@@ -72,13 +73,24 @@ HGLOBAL newBlock(const void* from, std::size_t size)
     return block;
 }
 
-void drawScaled(Shell& shell, HDC dc)
+// Units of the picture are the field's pixels; how large they are is for what plays it, or for the viewport.
+void drawScaled(Shell& shell, HDC dc, std::optional<SIZE> viewport = {})
 {
     const FieldSize size = shell.content().size();
     SetMapMode(dc, MM_ANISOTROPIC);
     SetWindowOrgEx(dc, 0, 0, nullptr);
     SetWindowExtEx(dc, size.width, size.height, nullptr);
+    if (viewport)
+        SetViewportExtEx(dc, viewport->cx, viewport->cy, nullptr);
     shell.content().draw(dc, {0, 0, size.width, size.height});
+}
+
+// The pixels of the recording device that this many HIMETRIC cover: by its real size, not by its logical dots per inch.
+SIZE pixelsOf(SIZEL himetric, HDC dc) noexcept
+{
+    constexpr int himetricPerMillimetre = 100;
+    return {MulDiv(himetric.cx, GetDeviceCaps(dc, HORZRES), GetDeviceCaps(dc, HORZSIZE) * himetricPerMillimetre),
+            MulDiv(himetric.cy, GetDeviceCaps(dc, VERTRES), GetDeviceCaps(dc, VERTSIZE) * himetricPerMillimetre)};
 }
 
 HRESULT giveMetafile(Shell& shell, STGMEDIUM& medium)
@@ -99,8 +111,7 @@ HRESULT giveEnhancedMetafile(Shell& shell, STGMEDIUM& medium)
     EnhancedMetafileDc dc({0, 0, extent.cx, extent.cy});
     if (!dc.get())
         return E_OUTOFMEMORY;
-    const FieldSize size = shell.content().size();
-    shell.content().draw(dc.get(), {0, 0, size.width, size.height});
+    drawScaled(shell, dc.get(), pixelsOf(extent, dc.get()));
     medium.hEnhMetaFile = dc.close();
     return S_OK;
 }
@@ -177,9 +188,7 @@ HRESULT DataObject::QueryGetData(FORMATETC* format) noexcept
     if (!format)
         return E_POINTER;
     if (format->dwAspect != DVASPECT_CONTENT)
-        return DV_E_DVASPECT;
-    if (format->lindex != -1)
-        return DV_E_LINDEX;
+        return DV_E_DVASPECT; // but any part number: the picture is whole
     return find(*format) ? S_OK : DV_E_FORMATETC;
 }
 

@@ -3,6 +3,9 @@
 
 #include "activex/com/guard.h"
 #include "activex/ole/shell.h"
+#include "platform/win32/owners.h"
+
+#include <utility>
 
 namespace vela::activex {
 
@@ -13,6 +16,42 @@ bool drawable(DWORD aspect) noexcept
 {
     return aspect == DVASPECT_CONTENT || aspect == DVASPECT_OPAQUE || aspect == DVASPECT_TRANSPARENT;
 }
+
+// While it lives the context counts in pixels, and `place` is the rectangle in them. A metafile keeps its units: what
+// plays it sets them; so does a turned world, where pixels have no sides to draw along.
+class PixelDc {
+public:
+    PixelDc(HDC dc, const RECTL& bounds) noexcept
+        : saved_(dc), place_{bounds.left, bounds.top, bounds.right, bounds.bottom}
+    {
+        const DWORD kind = GetObjectType(dc);
+        if (kind == OBJ_METADC || kind == OBJ_ENHMETADC || turned(dc))
+            return;
+        LPtoDP(dc, reinterpret_cast<POINT*>(&place_), 2);
+        if (place_.left > place_.right)
+            std::swap(place_.left, place_.right);
+        if (place_.top > place_.bottom)
+            std::swap(place_.top, place_.bottom);
+        if (GetGraphicsMode(dc) == GM_ADVANCED)
+            ModifyWorldTransform(dc, nullptr, MWT_IDENTITY);
+        SetMapMode(dc, MM_TEXT);
+        SetWindowOrgEx(dc, 0, 0, nullptr);
+        SetViewportOrgEx(dc, 0, 0, nullptr);
+    }
+
+    [[nodiscard]] const RECT& place() const noexcept { return place_; }
+
+private:
+    static bool turned(HDC dc) noexcept
+    {
+        XFORM world{};
+        return GetGraphicsMode(dc) == GM_ADVANCED && GetWorldTransform(dc, &world) &&
+               (world.eM12 != 0 || world.eM21 != 0);
+    }
+
+    win32::SavedDc saved_;
+    RECT place_;
+};
 
 } // namespace
 
@@ -35,18 +74,17 @@ void ViewObject::putSink(DWORD aspects, DWORD flags, IAdviseSink* sink) noexcept
     sink_ = ComPtr<IAdviseSink>::share(sink);
 }
 
-HRESULT ViewObject::Draw(DWORD aspect, LONG index, void*, DVTARGETDEVICE*, HDC, HDC dc, LPCRECTL bounds, LPCRECTL,
+// The picture is whole: hosts number its parts from -1, from 0 or from 1.
+HRESULT ViewObject::Draw(DWORD aspect, LONG, void*, DVTARGETDEVICE*, HDC, HDC dc, LPCRECTL bounds, LPCRECTL,
                          BOOL(STDMETHODCALLTYPE*)(ULONG_PTR), ULONG_PTR) noexcept
 {
     if (!drawable(aspect))
         return DV_E_DVASPECT;
-    if (index != -1)
-        return DV_E_LINDEX;
     if (!bounds || !dc)
         return E_INVALIDARG;
     return guarded([&] {
-        const RECT place{bounds->left, bounds->top, bounds->right, bounds->bottom};
-        shell_.content().draw(dc, place);
+        const PixelDc pixels(dc, *bounds);
+        shell_.content().draw(dc, pixels.place());
     });
 }
 
@@ -136,15 +174,14 @@ HRESULT ViewObject::QueryHitRect(DWORD aspect, LPCRECT bounds, LPCRECT rect, LON
     return S_OK;
 }
 
-// The size wished for stands: a field has no natural size of its own beside the one it was given.
-HRESULT ViewObject::GetNaturalExtent(DWORD aspect, LONG, DVTARGETDEVICE*, HDC, DVEXTENTINFO*, LPSIZEL extent) noexcept
+// A field has no natural size: it takes the one that is proposed, in either direction.
+HRESULT ViewObject::GetNaturalExtent(DWORD aspect, LONG, DVTARGETDEVICE*, HDC, DVEXTENTINFO* info,
+                                     LPSIZEL extent) noexcept
 {
-    if (!extent)
+    if (!info || !extent)
         return E_POINTER;
-    if (!drawable(aspect))
-        return DV_E_DVASPECT;
-    *extent = shell_.extent();
-    return S_OK;
+    *extent = {-1, -1}; // not adjusted
+    return drawable(aspect) ? E_NOTIMPL : DV_E_DVASPECT;
 }
 
 } // namespace vela::activex

@@ -304,6 +304,23 @@ TEST_F(LooksScaled, ThePopupsGrow)
     settle(form);
 }
 
+// Logical and real dots per inch differ here: the frame is in real millimetres, and the picture fills it.
+TEST_F(LooksScaled, TheMetafileFillsItsFrame)
+{
+    const ComPtr<IUnknown> control = create();
+    SIZEL extent{2646, 635};
+    ASSERT_EQ(ComPtr<IOleObject>::from(control.get())->SetExtent(DVASPECT_CONTENT, &extent), S_OK);
+    FORMATETC format{CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1, TYMED_ENHMF};
+    STGMEDIUM medium{};
+    ASSERT_EQ(ComPtr<IDataObject>::from(control.get())->GetData(&format, &medium), S_OK);
+    ENHMETAHEADER header{};
+    GetEnhMetaFileHeader(medium.hEnhMetaFile, sizeof header, &header);
+    EXPECT_NEAR(static_cast<double>(header.rclFrame.right), 2646, 60);
+    const double pixels = 26.46 * header.szlDevice.cx / header.szlMillimeters.cx;
+    EXPECT_NEAR(static_cast<double>(header.rclBounds.right + 1), pixels, 2);
+    ReleaseStgMedium(&medium);
+}
+
 // The person's colours win over the form's, in every state.
 TEST(Looks, InHighContrast)
 {

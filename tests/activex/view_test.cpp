@@ -93,6 +93,114 @@ TEST(View, DrawsWhereItIsToldWithoutAWindow)
     EXPECT_EQ(extent.cx, 2646);
 }
 
+// The field is one picture: hosts that number its parts from 0, or from 1, mean the whole.
+TEST(View, EveryPartNumberMeansTheWhole)
+{
+    const ComPtr<IUnknown> control = redField();
+    const auto view = ComPtr<IViewObject>::from(control.get());
+    const auto data = ComPtr<IDataObject>::from(control.get());
+    for (const LONG part : {-1, 0, 1, 7}) {
+        SCOPED_TRACE(part);
+        Picture picture(100, 24);
+        const RECTL bounds{0, 0, 100, 24};
+        EXPECT_EQ(
+            view->Draw(DVASPECT_CONTENT, part, nullptr, nullptr, nullptr, picture.dc(), &bounds, nullptr, nullptr, 0),
+            S_OK);
+        EXPECT_GT(picture.count(red, {0, 0, 100, 24}), 100 * 24 / 3);
+        FORMATETC format{CF_UNICODETEXT, nullptr, DVASPECT_CONTENT, part, TYMED_HGLOBAL};
+        EXPECT_EQ(data->QueryGetData(&format), S_OK);
+        STGMEDIUM medium{};
+        EXPECT_EQ(data->GetData(&format, &medium), S_OK);
+        ReleaseStgMedium(&medium);
+        LOGPALETTE* colours = nullptr;
+        EXPECT_EQ(view->GetColorSet(DVASPECT_CONTENT, part, nullptr, nullptr, nullptr, &colours), S_FALSE);
+    }
+}
+
+struct Mapping {
+    const char* what;
+    void (*set)(HDC dc);
+};
+const Mapping mappings[] = {
+    {"hundredths of a millimetre, upwards", [](HDC dc) { SetMapMode(dc, MM_HIMETRIC); }},
+    {"twips, upwards, from another origin",
+     [](HDC dc) {
+         SetMapMode(dc, MM_TWIPS);
+         SetViewportOrgEx(dc, 30, 90, nullptr);
+         SetWindowOrgEx(dc, 200, -100, nullptr);
+     }},
+    {"a container's own units",
+     [](HDC dc) {
+         SetMapMode(dc, MM_ANISOTROPIC);
+         SetWindowExtEx(dc, 2646, 635, nullptr);
+         SetViewportExtEx(dc, 200, 48, nullptr);
+     }},
+    {"few units, many pixels",
+     [](HDC dc) {
+         SetMapMode(dc, MM_ANISOTROPIC);
+         SetWindowExtEx(dc, 30, 10, nullptr);
+         SetViewportExtEx(dc, 300, 100, nullptr);
+     }},
+    {"a world twice as large",
+     [](HDC dc) {
+         const XFORM twice{2, 0, 0, 2, 10, 4};
+         SetGraphicsMode(dc, GM_ADVANCED);
+         SetWorldTransform(dc, &twice);
+     }},
+};
+
+// The same pixels as in a context of pixels, and the context is left as it was.
+TEST(View, DrawsInAnyUnits)
+{
+    const ComPtr<IUnknown> control = redField();
+    const auto view = ComPtr<IViewObject>::from(control.get());
+    const auto draw = [&](HDC dc, const POINT(&corners)[2]) {
+        const RECTL bounds{corners[0].x, corners[0].y, corners[1].x, corners[1].y};
+        return view->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, dc, &bounds, nullptr, nullptr, 0);
+    };
+    for (const Mapping& mapping : mappings) {
+        SCOPED_TRACE(mapping.what);
+        Picture mapped(300, 100);
+        mapping.set(mapped.dc());
+        POINT logical[2]{{40, 20}, {240, 70}};
+        DPtoLP(mapped.dc(), logical, 2);
+        POINT pixels[2]{logical[0], logical[1]};
+        LPtoDP(mapped.dc(), pixels, 2);
+        const int mode = GetMapMode(mapped.dc());
+        EXPECT_EQ(draw(mapped.dc(), logical), S_OK);
+        EXPECT_EQ(GetMapMode(mapped.dc()), mode);
+        POINT after[2]{logical[0], logical[1]};
+        LPtoDP(mapped.dc(), after, 2);
+        EXPECT_EQ(after[0].x, pixels[0].x);
+        EXPECT_EQ(after[1].y, pixels[1].y);
+
+        Picture plain(300, 100);
+        EXPECT_EQ(draw(plain.dc(), pixels), S_OK);
+        int different = 0;
+        for (int y = 0; y < 100; ++y)
+            for (int x = 0; x < 300; ++x)
+                different += mapped.at(x, y) != plain.at(x, y);
+        EXPECT_EQ(different, 0);
+        EXPECT_GT(plain.count(red, {50, 30, 230, 60}), 180 * 30 / 3);
+    }
+}
+
+TEST(View, AFieldHasNoNaturalSize)
+{
+    const ComPtr<IUnknown> control = redField();
+    const auto view = ComPtr<IViewObjectEx>::from(control.get());
+    for (const ULONG mode : {DVEXTENT_CONTENT, DVEXTENT_INTEGRAL}) {
+        DVEXTENTINFO info{sizeof info, mode, {5000, 700}};
+        SIZEL extent{1, 1};
+        EXPECT_EQ(view->GetNaturalExtent(DVASPECT_CONTENT, -1, nullptr, nullptr, &info, &extent), E_NOTIMPL);
+        EXPECT_EQ(extent.cx, -1) << "not adjusted";
+        EXPECT_EQ(extent.cy, -1) << "not adjusted";
+        EXPECT_EQ(view->GetNaturalExtent(DVASPECT_CONTENT, -1, nullptr, nullptr, &info, nullptr), E_POINTER);
+        EXPECT_EQ(view->GetNaturalExtent(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, &extent), E_POINTER);
+        EXPECT_EQ(view->GetNaturalExtent(DVASPECT_ICON, -1, nullptr, nullptr, &info, &extent), DV_E_DVASPECT);
+    }
+}
+
 TEST(View, DrawsThroughAMetafile)
 {
     const LeakCheck leaks;
