@@ -59,11 +59,10 @@ HRESULT Dispatch::GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept
     return index == 0 ? loadTypeInfo(shell_.facts().members, info) : DISP_E_BADINDEX;
 }
 
-// Parameters have no names to be passed by.
-HRESULT Dispatch::GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept
+// Parameters have no names to be passed by. The interface named is reserved and is not looked at: some callers name the
+// one that they hold.
+HRESULT Dispatch::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept
 {
-    if (iid != IID_NULL)
-        return DISP_E_UNKNOWNINTERFACE;
     if (!names || !ids || count == 0)
         return E_INVALIDARG;
     std::fill_n(ids, count, DISPID_UNKNOWN);
@@ -77,11 +76,9 @@ HRESULT Dispatch::GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID, D
     });
 }
 
-HRESULT Dispatch::Invoke(DISPID id, REFIID iid, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+HRESULT Dispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                          EXCEPINFO* exception, UINT* argument) noexcept
 {
-    if (iid != IID_NULL)
-        return DISP_E_UNKNOWNINTERFACE;
     if (!parameters)
         return E_INVALIDARG;
     if (result)

@@ -137,9 +137,21 @@ TEST(Automation, CallsThatNoMemberTakes)
     DISPPARAMS parameters{&value, named, 1, 1};
     EXPECT_EQ(control.dispatch()->Invoke(0, IID_NULL, 0, DISPATCH_PROPERTYPUT, &parameters, nullptr, nullptr, nullptr),
               DISP_E_NONAMEDARGS);
-    EXPECT_EQ(
-        control.dispatch()->Invoke(0, IID_IUnknown, 0, DISPATCH_PROPERTYGET, &parameters, nullptr, nullptr, nullptr),
-        DISP_E_UNKNOWNINTERFACE);
+}
+
+// The interface named in a call says nothing: some callers name the one that they hold.
+TEST(Automation, TheReservedInterfaceIsNotLookedAt)
+{
+    const Automation control(create().get());
+    const IID& held = __uuidof(IDispatch);
+    auto* name = const_cast<wchar_t*>(L"Text");
+    DISPID id = DISPID_UNKNOWN;
+    EXPECT_EQ(control.dispatch()->GetIDsOfNames(held, &name, 1, 0, &id), S_OK);
+    EXPECT_EQ(id, 0);
+    DISPPARAMS none{};
+    Variant read;
+    EXPECT_EQ(control.dispatch()->Invoke(0, held, 0, DISPATCH_PROPERTYGET, &none, read.put(), nullptr, nullptr), S_OK);
+    EXPECT_EQ(read.get().vt, VT_BSTR);
 }
 
 TEST(Automation, WindowsExistWhenAskedFor)
