@@ -6,6 +6,7 @@
 #include <olectl.h>
 
 #include <algorithm>
+#include <exception>
 
 namespace vela::activex {
 
@@ -149,7 +150,17 @@ void Connections::clear() noexcept
 
 void Connections::fire(DISPID event, std::span<std::int16_t* const> arguments)
 {
-    events_.each([&](IUnknown& sink) { invoke(static_cast<IDispatch&>(sink), event, arguments); });
+    std::exception_ptr first;
+    events_.each([&](IUnknown& sink) {
+        try {
+            invoke(static_cast<IDispatch&>(sink), event, arguments);
+        } catch (...) {
+            if (!first)
+                first = std::current_exception();
+        }
+    });
+    if (first)
+        std::rethrow_exception(first);
 }
 
 void Connections::changed(DISPID property) noexcept

@@ -68,8 +68,8 @@ public:
     [[nodiscard]] Sinks& properties() noexcept { return properties_; }
     void clear() noexcept;
 
-    // Raises what a handler raised; sinks that do not know the event are passed over. The handlers may write the
-    // arguments, which stand in the order of the event's parameters.
+    // Raises what a handler raised, the first of several, when all have heard; sinks that do not know the event are
+    // passed over. The handlers may write the arguments, which stand in the order of the event's parameters.
     void fire(DISPID event, std::span<std::int16_t* const> arguments);
     void changed(DISPID property) noexcept;
     [[nodiscard]] bool mayChange(DISPID property) noexcept; // no sink refuses

@@ -2,6 +2,8 @@
 #include "container.h"
 #include "script_host.h"
 
+#include "activex/guids.h"
+
 #include <gtest/gtest.h>
 #include <olectl.h>
 
@@ -116,6 +118,34 @@ TEST(Events, AHandlersErrorIsShown)
     EXPECT_NE(AnsweredBoxes::texts()[0].find(u"1234"), std::u16string::npos);
     EXPECT_NE(AnsweredBoxes::texts()[0].find(u"handler"), std::u16string::npos);
     EXPECT_EQ(site.automation().put(u"Text", text(u"b")).result, S_OK);
+}
+
+// An error of one handler is told when all have heard; of several errors the first.
+TEST(Events, AHandlersErrorKeepsNoOtherFromHearing)
+{
+    class Sink final : public Dispatch {
+    public:
+        int told = 0;
+        HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO* info,
+                                         UINT*) override
+        {
+            ++told;
+            info->scode = static_cast<SCODE>(0x800A0000u + 4321);
+            return DISP_E_EXCEPTION;
+        }
+    };
+    const AnsweredBoxes boxes;
+    Form form;
+    Site& site = form.addActive();
+    const auto second = make<Sink>();
+    Connection connection;
+    ASSERT_TRUE(connection.open(site.control(), activex::velaEvents, second.get()));
+    site.eventResult = DISP_E_EXCEPTION;
+    EXPECT_EQ(site.automation().put(u"Text", text(u"a")).result, S_OK);
+    EXPECT_EQ(second->told, 1);
+    ASSERT_EQ(AnsweredBoxes::texts().size(), 1u);
+    EXPECT_NE(AnsweredBoxes::texts()[0].find(u"1234"), std::u16string::npos);
+    site.eventResult = S_OK;
 }
 
 TEST(Events, SinksThatKnowNoEventAreNoFailure)
