@@ -25,7 +25,7 @@ engine::Value HostBag::read(std::u16string_view key, const engine::Value& defaul
 void HostBag::write(std::u16string_view key, const engine::Value& value,
                     const std::optional<engine::Value>& defaultValue)
 {
-    if (defaultValue && value == *defaultValue)
+    if (!all_ && defaultValue && value == *defaultValue)
         return;
     const std::u16string name(key);
     Variant given = variantFromValue(value);

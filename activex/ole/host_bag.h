@@ -10,7 +10,11 @@ namespace vela::activex {
 
 class HostBag final : public platform::PropertyBag {
 public:
-    explicit HostBag(IPropertyBag& bag, IErrorLog* log = nullptr) noexcept : bag_(bag), log_(log) {}
+    // `all`: values equal to their defaults are written too.
+    explicit HostBag(IPropertyBag& bag, IErrorLog* log = nullptr, bool all = false) noexcept
+        : bag_(bag), log_(log), all_(all)
+    {
+    }
 
     // A key that the host does not have (E_INVALIDARG) takes its default. Raises the host's other failures.
     [[nodiscard]] engine::Value read(std::u16string_view key, const engine::Value& defaultValue) override;
@@ -24,6 +28,7 @@ private:
 
     IPropertyBag& bag_;
     IErrorLog* log_;
+    bool all_;
     HRESULT failure_ = S_OK;
 };
 

@@ -204,11 +204,11 @@ HRESULT BagPersistence::Load(IPropertyBag* bag, IErrorLog* log) noexcept
     return FAILED(own.failure()) ? own.failure() : loaded;
 }
 
-HRESULT BagPersistence::Save(IPropertyBag* bag, BOOL clearDirty, BOOL) noexcept
+HRESULT BagPersistence::Save(IPropertyBag* bag, BOOL clearDirty, BOOL all) noexcept
 {
     if (!bag)
         return E_POINTER;
-    HostBag own(*bag);
+    HostBag own(*bag, nullptr, all != FALSE);
     const HRESULT saved = guarded([&] { shell_.content().save(own); });
     if (SUCCEEDED(saved) && clearDirty)
         shell_.putDirty(false);

@@ -49,7 +49,7 @@ public:
     HRESULT STDMETHODCALLTYPE GetClassID(CLSID* id) noexcept override;
     HRESULT STDMETHODCALLTYPE InitNew() noexcept override;
     HRESULT STDMETHODCALLTYPE Load(IPropertyBag* bag, IErrorLog* log) noexcept override;
-    // Values equal to their defaults are left out, also when all are asked for: their absence means them.
+    // Values equal to their defaults are left out unless all are asked for: their absence means them.
     HRESULT STDMETHODCALLTYPE Save(IPropertyBag* bag, BOOL clearDirty, BOOL all) noexcept override;
 
 private:

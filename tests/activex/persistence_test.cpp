@@ -124,7 +124,8 @@ TEST(Persistence, BagGivesEverythingBack)
 {
     const ComPtr<IUnknown> saved = configured();
     const auto bag = make<Bag>();
-    ASSERT_EQ(ComPtr<IPersistPropertyBag>::from(saved.get())->Save(bag.get(), TRUE, TRUE), S_OK);
+    const auto source = ComPtr<IPersistPropertyBag>::from(saved.get());
+    ASSERT_EQ(source->Save(bag.get(), TRUE, FALSE), S_OK);
     EXPECT_TRUE(bag->values.contains(u"FontUnderLine"));
     EXPECT_TRUE(bag->values.contains(u"MultLine"));
     EXPECT_FALSE(bag->values.contains(u"ErrorAlert")) << "a default is not stored";
@@ -134,6 +135,13 @@ TEST(Persistence, BagGivesEverythingBack)
     const ComPtr<IUnknown> loaded = create();
     ASSERT_EQ(ComPtr<IPersistPropertyBag>::from(loaded.get())->Load(bag.get(), nullptr), S_OK);
     expectSame(saved.get(), loaded.get());
+
+    const auto whole = make<Bag>();
+    ASSERT_EQ(source->Save(whole.get(), TRUE, TRUE), S_OK);
+    EXPECT_EQ(whole->values.size(), 79u) << "all when all are asked for";
+    const ComPtr<IUnknown> other = create();
+    ASSERT_EQ(ComPtr<IPersistPropertyBag>::from(other.get())->Load(whole.get(), nullptr), S_OK);
+    expectSame(saved.get(), other.get());
 }
 
 TEST(Persistence, StorageGivesEverythingBack)
