@@ -7,6 +7,8 @@
 #include <olectl.h>
 
 #include <cmath>
+#include <new>
+#include <utility>
 
 namespace vela::activex {
 
@@ -67,22 +69,22 @@ ComPtr<IFont> makeFont(const platform::FontDescription& description)
 
 } // namespace
 
-class FontObject::Sink final : public win32::ComObject<IPropertyNotifySink> {
+class HeardFont::Sink final : public win32::ComObject<IPropertyNotifySink> {
 public:
-    explicit Sink(FontObject& owner) noexcept : owner_(&owner) {}
+    explicit Sink(HeardFont& owner) noexcept : owner_(&owner) {}
 
     void forget() noexcept { owner_ = nullptr; } // the font object may outlive the control
 
     HRESULT STDMETHODCALLTYPE OnChanged(DISPID part) noexcept override
     {
         if (owner_)
-            owner_->heard(part);
+            owner_->changed_(part);
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) noexcept override { return S_OK; }
 
 private:
-    FontObject* owner_;
+    HeardFont* owner_;
 };
 
 std::optional<platform::FontDescription> describeFont(IUnknown* object)
@@ -109,29 +111,57 @@ platform::FontDescription withPart(platform::FontDescription font, DISPID part, 
     return font;
 }
 
-FontObject::FontObject(Changed changed) : changed_(std::move(changed)) {}
+HeardFont::HeardFont(Changed changed) : changed_(std::move(changed)) {}
 
-FontObject::~FontObject()
+HeardFont::~HeardFont()
 {
-    forget();
+    put({});
+}
+
+void HeardFont::put(ComPtr<IFont> font) noexcept
+{
+    if (sink_)
+        sink_->forget();
+    if (const auto point = std::move(point_); point && cookie_ != 0)
+        point->Unadvise(std::exchange(cookie_, 0));
+    sink_.reset();
+    font_ = std::move(font);
+    const auto container = ComPtr<IConnectionPointContainer>::from(font_.get());
+    if (!container || FAILED(container->FindConnectionPoint(IID_IPropertyNotifySink, point_.put())))
+        return; // a font that never changes
+    sink_ = ComPtr<Sink>::adopt(new (std::nothrow) Sink(*this));
+    if (!sink_ || FAILED(point_->Advise(sink_.get(), &cookie_)))
+        cookie_ = 0;
+}
+
+FontObject::FontObject(Changed changed)
+    : changed_(std::move(changed)), own_([this](DISPID part) { heard(own_, part); }),
+      given_([this](DISPID part) { heard(given_, part); })
+{
 }
 
 ComPtr<IFontDisp> FontObject::object(const platform::FontDescription& description)
 {
-    if (!font_) {
-        font_ = makeFont(description);
+    if (own_.get()) {
+        follow(description);
+    } else {
+        own_.put(makeFont(description));
         written_ = description;
-        listen();
-    } else if (written_ != description) {
-        writing_ = true;
-        const HRESULT result = guarded([&] { write(description); });
-        writing_ = false;
-        check(result);
     }
-    auto object = ComPtr<IFontDisp>::from(font_.get());
+    auto object = ComPtr<IFontDisp>::from(own_.get());
     if (!object)
         engine::raise(engine::error_number::outOfMemory);
     return object;
+}
+
+// What the object refuses it does not show; the control has it all the same.
+void FontObject::follow(const platform::FontDescription& description) noexcept
+{
+    if (!own_.get() || written_ == description)
+        return;
+    const bool before = std::exchange(writing_, true); // who hears of one part may put another
+    contained([&] { write(description); });
+    writing_ = before;
 }
 
 platform::FontDescription FontObject::adopt(IUnknown* object)
@@ -140,59 +170,40 @@ platform::FontDescription FontObject::adopt(IUnknown* object)
     if (!font)
         engine::raise(engine::error_number::typeMismatch);
     platform::FontDescription description = describe(*font.get());
-    forget();
-    font_ = std::move(font);
-    written_ = description;
-    listen();
+    if (font.get() == own_.get())
+        font.reset(); // its changes are heard already
+    given_.put(std::move(font));
     return description;
 }
 
 // Only what differs: each put makes the object look again for what the system has.
 void FontObject::write(const platform::FontDescription& description)
 {
-    if (description.name != written_.name)
-        check(font_->put_Name(Bstr(description.name).get()));
-    if (description.size != written_.size)
-        check(font_->put_Size(sizeOf(description)));
-    if (description.bold != written_.bold)
-        check(font_->put_Bold(description.bold));
-    if (description.italic != written_.italic)
-        check(font_->put_Italic(description.italic));
-    if (description.underline != written_.underline)
-        check(font_->put_Underline(description.underline));
-    if (description.strikethrough != written_.strikethrough)
-        check(font_->put_Strikethrough(description.strikethrough));
-    written_ = description;
+    const platform::FontDescription before = std::exchange(written_, description);
+    const auto held = ComPtr<IFont>::share(own_.get());
+    IFont& font = *held.get();
+    if (description.name != before.name)
+        check(font.put_Name(Bstr(description.name).get()));
+    if (description.size != before.size)
+        check(font.put_Size(sizeOf(description)));
+    if (description.bold != before.bold)
+        check(font.put_Bold(description.bold));
+    if (description.italic != before.italic)
+        check(font.put_Italic(description.italic));
+    if (description.underline != before.underline)
+        check(font.put_Underline(description.underline));
+    if (description.strikethrough != before.strikethrough)
+        check(font.put_Strikethrough(description.strikethrough));
 }
 
-void FontObject::listen()
+void FontObject::heard(const HeardFont& font, DISPID part) noexcept
 {
-    const auto container = ComPtr<IConnectionPointContainer>::from(font_.get());
-    if (!container || FAILED(container->FindConnectionPoint(IID_IPropertyNotifySink, point_.put())))
-        return; // a font that never changes
-    sink_ = ComPtr<Sink>::adopt(new Sink(*this));
-    if (FAILED(point_->Advise(sink_.get(), &cookie_)))
-        forget();
-}
-
-void FontObject::forget() noexcept
-{
-    if (sink_)
-        sink_->forget();
-    if (point_ && cookie_ != 0)
-        point_->Unadvise(cookie_);
-    cookie_ = 0;
-    sink_.reset();
-    point_.reset();
-}
-
-void FontObject::heard(DISPID part) noexcept
-{
-    if (writing_ || !font_)
+    if (!font.get() || (writing_ && &font == &own_))
         return;
     contained([&] {
-        const platform::FontDescription now = describe(*font_.get());
-        written_ = withPart(written_, part, now);
+        const platform::FontDescription now = describe(*font.get());
+        if (&font == &own_)
+            written_ = withPart(written_, part, now);
         changed_(part, now);
     });
 }

@@ -1,4 +1,5 @@
-// The font object that a control hands out and takes: the system's own, heard when somebody changes it.
+// The font object that a control hands out: the system's own, alive with the control's font. What somebody changes in
+// it is heard, and so is what changes in a font that a host gave; that one is never written.
 #pragma once
 
 #include "activex/com/owners.h"
@@ -17,6 +18,29 @@ namespace vela::activex {
 [[nodiscard]] platform::FontDescription withPart(platform::FontDescription font, DISPID part,
                                                  const platform::FontDescription& other);
 
+// A font and the ear for its changes. Empty until it is given one.
+class HeardFont {
+public:
+    using Changed = std::function<void(DISPID part)>; // DISPID_FONT_...
+
+    explicit HeardFont(Changed changed);
+    HeardFont(const HeardFont&) = delete;
+    HeardFont& operator=(const HeardFont&) = delete;
+    ~HeardFont();
+
+    void put(ComPtr<IFont> font) noexcept;
+    [[nodiscard]] IFont* get() const noexcept { return font_.get(); }
+
+private:
+    class Sink;
+
+    Changed changed_;
+    ComPtr<IFont> font_;
+    ComPtr<IConnectionPoint> point_;
+    ComPtr<Sink> sink_;
+    DWORD cookie_ = 0;
+};
+
 class FontObject {
 public:
     // Told which part of the font changed (DISPID_FONT_...) and the font as it now is.
@@ -25,28 +49,23 @@ public:
     explicit FontObject(Changed changed);
     FontObject(const FontObject&) = delete;
     FontObject& operator=(const FontObject&) = delete;
-    ~FontObject();
 
-    // The object that stands for the control's font, brought up to this description. Raises 7 when there can be none.
+    // The object that stands for the control's font, one for the control's life. Raises 7 when there can be none.
     [[nodiscard]] ComPtr<IFontDisp> object(const platform::FontDescription& description);
-    // From now on this one stands for it. Raises 13 for an object that is no font.
+    // The control's font is this now; where the object exists it shows it at once.
+    void follow(const platform::FontDescription& description) noexcept;
+    // From now on the control's font is taken from this one and its changes. Raises 13 for an object that is no font.
     platform::FontDescription adopt(IUnknown* font);
 
 private:
-    class Sink;
-
-    void listen();
-    void forget() noexcept;
-    void heard(DISPID part) noexcept;
+    void heard(const HeardFont& font, DISPID part) noexcept;
     void write(const platform::FontDescription& description);
 
     Changed changed_;
-    ComPtr<IFont> font_;
-    ComPtr<IConnectionPoint> point_;
-    ComPtr<Sink> sink_;
-    DWORD cookie_ = 0;
     bool writing_ = false;              // the change is the control's own
     platform::FontDescription written_; // what the object was last made to be: it may show another that exists
+    HeardFont own_;
+    HeardFont given_;
 };
 
 } // namespace vela::activex

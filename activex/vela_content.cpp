@@ -59,7 +59,8 @@ const ClassFacts& velaFacts() noexcept
 VelaContent::VelaContent(Shell& shell)
     : shell_(shell), session_(Session::current()), vela_(*this, surface_, session_->environment, session_->popups),
       font_([this](DISPID part, const platform::FontDescription& font) {
-          vela_.Font(withPart(vela_.Font(), part, font));
+          if (auto next = withPart(vela_.Font(), part, font); next != vela_.Font())
+              vela_.Font(next);
       })
 {
     surface_.putDpi(win32::dpiOf(nullptr));
@@ -104,6 +105,7 @@ void VelaContent::put(const Member& member, const VARIANT& value)
     case control::PropertyType::colour: control::putProperty(vela_, property, colourFromVariant(value)); break;
     default: control::putProperty(vela_, property, valueFromVariant(value)); break;
     }
+    fontChanged(); // MultLine brings a box with a font of its own
 }
 
 Variant VelaContent::call(const Member& member, const Arguments&)
@@ -116,6 +118,7 @@ void VelaContent::initNew()
 {
     vela_.initNew();
     takeAmbientFont();
+    fontChanged();
 }
 
 // A new field looks as its form; what a form saved has its own font.
@@ -131,9 +134,15 @@ void VelaContent::takeAmbientFont()
     }
 }
 
+void VelaContent::fontChanged() noexcept
+{
+    contained([&] { font_.follow(vela_.Font()); });
+}
+
 void VelaContent::load(platform::PropertyBag& bag)
 {
     vela_.load(bag);
+    fontChanged();
 }
 
 void VelaContent::save(platform::PropertyBag& bag)
@@ -254,6 +263,8 @@ std::u16string VelaContent::plainText()
 void VelaContent::propertyChanged(std::u16string_view name)
 {
     const control::Property* const property = control::findProperty(name);
+    if (property && name.starts_with(u"Font"))
+        fontChanged(); // before anybody hears of the part and looks at the object
     shell_.propertyChanged(property ? property->dispid : DISPID_UNKNOWN);
 }
 

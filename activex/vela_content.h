@@ -64,6 +64,7 @@ private:
     void windowDestroyed() override;
 
     void takeAmbientFont();
+    void fontChanged() noexcept; // the object handed out shows it
     void needWindow();
 
     Shell& shell_;

@@ -183,6 +183,13 @@ TEST(Automation, TheFontObjectAndTheFontPropertiesAreOne)
     const Outcome again = control.get(u"Font");
     EXPECT_EQ(again.value.get().pdispVal, font.value.get().pdispVal) << "one object for the control's life";
 
+    control.set({{u"FontBold", false}, {u"FontItalic", true}, {u"FontSize", 9}});
+    EXPECT_EQ(object.textOf(u"Bold"), u"False") << "the object lives with the parts";
+    EXPECT_EQ(object.textOf(u"Italic"), u"True");
+    EXPECT_EQ(object.textOf(u"Size"), u"9");
+    ASSERT_EQ(object.put(u"Bold", truth(true)).result, S_OK);
+    EXPECT_EQ(control.textOf(u"FontItalic"), u"True");
+
     // A font set by reference is the control's from then on.
     const Automation second(create().get());
     std::vector<Variant> arguments;
@@ -192,6 +199,37 @@ TEST(Automation, TheFontObjectAndTheFontPropertiesAreOne)
     ASSERT_EQ(object.put(u"Underline", truth(true)).result, S_OK);
     EXPECT_EQ(second.textOf(u"FontUnderline"), u"True");
     EXPECT_EQ(control.textOf(u"FontUnderline"), u"True");
+}
+
+// The control follows a font that it was given, and never changes it.
+TEST(Automation, AGivenFontStaysItsOwners)
+{
+    const LeakCheck leaks;
+    const Automation control(create().get());
+    const Outcome before = control.get(u"Font");
+    const Automation held(before.value.get().pdispVal);
+    ComPtr<IFontDisp> font;
+    FONTDESC description{};
+    description.cbSizeofstruct = sizeof description;
+    description.lpstrName = const_cast<wchar_t*>(L"Tahoma");
+    description.cySize.int64 = 120000;
+    description.sWeight = FW_NORMAL;
+    ASSERT_EQ(OleCreateFontIndirect(&description, IID_IFontDisp, font.putVoid()), S_OK);
+    std::vector<Variant> arguments;
+    arguments.push_back(sharedBy(font.get()));
+    ASSERT_EQ(control.invoke(DISPID_FONT, DISPATCH_PROPERTYPUTREF, std::move(arguments)).result, S_OK);
+    EXPECT_EQ(held.textOf(u"Size"), u"12") << "what was handed out before shows the new font";
+
+    ASSERT_EQ(control.put(u"FontBold", truth(true)).result, S_OK);
+    EXPECT_EQ(held.textOf(u"Bold"), u"True");
+    const Automation given(font.get());
+    const Outcome read = control.get(u"Font");
+    EXPECT_EQ(Automation(read.value.get().pdispVal).textOf(u"Bold"), u"True");
+    EXPECT_EQ(given.textOf(u"Bold"), u"False");
+    ASSERT_EQ(given.put(u"Italic", truth(true)).result, S_OK);
+    EXPECT_EQ(control.textOf(u"FontItalic"), u"True");
+    EXPECT_EQ(control.textOf(u"FontBold"), u"True") << "only what was changed changes";
+    EXPECT_EQ(held.textOf(u"Italic"), u"True");
 }
 
 } // namespace
