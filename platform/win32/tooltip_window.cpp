@@ -3,6 +3,7 @@
 
 #include "platform/win32/activation_context.h"
 #include "platform/win32/colours.h"
+#include "platform/win32/guard.h"
 #include "platform/win32/module.h"
 #include "platform/win32/text.h"
 
@@ -77,6 +78,8 @@ void TooltipWindow::setBackColour(engine::Colour colour)
 
 void TooltipWindow::setDelay(int kind, int milliseconds)
 {
+    if (kind == TTDT_AUTOPOP)
+        visibleFor_ = milliseconds;
     send(TTM_SETDELAYTIME, static_cast<WPARAM>(kind), milliseconds);
 }
 
@@ -94,6 +97,18 @@ void TooltipWindow::trackPosition(std::int32_t packed)
 void TooltipWindow::trackActivate(bool active)
 {
     send(TTM_TRACKACTIVATE, active, reinterpret_cast<LPARAM>(&tool_));
+    if (!exists())
+        return;
+    const auto timer = reinterpret_cast<UINT_PTR>(this); // goes with the window; an address is none of its own timers
+    if (active && visibleFor_ > 0)
+        SetTimer(window_, timer, static_cast<UINT>(visibleFor_), timeIsUp);
+    else
+        KillTimer(window_, timer);
+}
+
+void TooltipWindow::timeIsUp(HWND, UINT, UINT_PTR timer, DWORD) noexcept
+{
+    guarded([timer] { reinterpret_cast<TooltipWindow*>(timer)->trackActivate(false); });
 }
 
 std::pair<int, int> TooltipWindow::clientToScreen(platform::WindowId window, int x, int y) const

@@ -35,7 +35,9 @@ public:
 private:
     LRESULT send(UINT message, WPARAM first, LPARAM second) const noexcept;
     void keepText(std::u16string_view text);
+    static void CALLBACK timeIsUp(HWND window, UINT message, UINT_PTR timer, DWORD time) noexcept;
 
+    int visibleFor_ = 0; // milliseconds; the control's own time is for tips that are not tracked
     HWND window_ = nullptr; // its parent may destroy it first
     std::string text_;
     TTTOOLINFOA tool_{};
