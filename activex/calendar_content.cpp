@@ -8,9 +8,6 @@
 #include "platform/win32/dpi.h"
 #include "popups/calendar_layout.h"
 
-#include <windows.h>
-
-#include <commctrl.h>
 #include <olectl.h>
 
 namespace vela::activex {
@@ -26,20 +23,19 @@ constexpr Member calendarMembers[] = {
      .bindable = true,
      .category = category::data,
      .row = selected},
-    {.name = u"IniciaCalendario", .id = 1, .access = DISPATCH_METHOD, .parameters = 1, .row = start},
-    {.name = u"IncluiDataRealcada", .id = 2, .access = DISPATCH_METHOD, .parameters = 1, .row = highlight},
+    {.name = u"IniciaCalendario",
+     .id = 1,
+     .access = DISPATCH_METHOD,
+     .parameters = 1,
+     .parameter = u"data",
+     .row = start},
+    {.name = u"IncluiDataRealcada",
+     .id = 2,
+     .access = DISPATCH_METHOD,
+     .parameters = 1,
+     .parameter = u"data",
+     .row = highlight},
 };
-
-// A click into the calendar makes it the active object of its form.
-LRESULT CALLBACK watchClicks(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id, DWORD_PTR shell)
-{
-    if (message == WM_NCDESTROY)
-        RemoveWindowSubclass(window, watchClicks, id);
-    const LRESULT result = DefSubclassProc(window, message, first, second);
-    if (message == WM_MOUSEACTIVATE)
-        reinterpret_cast<Shell*>(shell)->focusMoved(true);
-    return result;
-}
 
 } // namespace
 
@@ -52,9 +48,10 @@ const ClassFacts& calendarFacts() noexcept
 
 CalendarContent::CalendarContent(Shell& shell)
     : shell_(shell), session_(Session::current()),
-      calendar_(session_->environment, session_->forms, session_->popups.colours), size_(calendarFacts().size)
+      calendar_(session_->environment, session_->forms, session_->popups.colours()), size_(calendarFacts().size)
 {
     calendar_.picked = [this] { picked(); };
+    form().setListener(this);
 }
 
 CalendarContent::~CalendarContent()
@@ -117,28 +114,23 @@ void CalendarContent::save(platform::PropertyBag& bag)
 void CalendarContent::terminate() noexcept
 {
     calendar_.picked = nullptr;
+    form().setListener(nullptr);
     detach();
 }
 
 HWND CalendarContent::window() const noexcept
 {
-    return attached_ ? form().handle() : nullptr;
+    return form().handle();
 }
 
 void CalendarContent::attach(HWND parent, const RECT& place)
 {
     form().showChild(parent, place);
-    if (!attached_)
-        SetWindowSubclass(form().handle(), watchClicks, 0, reinterpret_cast<DWORD_PTR>(&shell_));
-    attached_ = true;
     size_ = {place.right - place.left, place.bottom - place.top};
 }
 
 void CalendarContent::detach() noexcept
 {
-    if (!std::exchange(attached_, false))
-        return;
-    RemoveWindowSubclass(form().handle(), watchClicks, 0);
     contained([&] { form().leaveParent(); });
 }
 
@@ -148,10 +140,15 @@ void CalendarContent::place(const RECT& place)
     size_ = {place.right - place.left, place.bottom - place.top};
 }
 
+void CalendarContent::clip(const RECT* shown)
+{
+    if (const HWND calendar = window()) // which owns the region then
+        SetWindowRgn(calendar, shown ? CreateRectRgnIndirect(shown) : nullptr, TRUE);
+}
+
 void CalendarContent::show(bool visible)
 {
-    if (attached_)
-        form().showChildWindow(visible);
+    form().showChildWindow(visible);
 }
 
 FieldSize CalendarContent::size()
@@ -166,14 +163,15 @@ void CalendarContent::resize(FieldSize size)
 
 void CalendarContent::takeFocus()
 {
-    if (attached_)
-        SetFocus(GetWindow(form().handle(), GW_CHILD));
+    if (const HWND calendar = window())
+        SetFocus(calendar); // which hands it to the widget that had it last
 }
 
 bool CalendarContent::hasFocus() const
 {
+    const HWND calendar = window();
     const HWND focus = GetFocus();
-    return attached_ && focus && (focus == form().handle() || IsChild(form().handle(), focus));
+    return calendar && focus && (focus == calendar || IsChild(calendar, focus));
 }
 
 bool CalendarContent::wantsKey(const MSG& message) const
@@ -201,12 +199,29 @@ int CalendarContent::dpi()
 
 void CalendarContent::draw(HDC dc, const RECT& bounds)
 {
-    drawForm(dc, bounds, popups::calendarControlLayout(), form(), session_->popups.colours.form);
+    calendar_.refresh();
+    drawForm(dc, bounds, popups::calendarControlLayout(), form(), session_->popups.colours().read().form);
 }
 
 std::u16string CalendarContent::plainText()
 {
     return calendar_.grid().selectedText();
+}
+
+void CalendarContent::focusEntered()
+{
+    shell_.focusMoved(true);
+}
+
+void CalendarContent::focusLeft()
+{
+    shell_.focusMoved(false);
+}
+
+void CalendarContent::windowDestroyed()
+{
+    const Shell::Hold hold(shell_);
+    shell_.activation().windowLost();
 }
 
 } // namespace vela::activex

@@ -9,7 +9,7 @@ namespace vela::activex {
 
 [[nodiscard]] const ClassFacts& calendarFacts() noexcept;
 
-class CalendarContent final : public Content {
+class CalendarContent final : public Content, private win32::FormListener {
 public:
     explicit CalendarContent(Shell& shell);
     ~CalendarContent() override;
@@ -32,6 +32,7 @@ public:
     void attach(HWND parent, const RECT& place) override;
     void detach() noexcept override;
     void place(const RECT& place) override;
+    void clip(const RECT* shown) override;
     void show(bool visible) override;
     [[nodiscard]] FieldSize size() override;
     void resize(FieldSize size) override;
@@ -46,6 +47,11 @@ public:
     [[nodiscard]] std::u16string plainText() override;
 
 private:
+    // win32::FormListener
+    void focusEntered() override;
+    void focusLeft() override;
+    void windowDestroyed() override;
+
     [[nodiscard]] win32::Form& form() const;
     void picked();
 
@@ -53,7 +59,6 @@ private:
     std::shared_ptr<Session> session_;
     mutable popups::cCalendar calendar_; // its form is reached through it
     FieldSize size_;
-    bool attached_ = false;
 };
 
 } // namespace vela::activex

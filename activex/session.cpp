@@ -1,4 +1,4 @@
-// One session a thread, so that windows are used only by the thread that made them; the calendar colours outlive it.
+// One session a thread, so that windows are used only by the thread that made them; the calendar colours are of all.
 #include "activex/session.h"
 
 #include <windows.h>
@@ -13,7 +13,7 @@ namespace {
 struct Registry {
     std::mutex mutex;
     std::map<DWORD, std::weak_ptr<Session>> sessions; // by thread
-    popups::CalendarColours colours;                  // of the process, kept between two sessions
+    std::shared_ptr<popups::SharedCalendarColours> colours = std::make_shared<popups::SharedCalendarColours>();
 };
 
 Registry& registry()
@@ -40,18 +40,9 @@ std::shared_ptr<Session> Session::current()
     return session;
 }
 
-Session::Session() : environment{clock_, locales, log_, desktop_, system_}, popups(environment, forms)
+Session::Session()
+    : environment{clock_, locales, log_, desktop_, system_}, popups(environment, forms, registry().colours)
 {
-    Registry& all = registry();
-    const std::lock_guard lock(all.mutex);
-    popups.colours = all.colours;
-}
-
-Session::~Session()
-{
-    Registry& all = registry();
-    const std::lock_guard lock(all.mutex);
-    all.colours = popups.colours;
 }
 
 } // namespace vela::activex

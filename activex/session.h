@@ -18,7 +18,7 @@ public:
 
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
-    ~Session();
+    ~Session() = default;
 
 private:
     Session();

@@ -139,6 +139,14 @@ void VelaContent::fontChanged() noexcept
     contained([&] { font_.follow(vela_.Font()); });
 }
 
+// The colour of the form, which shows around round corners.
+void VelaContent::takeAmbientGround()
+{
+    const auto ambient = shell_.site().ambient(DISPID_AMBIENT_BACKCOLOR);
+    if (ambient && (ambient->get().vt == VT_I4 || ambient->get().vt == VT_UI4))
+        surface_.putGround(engine::Colour{static_cast<std::uint32_t>(ambient->get().lVal)});
+}
+
 void VelaContent::load(platform::PropertyBag& bag)
 {
     vela_.load(bag);
@@ -160,6 +168,7 @@ void VelaContent::terminate() noexcept
 
 void VelaContent::attach(HWND parent, const RECT& place)
 {
+    takeAmbientGround();
     if (surface_.handle())
         surface_.reparent(parent, place);
     else
@@ -197,6 +206,11 @@ void VelaContent::place(const RECT& place)
 {
     surface_.refreshDpi(); // some hosts move a window to another screen without a word
     surface_.place(place);
+}
+
+void VelaContent::clip(const RECT* shown)
+{
+    surface_.clip(shown ? std::optional(*shown) : std::nullopt);
 }
 
 void VelaContent::show(bool visible)
@@ -245,10 +259,13 @@ void VelaContent::ambientChanged(DISPID id)
 {
     if (id == DISPID_AMBIENT_LOCALEID || id == DISPID_UNKNOWN)
         session_->locales.refresh();
+    if (id == DISPID_AMBIENT_BACKCOLOR || id == DISPID_UNKNOWN)
+        takeAmbientGround();
 }
 
 void VelaContent::draw(HDC dc, const RECT& bounds)
 {
+    takeAmbientGround();
     surface_.draw(dc, bounds);
 }
 

@@ -32,6 +32,7 @@ public:
     void attach(HWND parent, const RECT& place) override;
     void detach() noexcept override;
     void place(const RECT& place) override;
+    void clip(const RECT* shown) override;
     void show(bool visible) override;
     [[nodiscard]] FieldSize size() override;
     void resize(FieldSize size) override;
@@ -65,6 +66,7 @@ private:
 
     void takeAmbientFont();
     void fontChanged() noexcept; // the object handed out shows it
+    void takeAmbientGround();
     void needWindow();
 
     Shell& shell_;

@@ -58,7 +58,7 @@ void Vela::initNew()
 void Vela::load(platform::PropertyBag& bag)
 {
     StoredState state;
-    state.colours = popups_.colours;
+    state.colours = popups_.colours().read();
     std::optional<engine::Error> failure;
     const auto keep = [&](const engine::Error& error) {
         if (!failure)
@@ -93,7 +93,7 @@ void Vela::adopt(StoredState&& state)
     history_.reset();
     released_ = false;
     settings_ = std::move(state.settings);
-    popups_.colours = state.colours;
+    popups_.colours().put(state.colours);
     sunken_ = settings_.appearance != Aparencia::cFlat;
     border_ = settings_.borderColorLostfocus;
     surfaceBack_ = state.back;
@@ -151,7 +151,7 @@ void Vela::applyLoadedDefault()
 void Vela::save(platform::PropertyBag& bag)
 {
     const platform::EditBox& current = box();
-    StoredState state{settings_, current.traits(), current.colours().back, Text(), popups_.colours};
+    StoredState state{settings_, current.traits(), current.colours().back, Text(), popups_.colours().read()};
     writeState(bag, state);
 }
 

@@ -45,20 +45,20 @@ void Vela::ToolTipGotFocus(View value) { store(settings_.toolTipGotFocus, value,
 void Vela::ToolTipGotFocusTipo(eIconeToolTipText value) { store(settings_.toolTipGotFocusTipo, value, u"ToolTipGotFocusTipo"); }
 void Vela::UpTAB(bool value) { store(settings_.upTab, value, u"UpTAB"); }
 
-void Vela::Calendar_BackColor(Colour value) { store(popups_.colours.back, value, u"Calendar_BackColor"); }
-void Vela::Calendar_ColorWeekDay(Colour value) { store(popups_.colours.weekDay, value, u"Calendar_ColorWeekDay"); }
-void Vela::Calendar_ComboBackColor(Colour value) { store(popups_.colours.combo, value, u"Calendar_ComboBackColor"); }
-void Vela::Calendar_DayActive(Colour value) { store(popups_.colours.dayActive, value, u"Calendar_DayActive"); }
-void Vela::Calendar_DayInactive(Colour value) { store(popups_.colours.dayInactive, value, u"Calendar_DayInactive"); }
-void Vela::Calendar_FormBackcolor(Colour value) { store(popups_.colours.form, value, u"Calendar_FormBackcolor"); }
-void Vela::Calendar_Selected(Colour value) { store(popups_.colours.selected, value, u"Calendar_Selected"); }
-Vela::Colour Vela::Calendar_BackColor() const { return popups_.colours.back; }
-Vela::Colour Vela::Calendar_ColorWeekDay() const { return popups_.colours.weekDay; }
-Vela::Colour Vela::Calendar_ComboBackColor() const { return popups_.colours.combo; }
-Vela::Colour Vela::Calendar_DayActive() const { return popups_.colours.dayActive; }
-Vela::Colour Vela::Calendar_DayInactive() const { return popups_.colours.dayInactive; }
-Vela::Colour Vela::Calendar_FormBackcolor() const { return popups_.colours.form; }
-Vela::Colour Vela::Calendar_Selected() const { return popups_.colours.selected; }
+void Vela::Calendar_BackColor(Colour value) { storeColour(&popups::CalendarColours::back, value, u"Calendar_BackColor"); }
+void Vela::Calendar_ColorWeekDay(Colour value) { storeColour(&popups::CalendarColours::weekDay, value, u"Calendar_ColorWeekDay"); }
+void Vela::Calendar_ComboBackColor(Colour value) { storeColour(&popups::CalendarColours::combo, value, u"Calendar_ComboBackColor"); }
+void Vela::Calendar_DayActive(Colour value) { storeColour(&popups::CalendarColours::dayActive, value, u"Calendar_DayActive"); }
+void Vela::Calendar_DayInactive(Colour value) { storeColour(&popups::CalendarColours::dayInactive, value, u"Calendar_DayInactive"); }
+void Vela::Calendar_FormBackcolor(Colour value) { storeColour(&popups::CalendarColours::form, value, u"Calendar_FormBackcolor"); }
+void Vela::Calendar_Selected(Colour value) { storeColour(&popups::CalendarColours::selected, value, u"Calendar_Selected"); }
+Vela::Colour Vela::Calendar_BackColor() const { return popups_.colours().read().back; }
+Vela::Colour Vela::Calendar_ColorWeekDay() const { return popups_.colours().read().weekDay; }
+Vela::Colour Vela::Calendar_ComboBackColor() const { return popups_.colours().read().combo; }
+Vela::Colour Vela::Calendar_DayActive() const { return popups_.colours().read().dayActive; }
+Vela::Colour Vela::Calendar_DayInactive() const { return popups_.colours().read().dayInactive; }
+Vela::Colour Vela::Calendar_FormBackcolor() const { return popups_.colours().read().form; }
+Vela::Colour Vela::Calendar_Selected() const { return popups_.colours().read().selected; }
 
 // Not marked changed.
 void Vela::CampoRequerido(bool value) { settings_.campoRequerido = value; }
@@ -66,5 +66,11 @@ void Vela::MsgRequerido(View value) { settings_.msgRequerido = value; }
 void Vela::NomeCampo(View value) { settings_.nomeCampo = value; }
 void Vela::TextoLivre(bool value) { settings_.textoLivre = value; }
 // clang-format on
+
+void Vela::storeColour(Colour popups::CalendarColours::*which, Colour value, View name)
+{
+    popups_.colours().put(which, value);
+    markChanged(name);
+}
 
 } // namespace vela::control

@@ -199,6 +199,7 @@ private:
 
     template <class T, class U>
     void store(T& field, const U& value, View name);
+    void storeColour(Colour popups::CalendarColours::*which, Colour value, View name);
     template <class T>
     void putTrait(T platform::EditTraits::*trait, const T& value);
     template <class T>

@@ -41,6 +41,7 @@ struct WidgetRow {
     TextAlignment alignment = TextAlignment::left;
     double fontSize = 0; // points; 0: the form's font
     bool bold = false;
+    bool fits = false; // a label: where its text or one of its control array is too wide, theirs are written smaller
 };
 
 struct FormLayout {

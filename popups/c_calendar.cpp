@@ -15,7 +15,8 @@ constexpr HighlightRule highlightRule{1000, u"Vela", u"Não é possível inserir
 
 } // namespace
 
-cCalendar::cCalendar(platform::Environment& environment, platform::FormFactory& forms, const CalendarColours& colours)
+cCalendar::cCalendar(platform::Environment& environment, platform::FormFactory& forms,
+                     const SharedCalendarColours& colours)
     : form_(forms.make(calendarControlLayout(), *this)), calendar_(environment, *form_, colours, highlightRule)
 {
 }
@@ -79,6 +80,11 @@ void cCalendar::chooseYear(int index)
 void cCalendar::pick(int cell)
 {
     clickDay(cell);
+    tellPicked();
+}
+
+void cCalendar::tellPicked() const
+{
     if (const auto tell = picked) // a copy: the host may take the function away while it runs
         tell();
 }
@@ -98,9 +104,14 @@ void cCalendar::keyDown(platform::WidgetId, int& code, int& shift)
     if (code == enterKey && shift == 0 && grid().frameCell() >= 0) {
         code = 0;
         pick(grid().frameCell());
-    } else if (calendar_.view.moveByKey(code, shift)) {
-        code = 0;
+        return;
     }
+    const std::u16string before = grid().selectedText();
+    if (!calendar_.view.moveByKey(code, shift))
+        return;
+    code = 0;
+    if (grid().selectedText() != before)
+        tellPicked();
 }
 
 } // namespace vela::popups

@@ -12,7 +12,7 @@ namespace vela::popups {
 class cCalendar final : public platform::FormEvents {
 public:
     // Selects nothing and draws nothing before initNew() or load(). All outlive the object.
-    cCalendar(platform::Environment& environment, platform::FormFactory& forms, const CalendarColours& colours);
+    cCalendar(platform::Environment& environment, platform::FormFactory& forms, const SharedCalendarColours& colours);
 
     void initNew();                        // today is selected
     void load(platform::PropertyBag& bag); // "DateInitial", "dd/mm/yyyy"; empty: today
@@ -29,7 +29,9 @@ public:
     [[nodiscard]] const CalendarGrid& grid() const noexcept { return calendar_.grid; }
     [[nodiscard]] platform::Form& form() noexcept { return *form_; } // for the host to embed
 
-    std::function<void()> picked; // a day has been picked with the mouse or the Enter key
+    void refresh() { calendar_.view.refresh(); } // a picture of it is wanted: the colours may be others now
+
+    std::function<void()> picked; // a day has been picked with the mouse or the Enter key, or a key has moved it
 
     void clicked(platform::WidgetId widget) override;
     void doubleClicked(platform::WidgetId) override {}
@@ -45,6 +47,7 @@ public:
 
 private:
     void pick(int cell);
+    void tellPicked() const;
 
     std::unique_ptr<platform::Form> form_;
     CalendarOperations calendar_;

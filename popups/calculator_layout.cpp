@@ -50,7 +50,8 @@ constexpr std::array<WidgetRow, 20> rows{{
      .caption = u"0.",
      .place = {60, 45, 102 * 15, 17 * 15},
      .alignment = platform::TextAlignment::right,
-     .bold = true},
+     .bold = true,
+     .fits = true},
 }};
 
 // In the order of the rows; digits and the display speak for themselves.

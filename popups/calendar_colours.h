@@ -1,7 +1,9 @@
-// The seven calendar colours: one record of the process, shared by every control and calendar.
+// The seven calendar colours: one record of the process, shared by every control and calendar of every thread.
 #pragma once
 
 #include "engine/value.h"
+
+#include <mutex>
 
 namespace vela::popups {
 
@@ -14,6 +16,30 @@ struct CalendarColours {
     engine::Colour dayInactive{0x00808080};
     engine::Colour selected{0x00C0FFFF};
     friend bool operator==(const CalendarColours&, const CalendarColours&) = default;
+};
+
+// The record itself. Controls of several threads share it; each call reads or writes it whole.
+class SharedCalendarColours {
+public:
+    [[nodiscard]] CalendarColours read() const
+    {
+        const std::lock_guard lock(mutex_);
+        return colours_;
+    }
+    void put(const CalendarColours& colours)
+    {
+        const std::lock_guard lock(mutex_);
+        colours_ = colours;
+    }
+    void put(engine::Colour CalendarColours::*which, engine::Colour colour)
+    {
+        const std::lock_guard lock(mutex_);
+        colours_.*which = colour;
+    }
+
+private:
+    mutable std::mutex mutex_;
+    CalendarColours colours_;
 };
 
 } // namespace vela::popups

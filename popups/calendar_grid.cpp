@@ -153,6 +153,8 @@ void CalendarGrid::clickDay(int cell)
     const DayCell clicked = cells_[static_cast<std::size_t>(cell)];
     if (clicked.day == 0)
         return; // nothing has been drawn: no day to pick
+    if (yearIndex_ < 0)
+        return selectShown(*dateOf(cell));
     frameCell_ = cell;
     if (clicked.tag) {
         followTag(*clicked.tag);
@@ -162,6 +164,16 @@ void CalendarGrid::clickDay(int cell)
             frameCell_ = static_cast<int>(found - cells_.begin());
     }
     selected_ = caption(clicked) + u"/" + twoDigits(monthIndex_ + 1) + u"/" + yearText();
+}
+
+// The month on show lies beyond the list's years, and so may the day: it is the date that the cell stands for.
+void CalendarGrid::selectShown(engine::CivilDate date)
+{
+    if (!engine::isValid(date))
+        return;
+    select(date);
+    monthIndex_ = date.month - 1;
+    drawMonth(selected_);
 }
 
 void CalendarGrid::followTag(int tag)

@@ -60,7 +60,8 @@ public:
     [[nodiscard]] const std::vector<int>& years() const noexcept { return years_; }
     [[nodiscard]] std::u16string yearText() const; // empty where nothing is selected
 
-    // The frame moves there, a tagged cell switches the month, the day is selected. 9 outside 0..41.
+    // The frame moves there, a tagged cell switches the month, the day is selected. 9 outside 0..41. While no year of
+    // the list is chosen the date is the one that the cell stands for.
     void clickDay(int cell);
 
     [[nodiscard]] const std::array<DayCell, cellCount>& cells() const noexcept { return cells_; }
@@ -82,6 +83,7 @@ private:
     void fillNextMonth(int from);
     void tryPutYearIndex(int index);
     void followTag(int tag);
+    void selectShown(engine::CivilDate date);
 
     std::array<DayCell, cellCount> cells_{};
     std::array<PointTwips, cellCount> marks_{};

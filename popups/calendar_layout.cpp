@@ -25,6 +25,7 @@ constexpr int firstColumn = 11;
 constexpr int firstRow = 52;
 constexpr int dayWidth = 18;
 constexpr int dayHeight = 16;
+constexpr int headerWidth = columnPitch - 2; // two weekdays never touch
 
 constexpr std::size_t fixedRows = 6;
 constexpr std::size_t rowCount = fixedRows + 7 + cellCount;
@@ -49,15 +50,17 @@ std::array<WidgetRow, rowCount> makeRows()
             .name = u"LblDiaSemana",
             .index = column,
             .caption = weekdayNames()[static_cast<std::size_t>(column)],
-            .place = pixels(firstColumn - (columnPitch - dayWidth) / 2 + column * columnPitch, 32, columnPitch, 15),
-            .alignment = platform::TextAlignment::center};
+            .place = pixels(firstColumn - (headerWidth - dayWidth) / 2 + column * columnPitch, 32, headerWidth, 15),
+            .alignment = platform::TextAlignment::center,
+            .fits = true};
     for (int cell = 0; cell < cellCount; ++cell)
         rows[at++] = {
             .kind = WidgetKind::label,
             .name = u"LblDia",
             .index = cell,
             .place = pixels(firstColumn + cell % 7 * columnPitch, firstRow + cell / 7 * rowPitch, dayWidth, dayHeight),
-            .alignment = platform::TextAlignment::center};
+            .alignment = platform::TextAlignment::center,
+            .fits = true};
     return rows;
 }
 

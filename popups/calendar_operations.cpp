@@ -7,20 +7,21 @@
 namespace vela::popups {
 
 CalendarOperations::CalendarOperations(platform::Environment& environment, platform::Form& form,
-                                       const CalendarColours& colours, const HighlightRule& rule)
+                                       const SharedCalendarColours& colours, const HighlightRule& rule)
     : grid(rule.limit), view(form, grid, colours), environment_(environment), rule_(rule)
 {
 }
 
+// The model is whole before a window can fail, and what it has is shown where it could not be whole.
 void CalendarOperations::load()
 {
-    const auto error = trapped([&] {
+    auto error = trapped([&] {
         grid.initialise(civilToday(environment_.clock.now()));
-        grid.show(); // the model is whole before a window can fail
-        view.applyColours();
-        view.colourHeader();
-        view.refresh();
+        grid.show();
     });
+    const auto unseen = trapped([&] { view.refresh(); });
+    if (!error)
+        error = unseen;
     if (error)
         boxes.show(environment_.desktop, platform::BoxIcon::information, u"Vela.Load", error->description);
 }

@@ -19,7 +19,7 @@ struct HighlightRule {
 class CalendarOperations {
 public:
     // All outlive the object.
-    CalendarOperations(platform::Environment& environment, platform::Form& form, const CalendarColours& colours,
+    CalendarOperations(platform::Environment& environment, platform::Form& form, const SharedCalendarColours& colours,
                        const HighlightRule& rule);
 
     // Initialisation and show step; a failure is shown in a box titled "Vela.Load", and what was filled stays.

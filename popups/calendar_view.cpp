@@ -61,8 +61,8 @@ private:
 
 } // namespace
 
-CalendarView::CalendarView(platform::Form& form, CalendarGrid& grid, const CalendarColours& colours)
-    : form_(form), grid_(grid), colours_(colours)
+CalendarView::CalendarView(platform::Form& form, CalendarGrid& grid, const SharedCalendarColours& colours)
+    : form_(form), grid_(grid), shared_(colours)
 {
     form_.show(widget::frame, false); // until a date has been drawn
 }
@@ -91,6 +91,9 @@ void CalendarView::colourHeader()
 void CalendarView::refresh()
 {
     const Refreshing refreshing(refreshing_);
+    colours_ = shared_.read();
+    applyColours();
+    colourHeader();
     refreshYears();
     refreshChoice(widget::months, grid_.monthIndex());
     refreshChoice(widget::years, grid_.yearIndex());

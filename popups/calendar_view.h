@@ -13,11 +13,9 @@ namespace vela::popups {
 class CalendarView {
 public:
     // All outlive the view; the grid changes only between two calls of refresh().
-    CalendarView(platform::Form& form, CalendarGrid& grid, const CalendarColours& colours);
+    CalendarView(platform::Form& form, CalendarGrid& grid, const SharedCalendarColours& colours);
 
-    void applyColours(); // form, panel, combos, frame
-    void colourHeader();
-    void refresh(); // years, choices, cells, frame
+    void refresh(); // every colour as it is now, years, choices, cells, frame
 
     // A combo's Click. Nothing while refresh() itself chooses.
     void takeMonth();
@@ -33,6 +31,8 @@ private:
         bool framed = false;
         friend bool operator==(const Painted&, const Painted&) = default;
     };
+    void applyColours(); // form, panel, combos, frame
+    void colourHeader();
     void refreshYears();
     void refreshChoice(platform::WidgetId combo, int chosen);
     void refreshCell(int cell);
@@ -40,7 +40,8 @@ private:
 
     platform::Form& form_;
     CalendarGrid& grid_;
-    const CalendarColours& colours_;
+    const SharedCalendarColours& shared_;
+    CalendarColours colours_; // of the last drawing
     std::array<std::optional<Painted>, cellCount> painted_;
     bool refreshing_ = false;
 };

@@ -13,7 +13,7 @@ constexpr HighlightRule highlightRule{10000, u"Vela.IDR", u"Acesso Negado!"};
 } // namespace
 
 CalendarioSDI::CalendarioSDI(platform::Environment& environment, platform::FormFactory& forms,
-                             const CalendarColours& colours, PopupRecord& record)
+                             const SharedCalendarColours& colours, PopupRecord& record)
     : record_(record), life_(environment, forms, calendarPopupLayout(), *this, record, u"Procedimento: CJA"),
       calendar_(std::make_unique<CalendarOperations>(environment, life_.form(), colours, highlightRule))
 {

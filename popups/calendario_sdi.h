@@ -11,8 +11,8 @@ namespace vela::popups {
 class CalendarioSDI final : public platform::FormEvents {
 public:
     // Loads: today is selected and drawn. All outlive the object.
-    CalendarioSDI(platform::Environment& environment, platform::FormFactory& forms, const CalendarColours& colours,
-                  PopupRecord& record);
+    CalendarioSDI(platform::Environment& environment, platform::FormFactory& forms,
+                  const SharedCalendarColours& colours, PopupRecord& record);
     CalendarioSDI(const CalendarioSDI&) = delete;
     CalendarioSDI& operator=(const CalendarioSDI&) = delete;
 

@@ -1,4 +1,4 @@
-// The record of the process's pop-ups: opening, closing, and letting go of closed ones at a safe moment.
+// The record of a thread's pop-ups: opening, closing, and letting go of closed ones at a safe moment.
 #include "popups/popups.h"
 
 #include "popups/calendario_sdi.h"
@@ -84,18 +84,28 @@ private:
 struct Popups::State {
     platform::Environment& environment;
     platform::FormFactory& forms;
+    std::shared_ptr<SharedCalendarColours> colours;
     Slot<CalendarioSDI> calendar;
     Slot<frmCalculadora> calculator;
 
-    State(platform::Environment& machine, platform::FormFactory& factory) : environment(machine), forms(factory) {}
+    State(platform::Environment& machine, platform::FormFactory& factory, std::shared_ptr<SharedCalendarColours> shared)
+        : environment(machine), forms(factory), colours(std::move(shared))
+    {
+    }
 };
 
-Popups::Popups(platform::Environment& environment, platform::FormFactory& forms)
-    : state_(std::make_unique<State>(environment, forms))
+Popups::Popups(platform::Environment& environment, platform::FormFactory& forms,
+               std::shared_ptr<SharedCalendarColours> colours)
+    : state_(std::make_unique<State>(environment, forms, std::move(colours)))
 {
 }
 
 Popups::~Popups() = default;
+
+SharedCalendarColours& Popups::colours() const noexcept
+{
+    return *state_->colours;
+}
 
 void Popups::openCalendar(Owner& owner)
 {
@@ -103,7 +113,7 @@ void Popups::openCalendar(Owner& owner)
     launchCalendar(state_->environment, owner, [this]() -> CalendarioSDI& {
         state_->calculator.close();
         return state_->calendar.load([this](PopupRecord& record) {
-            return std::make_unique<CalendarioSDI>(state_->environment, state_->forms, colours, record);
+            return std::make_unique<CalendarioSDI>(state_->environment, state_->forms, *state_->colours, record);
         });
     });
 }

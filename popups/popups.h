@@ -1,4 +1,4 @@
-// The pop-ups of a process: at most one calendar and one calculator, opened for one owner at a time.
+// The pop-ups of a user-interface thread: at most one calendar and one calculator, opened for one owner at a time.
 #pragma once
 
 #include "platform/environment.h"
@@ -15,13 +15,14 @@ class frmCalculadora;
 
 class Popups {
 public:
-    // All outlive the pop-ups.
-    Popups(platform::Environment& environment, platform::FormFactory& forms);
+    // All outlive the pop-ups. A program that has pop-ups in one thread only needs no record of its own.
+    Popups(platform::Environment& environment, platform::FormFactory& forms,
+           std::shared_ptr<SharedCalendarColours> colours = std::make_shared<SharedCalendarColours>());
     ~Popups();
     Popups(const Popups&) = delete;
     Popups& operator=(const Popups&) = delete;
 
-    CalendarColours colours; // of every calendar in the process
+    [[nodiscard]] SharedCalendarColours& colours() const noexcept; // of every calendar in the process
 
     // Report their own failures in a box; nothing is raised.
     void openCalendar(Owner& owner);

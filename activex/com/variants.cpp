@@ -165,6 +165,26 @@ VARTYPE variantType(const engine::Value& value) noexcept
     return types[value.index()];
 }
 
+// Named ones come first, in the order of their names, which are numbers of parameters; the others follow backwards.
+const VARIANT& Arguments::operator[](std::size_t index) const noexcept
+{
+    for (UINT i = 0; i < given_.cNamedArgs; ++i)
+        if (given_.rgdispidNamedArgs[i] == static_cast<DISPID>(index))
+            return given_.rgvarg[i];
+    return given_.rgvarg[given_.cArgs - 1 - index];
+}
+
+int Arguments::misnamed(int parameters) const noexcept
+{
+    const auto positions = static_cast<DISPID>(given_.cArgs - std::min(given_.cArgs, given_.cNamedArgs));
+    for (UINT i = 0; i < given_.cNamedArgs; ++i) {
+        const DISPID name = given_.rgdispidNamedArgs[i];
+        if (name < positions || name >= parameters)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
 bool Arguments::named() const noexcept
 {
     return given_.cNamedArgs > 1 || (given_.cNamedArgs == 1 && given_.rgdispidNamedArgs[0] != DISPID_PROPERTYPUT);

@@ -26,10 +26,9 @@ public:
 
     [[nodiscard]] std::size_t count() const noexcept { return given_.cArgs; }
     [[nodiscard]] bool named() const noexcept; // some argument is named, and is not the value of a put
-    [[nodiscard]] const VARIANT& operator[](std::size_t index) const noexcept
-    {
-        return given_.rgvarg[given_.cArgs - 1 - index];
-    }
+    // The place among the given ones of a named argument that none of so many parameters takes; -1: there is none.
+    [[nodiscard]] int misnamed(int parameters) const noexcept;
+    [[nodiscard]] const VARIANT& operator[](std::size_t index) const noexcept;
 
 private:
     const DISPPARAMS& given_;

@@ -118,7 +118,6 @@ void Activation::deactivate() noexcept
     if (!inPlace_) // the host was quicker
         return;
     inPlace_ = false;
-    clipped_ = false;
     if (Content* content = shell_.made())
         content->detach();
     frame_.reset();
@@ -136,23 +135,16 @@ void Activation::putRects(const RECT& place, const RECT& bounds)
     shell_.followWindow();
 }
 
-// The host's own window cuts its children already; a region is needed only where the host wants less shown.
+// The host's own window cuts its children already; a clip is needed only where the host wants less shown.
 void Activation::clip(const RECT& place, const RECT& bounds) noexcept
 {
     Content* const content = shell_.made();
-    const HWND window = content ? content->window() : nullptr;
-    if (!window || IsRectEmpty(&bounds))
+    if (!content || IsRectEmpty(&bounds))
         return;
     RECT shown{};
-    if (contains(bounds, place)) {
-        if (clipped_)
-            SetWindowRgn(window, nullptr, TRUE);
-        clipped_ = false;
-        return;
-    }
     IntersectRect(&shown, &place, &bounds);
     OffsetRect(&shown, -place.left, -place.top);
-    clipped_ = SetWindowRgn(window, CreateRectRgnIndirect(&shown), TRUE) != 0; // the window owns the region now
+    contained([&] { content->clip(contains(bounds, place) ? nullptr : &shown); });
 }
 
 void Activation::enableModeless(bool enable) noexcept

@@ -36,7 +36,6 @@ private:
     ComPtr<IOleInPlaceUIWindow> document_;
     bool inPlace_ = false;
     bool interface_ = false;
-    bool clipped_ = false;
 };
 
 } // namespace vela::activex

@@ -21,6 +21,7 @@ struct Member {
     DISPID id = DISPID_UNKNOWN;
     WORD access = 0;    // DISPATCH_METHOD, DISPATCH_PROPERTYGET, ..PUT, ..PUTREF
     int parameters = 0; // of a method
+    std::u16string_view parameter = {}; // the name of its only one
     bool bindable = false;
     const engine::Enumeration* enumeration = nullptr; // of its values
     const CLSID* page = nullptr;                      // the standard page that edits it
@@ -67,6 +68,7 @@ public:
     virtual void attach(HWND parent, const RECT& place) = 0; // shows it there, in pixels of the parent's client area
     virtual void detach() noexcept = 0;
     virtual void place(const RECT& place) = 0;
+    virtual void clip(const RECT* shown) = 0; // no more of the window is shown, in its own pixels; null: all of it
     virtual void show(bool visible) = 0;
     [[nodiscard]] virtual FieldSize size() = 0;
     virtual void resize(FieldSize size) = 0; // without a window

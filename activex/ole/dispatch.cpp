@@ -59,8 +59,8 @@ HRESULT Dispatch::GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept
     return index == 0 ? loadTypeInfo(shell_.facts().members, info) : DISP_E_BADINDEX;
 }
 
-// Parameters have no names to be passed by. The interface named is reserved and is not looked at: some callers name the
-// one that they hold.
+// A method's parameter is named after it, and its DISPID is its number. The interface named is reserved and is not looked
+// at: some callers name the one that they hold.
 HRESULT Dispatch::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept
 {
     if (!names || !ids || count == 0)
@@ -72,7 +72,15 @@ HRESULT Dispatch::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPI
         if (!member)
             return DISP_E_UNKNOWNNAME;
         ids[0] = member->id;
-        return count == 1 ? S_OK : DISP_E_UNKNOWNNAME;
+        bool known = true;
+        for (UINT i = 1; i < count; ++i) {
+            const std::wstring_view parameter(names[i] ? names[i] : L"");
+            if (!parameter.empty() && sameName(member->parameter, asText(parameter.data(), parameter.size())))
+                ids[i] = 0;
+            else
+                known = false;
+        }
+        return known ? S_OK : DISP_E_UNKNOWNNAME;
     });
 }
 
@@ -93,8 +101,15 @@ HRESULT Dispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parame
         if (!member || (member->access & flags) == 0)
             return DISP_E_MEMBERNOTFOUND;
         const Arguments arguments(*parameters);
-        if (arguments.named())
-            return DISP_E_NONAMEDARGS;
+        if (arguments.named()) {
+            if (member->parameters == 0)
+                return DISP_E_NONAMEDARGS;
+            if (const int wrong = arguments.misnamed(member->parameters); wrong >= 0) {
+                if (argument)
+                    *argument = static_cast<UINT>(wrong);
+                return DISP_E_PARAMNOTFOUND;
+            }
+        }
         if (flags & member->access & puts)
             return put(*member, arguments);
         return member->access & DISPATCH_METHOD ? call(*member, arguments, result) : get(*member, arguments, result);

@@ -186,7 +186,7 @@ void calculatorCommand(Session& session, Words words)
 } // namespace
 
 GridDesk::GridDesk(Session& session)
-    : calendar(session.machine().environment, session.machine().forms, session.popups().colours)
+    : calendar(session.machine().environment, session.machine().forms, session.popups().colours())
 {
     calendar.initNew();
 }

@@ -189,7 +189,7 @@ void ControlSurface::draw(HDC dc, const RECT& place) const
     const engine::RectPixels client = clientRect();
     paintField(dc, place,
                {text, look_, layout_, edit().traits(), edit().colours(), SIZE{client.width, client.height}, dpi_,
-                edit().kind() == platform::EditBoxKind::multiLine});
+                edit().kind() == platform::EditBoxKind::multiLine, edit().hasFocus(), ground_});
 }
 
 EditBox& ControlSurface::box(platform::EditBoxKind kind)
@@ -338,21 +338,6 @@ void ControlSurface::showButton()
     SetWindowPos(button_, HWND_TOP, place.left, place.top, place.width, place.height, SWP_NOACTIVATE | SWP_SHOWWINDOW);
 }
 
-void ControlSurface::applyRegion()
-{
-    if (layout_.cornerRadius <= 0) {
-        if (rounded_)
-            SetWindowRgn(window_, nullptr, TRUE);
-        rounded_ = false;
-        return;
-    }
-    const engine::RectPixels client = clientRect();
-    const int diameter = layout_.cornerRadius * 2;
-    // The system owns the region from then on. A rounded region leaves out its last row and column.
-    SetWindowRgn(window_, CreateRoundRectRgn(0, 0, client.width + 1, client.height + 1, diameter, diameter), TRUE);
-    rounded_ = true;
-}
-
 LRESULT ControlSurface::handle(HWND window, UINT message, WPARAM first, LPARAM second)
 {
     if (!window_) // still being made
@@ -379,7 +364,7 @@ void ControlSurface::unbound()
 {
     window_ = nullptr;
     button_ = nullptr;
-    rounded_ = false;
+    shaped_ = false;
     if (listener_ && !destroying_)
         listener_->windowDestroyed();
 }
@@ -389,7 +374,7 @@ LRESULT ControlSurface::command(WPARAM first, LPARAM second)
     const HWND from = reinterpret_cast<HWND>(second);
     const UINT code = HIWORD(first);
     if (from && from == button_) {
-        if (code == BN_CLICKED)
+        if (code == BN_CLICKED || code == BN_DBLCLK) // an owner-drawn one makes the second quick click a double click
             buttonPressed();
         else if (code == BN_KILLFOCUS)
             edit().settleLoan();
@@ -436,6 +421,8 @@ void ControlSurface::paint()
         paintBorder(dc.get(), client, {look_.line, look_.border, line, layout_.cornerRadius});
     if (frame_)
         paintBorder(dc.get(), client, {look_.line, frame_->colour, line * frame_->width, layout_.cornerRadius});
+    if (layout_.cornerRadius > 0)
+        paintCorners();
 }
 
 void ControlSurface::drawButton(const DRAWITEMSTRUCT& item) const

@@ -42,6 +42,8 @@ public:
     void destroy();
     void reparent(HWND parent, const RECT& place);
     void place(const RECT& place); // moves and resizes, with a window or without; resized() when the size changed
+    void clip(std::optional<RECT> shown);  // no more of it is shown, in its own pixels; none: all of it
+    void putGround(engine::Colour colour); // of the host around it, where its corners are round
     void show(bool visible);
     void putDpi(int dpi); // while there is no window
     void setAccessibleName(std::u16string_view name);
@@ -88,6 +90,7 @@ private:
     void showButton();
     void appear() const;
     void applyRegion();
+    void paintCorners() const;
     void buttonPressed();
     void repaint() const;
     EditBox& box(platform::EditBoxKind kind);
@@ -109,7 +112,9 @@ private:
     bool visible_ = true;
     bool destroying_ = false;
     bool timer_ = false;
-    bool rounded_ = false;
+    std::optional<RECT> clip_;
+    engine::Colour ground_{0x8000000F};
+    bool shaped_ = false; // the window has a region
     std::u16string accessibleName_;
 };
 

@@ -9,11 +9,24 @@
 
 namespace vela::win32 {
 
+// What the parent of a child form wants to know beyond what its logic does. May destroy the form.
+class FormListener {
+public:
+    virtual void focusEntered() {}    // the focus came into the form or one of its windows
+    virtual void focusLeft() {}       // to another window than one of those
+    virtual void windowDestroyed() {} // by another than leaveParent()
+
+protected:
+    ~FormListener() = default;
+};
+
 // Keeps all values itself. Its windows are made when it is shown and go when it is closed or leaves its parent.
 class Form : public platform::Form {
 public:
     // As a child of `parent` (a property page of a frame), at this place, in pixels, at the natural size's scale.
     virtual void showChild(HWND parent, const RECT& place) = 0;
+    // Null: none, which is how a form begins. With one, a click anywhere in a child form takes the focus.
+    virtual void setListener(FormListener* listener) noexcept = 0;
     virtual void showChildWindow(bool visible) = 0;
     virtual void moveChild(const RECT& place) = 0;
     virtual void leaveParent() = 0; // the windows go, the values stay

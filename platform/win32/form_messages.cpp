@@ -75,9 +75,12 @@ LRESULT FormWindow::widgetMessage(Widget& widget, HWND window, UINT message, WPA
         if (accessKey(static_cast<wchar_t>(first)))
             return 0;
         break;
-    case WM_SETFOCUS: {
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS: {
         const LRESULT result = CallWindowProcW(original, window, message, first, second);
         if (!gone())
+            focusCrossed(message, reinterpret_cast<HWND>(first));
+        if (!gone() && message == WM_SETFOCUS)
             focusArrived(widget);
         return result;
     }
@@ -125,7 +128,16 @@ LRESULT FormWindow::handle(HWND window, UINT message, WPARAM first, LPARAM secon
             activation(LOWORD(first) != WA_INACTIVE);
         return result;
     }
-    case WM_SETFOCUS: focusFirst(); return 0;
+    case WM_SETFOCUS:
+        focusCrossed(message, reinterpret_cast<HWND>(first));
+        if (running.alive() && window_)
+            focusFirst();
+        return 0;
+    case WM_GETDLGCODE:
+        if (listener_ && role_ == Role::child)
+            return keysWanted(reinterpret_cast<const MSG*>(second));
+        break;
+    case WM_KILLFOCUS: focusCrossed(message, reinterpret_cast<HWND>(first)); return 0;
     case WM_TIMER: timer(); return 0;
     case WM_GETOBJECT:
         if (static_cast<LONG>(second) == OBJID_CLIENT)
@@ -138,6 +150,29 @@ LRESULT FormWindow::handle(HWND window, UINT message, WPARAM first, LPARAM secon
     return running.alive() ? DefWindowProcW(window, message, first, second) : 0;
 }
 
+bool FormWindow::isOwn(HWND window) const noexcept
+{
+    return window && (window == window_ || IsChild(window_, window));
+}
+
+// A host asks the window it knows, whichever of its widgets has the focus.
+LRESULT FormWindow::keysWanted(const MSG* key) const noexcept
+{
+    const bool enter = key && key->message == WM_KEYDOWN && key->wParam == VK_RETURN;
+    return DLGC_WANTARROWS | (enter ? DLGC_WANTALLKEYS : 0);
+}
+
+// The focus came from the other window, or goes to it.
+void FormWindow::focusCrossed(UINT message, HWND other)
+{
+    if (!listener_ || isOwn(other))
+        return;
+    if (message == WM_SETFOCUS)
+        listener_->focusEntered();
+    else
+        listener_->focusLeft();
+}
+
 // Destroyed with its parent or owner: the values stay, and a form of its own is closed.
 void FormWindow::unbound()
 {
@@ -148,6 +183,8 @@ void FormWindow::unbound()
         widget->window = widget->inner = nullptr;
     if (role_ != Role::child && !std::exchange(closed_, true))
         events_.closed();
+    else if (listener_)
+        listener_->windowDestroyed();
 }
 
 LRESULT FormWindow::command(WPARAM first, LPARAM second)
@@ -266,6 +303,8 @@ LRESULT FormWindow::pointer(UINT message, LPARAM where)
         pressed_ = label;
         if (label)
             SetCapture(window_);
+        if (listener_ && role_ == Role::child && !isOwn(GetFocus()))
+            SetFocus(window_);
         return 0;
     }
     if (message == WM_LBUTTONDBLCLK) {

@@ -6,6 +6,7 @@
 #include "platform/win32/text.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace vela::win32 {
 namespace {
@@ -26,19 +27,6 @@ UINT alignmentOf(platform::TextAlignment alignment) noexcept
     case platform::TextAlignment::center: return DT_CENTER;
     }
     return DT_LEFT;
-}
-
-// The circle behind a chosen day; in high contrast a ring, so that the day is read on the window's own colour.
-void paintMark(HDC dc, const RECT& place, COLORREF colour, int line)
-{
-    if (!highContrast()) {
-        paintEllipse(dc, place, colour);
-        return;
-    }
-    paintEllipse(dc, place, GetSysColor(COLOR_HIGHLIGHT));
-    RECT inside = place;
-    InflateRect(&inside, -line, -line);
-    paintEllipse(dc, inside, GetSysColor(COLOR_WINDOW));
 }
 
 int lineHeight(HDC dc) noexcept
@@ -74,6 +62,7 @@ void FormWindow::paint()
 
 void FormWindow::paintAll(HDC dc, const RECT& client)
 {
+    fitted_ = {};
     fill(dc, client, resolve(back_, ColourRole::back));
     for (const auto& widget : widgets_)
         if (showing(*widget))
@@ -105,9 +94,27 @@ void FormWindow::paintWidget(HDC dc, Widget& widget)
     }
 }
 
+// Of the characters, in pixels, when this much of its place on either side is the border's.
+int FormWindow::labelHeight(HDC dc, const Widget& widget, int border)
+{
+    constexpr double twipsPerPoint = 20;
+    const platform::FontDescription font = fontOf(widget);
+    const int height = std::max(static_cast<int>(std::lround(font.size * twipsPerPoint * scale_)), 1);
+    return fitted_.of(widget.row->name, dc, font, height, [&] {
+        std::vector<FittingText> texts;
+        for (const auto& one : widgets_) {
+            const RECT place = rectOf(*one);
+            if (one->row->name == widget.row->name && showing(*one))
+                texts.push_back({one->text, static_cast<int>(place.right - place.left) - 2 * border});
+        }
+        return texts;
+    });
+}
+
 void FormWindow::paintLabel(HDC dc, Widget& widget, RECT place)
 {
     const platform::WidgetLook& look = widget.look;
+    const RECT outer = place;
     const bool preview = widget.kind() == WidgetKind::preview;
     if (look.opaque && look.round)
         paintMark(dc, place, resolve(look.back), pixels(30));
@@ -120,12 +127,15 @@ void FormWindow::paintLabel(HDC dc, Widget& widget, RECT place)
     }
     if (widget.text.empty())
         return;
-    const SelectedObject font(dc, widget.shared->get());
+    const bool fits = widget.row->fits;
+    const UniqueGdi<HFONT> fitted(
+        fits ? makeFont(fontOf(widget), labelHeight(dc, widget, static_cast<int>(place.left - outer.left))) : nullptr);
+    const SelectedObject font(dc, fits ? fitted.get() : widget.shared->get());
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, widget.enabled ? resolve(look.fore, ColourRole::fore) : GetSysColor(COLOR_GRAYTEXT));
-    const bool oneLine = place.bottom - place.top < 2 * lineHeight(dc);
-    const UINT format = (preview ? DT_CENTER : alignmentOf(widget.row->alignment)) | DT_NOCLIP |
-                        (oneLine ? DT_SINGLELINE | DT_VCENTER : DT_WORDBREAK);
+    const bool oneLine = fits || place.bottom - place.top < 2 * lineHeight(dc);
+    const UINT format = (preview ? DT_CENTER : alignmentOf(widget.row->alignment)) |
+                        (fits ? DT_END_ELLIPSIS : DT_NOCLIP) | (oneLine ? DT_SINGLELINE | DT_VCENTER : DT_WORDBREAK);
     DrawTextW(dc, wide(widget.text.c_str()), -1, &place, format);
 }
 

@@ -1,6 +1,7 @@
 // A form: the values of its widgets, the windows that show them, and what a person does there.
 #pragma once
 
+#include "platform/win32/fitted_text.h"
 #include "platform/win32/fonts.h"
 #include "platform/win32/form.h"
 #include "platform/win32/form_accessible.h"
@@ -46,6 +47,7 @@ public:
     [[nodiscard]] platform::WindowId window() const override;
 
     void showChild(HWND parent, const RECT& place) override;
+    void setListener(FormListener* listener) noexcept override { listener_ = listener; }
     void showChildWindow(bool visible) override;
     void moveChild(const RECT& place) override;
     void leaveParent() override;
@@ -101,12 +103,16 @@ private:
     void pressButton(std::u16string_view caption);
     void nextWidget(bool back);
     void focusArrived(Widget& widget);
+    [[nodiscard]] bool isOwn(HWND window) const noexcept;
+    [[nodiscard]] LRESULT keysWanted(const MSG* key) const noexcept;
+    void focusCrossed(UINT message, HWND other);
     void clickedWindow(Widget& widget);
     void typedInto(Widget& widget);
     [[nodiscard]] Widget* labelAt(POINT point);
 
     // Showing (form_show.cpp).
     void makeTopLevel(Role role, HWND owner, RECT place, DWORD style, DWORD extendedStyle);
+    void appear();
     void focusFirst();
     void endShowing();
     void runModalLoop();
@@ -116,6 +122,7 @@ private:
     void paintAll(HDC dc, const RECT& client);
     void paintWidget(HDC dc, Widget& widget);
     void paintLabel(HDC dc, Widget& widget, RECT place);
+    [[nodiscard]] int labelHeight(HDC dc, const Widget& widget, int border);
     void paintFrame(HDC dc, Widget& widget, RECT place);
     void paintPane(HDC dc, const Widget& widget, RECT place);
     // For screen readers (form_messages.cpp).
@@ -127,6 +134,7 @@ private:
 
     platform::FormLayout layout_;
     platform::FormEvents& events_;
+    FormListener* listener_ = nullptr;
     FocusArbiter& arbiter_;
     std::vector<std::unique_ptr<Widget>> widgets_;
     HWND window_ = nullptr;
@@ -142,7 +150,8 @@ private:
     bool closed_ = false;
     bool quiet_ = false; // windows are being written
     bool swallowChar_ = false;
-    int running_ = 0; // procedures of its windows that are under way
+    int running_ = 0;      // procedures of its windows that are under way
+    FittedHeights fitted_; // of the drawing that is under way
     FormSpeech speech_;
     Life life_;
 };

@@ -14,6 +14,7 @@
 #include <array>
 #include <cmath>
 #include <span>
+#include <string_view>
 
 namespace vela::win32 {
 namespace {
@@ -145,6 +146,34 @@ void paintCalculatorGlyph(HDC dc, const RECT& box, COLORREF colour)
         }
 }
 
+// A theme's parts are pictures: they go where pictures go, not into metafiles or onto printers.
+bool takesPictures(HDC dc) noexcept
+{
+    const DWORD kind = GetObjectType(dc);
+    return kind != OBJ_ENHMETADC && kind != OBJ_METADC && GetDeviceCaps(dc, TECHNOLOGY) == DT_RASDISPLAY;
+}
+
+// The theme's data for a class, for a scope. None in high contrast: a theme keeps its own face there.
+class Theme {
+public:
+    Theme(HWND window, HDC dc, const wchar_t* part) noexcept
+        : theme_(!highContrast() && (window || takesPictures(dc)) ? OpenThemeData(window, part) : nullptr)
+    {
+    }
+    Theme(const Theme&) = delete;
+    Theme& operator=(const Theme&) = delete;
+    ~Theme()
+    {
+        if (theme_)
+            CloseThemeData(theme_);
+    }
+    [[nodiscard]] explicit operator bool() const noexcept { return theme_ != nullptr; }
+    [[nodiscard]] HTHEME get() const noexcept { return theme_; }
+
+private:
+    HTHEME theme_;
+};
+
 struct Scale {
     double x = 1;
     double y = 1;
@@ -175,6 +204,16 @@ UINT textFormat(const FieldPicture& field) noexcept
     return format;
 }
 
+// Left and right of the text in a system's box: half of the font's average character.
+int boxMargin(HDC dc) noexcept
+{
+    constexpr std::wstring_view letters = L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    SIZE size{};
+    GetTextExtentPoint32W(dc, letters.data(), static_cast<int>(letters.size()), &size);
+    const auto average = (static_cast<int>(size.cx) / 26 + 1) / 2;
+    return average / 2;
+}
+
 void paintText(HDC dc, RECT place, const FieldPicture& field, double scale)
 {
     constexpr double pointsPerInch = 72;
@@ -184,27 +223,14 @@ void paintText(HDC dc, RECT place, const FieldPicture& field, double scale)
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc,
                  field.traits.enabled ? resolve(field.colours.fore, ColourRole::fore) : GetSysColor(COLOR_GRAYTEXT));
-    const int margin = static_cast<int>(std::lround(scaled(2, field.dpi) * scale));
-    InflateRect(&place, -margin, -static_cast<int>(std::lround(scale)));
+    const int edge = field.traits.sunken ? static_cast<int>(std::lround(scale)) : 0; // its box keeps one unit more
+    InflateRect(&place, -(boxMargin(dc) + edge), -edge);
     const std::u16string text = shown(field);
     DrawTextW(dc, wide(text.data()), static_cast<int>(text.size()), &place, textFormat(field));
 }
 
-} // namespace
-
-void paintBorder(HDC dc, const RECT& place, const BorderPen& pen)
-{
-    if (pen.line == line3d) {
-        paintSunken(dc, place, pen);
-    } else if (pen.line == lineXp) {
-        paintRounded(dc, place, pen);
-    } else {
-        paintSides(dc, place, pen);
-    }
-}
-
 // Painted four times as large over what is there, and drawn smaller with the system's averaging.
-void paintEllipse(HDC dc, const RECT& place, COLORREF colour)
+void paintSmoothEllipse(HDC dc, const RECT& place, COLORREF colour)
 {
     constexpr int fine = 4;
     const int width = place.right - place.left;
@@ -222,6 +248,85 @@ void paintEllipse(HDC dc, const RECT& place, COLORREF colour)
     StretchBlt(dc, place.left, place.top, width, height, memory.get(), 0, 0, width * fine, height * fine, SRCCOPY);
 }
 
+void paintPlainEllipse(HDC dc, const RECT& place, COLORREF colour)
+{
+    const UniqueGdi<HBRUSH> brush(CreateSolidBrush(colour));
+    const SelectedObject inside(dc, brush.get());
+    const SelectedObject outline(dc, GetStockObject(NULL_PEN));
+    Ellipse(dc, place.left, place.top, place.right + 1, place.bottom + 1);
+}
+
+// A metafile keeps orders, and a printer is not read.
+void paintEllipse(HDC dc, const RECT& place, COLORREF colour)
+{
+    if (takesPictures(dc))
+        paintSmoothEllipse(dc, place, colour);
+    else
+        paintPlainEllipse(dc, place, colour);
+}
+
+int boxState(const FieldPicture& field) noexcept
+{
+    if (!field.traits.enabled)
+        return ETS_DISABLED;
+    if (field.traits.locked)
+        return ETS_READONLY;
+    return field.focused ? ETS_FOCUSED : ETS_NORMAL;
+}
+
+// The edges of a sunken box, as the system's box has them; what is left is its client area.
+void paintBoxEdge(HDC dc, RECT& edit, const FieldPicture& field)
+{
+    if (const Theme theme(nullptr, dc, L"EDIT"); theme) {
+        const SavedDc saved(dc);
+        RECT inside = edit;
+        InflateRect(&inside, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
+        ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
+        DrawThemeBackground(theme.get(), dc, EP_EDITTEXT, boxState(field), &edit, nullptr);
+        edit = inside;
+        return;
+    }
+    DrawEdge(dc, &edit, EDGE_SUNKEN, BF_RECT | BF_ADJUST);
+}
+
+// The surface's own ground; behind round corners the host's is seen.
+void paintGround(HDC dc, const RECT& place, const FieldPicture& field, int radius)
+{
+    const COLORREF back = resolve(field.look.back, ColourRole::back);
+    if (radius <= 0)
+        return fill(dc, place, back);
+    fill(dc, place, resolve(field.ground, ColourRole::face));
+    const UniqueGdi<HBRUSH> brush(CreateSolidBrush(back));
+    const UniqueGdi<HRGN> shape(
+        CreateRoundRectRgn(place.left, place.top, place.right + 1, place.bottom + 1, radius * 2, radius * 2));
+    FillRgn(dc, shape.get(), brush.get());
+}
+
+} // namespace
+
+void paintBorder(HDC dc, const RECT& place, const BorderPen& pen)
+{
+    if (pen.line == line3d) {
+        paintSunken(dc, place, pen);
+    } else if (pen.line == lineXp) {
+        paintRounded(dc, place, pen);
+    } else {
+        paintSides(dc, place, pen);
+    }
+}
+
+void paintMark(HDC dc, const RECT& place, COLORREF colour, int line)
+{
+    if (!highContrast()) {
+        paintEllipse(dc, place, colour);
+        return;
+    }
+    paintEllipse(dc, place, GetSysColor(COLOR_HIGHLIGHT));
+    RECT inside = place;
+    InflateRect(&inside, -line, -line);
+    paintEllipse(dc, inside, GetSysColor(COLOR_WINDOW));
+}
+
 void paintGlyph(HDC dc, const RECT& place, platform::ButtonGlyph glyph, COLORREF colour)
 {
     const RECT box = inner(place, 5, 8);
@@ -231,17 +336,15 @@ void paintGlyph(HDC dc, const RECT& place, platform::ButtonGlyph glyph, COLORREF
     }
 }
 
-void paintButton(HDC dc, const RECT& place, platform::ButtonGlyph glyph, UINT itemState, HWND themed)
+void paintButton(HDC dc, const RECT& place, platform::ButtonGlyph glyph, UINT itemState, HWND window)
 {
     const bool pressed = (itemState & ODS_SELECTED) != 0;
     const bool disabled = (itemState & ODS_DISABLED) != 0;
     RECT face = place;
-    // A theme keeps its own face in high contrast, and the picture is in the person's colour.
-    if (const HTHEME theme = themed && !highContrast() ? OpenThemeData(themed, L"BUTTON") : nullptr) {
+    if (const Theme theme(window, dc, L"BUTTON"); theme) {
         const int state = disabled ? PBS_DISABLED : pressed ? PBS_PRESSED : PBS_NORMAL;
         fill(dc, place, GetSysColor(COLOR_BTNFACE));
-        DrawThemeBackground(theme, dc, BP_PUSHBUTTON, state, &face, nullptr);
-        CloseThemeData(theme);
+        DrawThemeBackground(theme.get(), dc, BP_PUSHBUTTON, state, &face, nullptr);
     } else {
         DrawFrameControl(dc, &face, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed ? DFCS_PUSHED : 0U));
     }
@@ -259,18 +362,17 @@ void paintField(HDC dc, const RECT& place, const FieldPicture& field)
                       static_cast<double>(place.bottom - place.top) / field.client.cy,
                       {place.left, place.top}};
     const int width = std::max(1, static_cast<int>(std::lround(scaled(1, field.dpi) * scale.y)));
-    fill(dc, place, resolve(field.look.back, ColourRole::back));
+    const int radius = static_cast<int>(std::lround(field.layout.cornerRadius * scale.x));
+    paintGround(dc, place, field, radius);
     RECT edit = scale.rect(field.layout.edit);
     fill(dc, edit, resolve(field.colours.back, ColourRole::back));
     if (field.traits.sunken)
-        DrawEdge(dc, &edit, EDGE_SUNKEN, BF_RECT | BF_ADJUST);
+        paintBoxEdge(dc, edit, field);
     paintText(dc, edit, field, scale.y);
     if (field.look.button)
         paintButton(dc, scale.rect(field.layout.button), field.look.glyph, 0, nullptr);
     if (field.look.ownBorder)
-        paintBorder(dc, place,
-                    {field.look.line, field.look.border, width,
-                     static_cast<int>(std::lround(field.layout.cornerRadius * scale.x))});
+        paintBorder(dc, place, {field.look.line, field.look.border, width, radius});
 }
 
 } // namespace vela::win32

@@ -20,11 +20,12 @@ struct BorderPen {
 void paintBorder(HDC dc, const RECT& place, const BorderPen& pen);
 
 void paintGlyph(HDC dc, const RECT& place, platform::ButtonGlyph glyph, COLORREF colour);
-// The whole button: the theme's, or the classic one.
-void paintButton(HDC dc, const RECT& place, platform::ButtonGlyph glyph, UINT itemState, HWND themed);
+// The whole button: the theme's, or the classic one. Without a window it stands in a picture.
+void paintButton(HDC dc, const RECT& place, platform::ButtonGlyph glyph, UINT itemState, HWND window);
 
-// A filled ellipse with smooth edges.
-void paintEllipse(HDC dc, const RECT& place, COLORREF colour);
+// The circle behind a chosen day, with smooth edges where the device context can be read; in high contrast a ring of
+// `line` units, so that the day is read on the window's own colour.
+void paintMark(HDC dc, const RECT& place, COLORREF colour, int line);
 
 // A field as it looks without its windows. `client` is the size that `layout` was made for.
 struct FieldPicture {
@@ -36,6 +37,8 @@ struct FieldPicture {
     SIZE client{0, 0};
     int dpi = 96;
     bool multiLine = false;
+    bool focused = false;
+    engine::Colour ground{0x8000000F}; // around round corners
 };
 // Into any device context, metafiles included; the picture fills the rectangle.
 void paintField(HDC dc, const RECT& place, const FieldPicture& field);

@@ -98,6 +98,90 @@ TEST(Looks, FocusAndErrorAreSeen)
     EXPECT_GT(screen.inked(wrongColour), 0);
 }
 
+TEST(Looks, TheHostsClipAndTheRoundCornersAreOneRegion)
+{
+    Screen screen;
+    const auto object = screen.site.as<IOleInPlaceObject>();
+    const RECT place = placeIn(screen.site.window(), screen.form.window());
+    const RECT half{place.left, place.top, place.left + 100, place.bottom};
+    const struct {
+        const char* what;
+        LONG style;
+        const RECT& clip;
+        bool corner, middle, cut;
+    } rows[] = {{"square, half of it", 0, half, true, true, false}, {"round, half of it", 5, half, false, true, false},
+                {"round, all of it", 5, place, false, true, true},  {"round, half again", 5, half, false, true, false},
+                {"square again", 0, half, true, true, false},       {"square, all of it", 0, place, true, true, true}};
+    for (const auto& row : rows) {
+        screen.site.automation().put(u"BorderStyle", number(row.style));
+        ASSERT_EQ(object->SetObjectRects(&place, &row.clip), S_OK);
+        const HRGN shown = CreateRectRgn(0, 0, place.right - place.left, place.bottom - place.top);
+        GetWindowRgn(screen.site.window(), shown);
+        EXPECT_EQ(PtInRegion(shown, 0, 0) != FALSE, row.corner) << row.what;
+        EXPECT_EQ(PtInRegion(shown, 50, 12) != FALSE, row.middle) << row.what;
+        EXPECT_EQ(PtInRegion(shown, 150, 12) != FALSE, row.cut) << row.what;
+        DeleteObject(shown);
+    }
+}
+
+// What the window shows at a point of it, its parts included.
+COLORREF seenAt(HWND window, POINT at)
+{
+    const HWND part = RealChildWindowFromPoint(window, at);
+    RECT place{};
+    GetWindowRect(part ? part : window, &place);
+    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+    const HDC dc = GetWindowDC(part ? part : window);
+    const COLORREF colour = GetPixel(dc, at.x - place.left, at.y - place.top);
+    ReleaseDC(part ? part : window, dc);
+    return colour;
+}
+
+TEST(Looks, ThePictureIsWhatTheWindowShows)
+{
+    const struct {
+        const char* what;
+        std::initializer_list<Setting> settings;
+    } rows[] = {
+        {"sunken", {{u"Appearance", 1}}},
+        {"flat", {{u"Appearance", 0}, {u"BorderStyle", 0}}},
+        {"round", {{u"BorderStyle", 5}}},
+        {"with its button", {{u"BorderStyle", 0}, {u"Appearance", 1}, {u"ShowButtonCalculadora", true}}},
+        {"to the right", {{u"Alignment", 1}}},
+        {"disabled", {{u"Enabled", false}}},
+    };
+    for (const auto& row : rows) {
+        Screen screen;
+        screen.site.automation().set({{u"Text", u"Mg 12,5"}});
+        screen.site.automation().set(row.settings);
+        settle(screen.form);
+        const HWND window = screen.site.window();
+        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME);
+        const RECT client = clientOf(window);
+        const HDC screenDc = GetDC(nullptr);
+        const HDC memory = CreateCompatibleDC(screenDc);
+        const HBITMAP bitmap = CreateCompatibleBitmap(screenDc, client.right, client.bottom);
+        const HGDIOBJ before = SelectObject(memory, bitmap);
+        const RECTL bounds{0, 0, client.right, client.bottom};
+        EXPECT_EQ(screen.site.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, memory, &bounds,
+                                                      nullptr, nullptr, 0),
+                  S_OK);
+        int different = 0;
+        POINT first{-1, -1};
+        for (LONG y = 0; y < client.bottom; ++y)
+            for (LONG x = 0; x < client.right; ++x) {
+                const COLORREF live = seenAt(window, {x, y});
+                if (live != CLR_INVALID && live != GetPixel(memory, x, y) && different++ == 0)
+                    first = {x, y};
+            }
+        EXPECT_EQ(different, 0) << row.what << ", first at " << first.x << ", " << first.y;
+        SelectObject(memory, before);
+        DeleteObject(bitmap);
+        DeleteDC(memory);
+        ReleaseDC(nullptr, screenDc);
+    }
+}
+
 TEST(Looks, ThePointerBringsHoverColoursAndMouseOut)
 {
     const LeakCheck leaks;

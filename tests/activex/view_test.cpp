@@ -299,6 +299,26 @@ TEST(View, TheCalendarDrawsItsMonth)
     EXPECT_GT(colours.size(), 3u) << "more than a plain panel";
 }
 
+// Cell 19, framed from (125, 86) to (155, 106): the middle of its left end is marked, its corner is not.
+TEST(View, TheChosenDayIsRoundInThePicture)
+{
+    const ComPtr<IUnknown> field = create();
+    Automation(field.get()).set({{u"Calendar_BackColor", 0x00FFFFFF}, {u"Calendar_Selected", 0x00C0FFFF}});
+    const ComPtr<IUnknown> control = create(L"Vela.cCalendar");
+    std::vector<Variant> date;
+    date.push_back(text(u"15/03/2024"));
+    ASSERT_EQ(Automation(control.get()).call(u"IniciaCalendario", std::move(date)).result, S_OK);
+    Picture picture(184, 167);
+    const RECTL bounds{0, 0, 184, 167};
+    ASSERT_EQ(ComPtr<IViewObject>::from(control.get())
+                  ->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, picture.dc(), &bounds, nullptr, nullptr, 0),
+              S_OK);
+    const DWORD panel = picture.at(6, 120);
+    EXPECT_EQ(picture.at(128, 96), 0x00FFFFC0u);
+    EXPECT_EQ(picture.at(126, 87), panel);
+    EXPECT_EQ(picture.at(153, 104), panel);
+}
+
 } // namespace
 
 } // namespace vela::test

@@ -107,7 +107,7 @@ TEST(Loading, ThatFailsLeavesAUsableFieldWithDefaultsForTheRest)
     for (const std::u16string_view bad : storedKeys()) {
         SCOPED_TRACE(narrow(bad));
         FieldBench bench;
-        const popups::CalendarColours colours = bench.popups.colours;
+        const popups::CalendarColours colours = bench.popups.colours().read();
         ScriptedBag bag;
         bag.values = {{u"TextType", 2}, {u"AutoSelect", true}, {u"MaxLength", 4}, {u"NomeCampo", text(u"Data")}};
         bag.onKey = [bad](std::u16string_view key) {
@@ -116,7 +116,7 @@ TEST(Loading, ThatFailsLeavesAUsableFieldWithDefaultsForTheRest)
         };
         Field& f = bench.make(u"f");
         EXPECT_EQ(errorOf([&] { f->load(bag); }), 70);
-        EXPECT_EQ(bench.popups.colours, colours);
+        EXPECT_EQ(bench.popups.colours().read(), colours);
         bag.onKey = nullptr;
         const bool date = f->TextType() == engine::TipoText::Data;
         EXPECT_EQ(f.shows(), date ? "|__/__/____" : "|");

@@ -169,7 +169,13 @@ TEST(CalendarGrid, WithoutAChosenYearTheFirstDrawingStands)
     grid.putMonthIndex(0); // draws nothing
     EXPECT_EQ(text(grid.cells()[6]), "01");
     grid.clickDay(6);
-    EXPECT_EQ(narrow(grid.selectedText()), "01/01/") << "no year is chosen";
+    EXPECT_EQ(narrow(grid.selectedText()), "01/05/2060") << "the date of the cell, no half one";
+    grid.clickDay(41);
+    EXPECT_EQ(narrow(grid.selectedText()), "05/06/2060");
+    EXPECT_EQ(grid.monthIndex(), 5);
+    EXPECT_EQ(grid.frameCell(), 6) << "June 2060 begins on a Tuesday";
+    grid.putYearIndex(74);
+    EXPECT_EQ(text(grid.cells()[6]), "01") << "June 2024 begins on a Saturday";
 }
 
 TEST(CalendarGrid, ASelectedTextThatIsNoDateIsATypeMismatch)

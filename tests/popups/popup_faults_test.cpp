@@ -4,6 +4,7 @@
 
 #include "platform/headless/property_bag.h"
 #include "popups/c_calendar.h"
+#include "popups/calendar_layout.h"
 #include "popups/calendario_sdi.h"
 #include "popups/frm_calculadora.h"
 
@@ -108,7 +109,7 @@ TEST(CCalendar, KeepsItsSelectedDate)
         Recorder recorder;
         headless::Machine machine{recorder};
         machine.clock.freeze(engine::makeDate({2024, 3, 15}));
-        const CalendarColours colours;
+        const SharedCalendarColours colours;
         cCalendar calendar(machine.environment, machine.forms, colours);
         headless::PropertyBag bag;
         if (*row.dateInitial != 0)
@@ -116,6 +117,8 @@ TEST(CCalendar, KeepsItsSelectedDate)
         calendar.load(bag);
         EXPECT_EQ(calendar.grid().selectedText(), row.selected) << row.name;
         EXPECT_EQ(recorder.lines.size(), row.boxes) << row.name;
+        EXPECT_EQ(calendar.form().items(calendar_widget::years).count(), 101) << row.name;
+        EXPECT_EQ(calendar.form().look(calendar_widget::weekday(0)).fore, engine::Colour{0x00800000}) << row.name;
         headless::PropertyBag saved;
         calendar.save(saved);
         ASSERT_EQ(saved.entries().size(), 1U);
@@ -131,7 +134,7 @@ TEST(CCalendar, ItsLimitIsAThousand)
 {
     Recorder recorder;
     headless::Machine machine{recorder};
-    const CalendarColours colours;
+    const SharedCalendarColours colours;
     cCalendar calendar(machine.environment, machine.forms, colours);
     calendar.initNew();
     for (int i = 0; i < 1001; ++i)

@@ -322,13 +322,15 @@ TEST_F(PopupsTest, HighlightsAreCountedToTheirLimit)
 
 TEST_F(PopupsTest, TheColoursAreThoseOfTheProcess)
 {
-    popups.colours.selected = engine::Colour{0x00010203};
-    popups.colours.dayInactive = engine::Colour{0x00040506};
+    CalendarColours colours;
+    colours.selected = engine::Colour{0x00010203};
+    colours.dayInactive = engine::Colour{0x00040506};
+    popups.colours().put(colours);
     popups.openCalendar(owner);
-    EXPECT_EQ(calendarForm().look(calendar_widget::frame).back, popups.colours.selected);
+    EXPECT_EQ(calendarForm().look(calendar_widget::frame).back, colours.selected);
     EXPECT_TRUE(calendarForm().look(calendar_widget::frame).round);
-    EXPECT_EQ(calendarForm().look(calendar_widget::day(0)).fore, popups.colours.dayInactive);
-    EXPECT_EQ(calendarForm().backColour(), popups.colours.form);
+    EXPECT_EQ(calendarForm().look(calendar_widget::day(0)).fore, colours.dayInactive);
+    EXPECT_EQ(calendarForm().backColour(), colours.form);
     const platform::WidgetRow& day =
         calendarPopupLayout().rows[static_cast<std::size_t>(calendar_widget::day(19).value)];
     EXPECT_EQ(calendarForm().look(calendar_widget::frame).left, day.place.left - 90);

@@ -1,0 +1,176 @@
+// The free-standing calendar as a person and hosts use it: clicks, keys, windows that go, arguments by name, pictures.
+#include "person.h"
+
+#include "popups/calendar_layout.h"
+
+#include <gtest/gtest.h>
+#include <olectl.h>
+
+namespace vela::test {
+
+namespace {
+
+namespace widget = popups::calendar_widget;
+
+constexpr RECT calendarPlace{200, 60, 384, 227};
+constexpr POINT besideTheDays{3, 120};
+constexpr double serialOf15March = 45366; // 15/03/2024, in cell 19 of its month
+
+POINT middleOf(platform::WidgetId id) // 15 twips a pixel
+{
+    const engine::RectTwips& place = popups::calendarControlLayout().rows[static_cast<std::size_t>(id.value)].place;
+    return {(place.left + place.width / 2) / 15, (place.top + place.height / 2) / 15};
+}
+
+// A field that has the focus and a calendar on 15 March 2024.
+class Sheet {
+public:
+    Sheet() : field(form.addActive()), calendar(form.add({}, L"Vela.cCalendar.1"))
+    {
+        EXPECT_EQ(calendar.activate(calendarPlace), S_OK);
+        EXPECT_EQ(calendar.automation().call(u"IniciaCalendario", one(text(u"15/03/2024"))).result, S_OK);
+        form.focus(field);
+        settle(form);
+        field.log.clear();
+        calendar.log.clear();
+    }
+
+    static std::vector<Variant> one(Variant argument)
+    {
+        std::vector<Variant> arguments;
+        arguments.push_back(std::move(argument));
+        return arguments;
+    }
+    [[nodiscard]] double date() const { return calendar.automation().get(u"DateInitial").value.get().date; }
+    [[nodiscard]] bool calendarHasFocus() const { return IsChild(calendar.window(), GetFocus()) != FALSE; }
+    void click(platform::WidgetId id) { clickAt(form, calendar.window(), middleOf(id)); }
+
+    Form form;
+    Site& field;
+    Site& calendar;
+};
+
+TEST(LiveCalendar, AClickAnywhereTakesTheFocusAndTellsOnce)
+{
+    for (const platform::WidgetId where : {widget::panel, widget::weekday(2), widget::day(20), widget::months}) {
+        const LeakCheck leaks;
+        Sheet sheet;
+        sheet.click(where);
+        EXPECT_TRUE(until(sheet.form, [&] { return sheet.calendarHasFocus(); })) << where.value;
+        if (where == widget::months)
+            strike(sheet.form, VK_ESCAPE); // shuts the list
+        sheet.click(widget::day(8));
+        EXPECT_EQ(sheet.calendar.count("OnFocus 1"), 1) << where.value;
+        EXPECT_EQ(sheet.calendar.count("OnUIActivate"), 1) << where.value;
+        EXPECT_EQ(sheet.field.count("OnFocus 0"), 1) << where.value;
+        EXPECT_EQ(sheet.calendar.count("OnFocus 0"), 0) << where.value;
+        clickAt(sheet.form, sheet.field.edit(), {8, 8});
+        EXPECT_EQ(sheet.calendar.count("OnFocus 0"), 1) << where.value;
+    }
+}
+
+TEST(LiveCalendar, AKeyThatMovesTheDayTellsAsAClickDoes)
+{
+    Sheet sheet;
+    clickAt(sheet.form, sheet.calendar.window(), besideTheDays);
+    const struct {
+        int key;
+        double date;
+    } rows[] = {{VK_RIGHT, serialOf15March + 1}, {VK_DOWN, serialOf15March + 8}, {VK_NEXT, serialOf15March + 39}};
+    for (const auto& row : rows) {
+        sheet.calendar.log.clear();
+        strike(sheet.form, row.key);
+        EXPECT_EQ(sheet.date(), row.date) << row.key;
+        EXPECT_EQ(sheet.calendar.count("changed 0"), 1) << row.key;
+        EXPECT_EQ(sheet.calendar.count("event -600"), 1) << row.key;
+    }
+    sheet.calendar.automation().call(u"IniciaCalendario", Sheet::one(text(u"31/12/2050")));
+    sheet.calendar.log.clear();
+    strike(sheet.form, VK_RIGHT);
+    EXPECT_EQ(sheet.calendar.count("changed 0") + sheet.calendar.count("event -600"), 0) << "the list ends there";
+}
+
+TEST(LiveCalendar, AfterItsParentHasGoneItGetsAWindowInANewOne)
+{
+    const LeakCheck leaks;
+    Sheet sheet;
+    const auto panel = [&] {
+        return CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", L"", WS_CHILD | WS_VISIBLE, 0, 0, 400, 300,
+                               sheet.form.window(), nullptr, nullptr, nullptr);
+    };
+    for (int round = 0; round < 2; ++round) {
+        const HWND parent = panel();
+        const HWND window = sheet.calendar.window();
+        SetParent(window, parent); // as hosts with pages of their own do
+        DestroyWindow(parent);
+        EXPECT_FALSE(IsWindow(window));
+        EXPECT_EQ(sheet.calendar.count("OnInPlaceDeactivate"), round + 1);
+        EXPECT_EQ(sheet.calendar.window(), nullptr);
+        ASSERT_EQ(sheet.calendar.activate(calendarPlace), S_OK);
+        ASSERT_TRUE(IsWindowVisible(sheet.calendar.window()));
+        sheet.click(widget::day(21));
+        EXPECT_TRUE(sheet.calendarHasFocus());
+        EXPECT_EQ(sheet.date(), serialOf15March + 2);
+        sheet.calendar.automation().call(u"IniciaCalendario", Sheet::one(text(u"15/03/2024")));
+    }
+}
+
+TEST(LiveCalendar, ItsMethodsTakeTheirArgumentByName)
+{
+    const ComPtr<IUnknown> control = create(L"Vela.cCalendar.1");
+    const auto calendar = ComPtr<IDispatch>::from(control.get());
+    LPOLESTR names[] = {const_cast<LPOLESTR>(L"Inicia"), const_cast<LPOLESTR>(L"DATA")};
+    DISPID ids[2] = {};
+    EXPECT_EQ(calendar->GetIDsOfNames(IID_NULL, names, 2, LOCALE_USER_DEFAULT, ids), DISP_E_UNKNOWNNAME);
+    names[0] = const_cast<LPOLESTR>(L"IniciaCalendario");
+    EXPECT_EQ(calendar->GetIDsOfNames(IID_NULL, names, 2, LOCALE_USER_DEFAULT, ids), S_OK);
+    EXPECT_EQ(ids[0], 1);
+    EXPECT_EQ(ids[1], 0) << "the number of the parameter";
+    names[1] = const_cast<LPOLESTR>(L"outro");
+    EXPECT_EQ(calendar->GetIDsOfNames(IID_NULL, names, 2, LOCALE_USER_DEFAULT, ids), DISP_E_UNKNOWNNAME);
+    EXPECT_EQ(ids[0], 1);
+    EXPECT_EQ(ids[1], DISPID_UNKNOWN);
+
+    Variant date = text(u"15/03/2024");
+    const struct {
+        DISPID name;
+        HRESULT result;
+    } rows[] = {{1, DISP_E_PARAMNOTFOUND}, {DISPID_UNKNOWN, DISP_E_PARAMNOTFOUND}, {0, S_OK}};
+    for (const auto& row : rows) {
+        DISPID name = row.name;
+        DISPPARAMS given{&date.ref(), &name, 1, 1};
+        EXPECT_EQ(
+            calendar->Invoke(1, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &given, nullptr, nullptr, nullptr),
+            row.result)
+            << row.name;
+    }
+    EXPECT_EQ(Automation(control.get()).get(u"DateInitial").value.get().date, serialOf15March);
+}
+
+// Each drawing, the picture included: another field of the process has set the colours meanwhile.
+TEST(LiveCalendar, EachDrawingReadsEveryColour)
+{
+    Sheet sheet;
+    const Automation field = sheet.field.automation();
+    const std::pair<const char16_t*, COLORREF> colours[] = {{u"Calendar_FormBackcolor", 0x00112233},
+                                                            {u"Calendar_BackColor", 0x00223344},
+                                                            {u"Calendar_ColorWeekDay", 0x00334455}};
+    std::vector<Variant> before;
+    for (const auto& [property, colour] : colours) {
+        before.push_back(field.get(property).value);
+        field.put(property, number(static_cast<std::int32_t>(colour)));
+    }
+    sheet.click(widget::day(20));
+    EXPECT_EQ(pixelOf(sheet.calendar.window(), {100, 1}), 0x00112233u);
+    EXPECT_EQ(pixelOf(sheet.calendar.window(), besideTheDays), 0x00223344u);
+    const RECT header{4, 32, 180, 47};
+    EXPECT_GT(pixelsOf(sheet.calendar.window(), 0x00334455, header), 10);
+    for (std::size_t i = 0; i < before.size(); ++i)
+        field.put(colours[i].first, std::move(before[i]));
+    sheet.click(widget::day(21));
+    EXPECT_NE(pixelOf(sheet.calendar.window(), {100, 1}), 0x00112233u);
+}
+
+} // namespace
+
+} // namespace vela::test
