@@ -61,8 +61,11 @@ void FormWindow::showPopup(engine::RectPixels place, platform::WindowId owner)
     const int height = scaled(place.height, dpi);
     scale_ = std::min(static_cast<double>(width) / layout_.width, static_cast<double>(height) / layout_.height);
     if (role_ == Role::popup && window_ && owner_ == top) {
+        RECT before{};
+        GetWindowRect(window_, &before);
         SetWindowPos(window_, HWND_TOP, place.left, place.top, width, height, SWP_NOACTIVATE);
-        layOut();
+        if (before.right - before.left != width || before.bottom - before.top != height)
+            layOut();
     } else {
         makeTopLevel(Role::popup, top, {place.left, place.top, place.left + width, place.top + height},
                      WS_POPUP | WS_CLIPCHILDREN, WS_EX_TOOLWINDOW | WS_EX_CONTROLPARENT);
@@ -71,11 +74,23 @@ void FormWindow::showPopup(engine::RectPixels place, platform::WindowId owner)
     arbiter_.addBorrower(window_);
     Watch watch(life_);
     const bool again = std::exchange(shown_, true);
-    ShowWindow(window_, SW_SHOW);
+    appear();
     if (watch.alive() && window_ && GetActiveWindow() != window_)
         SetForegroundWindow(window_);
     else if (watch.alive() && window_ && again)
         activation(true); // it stayed active, so the system says nothing
+}
+
+// Seen whole: painted with its widgets before it is made the active one, which hands the program its turn.
+void FormWindow::appear()
+{
+    Watch watch(life_);
+    const HWND window = window_;
+    ShowWindow(window, SW_SHOWNA);
+    RedrawWindow(window, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    if (watch.alive() && window_ == window)
+        SetActiveWindow(window);
 }
 
 void FormWindow::showModal()
