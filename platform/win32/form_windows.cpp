@@ -35,13 +35,14 @@ Recipe textBoxRecipe(const platform::WidgetRow& row) noexcept
 Recipe recipeOf(const platform::WidgetRow& row) noexcept
 {
     switch (row.kind) {
-    case WidgetKind::button: return {WC_BUTTONW, BS_PUSHBUTTON | BS_NOTIFY, 0};
+    // Without BS_NOTIFY, which would make every second one of quick clicks a double click.
+    case WidgetKind::button: return {WC_BUTTONW, BS_PUSHBUTTON, 0};
     case WidgetKind::comboBox: return {WC_COMBOBOXW, CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL, 0};
     case WidgetKind::dropDownList: return {WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL, 0};
     case WidgetKind::listBox:
         return {WC_LISTBOXW, LBS_MULTIPLESEL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL, WS_EX_CLIENTEDGE};
-    case WidgetKind::checkBox: return {WC_BUTTONW, BS_CHECKBOX | BS_NOTIFY, 0};
-    case WidgetKind::optionButton: return {WC_BUTTONW, BS_RADIOBUTTON | BS_NOTIFY, 0};
+    case WidgetKind::checkBox: return {WC_BUTTONW, BS_CHECKBOX, 0};
+    case WidgetKind::optionButton: return {WC_BUTTONW, BS_RADIOBUTTON, 0};
     case WidgetKind::textBox: return textBoxRecipe(row);
     case WidgetKind::swatch: return {WC_BUTTONW, BS_OWNERDRAW | BS_NOTIFY, 0};
     case WidgetKind::tabStrip: return {WC_TABCONTROLW, TCS_FOCUSNEVER, 0};

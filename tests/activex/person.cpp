@@ -80,6 +80,17 @@ void clickAt(Form& form, HWND window, POINT at)
     settle(form);
 }
 
+void clickQuickly(Form& form, HWND window, POINT at, int times)
+{
+    pointAt(window, at);
+    for (int i = 0; i < times; ++i) {
+        sendMouse(MOUSEEVENTF_LEFTDOWN);
+        settle(form);
+        sendMouse(MOUSEEVENTF_LEFTUP);
+        settle(form);
+    }
+}
+
 POINT middleOf(HWND window)
 {
     const RECT client = clientOf(window);

@@ -18,6 +18,7 @@ void settle(Form& form); // until nothing waits any more, what was posted meanwh
 void pointAt(HWND window, POINT at); // in its client
 void pointAway();                    // at the desktop
 void clickAt(Form& form, HWND window, POINT at);
+void clickQuickly(Form& form, HWND window, POINT at, int times); // in one place, as fast as a person can and faster
 [[nodiscard]] POINT middleOf(HWND window);
 void strike(Form& form, int key, int with = 0); // down and up for the focused window, another key held meanwhile
 void holdKey(int key, bool down);               // as this thread's windows see it

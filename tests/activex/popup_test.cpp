@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string_view>
+
 namespace vela::test {
 
 namespace {
@@ -166,6 +169,31 @@ TEST(Popup, KeysAndClicksCalculateAndF2Writes)
     EXPECT_EQ(desk.site.automation().textOf(u"Text"), u"16,51");
 }
 
+TEST(Popup, EachOfSeveralQuickClicksCounts)
+{
+    Desk desk(asNumber);
+    desk.form.press(VK_F2);
+    const HWND calculator = popupOf(desk.form);
+    desk.form.type(u"c");
+    const HWND eight = GetDlgItem(calculator, 100 + popups::calculator_widget::number(8).value);
+    clickQuickly(desk.form, eight, middleOf(eight), 4);
+    desk.form.press(VK_F2);
+    desk.expectClosed(calculator);
+    EXPECT_EQ(desk.site.automation().textOf(u"Text"), u"8888");
+}
+
+// A double click on the field's button: the second click leaves and shuts the pop-up, and opens it again.
+TEST(Popup, ADoubleClickOnTheButtonLeavesItOpen)
+{
+    for (const auto kind : {asDate, asNumber}) {
+        Desk desk(kind);
+        const HWND button = buttonOf(desk.site);
+        clickQuickly(desk.form, button, middleOf(button), 2);
+        settle(desk.form);
+        EXPECT_NE(popupOf(desk.form), desk.form.window());
+    }
+}
+
 TEST(Popup, OneIsOpenForTheFieldThatAskedLast)
 {
     const LeakCheck leaks;
@@ -180,6 +208,68 @@ TEST(Popup, OneIsOpenForTheFieldThatAskedLast)
     EXPECT_EQ(shownBy(desk.site.edit()), u"__/__/____");
     EXPECT_NE(shownBy(desk.neighbour.edit()), u"__/__/____");
     EXPECT_TRUE(until(desk.form, [&] { return GetFocus() == desk.neighbour.edit(); }));
+}
+
+TEST(Popup, AFailedOpeningLeavesNone)
+{
+    const AnsweredBoxes boxes;
+    Desk desk(asDate);
+    desk.site.automation().put(u"Text", text(u"05/03/2060"));
+    const HWND button = buttonOf(desk.site);
+    clickAt(desk.form, button, middleOf(button));
+    EXPECT_TRUE(until(desk.form, [] { return !AnsweredBoxes::texts().empty(); }));
+    settle(desk.form);
+    EXPECT_EQ(GetActiveWindow(), desk.form.window());
+    EXPECT_EQ(AnsweredBoxes::texts().size(), 1u);
+    desk.site.automation().put(u"Text", text(u"05/03/2024"));
+    const HWND calendar = desk.open();
+    clickAt(desk.form, calendar, dayAt(calendar, 19));
+    desk.expectClosed(calendar);
+    EXPECT_EQ(desk.site.automation().textOf(u"Text"), u"15/03/2024");
+}
+
+// From the moment a pop-up is seen none of its widgets is shown or moved, and it is painted before the loop goes on.
+struct Flicker {
+    HWND popup = nullptr;
+    std::set<HWND> painted;
+    std::vector<std::string> late;
+} seen;
+
+LRESULT CALLBACK watchPopup(int code, WPARAM first, LPARAM second)
+{
+    const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(second);
+    wchar_t name[32]{};
+    const HWND top = GetAncestor(sent.hwnd, GA_ROOT);
+    if (code == HC_ACTION && GetClassNameW(top, name, 32) && std::wstring_view(name) == L"VelaForm") {
+        seen.popup = top;
+        if (sent.message == WM_PAINT)
+            seen.painted.insert(sent.hwnd);
+        if (sent.hwnd != top && sent.message == WM_WINDOWPOSCHANGED && IsWindowVisible(top)) {
+            const auto& place = *reinterpret_cast<const WINDOWPOS*>(sent.lParam);
+            constexpr UINT still = SWP_NOMOVE | SWP_NOSIZE;
+            if ((place.flags & still) != still || (place.flags & (SWP_SHOWWINDOW | SWP_HIDEWINDOW)))
+                seen.late.push_back(std::to_string(GetDlgCtrlID(sent.hwnd)));
+        }
+    }
+    return CallNextHookEx(nullptr, code, first, second);
+}
+
+TEST(Popup, NothingOfItIsSeenHalfPlaced)
+{
+    for (const auto kind : {asDate, asNumber}) {
+        Desk desk(kind);
+        for (int round = 0; round < 2; ++round) { // anew, and again while it is open
+            seen = {};
+            const HHOOK hook = SetWindowsHookExW(WH_CALLWNDPROC, watchPopup, nullptr, GetCurrentThreadId());
+            SendMessageW(buttonOf(desk.site), BM_CLICK, 0, 0);
+            UnhookWindowsHookEx(hook);
+            ASSERT_TRUE(seen.popup);
+            EXPECT_EQ(seen.late, std::vector<std::string>()) << "round " << round;
+            EXPECT_TRUE(seen.painted.contains(seen.popup));
+            for (HWND child = GetWindow(seen.popup, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+                EXPECT_TRUE(seen.painted.contains(child)) << GetDlgCtrlID(child);
+        }
+    }
 }
 
 struct End {

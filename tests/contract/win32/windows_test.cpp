@@ -23,9 +23,13 @@ HWND windowOf(platform::WindowId id)
     return reinterpret_cast<HWND>(id.value);
 }
 
-// Of a form's events only the last click is kept.
+// Of a form's events only the clicks are kept.
 struct Clicks final : platform::FormEvents {
-    void clicked(platform::WidgetId widget) override { last = widget; }
+    void clicked(platform::WidgetId widget) override
+    {
+        last = widget;
+        ++count;
+    }
     void doubleClicked(platform::WidgetId) override {}
     void changed(platform::WidgetId) override {}
     void gotFocus(platform::WidgetId) override {}
@@ -37,7 +41,21 @@ struct Clicks final : platform::FormEvents {
     void tick() override {}
     void closed() override {}
     platform::WidgetId last;
+    int count = 0;
 };
+
+// Pixels of another colour than that of the window's corner at (2, 2).
+int inkIn(HWND window, const RECT& place)
+{
+    UpdateWindow(window);
+    const win32::WindowDc dc(window);
+    const COLORREF ground = GetPixel(dc.get(), 2, 2);
+    int ink = 0;
+    for (LONG y = place.top; y < place.bottom; ++y)
+        for (LONG x = place.left; x < place.right; ++x)
+            ink += GetPixel(dc.get(), x, y) != ground;
+    return ink;
+}
 
 class Windows : public FieldCase {
 protected:
@@ -153,6 +171,73 @@ TEST_F(Windows, TheTooltipsRecordReachesTheControl)
     const HWND window = tip.handle();
     tip.destroy();
     EXPECT_FALSE(IsWindow(window));
+}
+
+TEST_F(Windows, ATipGoesWhenItsTimeIsUp)
+{
+    win32::TooltipWindow tip;
+    ASSERT_TRUE(tip.create(box().window()));
+    tip.addTool(u"Informe a data");
+    tip.setDelay(2, 200);
+    tip.trackPosition(100 + 100 * 65536);
+    for (int round = 0; round < 2; ++round) {
+        tip.trackActivate(true);
+        EXPECT_TRUE(IsWindowVisible(tip.handle()));
+        const DWORD start = GetTickCount();
+        while (IsWindowVisible(tip.handle()) && GetTickCount() - start < 10000)
+            stage->settle();
+        EXPECT_FALSE(IsWindowVisible(tip.handle()));
+        EXPECT_GE(GetTickCount() - start, 150U);
+    }
+}
+
+// At 96 dots per inch: two labels of 40 pixels each, 20 apart; at 8 points the longer text would need twice that.
+TEST_F(Windows, LabelsThatFitAreWrittenSmallerAndNeverTouch)
+{
+    Clicks events;
+    static constexpr auto row = [](int index, std::u16string_view caption) {
+        return platform::WidgetRow{.kind = platform::WidgetKind::label,
+                                   .name = u"lbl",
+                                   .index = index,
+                                   .caption = caption,
+                                   .place = {300 + index * 900, 300, 600, 300},
+                                   .alignment = platform::TextAlignment::right,
+                                   .fits = true};
+    };
+    static constexpr std::array<platform::WidgetRow, 2> rows{row(0, u"0,333333333333"), row(1, u"1E+15")};
+    static constexpr platform::FormLayout layout{u"frm", u"", 2400, 900, rows};
+    const auto form = stage->forms().make(layout, events);
+    form->showPopup({200, 200, 160, 60}, stage->field(0).window());
+    stage->settle();
+    const HWND window = windowOf(form->window());
+    EXPECT_GT(inkIn(window, {20, 20, 60, 40}), 20);
+    EXPECT_GT(inkIn(window, {80, 20, 120, 40}), 10);
+    EXPECT_EQ(inkIn(window, {2, 20, 20, 40}), 0) << "left of the first";
+    EXPECT_EQ(inkIn(window, {60, 20, 80, 40}), 0) << "between them";
+    form->putText({0}, u"1"); // room again
+    stage->settle();
+    EXPECT_GT(inkIn(window, {80, 20, 120, 40}), 20) << "as large as the table says";
+}
+
+TEST_F(Windows, AButtonTakesEachOfSeveralQuickClicks)
+{
+    static constexpr std::array<platform::WidgetRow, 2> rows{
+        {{.kind = platform::WidgetKind::button, .name = u"a", .caption = u"8", .place = {300, 300, 600, 300}},
+         {.kind = platform::WidgetKind::checkBox, .name = u"b", .caption = u"Sim", .place = {1200, 300, 900, 300}}}};
+    static constexpr platform::FormLayout layout{u"frm", u"", 2400, 900, rows};
+    for (const int widget : {0, 1}) {
+        Clicks events;
+        const auto form = stage->forms().make(layout, events);
+        form->showPopup({200, 200, 160, 60}, stage->field(0).window());
+        stage->settle();
+        const HWND item = GetDlgItem(windowOf(form->window()), 100 + widget);
+        for (const UINT down : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_LBUTTONDOWN, WM_LBUTTONDBLCLK}) {
+            SendMessageW(item, down, MK_LBUTTON, MAKELPARAM(8, 8));
+            SendMessageW(item, WM_LBUTTONUP, 0, MAKELPARAM(8, 8));
+        }
+        EXPECT_EQ(events.count, 4) << widget;
+        EXPECT_FALSE(form->checked({1}));
+    }
 }
 
 TEST_F(Windows, AReaderHearsThePaintedLabels)
