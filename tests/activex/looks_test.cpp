@@ -3,6 +3,9 @@
 #include "screen_settings.h"
 
 #include <gtest/gtest.h>
+#include <windows.h>
+
+#include <commctrl.h>
 #include <olectl.h>
 
 #include <cstdlib>
@@ -122,6 +125,36 @@ TEST(Looks, TheHostsClipAndTheRoundCornersAreOneRegion)
         EXPECT_EQ(PtInRegion(shown, 150, 12) != FALSE, row.cut) << row.what;
         DeleteObject(shown);
     }
+}
+
+LRESULT CALLBACK eraseNothing(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR, DWORD_PTR)
+{
+    return message == WM_ERASEBKGND ? 1 : DefSubclassProc(window, message, first, second);
+}
+
+// What lies under the corners is the host's, and this one leaves it as black as it was.
+TEST(Looks, RoundCornersAreNotBlackWhereTheHostErasesNothing)
+{
+    Screen screen;
+    SetWindowSubclass(screen.form.window(), eraseNothing, 1, 0);
+    const auto corner = [&](std::optional<COLORREF> ambient) {
+        if (ambient) {
+            screen.site.ambients.emplace(DISPID_AMBIENT_BACKCOLOR, number(static_cast<std::int32_t>(*ambient)));
+            screen.site.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_BACKCOLOR);
+        }
+        const HDC dc = GetDC(screen.form.window());
+        const RECT all = clientOf(screen.form.window());
+        FillRect(dc, &all, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+        ReleaseDC(screen.form.window(), dc);
+        RedrawWindow(screen.site.window(), nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        const RECT place = placeIn(screen.site.window(), screen.form.window());
+        return pixelOf(screen.form.window(), {place.left, place.top});
+    };
+    screen.site.automation().put(u"BorderStyle", number(5));
+    settle(screen.form);
+    EXPECT_EQ(corner(std::nullopt), GetSysColor(COLOR_BTNFACE));
+    EXPECT_EQ(corner(0x00204060), 0x00204060u) << "the form's own colour";
+    RemoveWindowSubclass(screen.form.window(), eraseNothing, 1);
 }
 
 // What the window shows at a point of it, its parts included.
