@@ -8,8 +8,6 @@
 #include "platform/win32/paint.h"
 #include "platform/win32/text.h"
 
-#include <algorithm>
-
 namespace vela::activex {
 
 namespace {
@@ -76,7 +74,8 @@ public:
         else if (label && look.opaque)
             fill(dc_, place, win32::resolve(look.back, win32::ColourRole::back));
         else if (isCombo(row.kind))
-            drawCombo(place, look);
+            win32::paintCombo(dc_, place, win32::resolve(look.back, win32::ColourRole::back),
+                              scale_.x(arrowTwips) - scale_.x(0));
         else if (!label)
             fill(dc_, place, win32::resolve(look.back, win32::ColourRole::back));
         if (look.border)
@@ -92,16 +91,6 @@ private:
         const platform::WidgetLook& look = form_.look(id);
         return {scale_.x(look.left), scale_.y(look.top), scale_.x(look.left + row.place.width),
                 scale_.y(look.top + row.place.height)};
-    }
-
-    // As the system draws a closed one, with its arrow.
-    void drawCombo(const RECT& place, const platform::WidgetLook& look) const
-    {
-        RECT inside = place;
-        fill(dc_, place, win32::resolve(look.back, win32::ColourRole::back));
-        DrawEdge(dc_, &inside, EDGE_SUNKEN, BF_RECT | BF_ADJUST);
-        inside.left = std::max(inside.left, inside.right - (scale_.x(arrowTwips) - scale_.x(0)));
-        DrawFrameControl(dc_, &inside, DFC_SCROLL, DFCS_SCROLLCOMBOBOX);
     }
 
     [[nodiscard]] int heightOf(const platform::WidgetRow& row, const platform::FontDescription& font)

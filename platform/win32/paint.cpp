@@ -353,6 +353,24 @@ void paintButton(HDC dc, const RECT& place, platform::ButtonGlyph glyph, UINT it
     paintGlyph(dc, face, glyph, GetSysColor(disabled ? COLOR_GRAYTEXT : COLOR_BTNTEXT));
 }
 
+void paintCombo(HDC dc, RECT place, COLORREF back, int arrow)
+{
+    fill(dc, place, back);
+    const Theme theme(nullptr, dc, L"COMBOBOX");
+    if (theme) {
+        DrawThemeBackground(theme.get(), dc, CP_BORDER, CBXS_NORMAL, &place, nullptr);
+        InflateRect(&place, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
+        fill(dc, place, back);
+    } else {
+        DrawEdge(dc, &place, EDGE_SUNKEN, BF_RECT | BF_ADJUST);
+    }
+    place.left = std::max(place.left, place.right - arrow);
+    if (theme)
+        DrawThemeBackground(theme.get(), dc, CP_DROPDOWNBUTTON, CBXS_NORMAL, &place, nullptr);
+    else
+        DrawFrameControl(dc, &place, DFC_SCROLL, DFCS_SCROLLCOMBOBOX);
+}
+
 void paintField(HDC dc, const RECT& place, const FieldPicture& field)
 {
     if (field.client.cx <= 0 || field.client.cy <= 0)

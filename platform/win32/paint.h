@@ -23,6 +23,9 @@ void paintGlyph(HDC dc, const RECT& place, platform::ButtonGlyph glyph, COLORREF
 // The whole button: the theme's, or the classic one. Without a window it stands in a picture.
 void paintButton(HDC dc, const RECT& place, platform::ButtonGlyph glyph, UINT itemState, HWND window);
 
+// A closed drop-down list as the system draws it, without its text; the arrow is so many units wide.
+void paintCombo(HDC dc, RECT place, COLORREF back, int arrow);
+
 // The circle behind a chosen day, with smooth edges where the device context can be read; in high contrast a ring of
 // `line` units, so that the day is read on the window's own colour.
 void paintMark(HDC dc, const RECT& place, COLORREF colour, int line);
