@@ -131,7 +131,10 @@ void CalendarContent::attach(HWND parent, const RECT& place)
 
 void CalendarContent::detach() noexcept
 {
+    const bool focused = hasFocus();
     contained([&] { form().leaveParent(); });
+    if (focused)
+        shell_.focusMoved(false);
 }
 
 void CalendarContent::place(const RECT& place)

@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 #include <olectl.h>
 
+#include <atomic>
+#include <thread>
+
 namespace vela::test {
 
 namespace {
@@ -90,6 +93,21 @@ TEST(LiveCalendar, AKeyThatMovesTheDayTellsAsAClickDoes)
     EXPECT_EQ(sheet.calendar.count("changed 0") + sheet.calendar.count("event -600"), 0) << "the list ends there";
 }
 
+TEST(LiveCalendar, DeactivatedWithTheFocusItIsLeftOnce)
+{
+    const LeakCheck leaks;
+    Sheet sheet;
+    sheet.click(widget::day(20));
+    ASSERT_TRUE(sheet.calendarHasFocus());
+    EXPECT_EQ(sheet.calendar.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+    settle(sheet.form);
+    EXPECT_EQ(sheet.calendar.count("OnFocus 1"), 1);
+    EXPECT_EQ(sheet.calendar.count("OnFocus 0"), 1);
+    EXPECT_EQ(sheet.calendar.count("OnUIDeactivate"), 1);
+    sheet.calendar.close();
+    EXPECT_EQ(sheet.calendar.count("OnFocus 0"), 1);
+}
+
 TEST(LiveCalendar, AfterItsParentHasGoneItGetsAWindowInANewOne)
 {
     const LeakCheck leaks;
@@ -169,6 +187,34 @@ TEST(LiveCalendar, EachDrawingReadsEveryColour)
         field.put(colours[i].first, std::move(before[i]));
     sheet.click(widget::day(21));
     EXPECT_NE(pixelOf(sheet.calendar.window(), {100, 1}), 0x00112233u);
+}
+
+// One record for all apartments: what another thread has put is read here, and never half of it.
+TEST(LiveCalendar, ItsColoursAreThoseOfEveryApartment)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const Automation own(control.get());
+    const auto colour = [&] { return own.get(u"Calendar_Selected").value.get().lVal; };
+    const LONG before = colour();
+    std::atomic<bool> done{false};
+    std::thread other([&] {
+        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+        {
+            const ComPtr<IUnknown> its = create();
+            for (int i = 0; i < 200; ++i)
+                Automation(its.get()).put(u"Calendar_Selected", number(i % 2 == 0 ? 0x00030201 : 0x00060504));
+        }
+        CoUninitialize();
+        done = true;
+    });
+    while (!done) {
+        const LONG read = colour();
+        EXPECT_TRUE(read == 0x00030201 || read == 0x00060504 || read == before || read == 0x00C0E0FF) << read;
+    }
+    other.join();
+    EXPECT_EQ(colour(), 0x00060504);
+    own.put(u"Calendar_Selected", number(before));
 }
 
 } // namespace
