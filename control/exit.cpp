@@ -14,14 +14,14 @@ constexpr int alertIcon = 3;
 
 } // namespace
 
-void Vela::lostFocus()
+void Vela::lostFocus(platform::Leaving leaving)
 {
     if (deaf())
         return;
     whileAlive(life_, [&] {
         held_ = false;
         trap(
-            life_, [&](int&) { leave(); },
+            life_, [&](int&) { leave(leaving); },
             [&](const engine::Error& failure) {
                 if (failure.number != engine::error_number::invalidCall)
                     log(failure, label::lostFocus);
@@ -29,7 +29,7 @@ void Vela::lostFocus()
     });
 }
 
-void Vela::leave()
+void Vela::leave(platform::Leaving leaving)
 {
     hideTip();
     leaveColours();
@@ -38,7 +38,7 @@ void Vela::leave()
     if (text->empty())
         writeText(settings_.ifIsEmpty, Writer::life);
     if (const auto wrong = leaveByType())
-        answerWrong(*wrong);
+        answerWrong(*wrong, leaving);
     else
         hideTip();
 }
@@ -124,13 +124,15 @@ std::optional<Vela::Wrong> Vela::leaveDate()
 }
 
 // A wrong entry is given the focus back at the first attempt to leave; the next one lets it go, unless ErrorFocus
-// keeps it for good.
-void Vela::answerWrong(const Wrong& wrong)
+// keeps it for good. Who goes away, to another window or because the field is disabled, is told but not held.
+void Vela::answerWrong(const Wrong& wrong, platform::Leaving leaving)
 {
     if (settings_.errorTextClear)
         putText(u"", Writer::life);
     if (settings_.errorAlert && tooltip::VersaoWindows(environment_.system) == u"NT")
         showAlert(wrong);
+    if (leaving == platform::Leaving::away)
+        return;
     returnedFocus_ = !returnedFocus_;
     if (returnedFocus_) {
         held_ = true;

@@ -147,7 +147,7 @@ public:
 
     // EditBoxEvents
     void gotFocus() override;
-    void lostFocus() override;
+    void lostFocus(platform::Leaving leaving) override;
     void keyDown(int& code, int& shift) override;
     void keyPress(int& key) override;
     void keyUp(int code, int shift) override;
@@ -249,12 +249,12 @@ private:
         View title;
         View text;
     };
-    void leave();
+    void leave(platform::Leaving leaving);
     void leaveColours();
     [[nodiscard]] std::optional<Wrong> leaveByType();
     [[nodiscard]] std::optional<Wrong> leaveNumber();
     [[nodiscard]] std::optional<Wrong> leaveDate();
-    void answerWrong(const Wrong& wrong);
+    void answerWrong(const Wrong& wrong, platform::Leaving leaving);
     void showAlert(const Wrong& wrong);
     [[nodiscard]] tooltip::CBalloonToolTip& tip(); // made at its first use
     void hideTip();

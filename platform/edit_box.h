@@ -48,11 +48,15 @@ struct EditTraits {
     friend bool operator==(const EditTraits&, const EditTraits&) = default;
 };
 
+// Where the focus goes that leaves a box. `away` is another top-level window or another form of the host, and nowhere
+// when the box is disabled: nobody is held up there, so the focus is not asked back.
+enum class Leaving { within, away };
+
 // What the person does in the box, in the order of happening. A code put to 0 swallows the key.
 class EditBoxEvents {
 public:
     virtual void gotFocus() = 0;
-    virtual void lostFocus() = 0;
+    virtual void lostFocus(Leaving leaving) = 0;
     virtual void keyDown(int& code, int& shift) = 0; // virtual-key code; shift 1, control 2, alt 4
     virtual void keyPress(int& key) = 0;             // UTF-16 unit; a composed character only
     virtual void keyUp(int code, int shift) = 0;
@@ -98,7 +102,7 @@ public:
     virtual void putColours(EditColours colours) = 0;
     [[nodiscard]] virtual const EditTraits& traits() const = 0;
     virtual void putTraits(const EditTraits& traits) = 0;
-    // Asks for the focus. Inside lostFocus() it is granted once the change of focus has settled.
+    // Asks for the focus. Inside lostFocus(Leaving::within) it is granted once the change of focus has settled.
     virtual void takeFocus() = 0;
     [[nodiscard]] virtual bool hasFocus() const = 0;
     // The box's own alert balloon; false when the box cannot show one. Icon as in eIconeToolTipText.

@@ -66,6 +66,8 @@ void ControlSurface::putEnabled(bool enabled)
 {
     form().faults().pass();
     enabled_ = enabled;
+    if (!enabled)
+        form().release(*this);
 }
 
 void ControlSurface::putLook(const platform::SurfaceLook& look)
@@ -162,11 +164,11 @@ void ControlSurface::askBoxFocus()
         boxEvents_->gotFocus();
 }
 
-void ControlSurface::leave()
+void ControlSurface::leave(platform::Leaving leaving)
 {
     const LifeLine::Watch watch(life_);
     if (std::exchange(boxFocused_, false) && boxEvents_ != nullptr)
-        boxEvents_->lostFocus();
+        boxEvents_->lostFocus(leaving);
     if (!watch.gone() && surfaceEvents_ != nullptr)
         surfaceEvents_->surfaceLostFocus();
 }

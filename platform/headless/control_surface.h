@@ -51,7 +51,7 @@ public:
     [[nodiscard]] platform::WindowId pointerWindow() const override;
     [[nodiscard]] std::optional<engine::PointPixels> originOf(platform::WindowId window) const override;
     void enter() override;
-    void leave() override;
+    void leave(platform::Leaving leaving) override;
     void key(Key key) override;
     void paste(std::u16string_view text) override;
     void pasteIntoBox(std::u16string_view text) override;

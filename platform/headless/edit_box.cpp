@@ -172,7 +172,7 @@ void EditBox::reportChange()
         events->changed();
 }
 
-// The handlers may destroy the box: nothing of it is touched after one that did.
+// The handlers may destroy the box: nothing of it is touched after one that did. One that disables it ends the key.
 void EditBox::key(Key key)
 {
     const LifeLine::Watch watch(life_);
@@ -181,14 +181,14 @@ void EditBox::key(Key key)
     int shift = 0;
     if (events != nullptr)
         events->keyDown(code, shift);
-    if (watch.gone())
+    if (watch.gone() || !traits_->enabled)
         return;
     const bool swallowed = key.code != 0 && code == 0;
     if (!swallowed) {
         int character = key.pressed ? key.character : 0;
         if (key.pressed && events != nullptr)
             events->keyPress(character);
-        if (watch.gone())
+        if (watch.gone() || !traits_->enabled)
             return;
         if (key.pressed)
             applyCharacter(character);

@@ -108,6 +108,12 @@ void FormWindow::focusNone()
         moveFocus(nullptr);
 }
 
+void FormWindow::release(Element& element)
+{
+    if (&element == focused_ && !moving_)
+        moveFocus(nullptr); // a move that is under way sees to it itself
+}
+
 void FormWindow::askFocus(Element& element)
 {
     if (moving_)
@@ -141,11 +147,13 @@ void FormWindow::moveFocus(Element* target)
     for (int moves = 0; moves < longestChase; ++moves) {
         wanted_ = nullptr;
         leaveFocused();
-        if (wanted_ != nullptr)
-            target = std::exchange(wanted_, nullptr); // it keeps the focus, or another one was sent it
-        arriveAt(target != nullptr && holds(target) ? target : nullptr);
+        if (wanted_ != nullptr && wanted_->acceptsFocus())
+            target = wanted_; // it keeps the focus, or another one was sent it
+        wanted_ = nullptr;
+        arriveAt(holds(target) && target->acceptsFocus() ? target : nullptr);
         target = std::exchange(wanted_, nullptr); // asked for by the one that was entered
-        if (target == nullptr || target == focused_)
+        const bool refused = focused_ != nullptr && !focused_->acceptsFocus();
+        if (!refused && (target == nullptr || target == focused_))
             break;
     }
     moving_ = false;
@@ -157,7 +165,8 @@ void FormWindow::leaveFocused()
 {
     Element* const left = std::exchange(focused_, nullptr);
     if (left != nullptr)
-        guarded(failure_, [&] { left->leave(); });
+        guarded(failure_,
+                [&] { left->leave(left->acceptsFocus() ? platform::Leaving::within : platform::Leaving::away); });
 }
 
 void FormWindow::arriveAt(Element* target)

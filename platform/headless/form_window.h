@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/geometry.h"
+#include "platform/edit_box.h"
 #include "platform/headless/desktop.h"
 #include "platform/headless/fault.h"
 #include "platform/headless/keys.h"
@@ -36,7 +37,7 @@ public:
     // The screen place of its window of that id.
     [[nodiscard]] virtual std::optional<engine::PointPixels> originOf(platform::WindowId) const { return std::nullopt; }
     virtual void enter() {}
-    virtual void leave() {}
+    virtual void leave(platform::Leaving) {}
     virtual void key(Key) {}
     virtual void paste(std::u16string_view) {}
     virtual void pasteIntoBox(std::u16string_view) {}
@@ -78,7 +79,9 @@ public:
     // Nothing when it has the focus already or does not accept it. The element that is left may keep the focus by
     // asking for it (askFocus); it is then entered again and the one asked for sees nothing.
     void focus(Element& element);
-    void focusNone();         // another window's control takes it
+    void focusNone(); // another window's control takes it, and may have to give it back
+    // The element no longer accepts the focus: when it has it, it is left away, and nobody has the focus.
+    void release(Element& element);
     void tab(bool backwards); // skips elements that do not accept the focus, goes round at both ends
     // From handlers: granted at once, or when a change of the focus that is under way has settled.
     void askFocus(Element& element);

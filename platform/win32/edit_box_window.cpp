@@ -297,9 +297,11 @@ void EditBox::leave(HWND next)
 {
     Watch watch(life_);
     entered_ = false;
-    const FocusArbiter::Change change(arbiter_, sameForm(next, edit_));
+    const bool within = IsWindowEnabled(edit_) && sameForm(next, edit_);
+    const FocusArbiter::Change change(arbiter_, within);
+    const platform::Leaving leaving = within ? platform::Leaving::within : platform::Leaving::away;
     if (platform::EditBoxEvents* listener = events())
-        guarded([listener] { listener->lostFocus(); });
+        guarded([listener, leaving] { listener->lostFocus(leaving); });
     if (platform::SurfaceEvents* listener = watch.alive() ? surface_.events_ : nullptr)
         guarded([listener] { listener->surfaceLostFocus(); });
     if (!watch.alive() || arbiter_.returnsTo(*this))

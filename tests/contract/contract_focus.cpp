@@ -58,6 +58,25 @@ TEST_F(FocusContract, TwoFieldsThatBothAskDoNotLoop)
     EXPECT_TRUE(box(0).hasFocus());
 }
 
+TEST_F(FocusContract, AFieldThatIsDisabledIsLeftForNowhereAndNotGivenTheFocusBack)
+{
+    first.during("lost", [this] { box(0).takeFocus(); });
+    stage->focus(0);
+    platform::EditTraits traits = box(0).traits();
+    traits.enabled = false;
+    box(0).putTraits(traits);
+    stage->field(0).putEnabled(false);
+    stage->settle();
+    EXPECT_EQ(focusLog(), (Log{"A got", "A lost"}));
+    EXPECT_EQ(first.lastLeaving, platform::Leaving::away);
+    EXPECT_FALSE(box(0).hasFocus());
+    stage->type(u"x");
+    EXPECT_EQ(text(0), u"");
+    stage->focus(1);
+    EXPECT_EQ(focusLog(), (Log{"A got", "A lost", "B got"}));
+    EXPECT_EQ(first.lastLeaving, platform::Leaving::away);
+}
+
 TEST_F(FocusContract, AClickThatIsNotGrantedIsNoClick)
 {
     stage->focus(0);

@@ -20,10 +20,15 @@ public:
     std::function<void(int&)> keyFilter;
     std::u16string lastPasted;
     int lastShift = 0;
+    platform::Leaving lastLeaving = platform::Leaving::within;
     bool layingOut = false;
 
     void gotFocus() override { tell("got"); }
-    void lostFocus() override { tell("lost"); }
+    void lostFocus(platform::Leaving leaving) override
+    {
+        lastLeaving = leaving;
+        tell("lost");
+    }
     void keyDown(int& code, int& shift) override
     {
         lastShift = shift;

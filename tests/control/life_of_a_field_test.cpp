@@ -103,6 +103,25 @@ TEST(Log, ThatCannotBeWrittenReachesTheCaller)
     EXPECT_EQ(f.shows(), "|____");
 }
 
+TEST(Disabled, InsideAnEventIsLeftAtOnceAndTypesNoMore)
+{
+    const auto shownAfter = [](auto arrange) {
+        FieldBench bench;
+        Field& f = bench.add();
+        bench.focus(f);
+        arrange(f, [&f] { f.put(u"Enabled", engine::Value(false)); });
+        bench.type(u"ab");
+        EXPECT_EQ(bench.form.focused(), nullptr);
+        bench.focus(f);
+        EXPECT_EQ(bench.form.focused(), nullptr);
+        return f.shows();
+    };
+    EXPECT_EQ(shownAfter([](Field& f, auto off) { f.on().keyDown = [off](auto&, auto&) { off(); }; }), "|");
+    EXPECT_EQ(shownAfter([](Field& f, auto off) { f.on().keyPress = [off](auto&) { off(); }; }), "|");
+    EXPECT_EQ(shownAfter([](Field& f, auto off) { f.on().change = [off] { off(); }; }), "a|");
+    EXPECT_EQ(shownAfter([](Field& f, auto off) { f.on().keyUp = [off](auto&, auto&) { off(); }; }), "a|");
+}
+
 TEST(Click, AfterTheFirstOneSelectsNothing)
 {
     FieldBench bench;
