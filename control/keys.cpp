@@ -168,6 +168,15 @@ std::u16string Vela::popupText()
 void Vela::putPopupText(const engine::Value& value)
 {
     Text(engine::toText(value, locale()));
+    if (!box().hasFocus())
+        return;
+    enterText();
+    enterSelection();
+}
+
+void Vela::hideEntryTip()
+{
+    hideTip();
 }
 
 void Vela::takePopupFocus()

@@ -171,6 +171,7 @@ public:
     // popups::Owner
     [[nodiscard]] std::u16string popupText() override;
     void putPopupText(const engine::Value& value) override;
+    void hideEntryTip() override;
     void takePopupFocus() override;
     [[nodiscard]] engine::RectPixels popupAnchor() override;
     [[nodiscard]] platform::ParentForm popupParent() override;

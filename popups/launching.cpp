@@ -43,13 +43,16 @@ std::u16string failureText(const FailureTexts& texts, int step, const engine::Er
 }
 
 template <class Steps>
-void launch(const platform::Environment& environment, const FailureTexts& texts, Steps&& steps)
+void launch(const platform::Environment& environment, const FailureTexts& texts, const std::function<void()>& discard,
+            Steps&& steps)
 {
     int step = 0;
     const auto error = trapped([&] { steps(step); });
-    if (error)
-        environment.desktop.messageBox(platform::BoxIcon::information, platform::BoxButtons::ok, u"Vela",
-                                       failureText(texts, step, *error));
+    if (!error)
+        return;
+    discard();
+    environment.desktop.messageBox(platform::BoxIcon::information, platform::BoxButtons::ok, u"Vela",
+                                   failureText(texts, step, *error));
 }
 
 engine::RectPixels placeUnder(engine::RectPixels control, int width, int height)
@@ -74,13 +77,13 @@ engine::CivilDate startingDate(Owner& owner, const platform::Environment& enviro
 
 } // namespace
 
-void launchCalendar(const platform::Environment& environment, Owner& owner, const std::function<CalendarioSDI&()>& load)
+void launchCalendar(const platform::Environment& environment, Owner& owner, const CalendarLoader& loader)
 {
-    launch(environment, calendarFailure, [&](int& step) {
+    launch(environment, calendarFailure, loader.discard, [&](int& step) {
         step = 1;
         const engine::RectPixels control = owner.popupAnchor();
         step = 2;
-        CalendarioSDI& calendar = load();
+        CalendarioSDI& calendar = loader.load();
         calendar.setOwner(&owner);
         step = 3;
         const engine::CivilDate start = startingDate(owner, environment);
@@ -91,25 +94,26 @@ void launchCalendar(const platform::Environment& environment, Owner& owner, cons
         step = 5;
         const engine::RectPixels place = placeUnder(control, calendarPopupWidth, calendarPopupHeight);
         step = 6;
-        calendar.show(place, modelessParent(owner));
+        const platform::WindowId parent = modelessParent(owner);
+        owner.hideEntryTip();
+        calendar.show(place, parent);
     });
 }
 
-void launchCalculator(const platform::Environment& environment, Owner& owner,
-                      const std::function<frmCalculadora&()>& load, const std::function<frmCalculadora*()>& loaded)
+void launchCalculator(const platform::Environment& environment, Owner& owner, const CalculatorLoader& loader)
 {
-    launch(environment, calculatorFailure, [&](int& step) {
+    launch(environment, calculatorFailure, loader.discard, [&](int& step) {
         step = 1;
         const engine::RectPixels control = owner.popupAnchor();
         step = 2;
-        frmCalculadora& calculator = load();
+        frmCalculadora& calculator = loader.load();
         calculator.setOwner(&owner);
         calculator.continueNumber();
         step = 3;
         calculator.handOver(hasDecimals(owner.popupText()));
         step = 4;
         environment.desktop.processPendingEvents();
-        if (loaded() != &calculator || calculator.owner() != &owner)
+        if (loader.loaded() != &calculator || calculator.owner() != &owner)
             return; // one of the events took the calculator or its owner away
         const std::u16string text = owner.popupText();
         if (engine::isNumeric(std::u16string_view(text), environment.locales.locale()))
@@ -117,7 +121,9 @@ void launchCalculator(const platform::Environment& environment, Owner& owner,
         step = 5;
         const engine::RectPixels place = placeUnder(control, calculatorPopupWidth, calculatorPopupHeight);
         step = 6;
-        calculator.show(place, modelessParent(owner));
+        const platform::WindowId parent = modelessParent(owner);
+        owner.hideEntryTip();
+        calculator.show(place, parent);
     });
 }
 

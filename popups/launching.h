@@ -18,10 +18,17 @@ inline constexpr int calculatorPopupWidth = 110;
 inline constexpr int calculatorPopupHeight = 109;
 
 // `load` answers the loaded form, made when there is none; `loaded` the form that is loaded now, null when it has gone.
-// What fails is told in a box with the number of the step that failed; a form then stays loaded, not shown.
-void launchCalendar(const platform::Environment& environment, Owner& owner,
-                    const std::function<CalendarioSDI&()>& load);
-void launchCalculator(const platform::Environment& environment, Owner& owner,
-                      const std::function<frmCalculadora&()>& load, const std::function<frmCalculadora*()>& loaded);
+// What fails is told in a box with the number of the step that failed, after `discard` has taken the form away.
+struct CalendarLoader {
+    std::function<CalendarioSDI&()> load;
+    std::function<void()> discard;
+};
+struct CalculatorLoader {
+    std::function<frmCalculadora&()> load;
+    std::function<frmCalculadora*()> loaded;
+    std::function<void()> discard;
+};
+void launchCalendar(const platform::Environment& environment, Owner& owner, const CalendarLoader& loader);
+void launchCalculator(const platform::Environment& environment, Owner& owner, const CalculatorLoader& loader);
 
 } // namespace vela::popups

@@ -50,7 +50,12 @@ public:
         if (!loaded_)
             return;
         drop(*loaded_, owner);
-        if (trapped([&] { loaded_->unload(); }) && loaded_)
+        discard();
+    }
+
+    void discard()
+    {
+        if (loaded_ && trapped([&] { loaded_->unload(); }) && loaded_)
             loaded_->closed(); // its window would not close; it is let go of all the same
     }
 
@@ -110,26 +115,26 @@ SharedCalendarColours& Popups::colours() const noexcept
 void Popups::openCalendar(Owner& owner)
 {
     const Opening opening(state_->calendar.opening);
-    launchCalendar(state_->environment, owner, [this]() -> CalendarioSDI& {
+    const auto load = [this]() -> CalendarioSDI& {
         state_->calculator.close();
         return state_->calendar.load([this](PopupRecord& record) {
             return std::make_unique<CalendarioSDI>(state_->environment, state_->forms, *state_->colours, record);
         });
-    });
+    };
+    launchCalendar(state_->environment, owner, {load, [this] { state_->calendar.discard(); }});
 }
 
 void Popups::openCalculator(Owner& owner)
 {
     const Opening opening(state_->calculator.opening);
-    launchCalculator(
-        state_->environment, owner,
-        [this]() -> frmCalculadora& {
-            state_->calendar.close();
-            return state_->calculator.load([this](PopupRecord& record) {
-                return std::make_unique<frmCalculadora>(state_->environment, state_->forms, record);
-            });
-        },
-        [this] { return state_->calculator.loaded(); });
+    const auto load = [this]() -> frmCalculadora& {
+        state_->calendar.close();
+        return state_->calculator.load([this](PopupRecord& record) {
+            return std::make_unique<frmCalculadora>(state_->environment, state_->forms, record);
+        });
+    };
+    launchCalculator(state_->environment, owner,
+                     {load, [this] { return state_->calculator.loaded(); }, [this] { state_->calculator.discard(); }});
 }
 
 void Popups::closeAll()

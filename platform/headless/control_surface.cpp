@@ -120,7 +120,11 @@ std::optional<engine::PointPixels> ControlSurface::originOf(platform::WindowId w
 
 void ControlSurface::clickButton()
 {
-    if (look_.button && surfaceEvents_ != nullptr)
+    if (!look_.button)
+        return;
+    const LifeLine::Watch watch(life_);
+    form().focus(*this);
+    if (!watch.gone() && form().focused() == this && surfaceEvents_ != nullptr)
         surfaceEvents_->buttonClicked();
 }
 

@@ -21,7 +21,7 @@ public:
     void disconnect() noexcept;
 
     [[nodiscard]] EditBox& activeBox(); // the single-line one when none has been activated yet
-    void clickButton();                 // nothing when the button is hidden
+    void clickButton(); // gives the focus first; nothing when that is not granted, or the button is hidden
     void resize(int width, int height); // reports resized()
     [[nodiscard]] bool enabled() const noexcept { return enabled_; }
     [[nodiscard]] bool hoverTimerEnabled() const noexcept { return hoverTimer_; }

@@ -29,6 +29,7 @@ public:
         if (failingPut != 0)
             engine::raise(failingPut);
     }
+    void hideEntryTip() override { ++tipsHidden; }
     void takePopupFocus() override { ++focusTaken; }
     engine::RectPixels popupAnchor() override
     {
@@ -52,6 +53,7 @@ public:
     std::function<void()> duringPut;
     std::vector<engine::Value> puts;
     int focusTaken = 0;
+    int tipsHidden = 0;
 };
 
 // What happened to boxes, log and windows, a line each.
