@@ -64,12 +64,14 @@ void Vela::sKeyDown(int code)
         readText(*text);
         *before = *text;
         const platform::Selection selection = box().selection();
-        const auto caret = engine::eraseInMask(code, selection.start, selection.length, maskSettings(), *text);
-        if (!caret)
+        const auto erasure = engine::eraseInMask(code, selection.start, selection.length, maskSettings(), *text);
+        if (!erasure)
             return;
-        keepWritten(*before, *text, selection, false);
-        writeText(*text, Writer::keys);
-        box().select({*caret, 0});
+        if (erasure->written) {
+            keepWritten(*before, *text, selection, false);
+            writeText(*text, Writer::keys);
+        }
+        box().select({erasure->caret, 0});
     });
 }
 

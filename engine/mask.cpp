@@ -75,24 +75,24 @@ bool isErasable(int position, const MaskSettings& settings, const std::u16string
     return isPromptAt(position, settings) && static_cast<std::size_t>(position) < text.size();
 }
 
-std::optional<int> eraseSelection(int start, int length, const MaskSettings& settings, std::u16string& text)
+Erasure eraseSelection(int start, int length, const MaskSettings& settings, std::u16string& text)
 {
-    bool found = false;
+    Erasure erasure{start, false};
     const int end = static_cast<int>(std::min<std::size_t>(text.size(), static_cast<std::size_t>(start + length)));
     for (int position = start; position < end; ++position)
         if (isErasable(position, settings, text)) {
             text[static_cast<std::size_t>(position)] = settings.promptChar.front();
-            found = true;
+            erasure.written = true;
         }
-    return found ? std::optional{start} : std::nullopt;
+    return erasure;
 }
 
-std::optional<int> eraseOne(int from, int step, const MaskSettings& settings, std::u16string& text)
+std::optional<Erasure> eraseOne(int from, int step, const MaskSettings& settings, std::u16string& text)
 {
     for (int position = from; position >= 0 && position < static_cast<int>(text.size()); position += step)
         if (isErasable(position, settings, text)) {
             text[static_cast<std::size_t>(position)] = settings.promptChar.front();
-            return position;
+            return Erasure{position, true};
         }
     return {};
 }
@@ -125,8 +125,8 @@ MaskStep validateMask(int key, int caret, const MaskSettings& settings, std::u16
     return step;
 }
 
-std::optional<int> eraseInMask(int keyCode, int selectionStart, int selectionLength, const MaskSettings& settings,
-                               std::u16string& text)
+std::optional<Erasure> eraseInMask(int keyCode, int selectionStart, int selectionLength, const MaskSettings& settings,
+                                   std::u16string& text)
 {
     if (settings.locked || (keyCode != deleteKey && keyCode != backspaceKey))
         return {};

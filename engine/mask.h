@@ -36,10 +36,15 @@ struct MaskStep {
 
 // Delete (46) and Backspace (8) pressed with `selectionLength` units selected from `selectionStart` on.
 // `sKeyDown`: input positions become the prompt again. Nothing, and `text` untouched, when there is nothing to
-// erase, the field is locked, or the key is another; else the caret to put after writing `text`.
+// erase, the field is locked, or the key is another; else the caret to put, after writing `text` where it is to be
+// written: a selection of literals alone only gives way to the caret at its start.
 // "12/3|_/____" + Backspace -> "12/|__/____"
-[[nodiscard]] std::optional<int> eraseInMask(int keyCode, int selectionStart, int selectionLength,
-                                             const MaskSettings& settings, std::u16string& text);
+struct Erasure {
+    int caret = 0;
+    bool written = false;
+};
+[[nodiscard]] std::optional<Erasure> eraseInMask(int keyCode, int selectionStart, int selectionLength,
+                                                 const MaskSettings& settings, std::u16string& text);
 
 // The first input position at or after the caret (right arrow); nothing when none is left.
 [[nodiscard]] std::optional<int> nextInputPosition(int caret, const MaskSettings& settings) noexcept;

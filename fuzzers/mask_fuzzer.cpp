@@ -75,7 +75,7 @@ struct Field {
     {
         const auto before = text;
         if (const auto put = eraseInMask(key, caret, length, settings, text))
-            caret = *put;
+            caret = put->caret;
         else
             require(text == before);
     }

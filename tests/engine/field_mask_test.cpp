@@ -89,14 +89,15 @@ TEST(Mask, ErasingPutsPromptsBack)
         {"Delete behind the last position", u"12/34/5678|", del, u"12/34/5678"},
         {"a selection, literals stay", u"1[2/3]4/____", del, u"1|_/_4/____"},
         {"Backspace with a selection", u"1[2/3]4/____", back, u"1|_/_4/____"},
-        {"a selection of a literal only", u"12[/]34/____", del, u"12/34/____"},
+        {"a selection of a literal only", u"12[/]34/____", del, u"12|/34/____"},
         {"a text shorter than its mask", u"12/|", del, u"12/"},
         {"another key", u"1|2/34/____", 37, u"12/34/____"},
     };
     for (const auto& row : rows) {
         auto before = box(row.before);
-        const auto caret = eraseInMask(row.key, before.caret, before.selected, date, before.text);
-        EXPECT_EQ(caret ? marked(before.text, *caret) : before.text, row.after) << row.rule;
+        const auto erasure = eraseInMask(row.key, before.caret, before.selected, date, before.text);
+        EXPECT_EQ(erasure ? marked(before.text, erasure->caret) : before.text, row.after) << row.rule;
+        EXPECT_EQ(erasure && erasure->written, before.text != box(row.before).text) << row.rule;
     }
     MaskSettings locked = date;
     locked.locked = true;
