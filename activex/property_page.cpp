@@ -12,6 +12,7 @@
 #include "platform/win32/dpi.h"
 
 #include <olectl.h>
+#include <optional>
 
 #include <functional>
 #include <memory>
@@ -90,6 +91,7 @@ private:
     Objects objects_;
     Objects objectsInUse_; // the former selection, which an act still works on
     bool selectionWaits_ = false;
+    std::optional<engine::Error> failedLoad_; // nothing is applied before a load has succeeded
     int acts_ = 0;
     std::unique_ptr<pages::Page> page_; // between Activate and Deactivate
     std::unique_ptr<pages::Page> left_; // deactivated inside one of its acts
@@ -150,7 +152,13 @@ void PropertyPage::openSelection()
     std::vector<pages::PropertyObject*> selection;
     for (const auto& object : objects_)
         selection.push_back(object.get());
-    page_->open(selection);
+    failedLoad_.reset();
+    try {
+        page_->open(selection);
+    } catch (const engine::Error& error) {
+        failedLoad_ = error;
+        throw;
+    }
 }
 
 void PropertyPage::openSelectionOrSayWhyNot()
@@ -279,7 +287,13 @@ HRESULT PropertyPage::Apply() noexcept
         return E_UNEXPECTED;
     }
     const Act act(*this);
-    return guarded([&] { return page_->apply() ? S_OK : E_FAIL; });
+    return guarded([&]() -> HRESULT {
+        if (failedLoad_) {
+            showFailure(*failedLoad_);
+            throw engine::Error(*failedLoad_); // the host hears of it too
+        }
+        return page_->apply() ? S_OK : E_FAIL;
+    });
 }
 
 HRESULT PropertyPage::Help(LPCOLESTR) noexcept

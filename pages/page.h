@@ -34,7 +34,8 @@ public:
     // Forgets the selection without a word: the host lets go of its controls.
     virtual void release() noexcept = 0;
     // Checks, then writes to the first object. False: the page refused and has said why; nothing was written, the
-    // flag stands. Raises what a write raises: what had been written stays written, the flag stands.
+    // flag stands. Raises what a write raises: what had been written stays written, the flag stands. After a load that
+    // failed it writes nothing and tells of that failure again, as the load did, until a load has succeeded.
     virtual bool apply() = 0;
     [[nodiscard]] virtual bool changed() const noexcept = 0;
     // Gives a control the focus, brought to the front first: its tab, its group.

@@ -149,14 +149,26 @@ void PageForm::chooseColour(WidgetId swatch)
 void PageForm::open(std::span<PropertyObject* const> selection, const Action& load)
 {
     object_ = selection.empty() ? nullptr : selection.front();
+    failedLoad_ = engine::Error{.number = engine::error_number::objectNotSet}; // until the load says otherwise
     try {
         const Loading loading(loading_);
         load();
+        failedLoad_.reset();
+    } catch (const engine::Error& error) {
+        failedLoad_ = error;
+        putChanged(false);
+        throw;
     } catch (...) {
         putChanged(false);
         throw;
     }
     putChanged(false);
+}
+
+void PageForm::requireLoaded() const
+{
+    if (failedLoad_)
+        throw *failedLoad_;
 }
 
 PropertyObject& PageForm::object() const

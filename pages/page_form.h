@@ -1,10 +1,12 @@
 // What every page is made of: its form, the selected object, the changed flag, and the acts bound to its controls.
 #pragma once
 
+#include "engine/error.h"
 #include "pages/field.h"
 #include "pages/page.h"
 
 #include <functional>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -33,6 +35,8 @@ public:
 
     // The selection. `load` runs with the acts left out; the flag is down afterwards, whatever happened.
     void open(std::span<PropertyObject* const> selection, const Action& load);
+    // Raises again what the load raised: what was never read is not to be overwritten.
+    void requireLoaded() const;
     void release() noexcept { object_ = nullptr; }
     [[nodiscard]] PropertyObject& object() const; // the first selected one; raises 91 without one
     void load(const Field& field);
@@ -92,6 +96,7 @@ private:
     PageServices services_;
     PageSite& site_;
     PropertyObject* object_ = nullptr;
+    std::optional<engine::Error> failedLoad_;
     bool changed_ = false;
     bool loading_ = false;
     std::vector<Binding> bindings_;

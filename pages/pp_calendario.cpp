@@ -34,6 +34,7 @@ void ppCalendario::open(std::span<PropertyObject* const> selection)
 
 bool ppCalendario::apply()
 {
+    page_.requireLoaded();
     for (const Field& field : fields)
         page_.object().put(field.property, page_.value(field));
     page_.putChanged(false);

@@ -58,6 +58,7 @@ void ppErros::open(std::span<PropertyObject* const> selection)
 
 bool ppErros::apply()
 {
+    page_.requireLoaded();
     if (page_.form().enabled(page_.id(u"txtMsgCustom")) && page_.text(u"txtMsgCustom").empty()) {
         page_.inform(u"Informe o texto da mensagem.");
         return false;

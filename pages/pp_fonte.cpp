@@ -49,6 +49,7 @@ void ppFonte::open(std::span<PropertyObject* const> selection)
 
 bool ppFonte::apply()
 {
+    page_.requireLoaded();
     for (const Field& field : fields)
         page_.object().put(field.property, page_.value(field));
     page_.putChanged(false);

@@ -63,6 +63,7 @@ void ppGeral::open(std::span<PropertyObject* const> selection)
 
 bool ppGeral::apply()
 {
+    page_.requireLoaded();
     page_.write(fields, writingOrder);
     page_.putChanged(false);
     return true;

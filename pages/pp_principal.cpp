@@ -93,6 +93,7 @@ void ppPrincipal::open(std::span<PropertyObject* const> selection)
 void ppPrincipal::load()
 {
     int line = 0;
+    failedLoad_.reset();
     try {
         for (const Field& field : fields) {
             ++line;
@@ -105,7 +106,9 @@ void ppPrincipal::load()
         followFreeTyping();
         fillMasks();
     } catch (const engine::Error& error) {
-        showLoadFailure(line, error.number, error.description);
+        failedLoad_ = error;
+        failedLoad_->step = line;
+        showFailedLoad();
     }
 }
 
@@ -118,6 +121,11 @@ void ppPrincipal::followFreeTyping()
 
 bool ppPrincipal::apply()
 {
+    page_.requireLoaded();
+    if (failedLoad_) {
+        showFailedLoad();
+        return false;
+    }
     const int type = textType();
     if (type == numerico)
         checkSymbol();

@@ -30,7 +30,7 @@ private:
 
     // Loading.
     void load();
-    void showLoadFailure(int line, int number, std::u16string_view description) const;
+    void showFailedLoad() const; // its step is the line
     void followFreeTyping();
     void fillMasks();
     void fillProfiles();
@@ -48,6 +48,7 @@ private:
 
     PageForm page_;
     PresetStore store_;
+    std::optional<engine::Error> failedLoad_; // nothing is applied before a load has succeeded
 };
 
 } // namespace vela::pages

@@ -79,11 +79,12 @@ void ppPrincipal::testReturnFormat() const
     }
 }
 
-void ppPrincipal::showLoadFailure(int line, int number, std::u16string_view description) const
+void ppPrincipal::showFailedLoad() const
 {
-    std::u16string text =
-        u"Rotina: PropertyPage_SelectionChanged\r\nLinha: " + decimal(line) + u"\r\nErro: " + decimal(number) + u"\r\n";
-    text += description;
+    if (failedLoad_->number == 0)
+        return;
+    const std::u16string text = u"Rotina: PropertyPage_SelectionChanged\r\nLinha: " + decimal(failedLoad_->step) +
+                                u"\r\nErro: " + decimal(failedLoad_->number) + u"\r\n" + failedLoad_->description;
     page_.services().environment.desktop.messageBox(platform::BoxIcon::exclamation, platform::BoxButtons::ok, {}, text);
 }
 

@@ -101,7 +101,11 @@ TEST(Orders, AnObjectThatLacksAPropertyIsReportedAndThePageStaysUsable)
         bench.object.properties.erase(lacking);
         EXPECT_EQ(errorOf([&] { bench.open(); }), 438);
         EXPECT_FALSE(bench.page->changed());
+        bench.edit();
         bench.object.properties = full;
+        EXPECT_EQ(errorOf([&] { bench.page->apply(); }), 438); // blanks are not written over what was never read
+        EXPECT_TRUE(bench.object.written.empty());
+        EXPECT_TRUE(bench.page->changed());
         bench.open();
         EXPECT_TRUE(bench.page->apply());
     }
@@ -116,10 +120,11 @@ TEST(Orders, WithoutAnObject)
             EXPECT_EQ(bench.takeBoxes(),
                       "exclamation||Rotina: PropertyPage_SelectionChanged\r\nLinha: 1\r\nErro: 91\r\n"
                       "Object variable or With block variable not set\n");
+            EXPECT_FALSE(bench.page->apply());
         } else {
             EXPECT_EQ(errorOf([&] { bench.open(std::vector<PropertyObject*>{}); }), 91);
+            EXPECT_EQ(errorOf([&] { bench.page->apply(); }), 91);
         }
-        EXPECT_EQ(errorOf([&] { bench.page->apply(); }), 91);
         bench.open();
         EXPECT_TRUE(bench.page->apply());
         bench.page->release();

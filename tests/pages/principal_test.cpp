@@ -27,10 +27,16 @@ TEST_F(Principal, LoadFailureNamesThePositionInTheReadingOrder)
         PageBench page(PageKind::ppPrincipal);
         page.object.properties.erase(row.property);
         page.open();
-        EXPECT_EQ(page.takeBoxes(),
-                  "exclamation||Rotina: PropertyPage_SelectionChanged\r\nLinha: " + std::to_string(row.line) +
-                      "\r\nErro: 438\r\nObject doesn't support this property or method\n");
+        const std::string box =
+            "exclamation||Rotina: PropertyPage_SelectionChanged\r\nLinha: " + std::to_string(row.line) +
+            "\r\nErro: 438\r\nObject doesn't support this property or method\n";
+        EXPECT_EQ(page.takeBoxes(), box);
         EXPECT_FALSE(page.page->changed());
+        page.edit();
+        EXPECT_FALSE(page.page->apply()); // blanks are not written over what was never read
+        EXPECT_EQ(page.takeBoxes(), box);
+        EXPECT_TRUE(page.object.written.empty());
+        EXPECT_TRUE(page.page->changed());
     }
     bench.object.properties[u"tipoLetra"] = 9; // no such item
     bench.open();
