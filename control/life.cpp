@@ -180,6 +180,7 @@ void Vela::DestruirToolTip()
 void Vela::LimparMemoria()
 {
     released_ = true;
+    surface_.enableHoverTimer(false); // its ticks ask the box
 }
 
 void Vela::markChanged(View name)
