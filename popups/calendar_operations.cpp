@@ -22,7 +22,7 @@ void CalendarOperations::load()
     const auto unseen = trapped([&] { view.refresh(); });
     if (!error)
         error = unseen;
-    if (error)
+    if (error && error->number != 0)
         boxes.show(environment_.desktop, platform::BoxIcon::information, u"Vela.Load", error->description);
 }
 

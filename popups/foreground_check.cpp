@@ -26,7 +26,7 @@ bool mayStayOpen(platform::WindowId popup, Owner& owner, const platform::Environ
 {
     bool inFront = false;
     const auto error = trapped([&] { inFront = isInFront(popup, owner, environment.desktop); });
-    if (error && error->number != clientSiteNotAvailable)
+    if (error && error->number != 0 && error->number != clientSiteNotAvailable)
         environment.log.append(popupLogPath, {error->number, error->description, std::u16string(label)});
     return !error && inFront;
 }

@@ -56,6 +56,8 @@ void frmCalculadora::load()
         const auto error = trapped([&] { (this->*step)(); });
         if (!error || error->number == engine::error_number::invalidPropertyValue)
             continue;
+        if (error->number == 0)
+            return;
         const std::string number = std::to_string(error->number);
         boxes_.show(environment_.desktop, platform::BoxIcon::information, u"Vela.Load",
                     std::u16string(number.begin(), number.end()) + u"-" + error->description);
