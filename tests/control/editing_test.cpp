@@ -235,6 +235,33 @@ TEST(Undo, SurvivesALongSession)
     }
 }
 
+// A key and the re-format that belongs to it go together, also where a full history lets go of its older half.
+TEST(Undo, NeverPartsJoinedSteps)
+{
+    for (const int single : {0, 1}) { // the middle of a full history falls on either side of a pair
+        History history;
+        std::u16string text;
+        const auto put = [&](int at, std::u16string_view removed, std::u16string_view inserted, bool joined) {
+            text.replace(static_cast<std::size_t>(at), removed.size(), inserted);
+            history.add(at, removed, inserted, {at, 0}, joined);
+        };
+        for (int i = 0; i < single; ++i)
+            put(0, u"", u"s", false);
+        for (int i = 0; i < 600; ++i) {
+            const int end = static_cast<int>(text.size());
+            put(end, u"", u"typed", false);
+            put(end, u"typed", u"w", true);
+        }
+        const std::u16string full = text;
+        while (history.undo(text))
+            EXPECT_EQ(text.find(u'd'), std::u16string::npos);
+        EXPECT_LT(text.size(), full.size());
+        while (history.redo(text))
+            EXPECT_EQ(text.find(u'd'), std::u16string::npos);
+        EXPECT_EQ(text, full);
+    }
+}
+
 TEST(KeypadDecimal, GivesTheFieldsSymbol)
 {
     FieldBench bench;

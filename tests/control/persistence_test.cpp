@@ -127,6 +127,26 @@ TEST(Loading, ThatFailsLeavesAUsableFieldWithDefaultsForTheRest)
     }
 }
 
+// What was not read leaves the process's colours as they are, whatever a control loaded before has made of them.
+TEST(Loading, ThatFailsLeavesTheSharedColoursAlone)
+{
+    const popups::CalendarColours others{{1}, {2}, {3}, {4}, {5}, {6}, {7}};
+    for (const std::u16string_view bad : {u"MultLine", u"TextType", u"Calendar_FormBackcolor"}) {
+        SCOPED_TRACE(narrow(bad));
+        FieldBench bench;
+        bench.popups.colours().put(others);
+        ScriptedBag bag;
+        bag.values = {{u"Calendar_Selected", 9}, {u"Calendar_FormBackcolor", 9}};
+        bag.onKey = [bad](std::u16string_view key) {
+            if (key == bad)
+                engine::raise(70);
+        };
+        Field& f = bench.make(u"f");
+        EXPECT_EQ(errorOf([&] { f->load(bag); }), 70);
+        EXPECT_EQ(bench.popups.colours().read(), others);
+    }
+}
+
 TEST(Loading, RefusesWhatDoesNotConvert)
 {
     const struct {
