@@ -287,11 +287,13 @@ void VelaContent::propertyChanged(std::u16string_view name)
 
 bool VelaContent::runMode() const
 {
+    const Shell::Hold hold(shell_);
     return shell_.site().runMode();
 }
 
 std::u16string VelaContent::containerName() const
 {
+    const Shell::Hold hold(shell_);
     return shell_.site().containerName();
 }
 

@@ -22,18 +22,31 @@ HRESULT Activation::activate()
         shell_.content().show(true);
         return S_OK;
     }
+    if (entering_)
+        return E_FAIL;
+    entering_ = true;
+    closed_ = false;
+    const HRESULT entered = enter();
+    entering_ = false;
+    if (SUCCEEDED(entered) && inPlace_)
+        if (const auto client = ComPtr<IOleClientSite>::share(shell_.site().client()))
+            client->ShowObject();
+    return entered;
+}
+
+HRESULT Activation::enter()
+{
     auto site = shell_.site().offers<IOleInPlaceSite>();
     if (!site)
         return shell_.site() ? E_FAIL : OLE_E_NOT_INPLACEACTIVE;
     if (const HRESULT may = site->CanInPlaceActivate(); may != S_OK)
         return FAILED(may) ? may : E_FAIL;
+    if (closed_)
+        return E_FAIL;
     if (const HRESULT begun = begin(*site.get()); FAILED(begun)) {
         deactivate();
         return begun;
     }
-    if (inPlace_)
-        if (const auto client = ComPtr<IOleClientSite>::share(shell_.site().client()))
-            client->ShowObject();
     return S_OK;
 }
 
@@ -43,20 +56,35 @@ HRESULT Activation::begin(IOleInPlaceSite& site)
         return told;
     site_ = ComPtr<IOleInPlaceSite>::share(&site);
     inPlace_ = true;
+    if (closed_)
+        return E_FAIL;
     HWND parent = nullptr;
     if (const HRESULT known = site.GetWindow(&parent); FAILED(known))
         return known;
+    if (!inPlace_)
+        return E_FAIL; // closed inside the call
     RECT place{};
     RECT bounds{};
     OLEINPLACEFRAMEINFO info{};
     info.cb = sizeof info;
-    if (const HRESULT context = site.GetWindowContext(frame_.put(), document_.put(), &place, &bounds, &info);
+    ComPtr<IOleInPlaceFrame> frame;
+    ComPtr<IOleInPlaceUIWindow> document;
+    if (const HRESULT context = site.GetWindowContext(frame.put(), document.put(), &place, &bounds, &info);
         FAILED(context))
         return context;
     if (!inPlace_)
-        return E_FAIL; // closed inside the call
+        return E_FAIL;
+    frame_ = std::move(frame);
+    document_ = std::move(document);
     try {
-        shell_.content().attach(parent, place);
+        Content& content = shell_.content();
+        if (!inPlace_)
+            return E_FAIL;
+        content.attach(parent, place);
+        if (!inPlace_) {
+            content.detach();
+            return E_FAIL;
+        }
     } catch (...) {
         return reportCurrentException();
     }
@@ -90,12 +118,14 @@ void Activation::offer(IOleInPlaceActiveObject* active) noexcept
     const wchar_t* const name = active ? asWide(shell_.facts().name.data()) : nullptr;
     if (const auto frame = frame_.shared()) {
         frame->SetActiveObject(active, name);
-        if (active)
+        if (active && interface_)
             frame->SetBorderSpace(nullptr);
     }
+    if (active && !interface_)
+        return; // closed inside the call
     if (const auto document = document_.shared()) {
         document->SetActiveObject(active, name);
-        if (active)
+        if (active && interface_)
             document->SetBorderSpace(nullptr);
     }
 }
@@ -112,6 +142,7 @@ void Activation::deactivateInterface() noexcept
 
 void Activation::deactivate() noexcept
 {
+    closed_ = true;
     if (!inPlace_)
         return;
     deactivateInterface();

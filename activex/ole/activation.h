@@ -26,6 +26,7 @@ public:
     void windowLost() noexcept; // the host destroyed the window without a word
 
 private:
+    HRESULT enter();
     HRESULT begin(IOleInPlaceSite& site);
     void offer(IOleInPlaceActiveObject* active) noexcept;
     void clip(const RECT& place, const RECT& clip) noexcept;
@@ -34,6 +35,8 @@ private:
     ComPtr<IOleInPlaceSite> site_;
     ComPtr<IOleInPlaceFrame> frame_;
     ComPtr<IOleInPlaceUIWindow> document_;
+    bool entering_ = false; // being activated: not to be activated again inside
+    bool closed_ = false;   // inside that
     bool inPlace_ = false;
     bool interface_ = false;
 };

@@ -1,7 +1,6 @@
 // IPerPropertyBrowsing and ICategorizeProperties of the shell.
 #include "activex/ole/browsing.h"
 
-#include "activex/com/guard.h"
 #include "activex/ole/shell.h"
 
 #include <olectl.h>
@@ -52,7 +51,7 @@ HRESULT Browsing::GetDisplayString(DISPID id, BSTR* text) noexcept
     if (!text)
         return E_POINTER;
     *text = nullptr;
-    return guarded([&]() -> HRESULT {
+    return shell_.guarded([&]() -> HRESULT {
         const auto* const enumeration = enumerationOf(shell_, id);
         if (!enumeration)
             return S_FALSE; // the host converts the value itself
@@ -71,7 +70,7 @@ HRESULT Browsing::MapPropertyToPage(DISPID id, CLSID* page) noexcept
     if (!page)
         return E_POINTER;
     *page = CLSID_NULL;
-    return guarded([&]() -> HRESULT {
+    return shell_.guarded([&]() -> HRESULT {
         const Member* const member = findMember(shell_.content().members(), id);
         if (!member)
             return DISP_E_MEMBERNOTFOUND;
@@ -88,7 +87,7 @@ HRESULT Browsing::GetPredefinedStrings(DISPID id, CALPOLESTR* texts, CADWORD* co
         return E_POINTER;
     *texts = {};
     *cookies = {};
-    return guarded([&]() -> HRESULT {
+    return shell_.guarded([&]() -> HRESULT {
         const auto* const enumeration = enumerationOf(shell_, id);
         if (!enumeration)
             return S_FALSE;
@@ -110,7 +109,7 @@ HRESULT Browsing::GetPredefinedValue(DISPID id, DWORD cookie, VARIANT* value) no
     if (!value)
         return E_POINTER;
     VariantInit(value);
-    return guarded([&]() -> HRESULT {
+    return shell_.guarded([&]() -> HRESULT {
         const auto* const enumeration = enumerationOf(shell_, id);
         if (!enumeration)
             return E_INVALIDARG;
@@ -131,7 +130,7 @@ HRESULT Categories::MapPropertyToCategory(DISPID id, int* found) noexcept
     if (!found)
         return E_POINTER;
     *found = 0;
-    return guarded([&]() -> HRESULT {
+    return shell_.guarded([&]() -> HRESULT {
         const Member* const member = findMember(shell_.content().members(), id);
         if (!member)
             return E_FAIL;
@@ -145,7 +144,7 @@ HRESULT Categories::GetCategoryName(int number, LCID, BSTR* name) noexcept
     if (!name)
         return E_POINTER;
     *name = nullptr;
-    return guarded([&]() -> HRESULT {
+    return shell_.guarded([&]() -> HRESULT {
         const auto own = shell_.facts().categories;
         if (number < 1 || static_cast<std::size_t>(number) > own.size())
             return S_FALSE; // the hosts have names of their own for theirs

@@ -103,6 +103,7 @@ HRESULT Sinks::Advise(IUnknown* sink, DWORD* cookie) noexcept
     if (!sink || !cookie)
         return E_POINTER;
     *cookie = 0;
+    const auto kept = ComPtr<IConnectionPointContainer>::share(&container_); // a sink may let go of the source
     if (!iid_)
         return CONNECT_E_CANNOTCONNECT;
     // Sinks of a dispinterface often answer to IDispatch alone.
@@ -124,6 +125,7 @@ HRESULT Sinks::Unadvise(DWORD cookie) noexcept
                                     [&](const Connection& connection) { return connection.cookie == cookie; });
     if (found == sinks_.end())
         return CONNECT_E_NOCONNECTION;
+    const auto kept = ComPtr<IConnectionPointContainer>::share(&container_);
     const auto gone = std::move(found->sink);
     sinks_.erase(found);
     return S_OK;

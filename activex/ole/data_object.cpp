@@ -169,7 +169,7 @@ HRESULT DataObject::GetData(FORMATETC* format, STGMEDIUM* medium) noexcept
     *medium = {};
     if (const HRESULT has = QueryGetData(format); has != S_OK)
         return has;
-    return guarded([&] {
+    return shell_.guarded([&] {
         const FORMATETC& found = *find(*format);
         const HRESULT given = give(shell_, found, *medium);
         if (SUCCEEDED(given))
@@ -213,7 +213,7 @@ HRESULT DataObject::EnumFormatEtc(DWORD direction, IEnumFORMATETC** list) noexce
     *list = nullptr;
     if (direction != DATADIR_GET)
         return E_NOTIMPL;
-    return guarded([&] {
+    return shell_.guarded([&] {
         *list = FormatEnumerator::make(std::make_shared<std::vector<FORMATETC>>(std::begin(formats), std::end(formats)))
                     .release();
     });
@@ -221,6 +221,7 @@ HRESULT DataObject::EnumFormatEtc(DWORD direction, IEnumFORMATETC** list) noexce
 
 HRESULT DataObject::DAdvise(FORMATETC* format, DWORD flags, IAdviseSink* sink, DWORD* connection) noexcept
 {
+    const Shell::Hold hold(shell_);
     if (!advised_)
         if (const HRESULT made = CreateDataAdviseHolder(advised_.put()); FAILED(made))
             return made;
@@ -229,6 +230,7 @@ HRESULT DataObject::DAdvise(FORMATETC* format, DWORD flags, IAdviseSink* sink, D
 
 HRESULT DataObject::DUnadvise(DWORD connection) noexcept
 {
+    const Shell::Hold hold(shell_);
     return advised_ ? advised_->Unadvise(connection) : OLE_E_NOCONNECTION;
 }
 

@@ -66,7 +66,7 @@ HRESULT Dispatch::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPI
     if (!names || !ids || count == 0)
         return E_INVALIDARG;
     std::fill_n(ids, count, DISPID_UNKNOWN);
-    return guarded([&]() -> HRESULT {
+    return shell_.guarded([&]() -> HRESULT {
         const std::wstring_view name(names[0] ? names[0] : L"");
         const Member* const member = findMember(shell_.content().members(), asText(name.data(), name.size()));
         if (!member)

@@ -1,7 +1,6 @@
 // IOleInPlaceObject and IOleInPlaceActiveObject of the shell.
 #include "activex/ole/in_place.h"
 
-#include "activex/com/guard.h"
 #include "activex/ole/shell.h"
 
 namespace vela::activex {
@@ -48,8 +47,7 @@ HRESULT InPlaceObject::SetObjectRects(LPCRECT place, LPCRECT clip) noexcept
 {
     if (!place)
         return E_POINTER;
-    const Shell::Hold hold(shell_);
-    return guarded([&] { shell_.activation().putRects(*place, clip ? *clip : *place); });
+    return shell_.guarded([&] { shell_.activation().putRects(*place, clip ? *clip : *place); });
 }
 
 HRESULT InPlaceObject::ReactivateAndUndo() noexcept
@@ -73,8 +71,7 @@ HRESULT ActiveObject::TranslateAccelerator(LPMSG message) noexcept
 {
     if (!message)
         return E_POINTER;
-    const Shell::Hold hold(shell_);
-    return guarded([&]() -> HRESULT {
+    return shell_.guarded([&]() -> HRESULT {
         if (shell_.site().translate(message))
             return S_OK;
         if (!shell_.made() || !shell_.made()->hasFocus() || !shell_.made()->wantsKey(*message))

@@ -1,7 +1,6 @@
 // IOleControl of the shell.
 #include "activex/ole/ole_control.h"
 
-#include "activex/com/guard.h"
 #include "activex/ole/shell.h"
 
 namespace vela::activex {
@@ -13,7 +12,7 @@ HRESULT OleControl::GetControlInfo(CONTROLINFO* info) noexcept
 {
     if (!info)
         return E_POINTER;
-    return guarded([&] {
+    return shell_.guarded([&] {
         const ULONG size = info->cb;
         *info = {};
         info->cb = size;
@@ -23,13 +22,12 @@ HRESULT OleControl::GetControlInfo(CONTROLINFO* info) noexcept
 
 HRESULT OleControl::OnMnemonic(MSG*) noexcept
 {
-    const Shell::Hold hold(shell_);
-    return guarded([&] { return shell_.activation().activateInterface(true); });
+    return shell_.guarded([&] { return shell_.activation().activateInterface(true); });
 }
 
 HRESULT OleControl::OnAmbientPropertyChange(DISPID id) noexcept
 {
-    return guarded([&] {
+    return shell_.guarded([&] {
         if (Content* content = shell_.made())
             content->ambientChanged(id);
     });

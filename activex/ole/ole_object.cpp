@@ -36,8 +36,8 @@ OleObject::OleObject(Shell& shell) noexcept : Part(shell), shell_(shell) {}
 
 void OleObject::saved() noexcept
 {
-    if (advised_)
-        advised_->SendOnSave();
+    if (const auto advised = advised_.shared())
+        advised->SendOnSave();
 }
 
 void OleObject::closed() noexcept
@@ -48,7 +48,7 @@ void OleObject::closed() noexcept
 
 HRESULT OleObject::SetClientSite(IOleClientSite* site) noexcept
 {
-    return guarded([&] { shell_.putSite(site); });
+    return shell_.guarded([&] { shell_.putSite(site); });
 }
 
 HRESULT OleObject::GetClientSite(IOleClientSite** site) noexcept
@@ -85,6 +85,7 @@ HRESULT OleObject::GetMoniker(DWORD assign, DWORD which, IMoniker** moniker) noe
     if (!moniker)
         return E_POINTER;
     *moniker = nullptr;
+    const Shell::Hold hold(shell_);
     const auto client = ComPtr<IOleClientSite>::share(shell_.site().client());
     return client ? client->GetMoniker(assign, which, moniker) : E_UNEXPECTED;
 }
@@ -104,8 +105,7 @@ HRESULT OleObject::GetClipboardData(DWORD, IDataObject** data) noexcept
 
 HRESULT OleObject::DoVerb(LONG verb, LPMSG, IOleClientSite*, LONG, HWND parent, LPCRECT) noexcept
 {
-    const Shell::Hold hold(shell_);
-    return guarded([&]() -> HRESULT {
+    return shell_.guarded([&]() -> HRESULT {
         Activation& activation = shell_.activation();
         switch (verb) {
         case OLEIVERB_SHOW:
@@ -151,7 +151,7 @@ HRESULT OleObject::EnumVerbs(IEnumOLEVERB** list) noexcept
     if (!list)
         return E_POINTER;
     *list = nullptr;
-    return guarded([&] {
+    return shell_.guarded([&] {
         const bool pages = !shell_.facts().pages.empty();
         auto kept = std::make_shared<std::vector<Verb>>();
         for (const Verb& verb : verbs)
@@ -184,7 +184,7 @@ HRESULT OleObject::GetUserType(DWORD, LPOLESTR* type) noexcept
     if (!type)
         return E_POINTER;
     *type = nullptr;
-    return guarded([&] { *type = newTaskText(shell_.facts().name); });
+    return shell_.guarded([&] { *type = newTaskText(shell_.facts().name); });
 }
 
 HRESULT OleObject::SetExtent(DWORD aspect, SIZEL* extent) noexcept
@@ -193,7 +193,7 @@ HRESULT OleObject::SetExtent(DWORD aspect, SIZEL* extent) noexcept
         return DV_E_DVASPECT;
     if (!extent)
         return E_POINTER;
-    return guarded([&] { shell_.putExtent(*extent); });
+    return shell_.guarded([&] { shell_.putExtent(*extent); });
 }
 
 HRESULT OleObject::GetExtent(DWORD aspect, SIZEL* extent) noexcept
@@ -208,6 +208,7 @@ HRESULT OleObject::GetExtent(DWORD aspect, SIZEL* extent) noexcept
 
 HRESULT OleObject::Advise(IAdviseSink* sink, DWORD* connection) noexcept
 {
+    const Shell::Hold hold(shell_);
     if (!advised_)
         if (const HRESULT made = CreateOleAdviseHolder(advised_.put()); FAILED(made))
             return made;
@@ -216,6 +217,7 @@ HRESULT OleObject::Advise(IAdviseSink* sink, DWORD* connection) noexcept
 
 HRESULT OleObject::Unadvise(DWORD connection) noexcept
 {
+    const Shell::Hold hold(shell_);
     return advised_ ? advised_->Unadvise(connection) : OLE_E_NOCONNECTION;
 }
 

@@ -1,7 +1,6 @@
 // The three persistence interfaces of the shell.
 #include "activex/ole/persistence.h"
 
-#include "activex/com/guard.h"
 #include "activex/ole/host_bag.h"
 #include "activex/ole/settings_stream.h"
 #include "activex/ole/shell.h"
@@ -94,14 +93,14 @@ HRESULT StreamPersistence::Load(IStream* stream) noexcept
 {
     if (!stream)
         return E_POINTER;
-    return guarded([&] { return loadStream(shell_, *stream); });
+    return shell_.guarded([&] { return loadStream(shell_, *stream); });
 }
 
 HRESULT StreamPersistence::Save(IStream* stream, BOOL clearDirty) noexcept
 {
     if (!stream)
         return E_POINTER;
-    return guarded([&] {
+    return shell_.guarded([&] {
         const HRESULT result = saveStream(shell_, *stream);
         if (SUCCEEDED(result) && clearDirty)
             shell_.putDirty(false);
@@ -113,12 +112,12 @@ HRESULT StreamPersistence::GetSizeMax(ULARGE_INTEGER* size) noexcept
 {
     if (!size)
         return E_POINTER;
-    return guarded([&] { size->QuadPart = encoded(shell_).size(); });
+    return shell_.guarded([&] { size->QuadPart = encoded(shell_).size(); });
 }
 
 HRESULT StreamPersistence::InitNew() noexcept
 {
-    return guarded([&] { shell_.initNew(); });
+    return shell_.guarded([&] { shell_.initNew(); });
 }
 
 StoragePersistence::StoragePersistence(Shell& shell) noexcept : Part(shell), shell_(shell) {}
@@ -135,14 +134,14 @@ HRESULT StoragePersistence::IsDirty() noexcept
 
 HRESULT StoragePersistence::InitNew(IStorage*) noexcept
 {
-    return guarded([&] { shell_.initNew(); });
+    return shell_.guarded([&] { shell_.initNew(); });
 }
 
 HRESULT StoragePersistence::Load(IStorage* storage) noexcept
 {
     if (!storage)
         return E_POINTER;
-    return guarded([&]() -> HRESULT {
+    return shell_.guarded([&]() -> HRESULT {
         ComPtr<IStream> stream;
         const HRESULT opened =
             storage->OpenStream(contents, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, stream.put());
@@ -154,7 +153,7 @@ HRESULT StoragePersistence::Save(IStorage* storage, BOOL) noexcept
 {
     if (!storage)
         return E_POINTER;
-    return guarded([&]() -> HRESULT {
+    return shell_.guarded([&]() -> HRESULT {
         ComPtr<IStream> stream;
         const HRESULT made =
             storage->CreateStream(contents, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE, 0, 0, stream.put());
@@ -171,6 +170,7 @@ HRESULT StoragePersistence::Save(IStorage* storage, BOOL) noexcept
 
 HRESULT StoragePersistence::SaveCompleted(IStorage*) noexcept
 {
+    const Shell::Hold hold(shell_);
     if (std::exchange(savedHere_, false)) {
         shell_.putDirty(false);
         shell_.object().saved();
@@ -192,7 +192,7 @@ HRESULT BagPersistence::GetClassID(CLSID* id) noexcept
 
 HRESULT BagPersistence::InitNew() noexcept
 {
-    return guarded([&] { shell_.initNew(); });
+    return shell_.guarded([&] { shell_.initNew(); });
 }
 
 HRESULT BagPersistence::Load(IPropertyBag* bag, IErrorLog* log) noexcept
@@ -200,7 +200,7 @@ HRESULT BagPersistence::Load(IPropertyBag* bag, IErrorLog* log) noexcept
     if (!bag)
         return E_POINTER;
     HostBag own(*bag, log);
-    const HRESULT loaded = guarded([&] { shell_.load(own); });
+    const HRESULT loaded = shell_.guarded([&] { shell_.load(own); });
     return FAILED(own.failure()) ? own.failure() : loaded;
 }
 
@@ -209,7 +209,7 @@ HRESULT BagPersistence::Save(IPropertyBag* bag, BOOL clearDirty, BOOL all) noexc
     if (!bag)
         return E_POINTER;
     HostBag own(*bag, nullptr, all != FALSE);
-    const HRESULT saved = guarded([&] { shell_.content().save(own); });
+    const HRESULT saved = shell_.guarded([&] { shell_.content().save(own); });
     if (SUCCEEDED(saved) && clearDirty)
         shell_.putDirty(false);
     return FAILED(own.failure()) ? own.failure() : saved;

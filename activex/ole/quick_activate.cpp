@@ -1,7 +1,6 @@
 // IQuickActivate of the shell.
 #include "activex/ole/quick_activate.h"
 
-#include "activex/com/guard.h"
 #include "activex/ole/shell.h"
 
 namespace vela::activex {
@@ -26,8 +25,7 @@ HRESULT FastActivation::QuickActivate(QACONTAINER* container, QACONTROL* control
         return E_POINTER;
     if (container->cbSize < sizeof *container || control->cbSize < sizeof *control)
         return E_INVALIDARG;
-    const Shell::Hold hold(shell_);
-    return guarded([&] {
+    return shell_.guarded([&] {
         const ULONG size = control->cbSize;
         *control = {};
         control->cbSize = size;

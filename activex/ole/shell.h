@@ -1,6 +1,7 @@
 // A control as hosts see it: one object with every interface they ask for, around a content that does the work.
 #pragma once
 
+#include "activex/com/guard.h"
 #include "activex/com/module_lock.h"
 #include "activex/ole/activation.h"
 #include "activex/ole/browsing.h"
@@ -48,6 +49,15 @@ public:
     private:
         Shell& shell_;
     };
+
+    // The body of a host's call that may call the host back: the shell is kept while it runs, and its errors become
+    // HRESULTs.
+    template <class Call>
+    HRESULT guarded(Call&& call) noexcept
+    {
+        const Hold hold(*this);
+        return activex::guarded(call);
+    }
 
     [[nodiscard]] const ClassFacts& facts() const noexcept { return facts_; }
     // Made at its first use; a new instance until a host loads it. Raises what that raises, 91 after the end.

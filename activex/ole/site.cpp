@@ -5,6 +5,8 @@
 
 #include <olectl.h>
 
+#include <utility>
+
 namespace vela::activex {
 
 namespace {
@@ -41,15 +43,19 @@ ComPtr<IDispatch> objectIn(const std::optional<Variant>& value) noexcept
 
 void Site::put(IOleClientSite* client) noexcept
 {
+    // All is asked for before anything is let go of: either may call back.
     auto next = ComPtr<IOleClientSite>::share(client);
-    ambients_ = ComPtr<IDispatch>::from(client);
-    control_ = ComPtr<IOleControlSite>::from(client);
-    client_ = std::move(next);
+    auto ambients = ComPtr<IDispatch>::from(client);
+    auto control = ComPtr<IOleControlSite>::from(client);
+    std::swap(client_, next);
+    std::swap(ambients_, ambients);
+    std::swap(control_, control);
 }
 
 std::optional<Variant> Site::ambient(DISPID id) const noexcept
 {
-    return propertyOf(ambients_.get(), id);
+    const auto ambients = ambients_.shared();
+    return propertyOf(ambients.get(), id);
 }
 
 bool Site::runMode() const noexcept
@@ -63,7 +69,8 @@ bool Site::runMode() const noexcept
 std::u16string Site::containerName() const
 {
     ComPtr<IDispatch> extender;
-    if (!control_ || FAILED(control_->GetExtendedControl(extender.put())))
+    const auto control = control_.shared();
+    if (!control || FAILED(control->GetExtendedControl(extender.put())))
         return {};
     const auto container = objectIn(propertyOf(extender.get(), L"Container"));
     auto name = propertyOf(container.get(), L"Name");
@@ -74,7 +81,8 @@ std::u16string Site::containerName() const
 
 bool Site::translate(MSG* message) const noexcept
 {
-    return control_ && control_->TranslateAccelerator(message, static_cast<DWORD>(win32::shiftState())) == S_OK;
+    const auto control = control_.shared();
+    return control && control->TranslateAccelerator(message, static_cast<DWORD>(win32::shiftState())) == S_OK;
 }
 
 void Site::focusChanged(bool has) const noexcept

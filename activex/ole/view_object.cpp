@@ -1,7 +1,6 @@
 // IViewObjectEx of the shell.
 #include "activex/ole/view_object.h"
 
-#include "activex/com/guard.h"
 #include "activex/ole/shell.h"
 #include "platform/win32/owners.h"
 
@@ -82,7 +81,7 @@ HRESULT ViewObject::Draw(DWORD aspect, LONG, void*, DVTARGETDEVICE*, HDC, HDC dc
         return DV_E_DVASPECT;
     if (!bounds || !dc)
         return E_INVALIDARG;
-    return guarded([&] {
+    return shell_.guarded([&] {
         const PixelDc pixels(dc, *bounds);
         shell_.content().draw(dc, pixels.place());
     });
@@ -107,6 +106,7 @@ HRESULT ViewObject::Unfreeze(DWORD) noexcept
 
 HRESULT ViewObject::SetAdvise(DWORD aspects, DWORD flags, IAdviseSink* sink) noexcept
 {
+    const Shell::Hold hold(shell_);
     putSink(aspects, flags, sink);
     if (sink && (flags & ADVF_PRIMEFIRST))
         changed();

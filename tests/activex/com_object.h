@@ -6,6 +6,7 @@
 #include <ocidl.h>
 
 #include <atomic>
+#include <functional>
 #include <utility>
 
 namespace vela::test {
@@ -18,6 +19,15 @@ using activex::Variant;
 
 inline std::atomic<int> liveObjects{0};
 
+// Told of each call to an object of the tests, by name, for those that do harm inside it; a failure that this answers
+// is the call's answer.
+inline std::function<HRESULT(const char* call)> whenCalled;
+
+inline HRESULT called(const char* call)
+{
+    return whenCalled ? whenCalled(call) : S_OK;
+}
+
 template <class First, class... Rest>
 class ComObject : public First, public Rest... {
 public:
@@ -29,7 +39,7 @@ public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override
     {
         *object = nullptr;
-        if (!offers(iid))
+        if (FAILED(called("QueryInterface")) || !offers(iid))
             return E_NOINTERFACE;
         if (iid == IID_IUnknown || iid == __uuidof(First))
             *object = static_cast<First*>(this);
@@ -92,6 +102,7 @@ public:
         const auto point = std::exchange(point_, {});
         return point ? point->Unadvise(cookie_) : S_FALSE;
     }
+    void forget() { point_.reset(); } // as hosts do that release a source without a word
 
 private:
     ComPtr<IConnectionPoint> point_;

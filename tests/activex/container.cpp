@@ -19,6 +19,8 @@ public:
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT*, EXCEPINFO* info,
                                      UINT*) override
     {
+        if (const HRESULT refused = called("event"); FAILED(refused))
+            return refused;
         const HRESULT result = site_.eventResult;
         site_.log.push_back("event " + std::to_string(id));
         if (site_.onEvent)
@@ -35,6 +37,32 @@ private:
     Site& site_;
 };
 
+// The form's frame behind calls that can be heard.
+class Frame final : public ComObject<IOleInPlaceFrame> {
+public:
+    explicit Frame(const ComPtr<demo::FormFrame>& inner) : inner_(inner.shared()) {}
+
+    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override { return inner_->GetWindow(window); }
+    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE GetBorder(LPRECT) override { return INPLACE_E_NOTOOLSPACE; }
+    HRESULT STDMETHODCALLTYPE RequestBorderSpace(LPCBORDERWIDTHS) override { return INPLACE_E_NOTOOLSPACE; }
+    HRESULT STDMETHODCALLTYPE SetBorderSpace(LPCBORDERWIDTHS) override { return called("SetBorderSpace"); }
+    HRESULT STDMETHODCALLTYPE SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR name) override
+    {
+        inner_->SetActiveObject(object, name);
+        return called("SetActiveObject");
+    }
+    HRESULT STDMETHODCALLTYPE InsertMenus(HMENU, LPOLEMENUGROUPWIDTHS) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetMenu(HMENU, HOLEMENU, HWND) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE RemoveMenus(HMENU) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetStatusText(LPCOLESTR) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return called("EnableModeless"); }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
+
+private:
+    ComPtr<demo::FormFrame> inner_;
+};
+
 } // namespace
 
 HRESULT Site::note(std::string word)
@@ -43,7 +71,7 @@ HRESULT Site::note(std::string word)
     log.push_back(word);
     if (onCall)
         onCall(word.c_str());
-    return S_OK;
+    return called(word.c_str());
 }
 
 bool Site::offers(REFIID iid)
@@ -98,6 +126,14 @@ void Site::close()
     control_.reset();
 }
 
+void Site::abandon()
+{
+    events_.forget();
+    properties_.forget();
+    form_.frame()->SetActiveObject(nullptr, nullptr);
+    control_.reset();
+}
+
 HWND Site::window() const
 {
     HWND found = nullptr;
@@ -120,7 +156,7 @@ int Site::count(std::string_view word) const
 HRESULT Site::GetWindow(HWND* window)
 {
     *window = form_.window();
-    return S_OK;
+    return called("GetWindow");
 }
 
 // One control has the user interface at a time.
@@ -135,7 +171,7 @@ HRESULT Site::OnUIActivate()
 HRESULT Site::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT place, LPRECT clip,
                                LPOLEINPLACEFRAMEINFO)
 {
-    *frame = form_.frame().shared().release();
+    *frame = ComPtr<IOleInPlaceFrame>::adopt(new Frame(form_.frame())).release();
     *document = nullptr;
     *place = place_;
     GetClientRect(form_.window(), clip);
@@ -144,12 +180,17 @@ HRESULT Site::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** d
 
 HRESULT Site::GetExtendedControl(IDispatch** object)
 {
+    *object = nullptr;
+    if (const HRESULT refused = called("GetExtendedControl"); FAILED(refused))
+        return refused;
     *object = extender.shared().release();
     return *object ? S_OK : E_NOTIMPL;
 }
 
 HRESULT Site::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*)
 {
+    if (const HRESULT refused = called("ambient"); FAILED(refused))
+        return refused;
     const auto found = ambients.find(id);
     if (found == ambients.end())
         return DISP_E_MEMBERNOTFOUND;
@@ -158,8 +199,8 @@ HRESULT Site::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result
 
 HRESULT Site::OnRequestEdit(DISPID id)
 {
-    note("request " + std::to_string(id));
-    return refuseEdits ? S_FALSE : S_OK;
+    const HRESULT result = note("request " + std::to_string(id));
+    return refuseEdits ? S_FALSE : result;
 }
 
 Form::Form()

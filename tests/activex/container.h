@@ -33,7 +33,8 @@ public:
     void hold(ComPtr<IUnknown> control); // SetClientSite, InitNew, events
     HRESULT activate(RECT place);        // as visible controls are
     HRESULT activateInterface() { return activateBy(OLEIVERB_UIACTIVATE); }
-    void close(); // Close, SetClientSite(null), release
+    void close();   // Close, SetClientSite(null), release
+    void abandon(); // release alone
 
     template <class Interface>
     [[nodiscard]] ComPtr<Interface> as() const
@@ -58,7 +59,11 @@ public:
 
     // IOleClientSite
     HRESULT STDMETHODCALLTYPE SaveObject() override { return note("SaveObject"); }
-    HRESULT STDMETHODCALLTYPE GetMoniker(DWORD, DWORD, IMoniker**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetMoniker(DWORD, DWORD, IMoniker**) override
+    {
+        called("GetMoniker");
+        return E_NOTIMPL;
+    }
     HRESULT STDMETHODCALLTYPE GetContainer(IOleContainer**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE ShowObject() override { return note("ShowObject"); }
     HRESULT STDMETHODCALLTYPE OnShowWindow(BOOL) override { return S_OK; }
@@ -78,16 +83,21 @@ public:
     HRESULT STDMETHODCALLTYPE DeactivateAndUndo() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE OnPosRectChange(LPCRECT) override { return S_OK; }
     // IOleControlSite
-    HRESULT STDMETHODCALLTYPE OnControlInfoChanged() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnControlInfoChanged() override { return called("OnControlInfoChanged"); }
     HRESULT STDMETHODCALLTYPE LockInPlaceActive(BOOL) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE GetExtendedControl(IDispatch** object) override;
     HRESULT STDMETHODCALLTYPE TransformCoords(POINTL*, POINTF*, DWORD) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG message, DWORD) override
     {
+        if (FAILED(called("TranslateAccelerator")))
+            return E_FAIL;
         return onKey ? onKey(message) : S_FALSE;
     }
     HRESULT STDMETHODCALLTYPE OnFocus(BOOL has) override { return note(has ? "OnFocus 1" : "OnFocus 0"); }
-    HRESULT STDMETHODCALLTYPE ShowPropertyFrame() override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE ShowPropertyFrame() override
+    {
+        return whenCalled ? called("ShowPropertyFrame") : E_NOTIMPL;
+    }
     // IDispatch: ambients; another identity takes the events
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }

@@ -1,5 +1,6 @@
 // Settings saved and loaded through every interface of persistence, and what happens to bad ones.
 #include "automation.h"
+#include "host_objects.h"
 #include "library.h"
 
 #include "activex/guids.h"
@@ -8,43 +9,12 @@
 #include <gtest/gtest.h>
 #include <olectl.h>
 
-#include <cstring>
-#include <map>
 #include <random>
 #include <string>
 
 namespace vela::test {
 
 namespace {
-
-class Bag final : public ComObject<IPropertyBag> {
-public:
-    std::map<std::u16string, Variant> values;
-    int failAfter = -1; // reads or writes until the bag fails
-    HRESULT failure = STG_E_READFAULT;
-
-    HRESULT STDMETHODCALLTYPE Read(LPCOLESTR name, VARIANT* value, IErrorLog*) override
-    {
-        if (failAfter-- == 0)
-            return failure;
-        const auto found = values.find(key(name));
-        if (found == values.end())
-            return E_INVALIDARG;
-        const VARTYPE wanted = value->vt;
-        const HRESULT copied = VariantCopy(value, const_cast<VARIANT*>(&found->second.get()));
-        return FAILED(copied) || wanted == VT_EMPTY ? copied
-                                                    : VariantChangeType(value, value, VARIANT_ALPHABOOL, wanted);
-    }
-    HRESULT STDMETHODCALLTYPE Write(LPCOLESTR name, VARIANT* value) override
-    {
-        if (failAfter-- == 0)
-            return failure;
-        return VariantCopy(&values[key(name)].ref(), value);
-    }
-
-private:
-    static std::u16string key(const wchar_t* name) { return {name, name + std::wcslen(name)}; }
-};
 
 ComPtr<IStream> memoryStream(const std::string& bytes = {})
 {

@@ -1,5 +1,6 @@
 // Pictures of the control: in bitmaps, in metafiles, as data on the clipboard's terms.
 #include "container.h"
+#include "host_objects.h"
 
 #include <gtest/gtest.h>
 
@@ -259,19 +260,10 @@ TEST(View, GivesItsTextButNoPassword)
 
 TEST(View, TellsWhenItsPictureIsAnother)
 {
-    class Sink final : public ComObject<IAdviseSink> {
-    public:
-        int views = 0;
-        void STDMETHODCALLTYPE OnDataChange(FORMATETC*, STGMEDIUM*) override {}
-        void STDMETHODCALLTYPE OnViewChange(DWORD, LONG) override { ++views; }
-        void STDMETHODCALLTYPE OnRename(IMoniker*) override {}
-        void STDMETHODCALLTYPE OnSave() override {}
-        void STDMETHODCALLTYPE OnClose() override {}
-    };
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
     const auto view = ComPtr<IViewObject>::from(control.get());
-    const auto sink = make<Sink>();
+    const auto sink = make<AdviseSink>();
     ASSERT_EQ(view->SetAdvise(DVASPECT_CONTENT, 0, sink.get()), S_OK);
     Automation(control.get()).put(u"Text", text(u"x"));
     EXPECT_GE(sink->views, 1);
