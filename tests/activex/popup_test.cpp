@@ -210,6 +210,72 @@ TEST(Popup, OneIsOpenForTheFieldThatAskedLast)
     EXPECT_TRUE(until(desk.form, [&] { return GetFocus() == desk.neighbour.edit(); }));
 }
 
+void asMoney(const Automation& field)
+{
+    asNumber(field);
+    field.set({{u"SimbolAgrupMilhar", 1}, {u"SimboloMonetario", u"R$ "}, {u"InserirZeros", true}});
+}
+
+TEST(Popup, WhatItWritesStandsInTheFieldsEntryForm)
+{
+    Desk desk(asMoney);
+    desk.form.type(u"1500");
+    desk.form.press(VK_F2);
+    const HWND calculator = popupOf(desk.form);
+    desk.form.type(u"+100=");
+    desk.form.press(VK_F2);
+    desk.expectClosed(calculator);
+    desk.expectBackInTheField();
+    EXPECT_EQ(shownBy(desk.site.edit()), u"1600,00");
+    strike(desk.form, VK_TAB);
+    EXPECT_EQ(shownBy(desk.site.edit()), u"R$ 1.600,00");
+}
+
+// The button gives the focus first: the calculator starts with what entry makes of the text.
+TEST(Popup, OpenedOnAFieldWithoutTheFocusItStartsWithTheEntryForm)
+{
+    Desk desk(asMoney);
+    desk.site.automation().put(u"Text", text(u"1234,5"));
+    desk.form.focus(desk.neighbour);
+    settle(desk.form);
+    ASSERT_EQ(shownBy(desk.site.edit()), u"R$ 1.234,50");
+    const HWND calculator = desk.open();
+    desk.form.type(u"+0=");
+    desk.form.press(VK_F2);
+    desk.expectClosed(calculator);
+    EXPECT_EQ(desk.site.automation().textOf(u"Text"), u"1234,00") << "the calculator's operands end at a comma";
+}
+
+BOOL CALLBACK countTip(HWND window, LPARAM count)
+{
+    wchar_t name[32]{};
+    GetClassNameW(window, name, 32);
+    *reinterpret_cast<int*>(count) += IsWindowVisible(window) && lstrcmpiW(name, L"tooltips_class32") == 0;
+    return TRUE;
+}
+
+int tipsShown()
+{
+    int shown = 0;
+    EnumThreadWindows(GetCurrentThreadId(), countTip, reinterpret_cast<LPARAM>(&shown));
+    return shown;
+}
+
+TEST(Popup, OpeningHidesTheOwnersEntryTip)
+{
+    for (const auto kind : {asDate, asNumber}) {
+        Desk desk(kind);
+        desk.site.automation().put(u"ToolTipGotFocus", text(u"Informe o valor"));
+        desk.form.focus(desk.neighbour);
+        settle(desk.form);
+        desk.form.focus(desk.site);
+        settle(desk.form);
+        ASSERT_EQ(tipsShown(), 1);
+        desk.open();
+        EXPECT_EQ(tipsShown(), 0);
+    }
+}
+
 TEST(Popup, AFailedOpeningLeavesNone)
 {
     const AnsweredBoxes boxes;
