@@ -35,6 +35,7 @@ public:
     const ComPtr<AdviseSink> sink = make<AdviseSink>();
 
     void throwFrom(unsigned seed) { random_.seed(seed); }
+    [[nodiscard]] bool sometimes(std::size_t of) { return !rare_ || lot(of) == 0; }
     [[nodiscard]] std::size_t lot(std::size_t below) { return random_() % below; }
     [[nodiscard]] bool has() const { return site->control() != nullptr; }
     [[nodiscard]] Stream* stream() // from its start
@@ -43,8 +44,11 @@ public:
         return storage->stream.get();
     }
 
+    void beRare() { rare_ = true; } // with what ends all
+
 private:
     std::mt19937 random_;
+    bool rare_ = false;
 };
 
 HRESULT invoke(Hand& hand, DISPID id, WORD flags, VARIANT* value = nullptr)
@@ -296,7 +300,11 @@ const Act acts[] = {
     {"interface away", [](Hand& hand) { bare<IOleInPlaceObject>(*hand.site)->UIDeactivate(); }},
     {"deactivate", [](Hand& hand) { bare<IOleInPlaceObject>(*hand.site)->InPlaceDeactivate(); }},
     {"close", [](Hand& hand) { bare<IOleObject>(*hand.site)->Close(OLECLOSE_SAVEIFDIRTY); }},
-    {"the form's window goes", [](Hand& hand) { hand.form.destroyWindow(); }},
+    {"the form's window goes",
+     [](Hand& hand) {
+         if (hand.sometimes(20))
+             hand.form.destroyWindow();
+     }},
     {"release", [](Hand& hand) { hand.site->abandon(); }},
 };
 
@@ -381,6 +389,7 @@ class Caller {
 public:
     explicit Caller(unsigned seed) : hand_(seed), doing_("seed " + std::to_string(seed) + ", ")
     {
+        hand_.beRare();
         hand_.site = &hand_.form.add({.initialise = false});
         hand_.form.add({}, L"Vela.cCalendar").activate({10, 60, 200, 230});
         whenCalled = [this](const char* call) { return inside(call); };
@@ -406,15 +415,18 @@ private:
         static constexpr HRESULT failures[] = {E_FAIL, E_NOTIMPL, E_OUTOFMEMORY, E_UNEXPECTED};
         if (inside_ == 2 || std::string_view(call) == "ShowPropertyFrame") // the system's frame would wait for a person
             return S_OK;
-        const std::size_t lot = hand_.lot(10);
-        if (lot == 0)
-            return failures[hand_.lot(std::size(failures))];
-        if (lot == 1) {
+        switch (hand_.lot(40)) {
+        case 0:
+        case 1: return failures[hand_.lot(std::size(failures))];
+        case 2:
+        case 3:
             ++inside_;
             step();
             --inside_;
+            return S_OK;
+        case 4: hand_.lot(2) == 0 ? hand_.site->close() : hand_.site->abandon(); return S_OK;
+        default: return S_OK;
         }
-        return S_OK;
     }
 
     Hand hand_;
