@@ -6,10 +6,12 @@
 #include "pages/key_filters.h"
 #include "pages/layouts.h"
 #include "pages/palette_colours.h"
+#include "pages/spoken_names.h"
 
 #include <algorithm>
 #include <cassert>
 #include <cmath>
+#include <utility>
 
 namespace vela::pages {
 
@@ -19,11 +21,22 @@ using platform::WidgetId;
 namespace {
 
 constexpr std::u16string_view swatchName = u"Picture1";
+constexpr int leftArrow = 37, upArrow = 38, rightArrow = 39, downArrow = 40;
 
 std::u16string decimal(std::uint32_t number)
 {
     const std::string digits = std::to_string(number);
     return {digits.begin(), digits.end()};
+}
+
+const platform::WidgetRow& rowOf(WidgetId widget)
+{
+    return paletaLayout().rows[static_cast<std::size_t>(widget.value)];
+}
+
+bool isSwatch(WidgetId widget)
+{
+    return widget && rowOf(widget).name == swatchName;
 }
 
 // "Vermelho 255, verde 0, azul 0", as the boxes of the own colour would have it.
@@ -38,6 +51,7 @@ std::u16string spokenColour(Colour colour)
 frmPaleta::frmPaleta(platform::FormFactory& forms, platform::Desktop* desktop)
     : desktop_(desktop), form_(forms.make(paletaLayout(), *this))
 {
+    putSpokenNames(paletaLayout(), *form_);
     for (const PaletteColour& entry : paletteColours) {
         const WidgetId swatch = id(swatchName, entry.index);
         platform::WidgetLook look = form_->look(swatch);
@@ -87,11 +101,16 @@ void frmPaleta::end(bool cancelled)
     form_->close();
 }
 
-// Enter stands for OK, Esc for Cancel, wherever the focus is; on a button Enter is the button's own.
+// Arrows move between the swatches. Enter stands for OK, Esc for Cancel, wherever the focus is; on a button Enter is
+// the button's own.
 void frmPaleta::keyDown(WidgetId widget, int& code, int&)
 {
     constexpr int enter = 13;
     constexpr int escape = 27;
+    if (isSwatch(widget) && code >= leftArrow && code <= downArrow) {
+        moveFrom(widget, std::exchange(code, 0));
+        return;
+    }
     const bool onButton = widget == id(u"cmdOK") || widget == id(u"cmdCancel");
     if (code != escape && (code != enter || onButton))
         return;
@@ -141,17 +160,16 @@ void frmPaleta::takeAmounts()
 
 void frmPaleta::gotFocus(WidgetId widget)
 {
-    const platform::WidgetRow& row = paletaLayout().rows[static_cast<std::size_t>(widget.value)];
-    if (row.name != swatchName)
+    if (!isSwatch(widget))
         return;
     putBorder(widget, true);
     colour_ = form_->look(widget).back;
-    selected_ = static_cast<std::uint8_t>(row.index);
+    selected_ = static_cast<std::uint8_t>(rowOf(widget).index);
 }
 
 void frmPaleta::lostFocus(WidgetId widget)
 {
-    if (paletaLayout().rows[static_cast<std::size_t>(widget.value)].name == swatchName)
+    if (isSwatch(widget))
         putBorder(id(swatchName, selected_), false);
 }
 
@@ -160,6 +178,16 @@ void frmPaleta::putBorder(WidgetId swatch, bool on)
     platform::WidgetLook look = form_->look(swatch);
     look.border = on;
     form_->putLook(swatch, look);
+}
+
+void frmPaleta::moveFrom(WidgetId swatch, int arrow)
+{
+    const engine::RectTwips from = rowOf(swatch).place;
+    const int across = arrow == rightArrow ? 1 : arrow == leftArrow ? -1 : 0;
+    const int down = arrow == downArrow ? 1 : arrow == upArrow ? -1 : 0;
+    for (const PaletteColour& entry : paletteColours)
+        if (entry.left == from.left + across * paletteColumnStep && entry.top == from.top + down * paletteRowStep)
+            form_->focus(id(swatchName, entry.index));
 }
 
 std::optional<Colour> PaletteChooser::choose()

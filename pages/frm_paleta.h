@@ -46,6 +46,7 @@ private:
     void takeAmounts();
     void end(bool cancelled);
     void putBorder(platform::WidgetId swatch, bool on);
+    void moveFrom(platform::WidgetId swatch, int arrow); // to the next swatch that way, if there is one
 
     platform::Desktop* desktop_;
     engine::Colour colour_{0};

@@ -46,6 +46,12 @@ PageForm::PageForm(const platform::FormLayout& layout, const PageServices& servi
     : layout_(layout), services_(services), site_(site), form_(services.forms.make(layout, *this))
 {
     putSpokenNames(layout, *form_);
+    for (std::size_t i = 0; i < layout.rows.size(); ++i)
+        if (const WidgetId widget{static_cast<int>(i)}; isSwatch(widget)) {
+            platform::WidgetLook look = form_->look(widget);
+            look.border = true;
+            form_->putLook(widget, look);
+        }
 }
 
 // --- bindings
@@ -110,8 +116,23 @@ void PageForm::clicked(WidgetId widget)
 
 void PageForm::doubleClicked(WidgetId widget)
 {
-    if (layout_.rows[static_cast<std::size_t>(widget.value)].kind == WidgetKind::swatch)
+    if (isSwatch(widget))
         site_.runAct([&] { chooseColour(widget); });
+}
+
+void PageForm::keyDown(WidgetId widget, int& code, int& shift)
+{
+    constexpr int enter = 13;
+    constexpr int space = 32;
+    if (shift != 0 || (code != enter && code != space) || !isSwatch(widget))
+        return;
+    code = 0;
+    site_.runAct([&] { chooseColour(widget); });
+}
+
+bool PageForm::isSwatch(WidgetId widget) const
+{
+    return widget && layout_.rows[static_cast<std::size_t>(widget.value)].kind == WidgetKind::swatch;
 }
 
 void PageForm::changed(WidgetId widget)

@@ -13,8 +13,8 @@
 
 namespace vela::pages {
 
-// While a page loads, the acts that its own writing would start are left out. A double click on a swatch opens the
-// palette on every page.
+// While a page loads, the acts that its own writing would start are left out. A double click on a swatch, or
+// Space or Enter there, opens the palette on every page.
 class PageForm final : private platform::FormEvents {
 public:
     using Action = std::function<void()>;
@@ -78,6 +78,7 @@ private:
 
     void bind(std::u16string_view control, Act act, Action action);
     void run(platform::WidgetId control, Act act);
+    [[nodiscard]] bool isSwatch(platform::WidgetId widget) const;
     void chooseColour(platform::WidgetId swatch);
 
     void clicked(platform::WidgetId widget) override;
@@ -85,7 +86,7 @@ private:
     void changed(platform::WidgetId widget) override;
     void gotFocus(platform::WidgetId widget) override;
     void lostFocus(platform::WidgetId widget) override;
-    void keyDown(platform::WidgetId, int&, int&) override {}
+    void keyDown(platform::WidgetId widget, int& code, int& shift) override;
     void keyPress(platform::WidgetId widget, int& key) override;
     void activated() override {}
     void deactivated() override {}

@@ -22,6 +22,8 @@ struct PaletteColour {
 };
 
 inline constexpr int paletteSwatchSize = 230; // twips
+inline constexpr int paletteColumnStep = 270; // from left edge to left edge
+inline constexpr int paletteRowStep = 255;
 
 // Column by column.
 inline constexpr std::array<PaletteColour, 32> paletteColours{{

@@ -73,7 +73,8 @@ ppPrincipal::ppPrincipal(const PageServices& services, PageSite& site)
     fillLetters(page_.items(u"lstLetrasPermitidas"));
     fillProfiles();
     for (const Field& field : fields)
-        page_.marksChanged(field.control);
+        if (field.mapping != Mapping::colour) // a swatch is changed by its palette alone
+            page_.marksChanged(field.control);
     page_.marksChanged(u"lstLetrasPermitidas");
     page_.filterKeys(u"txtSimboloMonetario", symbolKey);
     page_.onClick(u"chkTextoLivre", [this] { followFreeTyping(); });

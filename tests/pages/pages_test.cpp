@@ -53,6 +53,37 @@ TEST(ChangedFlag, IsSetByEditsOnly)
     }
 }
 
+// A single click, and a palette that is opened and cancelled.
+TEST(ChangedFlag, IsNotSetByASwatchWithoutANewColour)
+{
+    for (const PageKind kind : pageKinds()) {
+        PageBench bench(kind);
+        bench.open();
+        const auto& rows = bench.page->layout().rows;
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            if (rows[i].kind == platform::WidgetKind::swatch) {
+                bench.headlessForm().click({static_cast<int>(i)});
+                bench.headlessForm().doubleClick({static_cast<int>(i)});
+                EXPECT_FALSE(bench.page->changed()) << utf8(rows[i].name);
+            }
+    }
+}
+
+TEST(Swatches, SpaceAndEnterOpenThePalette)
+{
+    PageBench bench(PageKind::ppErros);
+    bench.open();
+    for (const int code : {32, 13}) {
+        bench.colour = Colour{static_cast<std::uint32_t>(code)};
+        bench.headlessForm().type(bench.id(u"PicCor"), headless::namedKey(code));
+        EXPECT_EQ(bench.back(u"PicCor"), *bench.colour);
+    }
+    EXPECT_TRUE(bench.page->changed());
+    bench.colour = Colour{0x00123456};
+    bench.headlessForm().type(bench.id(u"chkErrorFocus"), headless::namedKey(13));
+    EXPECT_NE(bench.back(u"PicCor"), *bench.colour);
+}
+
 TEST(Geral, ShowsOneGroupAtATime)
 {
     PageBench bench(PageKind::ppGeral);

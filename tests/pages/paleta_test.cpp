@@ -32,6 +32,22 @@ TEST_F(Paleta, OnlyTheFocusedSwatchHasABorder)
     EXPECT_FALSE(border(10));
 }
 
+TEST_F(Paleta, ArrowsMoveBetweenTheSwatches)
+{
+    using namespace headless::virtual_key;
+    struct Row {
+        int from, arrow, to; // indexes of swatches
+    };
+    for (const Row& row : {Row{5, right, 8}, Row{5, down, 4}, Row{33, left, 27}, Row{33, up, 32}, Row{5, left, 5},
+                           Row{5, up, 5}, Row{47, right, 47}, Row{47, down, 47}}) {
+        focus(row.from);
+        static_cast<headless::WidgetForm&>(palette.form())
+            .type(id(u"Picture1", row.from), headless::namedKey(row.arrow));
+        EXPECT_EQ(palette.form().focused(), id(u"Picture1", row.to)) << row.from << " " << row.arrow;
+        EXPECT_TRUE(border(row.to));
+    }
+}
+
 TEST_F(Paleta, TheChooserShowsAFreshOneEachTime)
 {
     PaletteChooser chooser(bench.forms(), bench.desktop());
