@@ -79,7 +79,8 @@ INPUT keyInput(WORD key, bool down) noexcept
     input.type = INPUT_KEYBOARD;
     input.ki.wVk = key;
     input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = down ? 0U : KEYEVENTF_KEYUP;
+    const bool right = key == VK_RCONTROL || key == VK_RMENU;
+    input.ki.dwFlags = (down ? 0U : KEYEVENTF_KEYUP) | (right ? KEYEVENTF_EXTENDEDKEY : 0U);
     return input;
 }
 
@@ -103,18 +104,37 @@ Keystroke parse(std::u16string_view keys) noexcept
     return stroke;
 }
 
-// A Shift that the person happens to hold ("!" just typed) would turn the Tab round, so it is let go meanwhile.
+// What the person happens to hold would make another key of it: Shift turns a Tab round, Alt makes the closing of the
+// window of an F4. So it is let go. Shift and Control are pressed again afterwards; Alt is not, because pressed and let
+// go with no key between it would open the window's menu.
 void strike(Keystroke stroke)
 {
-    const bool held = GetAsyncKeyState(VK_SHIFT) < 0;
-    std::vector<INPUT> inputs;
-    if (held != stroke.shift)
-        inputs.push_back(keyInput(VK_SHIFT, stroke.shift));
-    inputs.push_back(keyInput(stroke.key, true));
-    inputs.push_back(keyInput(stroke.key, false));
-    if (held != stroke.shift)
-        inputs.push_back(keyInput(VK_SHIFT, held));
-    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+    constexpr std::array<WORD, 6> modifiers{VK_LSHIFT, VK_RSHIFT, VK_LCONTROL, VK_RCONTROL, VK_LMENU, VK_RMENU};
+    std::vector<INPUT> before;
+    std::vector<INPUT> after;
+    for (const WORD modifier : modifiers) {
+        if (GetAsyncKeyState(modifier) >= 0)
+            continue;
+        before.push_back(keyInput(modifier, false));
+        if (modifier != VK_LMENU && modifier != VK_RMENU)
+            after.push_back(keyInput(modifier, true));
+    }
+    if (stroke.shift) {
+        before.push_back(keyInput(VK_LSHIFT, true));
+        after.insert(after.begin(), keyInput(VK_LSHIFT, false));
+    }
+    before.push_back(keyInput(stroke.key, true));
+    before.push_back(keyInput(stroke.key, false));
+    before.insert(before.end(), after.begin(), after.end());
+    SendInput(static_cast<UINT>(before.size()), before.data(), sizeof(INPUT));
+}
+
+// An F4 opens the list of the combo that has the focus; one that a click has opened with the focus would be shut by it.
+bool isNeeded(Keystroke stroke) noexcept
+{
+    const HWND focus = GetFocus();
+    const auto open = [](HWND combo) { return combo && SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; };
+    return stroke.key != VK_F4 || !(open(focus) || open(GetParent(focus)));
 }
 
 // Holds the thread's arbiter for a scope, so that work for later has a place to wait.
@@ -162,7 +182,10 @@ void Desktop::sendKeys(std::u16string_view keys)
 {
     const Keystroke stroke = parse(keys);
     if (stroke.key)
-        HeldArbiter().later([stroke] { strike(stroke); });
+        HeldArbiter().later([stroke] {
+            if (isNeeded(stroke))
+                strike(stroke);
+        });
 }
 
 void Desktop::keyDown(int virtualKey)
