@@ -79,6 +79,10 @@ std::u16string askText(std::u16string_view prompt, std::u16string_view title)
     const platform::FormLayout layout{u"frmPergunta", title, 5400, 1770, inputRows};
     Dialog dialog(layout);
     dialog.form().putText(platform::findWidget(layout, u"lblPergunta"), prompt);
+    const platform::WidgetId box = platform::findWidget(layout, u"txtTexto");
+    platform::WidgetLook look = dialog.form().look(box);
+    look.spokenName = prompt;
+    dialog.form().putLook(box, look);
     const bool accepted = dialog.run();
     return accepted ? dialog.form().text(platform::findWidget(layout, u"txtTexto")) : std::u16string();
 }
