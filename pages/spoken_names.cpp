@@ -9,15 +9,30 @@ using platform::WidgetRow;
 
 namespace {
 
-// Without the mark of the access key and the dots that lead the eye to the control.
+// Without the dots that lead the eye to the control.
 std::u16string plain(std::u16string_view caption)
 {
-    std::u16string text;
-    for (const char16_t unit : caption)
-        if (unit != u'&')
-            text += unit;
-    text.erase(text.find_last_not_of(u" .") + 1);
-    return text;
+    return std::u16string(caption.substr(0, caption.find_last_not_of(u" .") + 1));
+}
+
+// Of the kinds that show what they hold and not what they are for.
+bool needsName(WidgetKind kind)
+{
+    switch (kind) {
+    case WidgetKind::swatch:
+    case WidgetKind::textBox:
+    case WidgetKind::comboBox:
+    case WidgetKind::dropDownList:
+    case WidgetKind::listBox: return true;
+    case WidgetKind::label:
+    case WidgetKind::button:
+    case WidgetKind::checkBox:
+    case WidgetKind::optionButton:
+    case WidgetKind::frame:
+    case WidgetKind::preview:
+    case WidgetKind::tabStrip: return false;
+    }
+    return false;
 }
 
 bool isHelpButton(const WidgetRow& row)
@@ -44,7 +59,7 @@ std::u16string spokenName(const platform::FormLayout& layout, WidgetId control)
 {
     const auto place = static_cast<std::size_t>(control.value);
     const WidgetRow& row = layout.rows[place];
-    if (row.kind == WidgetKind::swatch)
+    if (needsName(row.kind))
         return wordsBefore(layout, place);
     return isHelpButton(row) ? u"Ajuda: " + wordsBefore(layout, place) : std::u16string();
 }

@@ -1,4 +1,4 @@
-// What a screen reader says of the controls that show no words of their own: swatches and help buttons.
+// What a screen reader says of the controls that show no words of their own: boxes, lists, swatches and help buttons.
 #pragma once
 
 #include "platform/form.h"
@@ -7,8 +7,8 @@
 
 namespace vela::pages {
 
-// Of the label before it: "Cor das Bordas" for a swatch, "Ajuda: Símbolo Monetário" for a button captioned "?".
-// Empty for every other kind, and where no label stands before it.
+// Of the label before it: "Regras" for a text box, "Cor das Bordas" for a swatch, "Ajuda: Símbolo Monetário" for a
+// button captioned "?". Empty for every other kind, and where no label stands before it.
 [[nodiscard]] std::u16string spokenName(const platform::FormLayout& layout, platform::WidgetId control);
 
 // Gives every such control of the form its spoken name.

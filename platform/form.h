@@ -33,7 +33,8 @@ struct WidgetRow {
     WidgetKind kind = WidgetKind::label;
     std::u16string_view name;
     int index = -1;              // of a control array; -1: not in one
-    std::u16string_view caption; // "&" marks the access key
+    std::u16string_view caption; // an "&" in it marks the access key where `accessKey` does not name it
+    char16_t accessKey = 0;      // a character of the caption, as it is written there
     engine::RectTwips place;     // in the form, or in the frame named by `parent`
     std::u16string_view parent = {};
     std::span<const std::u16string_view> items = {};

@@ -1,4 +1,5 @@
 // What a person does at a form's windows, as the form's events.
+#include "platform/win32/accessible_name.h"
 #include "platform/win32/focus_arbiter.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/keyboard.h"
@@ -75,6 +76,9 @@ LRESULT FormWindow::widgetMessage(Widget& widget, HWND window, UINT message, WPA
         if (accessKey(static_cast<wchar_t>(first)))
             return 0;
         break;
+    case WM_GETDLGCODE:
+        return keysWanted(widget, CallWindowProcW(original, window, message, first, second),
+                          reinterpret_cast<const MSG*>(second));
     case WM_SETFOCUS:
     case WM_KILLFOCUS: {
         const LRESULT result = CallWindowProcW(original, window, message, first, second);
@@ -84,13 +88,38 @@ LRESULT FormWindow::widgetMessage(Widget& widget, HWND window, UINT message, WPA
             focusArrived(widget);
         return result;
     }
+    case WM_GETOBJECT:
+        if (widget.saysItsName)
+            if (const LRESULT answer = namedAnswer(window, first, second, widget.look.spokenName))
+                return answer;
+        break;
     case WM_NCDESTROY:
         unbindObject(window);
         (window == widget.inner ? widget.inner : widget.window) = nullptr;
         break;
     default: break;
     }
-    return CallWindowProcW(original, window, message, first, second);
+    const LRESULT result = CallWindowProcW(original, window, message, first, second);
+    const bool mayComplete = message == WM_KEYDOWN || message == WM_SYSKEYDOWN || message == WM_LBUTTONDOWN;
+    if (mayComplete && !gone() && widget.kind() == WidgetKind::comboBox)
+        tellShown(widget); // its list has opened
+    return result;
+}
+
+// A swatch is moved from by arrows in a dialog; on a page Enter opens its palette.
+LRESULT FormWindow::keysWanted(const Widget& widget, LRESULT usual, const MSG* message) const
+{
+    if (widget.kind() != WidgetKind::swatch)
+        return usual;
+    if (role_ != Role::child)
+        return usual | DLGC_WANTARROWS;
+    const bool wanted = message && message->message == WM_KEYDOWN && wantsKey(widget, message->wParam);
+    return usual | (wanted ? DLGC_WANTMESSAGE : 0);
+}
+
+bool FormWindow::wantsKey(const Widget& widget, WPARAM code) const
+{
+    return listIsDown(widget) || (code == VK_RETURN && widget.kind() == WidgetKind::swatch);
 }
 
 LRESULT FormWindow::handle(HWND window, UINT message, WPARAM first, LPARAM second)
@@ -103,6 +132,14 @@ LRESULT FormWindow::handle(HWND window, UINT message, WPARAM first, LPARAM secon
     case WM_NOTIFY: return notify(*reinterpret_cast<const NMHDR*>(second));
     case WM_PAINT: paint(); return 0;
     case WM_ERASEBKGND: return TRUE;
+    case WM_PRINTCLIENT: { // a widget asks what lies under it
+        RECT client{};
+        GetClientRect(window, &client);
+        paintGround(reinterpret_cast<HDC>(first), client);
+        return 0;
+    }
+    case WM_THEMECHANGED:
+    case WM_SYSCOLORCHANGE: learnGround(); break;
     case WM_DRAWITEM: drawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(second)); return TRUE;
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORLISTBOX:
@@ -216,6 +253,8 @@ LRESULT FormWindow::command(WPARAM first, LPARAM second)
             clickedWindow(*widget);
         else if (code == CBN_EDITCHANGE)
             typedInto(*widget);
+        else if (code == CBN_CLOSEUP || code == CBN_KILLFOCUS)
+            tellShown(*widget);
         break;
     case WidgetKind::listBox:
         if (code == LBN_SELCHANGE)
@@ -254,9 +293,19 @@ void FormWindow::typedInto(Widget& widget)
     if (text == widget.text)
         return;
     widget.text = std::move(text);
-    if (widget.list && widget.list->chosen() >= 0)
-        widget.list->readFromWindow(); // the combo has let go of its choice
+    if (widget.list)
+        widget.list->readFromWindow(); // the combo has let go of its choice, or completed the text to an item
     events_.changed(widget.id);
+}
+
+// A list that opens completes the text in its box, one that is left with Esc goes back to the former choice: the combo
+// says nothing of either.
+void FormWindow::tellShown(Widget& widget)
+{
+    if (widget.kind() == WidgetKind::comboBox)
+        typedInto(widget);
+    else if (SendMessageW(widget.window, CB_GETCURSEL, 0, 0) != widget.list->chosen())
+        clickedWindow(widget);
 }
 
 LRESULT FormWindow::notify(const NMHDR& header)
@@ -396,6 +445,8 @@ bool FormWindow::keyPress(Widget* widget, WPARAM unit)
         return true;
     if (unit == VK_TAB)
         return role_ == Role::popup;
+    if ((unit == VK_RETURN || unit == VK_ESCAPE) && widget && listIsDown(*widget))
+        return false; // they close the list
     int key = static_cast<int>(unit);
     events_.keyPress(widget ? widget->id : WidgetId{}, key);
     if (!running.alive() || key == 0)
@@ -429,7 +480,7 @@ bool FormWindow::accessKey(wchar_t letter)
 {
     for (std::size_t i = 0; i < widgets_.size(); ++i) {
         Widget& widget = *widgets_[i];
-        const char16_t key = widget.list || isTyped(widget.kind()) ? u'\0' : accessKeyOf(widget.text);
+        const char16_t key = accessKeyOf(widget);
         if (!key || upper(static_cast<wchar_t>(key)) != upper(letter) || !widget.enabled || !showing(widget))
             continue;
         Widget& target = takesFocus(widget.kind()) || i + 1 == widgets_.size() ? widget : *widgets_[i + 1];
@@ -446,17 +497,28 @@ bool FormWindow::accessKey(wchar_t letter)
 
 bool FormWindow::translate(MSG& message)
 {
-    if (!window_ || (message.hwnd != window_ && !IsChild(window_, message.hwnd)))
+    if (!window_)
         return false;
-    if (message.message == WM_SYSCHAR && accessKey(static_cast<wchar_t>(message.wParam)))
+    const bool inside = message.hwnd == window_ || IsChild(window_, message.hwnd);
+    const bool heard = inside || (role_ == Role::child && isFrameOf(message.hwnd));
+    if (heard && message.message == WM_SYSCHAR && accessKey(static_cast<wchar_t>(message.wParam)))
         return true;
+    if (!inside)
+        return false;
     if (role_ == Role::child && message.message == WM_KEYDOWN) {
-        if (message.wParam == VK_RETURN || message.wParam == VK_ESCAPE)
+        const Widget* widget = ofWindow(message.hwnd);
+        if ((message.wParam == VK_RETURN || message.wParam == VK_ESCAPE) &&
+            !(widget && wantsKey(*widget, message.wParam)))
             return false;
         if (message.wParam == VK_TAB && leavesPage((shiftState() & 1) != 0))
             return false;
     }
     return IsDialogMessageW(window_, &message) != 0;
+}
+
+bool FormWindow::isFrameOf(HWND window) const
+{
+    return IsWindowVisible(window_) && GetAncestor(window, GA_ROOT) == GetAncestor(window_, GA_ROOT);
 }
 
 // Tab at the page's last widget, or Shift+Tab at its first, goes on to the frame.

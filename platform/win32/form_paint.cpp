@@ -5,8 +5,13 @@
 #include "platform/win32/paint.h"
 #include "platform/win32/text.h"
 
+#include <commctrl.h>
+#include <uxtheme.h>
+#include <vsstyle.h>
+
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace vela::win32 {
 namespace {
@@ -27,6 +32,16 @@ UINT alignmentOf(platform::TextAlignment alignment) noexcept
     case platform::TextAlignment::center: return DT_CENTER;
     }
     return DT_LEFT;
+}
+
+void paintLine(HDC dc, const RECT& place, int systemColour) noexcept
+{
+    FrameRect(dc, &place, GetSysColorBrush(systemColour));
+}
+
+bool isDark(COLORREF colour) noexcept
+{
+    return 3 * GetRValue(colour) + 6 * GetGValue(colour) + GetBValue(colour) < 640; // a quarter of white
 }
 
 int lineHeight(HDC dc) noexcept
@@ -63,7 +78,7 @@ void FormWindow::paint()
 void FormWindow::paintAll(HDC dc, const RECT& client)
 {
     fitted_ = {};
-    fill(dc, client, resolve(back_, ColourRole::back));
+    paintGround(dc, client);
     for (const auto& widget : widgets_)
         if (showing(*widget))
             paintWidget(dc, *widget);
@@ -71,6 +86,46 @@ void FormWindow::paintAll(HDC dc, const RECT& client)
         const UniqueGdi<HBRUSH> edge(CreateSolidBrush(GetSysColor(COLOR_WINDOWFRAME)));
         FrameRect(dc, &client, edge.get());
     }
+}
+
+void FormWindow::paintGround(HDC dc, const RECT& client)
+{
+    fill(dc, client, hasGround() ? ground_ : resolve(back_, ColourRole::back));
+    for (const auto& widget : widgets_)
+        if (widget->kind() == WidgetKind::tabStrip)
+            paintPane(dc, *widget, rectOf(*widget));
+}
+
+// A page stands on what its frame shows there, the body of its tabs or a colour of its own, and what is on its own tabs
+// on their pane. Both are asked for once: an answer for every widget would have the frame paint itself as often.
+void FormWindow::learnGround()
+{
+    if (!window_ || !hasGround())
+        return;
+    RECT sample{0, 0, 8, 8};
+    constexpr int middle = 4;
+    const WindowDc screen(window_);
+    const UniqueMemoryDc memory(CreateCompatibleDC(screen.get()));
+    const UniqueGdi<HBITMAP> picture(CreateCompatibleBitmap(screen.get(), sample.right, sample.bottom));
+    const SelectedObject selected(memory.get(), picture.get());
+    fill(memory.get(), sample, GetSysColor(COLOR_BTNFACE));
+    DrawThemeParentBackground(window_, memory.get(), &sample);
+    ground_ = pane_ = GetPixel(memory.get(), middle, middle);
+    for (const auto& widget : widgets_)
+        if (const HTHEME theme = widget->kind() == WidgetKind::tabStrip && widget->window
+                                     ? OpenThemeData(widget->window, L"TAB")
+                                     : nullptr) {
+            constexpr RECT pane{-20, -20, 40, 40}; // its sides lie outside the sample
+            DrawThemeBackground(theme, memory.get(), TABP_PANE, 0, &pane, &sample);
+            CloseThemeData(theme);
+            pane_ = GetPixel(memory.get(), middle, middle);
+        }
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+COLORREF FormWindow::groundOf(const Widget& widget) const noexcept
+{
+    return widget.row->tab >= 0 ? pane_ : ground_;
 }
 
 void FormWindow::paintWidget(HDC dc, Widget& widget)
@@ -82,7 +137,7 @@ void FormWindow::paintWidget(HDC dc, Widget& widget)
     case WidgetKind::label:
     case WidgetKind::preview: paintLabel(dc, widget, place); break;
     case WidgetKind::frame: paintFrame(dc, widget, place); break;
-    case WidgetKind::tabStrip: paintPane(dc, widget, place); break;
+    case WidgetKind::tabStrip:
     case WidgetKind::button:
     case WidgetKind::comboBox:
     case WidgetKind::dropDownList:
@@ -118,10 +173,13 @@ void FormWindow::paintLabel(HDC dc, Widget& widget, RECT place)
     const bool preview = widget.kind() == WidgetKind::preview;
     if (look.opaque && look.round)
         paintMark(dc, place, resolve(look.back), pixels(30));
-    else if (look.opaque)
+    else if (look.opaque && !(hasGround() && look.back == engine::Colour{0x8000000F}))
         fill(dc, place,
              resolve(look.back, look.back == engine::Colour{0x8000000F} ? ColourRole::face : ColourRole::back));
-    if (look.border || preview) {
+    if (preview) {
+        paintLine(dc, place, COLOR_BTNSHADOW);
+        InflateRect(&place, -1, -1);
+    } else if (look.border) {
         DrawEdge(dc, &place, BDR_SUNKENOUTER, BF_RECT | BF_ADJUST);
         InflateRect(&place, -pixels(30), 0);
     }
@@ -134,9 +192,10 @@ void FormWindow::paintLabel(HDC dc, Widget& widget, RECT place)
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, widget.enabled ? resolve(look.fore, ColourRole::fore) : GetSysColor(COLOR_GRAYTEXT));
     const bool oneLine = fits || place.bottom - place.top < 2 * lineHeight(dc);
-    const UINT format = (preview ? DT_CENTER : alignmentOf(widget.row->alignment)) |
-                        (fits ? DT_END_ELLIPSIS : DT_NOCLIP) | (oneLine ? DT_SINGLELINE | DT_VCENTER : DT_WORDBREAK);
-    DrawTextW(dc, wide(widget.text.c_str()), -1, &place, format);
+    const UINT clip = fits ? DT_END_ELLIPSIS : preview ? 0 : DT_NOCLIP;
+    const UINT format = (preview ? DT_CENTER : alignmentOf(widget.row->alignment)) | clip |
+                        (oneLine ? DT_SINGLELINE | DT_VCENTER : DT_WORDBREAK);
+    DrawTextW(dc, wide(markedCaption(widget).c_str()), -1, &place, format);
 }
 
 // An etched frame with its caption in the upper side.
@@ -145,30 +204,37 @@ void FormWindow::paintFrame(HDC dc, Widget& widget, RECT place)
     const SelectedObject font(dc, widget.shared->get());
     RECT line = place;
     line.top += lineHeight(dc) / 2;
-    DrawEdge(dc, &line, EDGE_ETCHED, BF_RECT);
-    if (widget.text.empty())
-        return;
     RECT caption = place;
     caption.left += pixels(120);
-    DrawTextW(dc, wide(widget.text.c_str()), -1, &caption, DT_SINGLELINE | DT_CALCRECT);
-    RECT gap = caption;
-    InflateRect(&gap, pixels(30), 0);
-    fill(dc, gap, resolve(back_, ColourRole::back));
+    if (!widget.text.empty())
+        DrawTextW(dc, wide(widget.text.c_str()), -1, &caption, DT_SINGLELINE | DT_CALCRECT);
+    const int outside = SaveDC(dc);
+    if (!widget.text.empty())
+        ExcludeClipRect(dc, caption.left - pixels(30), caption.top, caption.right + pixels(30), caption.bottom);
+    DrawEdge(dc, &line, EDGE_ETCHED, BF_RECT);
+    RestoreDC(dc, outside);
+    if (widget.text.empty())
+        return;
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, widget.enabled ? resolve(widget.look.fore, ColourRole::fore) : GetSysColor(COLOR_GRAYTEXT));
     DrawTextW(dc, wide(widget.text.c_str()), -1, &caption, DT_SINGLELINE);
 }
 
-// What the tabs' captions stand on.
+// What the tabs' captions stand on. Its upper side, where the tab in front joins it, is painted by their window.
 void FormWindow::paintPane(HDC dc, const Widget& widget, RECT place)
 {
-    RECT captions{};
-    if (widget.window) {
-        GetWindowRect(widget.window, &captions);
-        MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&captions), 2);
-        place.top = captions.bottom - 1;
+    if (!widget.window)
+        return;
+    RECT caption{};
+    SendMessageW(widget.window, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&caption));
+    place.top += caption.bottom;
+    const HTHEME theme = OpenThemeData(widget.window, L"TAB");
+    if (theme) {
+        DrawThemeBackground(theme, dc, TABP_PANE, 0, &place, nullptr);
+        CloseThemeData(theme);
+    } else {
+        DrawEdge(dc, &place, EDGE_RAISED, BF_RECT | BF_SOFT);
     }
-    DrawEdge(dc, &place, EDGE_RAISED, BF_RECT);
 }
 
 void FormWindow::drawItem(const DRAWITEMSTRUCT& item)
@@ -177,10 +243,15 @@ void FormWindow::drawItem(const DRAWITEMSTRUCT& item)
     if (!widget)
         return;
     RECT place = item.rcItem;
-    DrawEdge(item.hDC, &place, widget->look.border ? EDGE_BUMP : EDGE_SUNKEN, BF_RECT | BF_ADJUST);
-    fill(item.hDC, place, widget->enabled ? resolve(widget->look.back) : GetSysColor(COLOR_BTNFACE));
-    if (item.itemState & ODS_FOCUS) {
-        InflateRect(&place, -pixels(15), -pixels(15));
+    const COLORREF colour = widget->enabled ? resolve(widget->look.back) : GetSysColor(COLOR_BTNFACE);
+    fill(item.hDC, place, colour);
+    if (widget->look.border)
+        paintLine(item.hDC, place,
+                  role_ == Role::child ? COLOR_BTNSHADOW
+                  : isDark(colour)     ? COLOR_BTNHIGHLIGHT
+                                       : COLOR_WINDOWFRAME);
+    if ((item.itemState & ODS_FOCUS) && role_ == Role::child) { // in a dialog the border is the mark of the focus
+        InflateRect(&place, -pixels(45), -pixels(45));
         DrawFocusRect(item.hDC, &place);
     }
 }
@@ -194,7 +265,9 @@ LRESULT FormWindow::colourOf(UINT message, HDC dc, HWND child)
     const platform::WidgetLook fallback;
     const platform::WidgetLook& look = widget ? widget->look : fallback;
     const bool plain = !typed && look.back == engine::Colour{0x8000000F};
-    const COLORREF back = plain ? resolve(back_, ColourRole::face) : resolve(look.back, ColourRole::back);
+    const COLORREF back = plain && widget && hasGround() ? groundOf(*widget)
+                          : plain                        ? resolve(back_, ColourRole::face)
+                                                         : resolve(look.back, ColourRole::back);
     SetTextColor(dc, resolve(look.fore, ColourRole::fore));
     SetBkColor(dc, back);
     SetDCBrushColor(dc, back);

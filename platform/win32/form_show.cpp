@@ -87,8 +87,7 @@ void FormWindow::appear()
     Watch watch(life_);
     const HWND window = window_;
     ShowWindow(window, SW_SHOWNA);
-    RedrawWindow(window, nullptr, nullptr,
-                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     if (watch.alive() && window_ == window)
         SetActiveWindow(window);
 }
@@ -146,6 +145,8 @@ void FormWindow::showChild(HWND parent, const RECT& place)
 
 void FormWindow::showChildWindow(bool visible)
 {
+    if (visible)
+        learnGround();
     if (window_)
         ShowWindow(window_, visible ? SW_SHOWNA : SW_HIDE);
 }

@@ -29,8 +29,13 @@ bool takesFocus(WidgetKind kind) noexcept
     return isWindow(kind);
 }
 
-char16_t accessKeyOf(std::u16string_view caption) noexcept
+char16_t accessKeyOf(const Widget& widget) noexcept
 {
+    if (widget.list || isTyped(widget.kind()))
+        return 0;
+    if (widget.row->accessKey)
+        return widget.row->accessKey;
+    const std::u16string_view caption = widget.text;
     for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
         if (caption[i] != u'&')
             continue;
@@ -39,6 +44,23 @@ char16_t accessKeyOf(std::u16string_view caption) noexcept
         ++i;
     }
     return 0;
+}
+
+std::u16string markedCaption(const Widget& widget)
+{
+    std::u16string marked = widget.text;
+    const char16_t key = widget.row->accessKey;
+    if (!key || isTyped(widget.kind()))
+        return marked;
+    std::size_t place = marked.find(key);
+    for (std::size_t i = place; i < marked.size(); ++i)
+        if (marked[i] == key && (i == 0 || marked[i - 1] == u' ')) {
+            place = i;
+            break;
+        }
+    if (place < marked.size())
+        marked.insert(place, 1, u'&');
+    return marked;
 }
 
 std::u16string withoutAccessKey(std::u16string_view caption)

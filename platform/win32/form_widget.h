@@ -68,6 +68,7 @@ struct Widget {
     bool checked = false;
     bool enabled = true;
     bool visible = true;
+    bool saysItsName = false; // its windows are asked, because the system keeps no names
 
     [[nodiscard]] platform::WidgetKind kind() const noexcept { return row->kind; }
 };
@@ -75,8 +76,10 @@ struct Widget {
 [[nodiscard]] bool isTyped(platform::WidgetKind kind) noexcept;  // a text box or an editable combo
 [[nodiscard]] bool isWindow(platform::WidgetKind kind) noexcept; // not painted by the form
 [[nodiscard]] bool takesFocus(platform::WidgetKind kind) noexcept;
-// "C&E" -> u'E'; 0 without an access key. "&&" is an ampersand.
-[[nodiscard]] char16_t accessKeyOf(std::u16string_view caption) noexcept;
+// Of a widget that shows its caption: named by its row, or marked as in "C&E". 0 without one. "&&" is an ampersand.
+[[nodiscard]] char16_t accessKeyOf(const Widget& widget) noexcept;
+// "Te&ste": as the system takes a caption whose access key it is to underline, where a word begins if one does.
+[[nodiscard]] std::u16string markedCaption(const Widget& widget);
 [[nodiscard]] std::u16string withoutAccessKey(std::u16string_view caption);
 
 } // namespace vela::win32

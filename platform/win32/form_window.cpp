@@ -95,7 +95,7 @@ void FormWindow::putText(WidgetId widget, std::u16string_view text)
         return;
     found.text = text;
     if (found.window)
-        SetWindowTextW(found.window, wide(found.text.c_str()));
+        SetWindowTextW(found.window, wide(markedCaption(found).c_str()));
     else
         repaint(found);
 }
@@ -244,8 +244,11 @@ void FormWindow::putLook(WidgetId widget, const platform::WidgetLook& look)
 
 void FormWindow::rememberSpokenName(Widget& widget)
 {
-    if (widget.window && !widget.look.spokenName.empty())
-        setAccessibleName(widget.window, widget.look.spokenName);
+    if (!widget.window || widget.look.spokenName.empty())
+        return;
+    widget.saysItsName = !setAccessibleName(widget.window, widget.look.spokenName);
+    if (widget.inner && !widget.saysItsName)
+        setAccessibleName(widget.inner, widget.look.spokenName); // where the focus is
 }
 
 void FormWindow::putFont(WidgetId widget, const platform::FontDescription& font)
@@ -284,6 +287,7 @@ void FormWindow::focusArrived(Widget& widget)
 void FormWindow::putBackColour(engine::Colour colour)
 {
     back_ = colour;
+    ownBack_ = true;
     if (window_)
         InvalidateRect(window_, nullptr, FALSE);
 }

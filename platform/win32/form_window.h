@@ -78,7 +78,9 @@ private:
     void dropWindows();
     void layOut();
     void placeWidget(Widget& widget);
+    [[nodiscard]] int columnWidth(const Widget& widget) const;
     void applyFont(Widget& widget);
+    [[nodiscard]] SharedFont fittingFont(const Widget& widget, int dpi) const;
     void applyVisibility();
     [[nodiscard]] RECT rectOf(const Widget& widget) const;
     [[nodiscard]] POINT offsetOf(std::u16string_view frame) const; // twips
@@ -108,6 +110,10 @@ private:
     void focusCrossed(UINT message, HWND other);
     void clickedWindow(Widget& widget);
     void typedInto(Widget& widget);
+    void tellShown(Widget& widget);
+    [[nodiscard]] LRESULT keysWanted(const Widget& widget, LRESULT usual, const MSG* message) const;
+    [[nodiscard]] bool wantsKey(const Widget& widget, WPARAM code) const; // Enter or Esc that a frame would take
+    [[nodiscard]] bool isFrameOf(HWND window) const;                      // of this page in front
     [[nodiscard]] Widget* labelAt(POINT point);
 
     // Showing (form_show.cpp).
@@ -120,6 +126,10 @@ private:
     // Painting (form_paint.cpp).
     void paint();
     void paintAll(HDC dc, const RECT& client);
+    void paintGround(HDC dc, const RECT& client);
+    void learnGround();
+    [[nodiscard]] bool hasGround() const noexcept { return role_ == Role::child && !ownBack_; } // its parent's
+    [[nodiscard]] COLORREF groundOf(const Widget& widget) const noexcept;
     void paintWidget(HDC dc, Widget& widget);
     void paintLabel(HDC dc, Widget& widget, RECT place);
     [[nodiscard]] int labelHeight(HDC dc, const Widget& widget, int border);
@@ -143,7 +153,10 @@ private:
     Widget* pressed_ = nullptr; // a label under the held button
     platform::WidgetId focused_;
     engine::Colour back_{0x8000000F};
-    double scale_ = 0; // pixels a twip
+    bool ownBack_ = false; // else a child form stands on its parent's ground
+    COLORREF ground_ = 0;  // of such a form
+    COLORREF pane_ = 0;    // of its tabs
+    double scale_ = 0;     // pixels a twip
     int timer_ = 0;
     Role role_ = Role::none;
     bool shown_ = false;

@@ -3,6 +3,7 @@
 #include "platform/win32/form_window.h"
 #include "platform/win32/guard.h"
 #include "platform/win32/module.h"
+#include "platform/win32/owners.h"
 #include "platform/win32/text.h"
 #include "platform/win32/window_map.h"
 
@@ -40,7 +41,8 @@ Recipe recipeOf(const platform::WidgetRow& row) noexcept
     case WidgetKind::comboBox: return {WC_COMBOBOXW, CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL, 0};
     case WidgetKind::dropDownList: return {WC_COMBOBOXW, CBS_DROPDOWNLIST | WS_VSCROLL, 0};
     case WidgetKind::listBox:
-        return {WC_LISTBOXW, LBS_MULTIPLESEL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL, WS_EX_CLIENTEDGE};
+        return {WC_LISTBOXW, LBS_MULTIPLESEL | LBS_MULTICOLUMN | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_HSCROLL,
+                WS_EX_CLIENTEDGE};
     case WidgetKind::checkBox: return {WC_BUTTONW, BS_CHECKBOX, 0};
     case WidgetKind::optionButton: return {WC_BUTTONW, BS_RADIOBUTTON, 0};
     case WidgetKind::textBox: return textBoxRecipe(row);
@@ -80,6 +82,50 @@ void unsubclass(HWND& window, WNDPROC original) noexcept
         SetWindowLongPtrW(known, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
         unbindObject(known);
     }
+}
+
+// The tabs' captions and the upper side of their pane. The system keeps it.
+HRGN captionsAndSide(HWND strip, int bottom, int width, int side)
+{
+    RECT last{};
+    const auto count = static_cast<WPARAM>(SendMessageW(strip, TCM_GETITEMCOUNT, 0, 0));
+    SendMessageW(strip, TCM_GETITEMRECT, count - 1, reinterpret_cast<LPARAM>(&last));
+    const HRGN region = CreateRectRgn(0, 0, static_cast<int>(last.right) + side, bottom);
+    const UniqueGdi<HRGN> upperSide(CreateRectRgn(0, bottom, width, bottom + side));
+    CombineRgn(region, region, upperSide.get(), RGN_OR);
+    return region;
+}
+
+int textWidth(HFONT font, std::u16string_view text)
+{
+    const WindowDc dc(nullptr);
+    const SelectedObject selected(dc.get(), font);
+    SIZE size{};
+    GetTextExtentPoint32W(dc.get(), wide(text.data()), static_cast<int>(text.size()), &size);
+    return static_cast<int>(size.cx);
+}
+
+// Twips for the caption on its one line; 0 where it is not bound to it.
+int captionSpace(const platform::WidgetRow& row) noexcept
+{
+    constexpr int mark = 300;     // of a check box or an option, with the gap behind it
+    constexpr int edges = 90;     // of a button
+    constexpr int twoLines = 400; // a label of this height breaks its text
+    switch (row.kind) {
+    case WidgetKind::checkBox:
+    case WidgetKind::optionButton: return row.place.width - mark;
+    case WidgetKind::button: return row.place.width - edges;
+    case WidgetKind::label: return row.caption.empty() || row.place.height >= twoLines ? 0 : row.place.width;
+    case WidgetKind::comboBox:
+    case WidgetKind::dropDownList:
+    case WidgetKind::listBox:
+    case WidgetKind::textBox:
+    case WidgetKind::swatch:
+    case WidgetKind::frame:
+    case WidgetKind::preview:
+    case WidgetKind::tabStrip: break;
+    }
+    return 0;
 }
 
 HWND editOf(HWND combo) noexcept
@@ -130,10 +176,29 @@ platform::FontDescription FormWindow::fontOf(const Widget& widget) const
 void FormWindow::applyFont(Widget& widget)
 {
     const int dpi = std::max(1, static_cast<int>(std::lround(scale_ * engine::twipsPerInch)));
-    SharedFont font = sharedFont(fontOf(widget), dpi);
+    SharedFont font = fittingFont(widget, dpi);
     if (widget.window)
         SendMessageW(widget.window, WM_SETFONT, reinterpret_cast<WPARAM>(font->get()), TRUE);
     widget.shared = std::move(font);
+}
+
+// A caption that the machine's font makes too wide is written smaller, and those like it in its frame as small.
+SharedFont FormWindow::fittingFont(const Widget& widget, int dpi) const
+{
+    constexpr double smallest = 4; // points
+    constexpr double step = 0.5;
+    platform::FontDescription description = fontOf(widget);
+    SharedFont font = sharedFont(description, dpi);
+    const auto fits = [&](const auto& other) {
+        const bool alike = other->kind() == widget.kind() && other->row->parent == widget.row->parent;
+        const int space = alike ? captionSpace(*other->row) : 0;
+        return space == 0 || textWidth(font->get(), other->text) <= pixels(space);
+    };
+    while (captionSpace(*widget.row) > 0 && description.size > smallest && !std::ranges::all_of(widgets_, fits)) {
+        description.size -= step;
+        font = sharedFont(description, dpi);
+    }
+    return font;
 }
 
 void FormWindow::makeWindows()
@@ -158,8 +223,9 @@ void FormWindow::makeWidget(Widget& widget)
     const bool groups = firstOption || widget.kind() != WidgetKind::optionButton;
     const DWORD style = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS | recipe.style | (groups ? WS_GROUP : 0U) |
                         (widget.enabled ? 0U : WS_DISABLED);
+    const std::u16string caption = markedCaption(widget);
     widget.window =
-        CreateWindowExW(recipe.extendedStyle, recipe.windowClass, wide(widget.text.c_str()), style, 0, 0, 0, 0, window_,
+        CreateWindowExW(recipe.extendedStyle, recipe.windowClass, wide(caption.c_str()), style, 0, 0, 0, 0, window_,
                         reinterpret_cast<HMENU>(INT_PTR{100} + widget.id.value), thisModule(), nullptr);
     if (!widget.window)
         return;
@@ -188,8 +254,8 @@ void FormWindow::layOut()
     }
 }
 
-// Combos are given the height of their list too; a tab strip stands on its captions' height alone, because the
-// form paints what lies on the tabs.
+// Combos are given the height of their list too. A tab strip is as large as its pane, so that it paints the tab in
+// front into the pane's upper side, and is cut to that: the form paints what lies on the tabs.
 void FormWindow::placeWidget(Widget& widget)
 {
     if (!widget.window)
@@ -203,10 +269,22 @@ void FormWindow::placeWidget(Widget& widget)
     } else if (widget.kind() == WidgetKind::tabStrip) {
         RECT caption{};
         SendMessageW(widget.window, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&caption));
-        height = caption.bottom + 1;
+        SetWindowRgn(widget.window,
+                     captionsAndSide(widget.window, caption.bottom, place.right - place.left, pixels(45)), TRUE);
+    } else if (widget.kind() == WidgetKind::listBox) {
+        SendMessageW(widget.window, LB_SETCOLUMNWIDTH, static_cast<WPARAM>(columnWidth(widget)), 0);
     }
     SetWindowPos(widget.window, nullptr, place.left, place.top, place.right - place.left, height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// Of a list's columns: its widest item and a gap.
+int FormWindow::columnWidth(const Widget& widget) const
+{
+    int widest = 0;
+    for (int i = 0; widget.shared && i < widget.list->count(); ++i)
+        widest = std::max(widest, textWidth(widget.shared->get(), widget.list->at(i)));
+    return widest + pixels(150);
 }
 
 void FormWindow::applyVisibility()

@@ -64,6 +64,8 @@ public:
     {
         window_ = CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", nullptr, WS_POPUP, 0, 0, 500, 500, nullptr, nullptr,
                                   nullptr, nullptr);
+        button_ = CreateWindowExW(0, L"BUTTON", L"Fechar", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 400, 460, 80, 24,
+                                  window_, nullptr, nullptr, nullptr);
         ShowWindow(window_, SW_SHOWNOACTIVATE);
         EXPECT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IPropertyPage2, page.putVoid()), S_OK);
         EXPECT_EQ(page->SetPageSite(frame.get()), S_OK);
@@ -102,6 +104,19 @@ public:
         return childShowing(window_, text, windowClass);
     }
     [[nodiscard]] HWND window() const { return window_; }
+    [[nodiscard]] HWND button() const { return button_; } // of the frame, beside the page
+    // The frame's loop: what waits goes to the page first, then to the dialog's keys.
+    void run() const
+    {
+        MSG message{};
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+            const bool key = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+            if ((key && page && page->TranslateAccelerator(&message) == S_OK) || IsDialogMessageW(window_, &message))
+                continue;
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+    }
 
     ComPtr<IPropertyPage2> page;
     ComPtr<PageFrame> frame = make<PageFrame>();
@@ -110,6 +125,7 @@ public:
 
 private:
     HWND window_;
+    HWND button_;
 };
 
 } // namespace vela::test

@@ -1,6 +1,8 @@
 // The layout tables: everything in its place, reachable by keyboard, and named as scripts name it.
 #include "pages/layouts.h"
 
+#include "pages/spoken_names.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -58,12 +60,9 @@ bool mayOverlap(const WidgetRow& a, const WidgetRow& b)
     return (group(a) && group(b)) || (strip(a) && b.tab >= 0) || (strip(b) && a.tab >= 0);
 }
 
-char16_t accessKey(std::u16string_view caption)
+char16_t accessKey(const WidgetRow& row)
 {
-    const std::size_t mark = caption.find(u'&');
-    if (mark == std::u16string_view::npos || mark + 1 == caption.size())
-        return 0;
-    const char16_t key = caption[mark + 1];
+    const char16_t key = row.accessKey;
     return key >= u'A' && key <= u'Z' ? static_cast<char16_t>(key + 32) : key;
 }
 
@@ -107,9 +106,11 @@ TEST_P(Layouts, NamesAreUniqueAndAccessKeysAreUniqueOnATab)
     std::map<std::pair<int, char16_t>, std::string> keys;
     for (const WidgetRow& row : layout.rows) {
         EXPECT_TRUE(names.insert({row.name, row.index}).second) << label(layout, row);
-        const char16_t key = accessKey(row.caption);
+        EXPECT_EQ(row.caption.find(u'&'), std::u16string_view::npos) << label(layout, row);
+        const char16_t key = accessKey(row);
         if (!key)
             continue;
+        EXPECT_NE(row.caption.find(row.accessKey), std::u16string_view::npos) << label(layout, row);
         for (int tab = row.tab < 0 ? -1 : row.tab; tab <= (row.tab < 0 ? 3 : row.tab); ++tab) {
             const auto [place, added] = keys.insert({{tab, key}, label(layout, row)});
             EXPECT_TRUE(added) << label(layout, row) << " takes the key of " << place->second;
@@ -122,7 +123,7 @@ TEST_P(Layouts, AccessKeysOfLabelsLeadToAControl)
 {
     const FormLayout& layout = *GetParam();
     for (std::size_t i = 0; i < layout.rows.size(); ++i)
-        if (layout.rows[i].kind == WidgetKind::label && accessKey(layout.rows[i].caption)) {
+        if (layout.rows[i].kind == WidgetKind::label && accessKey(layout.rows[i])) {
             ASSERT_LT(i + 1, layout.rows.size());
             EXPECT_TRUE(takesFocus(layout.rows[i + 1].kind)) << label(layout, layout.rows[i]);
         }
@@ -132,6 +133,22 @@ INSTANTIATE_TEST_SUITE_P(All, Layouts,
                          testing::Values(&principalLayout(), &geralLayout(), &errosLayout(), &fonteLayout(),
                                          &calendarioLayout(), &paletaLayout()),
                          [](const auto& layout) { return narrow(layout.param->name); });
+
+// Its label's text, in a frame's own group; what shows its own words needs none.
+TEST_P(Layouts, EveryBoxAndListIsSpokenOf)
+{
+    const FormLayout& layout = *GetParam();
+    for (std::size_t i = 0; i < layout.rows.size(); ++i) {
+        const WidgetRow& row = layout.rows[i];
+        const bool inPalette = row.name == u"Picture1"; // named by their colours
+        if (takesFocus(row.kind) && row.caption.empty() && row.kind != WidgetKind::tabStrip && !inPalette) {
+            const std::u16string name = spokenName(layout, platform::WidgetId{static_cast<int>(i)});
+            const bool ofLabel = i > 0 && layout.rows[i - 1].kind == WidgetKind::label;
+            EXPECT_FALSE(name.empty()) << label(layout, row);
+            EXPECT_TRUE(!ofLabel || layout.rows[i - 1].caption.starts_with(name)) << label(layout, row);
+        }
+    }
+}
 
 TEST(PageLayouts, FitTheFrame)
 {

@@ -68,7 +68,10 @@ TEST(SpokenNames, ComeFromTheWordsBefore)
     const Row rows[] = {
         {principalLayout(), u"PicCorNegativa", -1, u"Cor do Valor Negativo"},
         {principalLayout(), u"cmdHelpSeparadorMilhar", -1, u"Ajuda: Separador de Milhar"},
-        {principalLayout(), u"txtMascara", -1, u""},
+        {principalLayout(), u"txtMascara", -1, u"Máscara"},
+        {principalLayout(), u"cboTipoLetra", -1, u"Letras"}, // its group's
+        {principalLayout(), u"lstLetrasPermitidas", -1, u"Caracteres Permitidos"},
+        {principalLayout(), u"chkTextoLivre", -1, u""},
         {geralLayout(), u"PicCorFundoLost", -1, u"Cor de fundo"},
         {errosLayout(), u"CmdHelpErroAlert", -1, u"Ajuda: Exibir Mensagens ao ocorrer erro de digitação"},
         {calendarioLayout(), u"PicCorCalendario", 5, u"Cor das Bordas"},

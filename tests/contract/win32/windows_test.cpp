@@ -57,6 +57,32 @@ int inkIn(HWND window, const RECT& place)
     return ink;
 }
 
+// As a screen reader asks.
+IAccessible* readerOf(HWND window)
+{
+    using FromWindow = HRESULT(WINAPI*)(HWND, DWORD, REFIID, void**);
+    const HMODULE service = LoadLibraryW(L"oleacc.dll");
+    const auto fromWindow =
+        reinterpret_cast<FromWindow>(reinterpret_cast<void*>(GetProcAddress(service, "AccessibleObjectFromWindow")));
+    const IID wanted{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
+    void* found = nullptr;
+    return fromWindow(window, static_cast<DWORD>(OBJID_CLIENT), wanted, &found) == S_OK
+               ? static_cast<IAccessible*>(found)
+               : nullptr;
+}
+
+std::wstring heardOf(IAccessible& reader, LONG child)
+{
+    VARIANT number{};
+    number.vt = VT_I4;
+    number.lVal = child;
+    BSTR name = nullptr;
+    reader.get_accName(number, &name);
+    const std::wstring heard = name ? name : L"";
+    SysFreeString(name);
+    return heard;
+}
+
 class Windows : public FieldCase {
 protected:
     [[nodiscard]] HWND edit() { return windowOf(box().window()); }
@@ -255,25 +281,9 @@ TEST_F(Windows, AReaderHearsThePaintedLabels)
 
     CoInitialize(nullptr);
     {
-        using FromWindow = HRESULT(WINAPI*)(HWND, DWORD, REFIID, void**);
-        const HMODULE service = LoadLibraryW(L"oleacc.dll");
-        ASSERT_TRUE(service);
-        const auto fromWindow = reinterpret_cast<FromWindow>(
-            reinterpret_cast<void*>(GetProcAddress(service, "AccessibleObjectFromWindow")));
-        const IID wanted{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
-        void* found = nullptr;
-        ASSERT_EQ(fromWindow(windowOf(form->window()), static_cast<DWORD>(OBJID_CLIENT), wanted, &found), S_OK);
-        auto* reader = static_cast<IAccessible*>(found);
-        const auto nameOf = [reader](LONG child) {
-            VARIANT number{};
-            number.vt = VT_I4;
-            number.lVal = child;
-            BSTR name = nullptr;
-            reader->get_accName(number, &name);
-            const std::wstring heard = name ? name : L"";
-            SysFreeString(name);
-            return heard;
-        };
+        IAccessible* const reader = readerOf(windowOf(form->window()));
+        ASSERT_TRUE(reader);
+        const auto nameOf = [reader](LONG child) { return heardOf(*reader, child); };
         EXPECT_EQ(nameOf(1), L"Nome");
         EXPECT_EQ(nameOf(2), L"31 de dezembro de 2024, selecionado");
         VARIANT day{};
@@ -285,6 +295,63 @@ TEST_F(Windows, AReaderHearsThePaintedLabels)
         EXPECT_EQ(nameOf(2), L"");
         reader->Release();
     }
+    CoUninitialize();
+}
+
+TEST_F(Windows, ACaptionThatIsTooWideIsWrittenSmaller)
+{
+    static constexpr std::array<platform::WidgetRow, 2> rows{{{.kind = platform::WidgetKind::label,
+                                                               .name = u"a",
+                                                               .caption = u"Decimal de Exibição",
+                                                               .place = {60, 60, 900, 225}},
+                                                              {.kind = platform::WidgetKind::checkBox,
+                                                               .name = u"b",
+                                                               .caption = u"Retornar Somente os Números",
+                                                               .place = {60, 400, 1500, 255}}}};
+    static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
+    Clicks events;
+    const auto form = stage->forms().make(layout, events);
+    form->showPopup({200, 200, 110, 109}, stage->field(0).window());
+    stage->settle();
+    const HWND window = windowOf(form->window());
+    EXPECT_GT(inkIn(window, {44, 4, 64, 19}), 0);
+    EXPECT_EQ(inkIn(window, {64, 4, 108, 19}), 0);
+    const HWND box = GetDlgItem(window, 101);
+    EXPECT_GT(inkIn(box, {70, 0, 97, 17}), 0);
+    const int strip = inkIn(box, {97, 0, 100, 17});
+    EXPECT_TRUE(strip == 0 || strip == 3 * 17) << "cut by its window: not of one colour";
+}
+
+TEST_F(Windows, AReaderHearsTheNamesOfBoxesAndLists)
+{
+    using platform::WidgetKind;
+    static constexpr std::array<platform::WidgetRow, 4> rows{
+        {{.kind = WidgetKind::textBox, .name = u"a", .place = {0, 0, 600, 300}},
+         {.kind = WidgetKind::comboBox, .name = u"b", .place = {0, 400, 600, 300}},
+         {.kind = WidgetKind::dropDownList, .name = u"c", .place = {0, 800, 600, 300}},
+         {.kind = WidgetKind::listBox, .name = u"d", .place = {700, 0, 600, 900}}}};
+    static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
+    Clicks events;
+    CoInitialize(nullptr);
+    const auto form = stage->forms().make(layout, events);
+    for (int i = 0; i < 4; ++i) {
+        platform::WidgetLook look = form->look({i});
+        look.spokenName = u"Nome " + std::u16string(1, static_cast<char16_t>(u'0' + i));
+        form->putLook({i}, look);
+    }
+    form->showPopup({200, 200, 110, 109}, stage->field(0).window());
+    for (int i = 0; i < 4; ++i) {
+        const HWND window = GetDlgItem(windowOf(form->window()), 100 + i);
+        for (const HWND asked : {window, GetWindow(window, GW_CHILD)}) { // a combo's focus is in the box inside it
+            if (!asked)
+                continue;
+            IAccessible* const reader = readerOf(asked);
+            ASSERT_TRUE(reader);
+            EXPECT_EQ(heardOf(*reader, CHILDID_SELF), L"Nome " + std::to_wstring(i));
+            reader->Release();
+        }
+    }
+    form->close();
     CoUninitialize();
 }
 

@@ -1,0 +1,351 @@
+// Property pages under a person's hands: keys and clicks through the system's own queue, into a frame's loop.
+#include "shown_page.h"
+
+#include <commctrl.h>
+
+#include <initializer_list>
+#include <set>
+
+namespace vela::test {
+
+namespace {
+
+constexpr DWORD patience = 20000; // milliseconds
+
+void sendKey(WORD key, bool down)
+{
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = down ? 0U : KEYEVENTF_KEYUP;
+    SendInput(1, &input, sizeof input);
+}
+
+void sendClick(HWND window, POINT at, int times = 1)
+{
+    pointAt(window, at);
+    for (int i = 0; i < times; ++i)
+        for (const DWORD flag : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
+            INPUT input{};
+            input.type = INPUT_MOUSE;
+            input.mi.dwFlags = flag;
+            SendInput(1, &input, sizeof input);
+        }
+}
+
+// A page in the foreground.
+class Hands {
+public:
+    Hands(const CLSID& id, const ComPtr<IUnknown>& object) : shown(id, {object.get()}), field_(object.get())
+    {
+        SetForegroundWindow(shown.window());
+        settle();
+    }
+    void settle() const
+    {
+        const DWORD start = GetTickCount();
+        do {
+            shown.run();
+            MsgWaitForMultipleObjects(0, nullptr, FALSE, 30, QS_ALLINPUT);
+            shown.run();
+        } while (GetQueueStatus(QS_ALLINPUT & ~QS_TIMER) != 0 && GetTickCount() - start < patience);
+    }
+    [[nodiscard]] bool until(const std::function<bool()>& condition) const
+    {
+        const DWORD start = GetTickCount();
+        while (!condition()) {
+            if (GetTickCount() - start > patience)
+                return false;
+            MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+            shown.run();
+        }
+        return true;
+    }
+    void press(std::initializer_list<WORD> keys) const
+    {
+        for (const WORD key : keys) {
+            sendKey(key, true);
+            sendKey(key, false);
+            settle();
+        }
+    }
+    void pressWithAlt(WORD key) const // Alt stays down
+    {
+        sendKey(VK_MENU, true);
+        sendKey(key, true);
+        sendKey(key, false);
+        settle();
+    }
+    void click(HWND window, POINT at, int times = 1) const
+    {
+        sendClick(window, at, times);
+        settle();
+    }
+    void go(const char16_t* property) const // to its control, as a host asks
+    {
+        EXPECT_EQ(shown.page->EditProperty(*field_.id(property)), S_OK);
+        settle();
+    }
+    [[nodiscard]] static HWND focusedCombo()
+    {
+        wchar_t name[32]{};
+        const HWND parent = GetParent(GetFocus());
+        GetClassNameW(parent, name, 32);
+        return lstrcmpiW(name, L"ComboBox") == 0 ? parent : GetFocus();
+    }
+    [[nodiscard]] static bool isDown(HWND combo) { return SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; }
+
+    ShownPage shown;
+
+private:
+    Automation field_;
+};
+
+TEST(PageHands, AnAccessKeyOpensTheListOfFontsAndClosesNothing)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const Hands hands(activex::fontePage, control);
+    SetFocus(hands.shown.find(L"EDIT", u"8"));
+    hands.pressWithAlt('N');
+    EXPECT_TRUE(hands.until([] { return Hands::isDown(Hands::focusedCombo()); }));
+    sendKey(VK_MENU, false);
+    hands.settle();
+    EXPECT_TRUE(IsWindow(hands.shown.window())) << "Alt+F4";
+    EXPECT_TRUE(Hands::isDown(Hands::focusedCombo()));
+}
+
+TEST(PageHands, AClickOnTheArrowOpensTheListOfFonts)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const Hands hands(activex::fontePage, control);
+    hands.go(u"FontSize");
+    const HWND combo = hands.shown.find(L"COMBOBOX", Automation(control.get()).textOf(u"FontName"));
+    ASSERT_NE(combo, nullptr);
+    const RECT client = clientOf(combo);
+    hands.click(combo, {client.right - 6, client.bottom / 2});
+    EXPECT_TRUE(hands.until([&] { return Hands::isDown(combo); }));
+    for (int i = 0; i < 5; ++i)
+        hands.settle();
+    EXPECT_TRUE(Hands::isDown(combo));
+}
+
+TEST(PageHands, WhatAComboCompletesIsApplied)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const Hands hands(activex::principalPage, control);
+    hands.go(u"DateFormat");
+    const HWND combo = Hands::focusedCombo();
+    SendMessageW(GetFocus(), EM_SETSEL, 0, -1);
+    hands.press({'Y', 'Y', VK_F4, VK_F4, VK_TAB});
+    EXPECT_EQ(shownBy(combo), u"yyyy/mm/dd");
+    EXPECT_EQ(hands.shown.page->Apply(), S_OK);
+    EXPECT_EQ(Automation(control.get()).textOf(u"DateFormat"), shownBy(combo));
+}
+
+TEST(PageHands, EnterAndEscCloseTheListOfAnEditableCombo)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    Automation(control.get()).put(u"FormatoRetornoData", text(u"d/M/yy"));
+    const Hands hands(activex::principalPage, control);
+    hands.go(u"FormatoRetornoData");
+    const HWND combo = Hands::focusedCombo();
+    for (const WORD key : {WORD{VK_RETURN}, WORD{VK_ESCAPE}}) {
+        hands.press({VK_F4});
+        EXPECT_TRUE(Hands::isDown(combo));
+        hands.press({VK_DOWN, key});
+        EXPECT_FALSE(Hands::isDown(combo)) << key;
+        EXPECT_EQ(GetFocus(), GetWindow(combo, GW_CHILD)) << key;
+    }
+    EXPECT_EQ(hands.shown.page->Apply(), S_OK);
+    EXPECT_EQ(Automation(control.get()).textOf(u"FormatoRetornoData"), shownBy(combo));
+}
+
+TEST(PageHands, AccessKeysWorkBesideThePage)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const Hands hands(activex::fontePage, control);
+    SetFocus(hands.shown.button());
+    hands.pressWithAlt('T');
+    sendKey(VK_MENU, false);
+    EXPECT_EQ(shownBy(GetFocus()), u"8");
+    SetFocus(hands.shown.button());
+    hands.shown.page->Show(SW_HIDE);
+    hands.pressWithAlt('T');
+    sendKey(VK_MENU, false);
+    EXPECT_EQ(GetFocus(), hands.shown.button()) << "a page behind another one takes no keys";
+}
+
+// --- the palette, whose acts come from a timer while it is on show
+
+struct PaletteActs {
+    explicit PaletteActs(std::initializer_list<std::function<void(HWND)>> acts)
+    {
+        steps.assign(acts);
+        next = 0;
+        timer = SetTimer(nullptr, 0, 60, step);
+    }
+    PaletteActs(const PaletteActs&) = delete;
+    PaletteActs& operator=(const PaletteActs&) = delete;
+    ~PaletteActs() { KillTimer(nullptr, timer); }
+    [[nodiscard]] static bool done() { return next == steps.size(); }
+
+    static void CALLBACK step(HWND, UINT, UINT_PTR, DWORD)
+    {
+        const HWND palette = GetActiveWindow();
+        if (palette && shownBy(palette) == u"Paleta de Cores" && next < steps.size() && nothingWaits())
+            steps[next++](palette);
+    }
+    static bool nothingWaits() { return GetQueueStatus(QS_ALLINPUT & ~QS_TIMER) == 0; }
+
+    static inline std::vector<std::function<void(HWND)>> steps;
+    static inline std::size_t next = 0;
+    static inline UINT_PTR timer = 0;
+};
+
+std::function<void(HWND)> key(WORD code)
+{
+    return [code](HWND) {
+        sendKey(code, true);
+        sendKey(code, false);
+    };
+}
+
+TEST(PageHands, AClickOnASwatchAndACancelledPaletteChangeNothing)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const Hands hands(activex::principalPage, control);
+    hands.go(u"CorValorNeg");
+    const HWND swatch = GetFocus();
+    hands.click(swatch, middleOf(swatch));
+    EXPECT_EQ(hands.shown.page->IsPageDirty(), S_FALSE);
+    Sleep(GetDoubleClickTime());
+    const PaletteActs acts{key(VK_RIGHT), key(VK_ESCAPE)};
+    hands.click(swatch, middleOf(swatch), 2);
+    EXPECT_TRUE(PaletteActs::done());
+    EXPECT_EQ(hands.shown.page->IsPageDirty(), S_FALSE);
+}
+
+// The first swatch, black, has the focus at first: below it stands grey, and red two columns to the right of that row.
+TEST(PageHands, AColourIsChosenByKeysAlone)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const Hands hands(activex::errosPage, control);
+    hands.go(u"Error_ForeColor");
+    COLORREF left = 0, line = 0;
+    const auto edgeOf = [](HWND swatch) { return pixelOf(swatch, {0, clientOf(swatch).bottom / 2}); };
+    const auto look = [&](HWND palette) {
+        line = edgeOf(GetFocus());
+        left = edgeOf(GetNextDlgTabItem(palette, GetFocus(), TRUE));
+        key(VK_RIGHT)(palette);
+    };
+    for (const WORD opener : {WORD{VK_SPACE}, WORD{VK_RETURN}}) {
+        const PaletteActs acts{key(VK_DOWN), look, key(VK_RETURN)};
+        hands.press({opener});
+        EXPECT_TRUE(PaletteActs::done()) << opener;
+        EXPECT_EQ(left, RGB(0, 0, 0)) << "no border";
+        EXPECT_EQ(line, GetSysColor(COLOR_WINDOWFRAME)) << "of grey, which has the focus";
+    }
+    EXPECT_EQ(hands.shown.page->IsPageDirty(), S_OK);
+    EXPECT_EQ(hands.shown.page->Apply(), S_OK);
+    EXPECT_EQ(Automation(control.get()).textOf(u"Error_ForeColor"), u"255");
+}
+
+TEST(PageHands, TheFontSampleStaysOnItsSurface)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    Automation(control.get()).put(u"FontSize", number(200));
+    const Hands hands(activex::fontePage, control);
+    const HWND button = hands.shown.find(L"BUTTON", u"T&este");
+    const HWND page = GetParent(button);
+    const RECT place = placeIn(button, page);
+    const RECT beside{place.right + 8, place.top, clientOf(page).right - 24, place.bottom}; // above the surface
+    const COLORREF ground = pixelOf(page, {beside.left, beside.top});
+    const auto covered = [&] {
+        return (beside.right - beside.left) * (beside.bottom - beside.top) - pixelsOf(page, ground, beside);
+    };
+    EXPECT_EQ(covered(), 0);
+    hands.click(button, {5, 5});
+    EXPECT_EQ(covered(), 0);
+}
+
+// --- looks
+
+constexpr COLORREF frameColour = RGB(10, 200, 30);
+
+LRESULT CALLBACK paintedFrame(HWND window, UINT message, WPARAM first, LPARAM second)
+{
+    if (message != WM_ERASEBKGND)
+        return DefWindowProcW(window, message, first, second);
+    RECT place{};
+    GetClipBox(reinterpret_cast<HDC>(first), &place);
+    const HBRUSH brush = CreateSolidBrush(frameColour);
+    FillRect(reinterpret_cast<HDC>(first), &place, brush);
+    DeleteObject(brush);
+    return TRUE;
+}
+
+TEST(PageLooks, ThePagesStandOnTheirFramesGround)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const Hands hands(activex::errosPage, control);
+    SetWindowLongPtrW(hands.shown.window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(paintedFrame));
+    EXPECT_EQ(hands.shown.page->Show(SW_SHOW), S_OK);
+    hands.settle();
+    const HWND box = hands.shown.find(L"BUTTON", u"&Limpar Campo em Caso de Erro");
+    const HWND page = GetParent(box);
+    EXPECT_EQ(pixelOf(page, {2, 2}), frameColour);
+    EXPECT_EQ(pixelOf(box, {clientOf(box).right - 2, 1}), frameColour);
+}
+
+TEST(PageLooks, TheTabInFrontJoinsItsPane)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const Hands hands(activex::principalPage, control);
+    const HWND strip = hands.shown.find(L"SysTabControl32", u"");
+    ASSERT_NE(strip, nullptr);
+    hands.settle();
+    const auto coloursBelow = [&](WPARAM tab) {
+        RECT caption{};
+        SendMessageW(strip, TCM_GETITEMRECT, tab, reinterpret_cast<LPARAM>(&caption));
+        const HWND page = GetParent(strip);
+        const RECT place = placeIn(strip, page);
+        std::set<COLORREF> seen; // over the border, as the page shows it
+        for (LONG y = caption.bottom - 3; y < caption.bottom + 8; ++y)
+            seen.insert(pixelOf(nullptr, [&] {
+                POINT at{place.left + caption.left + 4, place.top + y};
+                ClientToScreen(page, &at);
+                return at;
+            }()));
+        return seen.size();
+    };
+    EXPECT_EQ(coloursBelow(0), 1u);
+    EXPECT_GT(coloursBelow(1), 1u);
+}
+
+TEST(PageLooks, TheLettersStandInColumns)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> control = create();
+    const Hands hands(activex::principalPage, control);
+    hands.go(u"TextoLivre");
+    const HWND list = hands.shown.find(L"LISTBOX", u"");
+    RECT column{};
+    SendMessageW(list, LB_GETITEMRECT, 50, reinterpret_cast<LPARAM>(&column));
+    EXPECT_GT(column.left, 0);
+    EXPECT_LE(column.right, clientOf(list).right) << "seen without scrolling";
+}
+
+} // namespace
+
+} // namespace vela::test
