@@ -47,11 +47,33 @@ drive_fields() {
   cat "$out/transcript.txt"
 }
 
-drive_design() {
+# Waits for a window of this title to be up and painted.
+shown() {
+  local tries=0
+  until xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; do tries=$((tries + 1)); [ $tries -lt 60 ] || break; sleep 0.5; done
   sleep 1.5
+}
+
+# Of the main page: its tabs by clicks, the palette by a swatch, and a profile of the letters of Vela.
+drive_main_page() {
+  picture page-1
+  click_at 252 347; keys space; shown 'Paleta de Cores'; keys Down Right; sleep 0.2; picture palette; keys Escape; sleep 0.5
+  click_at 172 144; picture page-1-dates
+  click_at 227 144; picture page-1-mask
+  click_at 282 144
+  click_at 112 220; keys alt+p # typing is not free
+  local digit
+  for digit in 0 1 2 3 4 5 6 7 8 9; do keys "$digit" space; done
+  click_at 155 384; shown 'Vela - By Aldren'; write 'Digitos'; keys Return; sleep 0.5
+  keys alt+m Down; sleep 0.3
+  picture page-1-typing
+}
+
+drive_design() {
+  shown 'Propriedades de'
   local page=1
-  picture "page-$page"
+  drive_main_page
   while [ $page -lt 5 ]; do
-    page=$((page + 1)); keys ctrl+Tab; sleep 0.5; picture "page-$page"
+    page=$((page + 1)); keys ctrl+Tab; sleep 1; picture "page-$page"
   done
 }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 namespace vela::demo {
 
@@ -308,6 +309,10 @@ LRESULT PropertyFrame::handle(UINT message, WPARAM wParam, LPARAM lParam)
         select(static_cast<std::size_t>(SendMessageW(tabs_, TCM_GETCURSEL, 0, 0)));
         return 0;
     }
+    if (message == WM_PRINTCLIENT) {
+        printTabs(reinterpret_cast<HDC>(wParam), lParam);
+        return 0;
+    }
     if (message == WM_CLOSE) {
         if (owner_)
             EnableWindow(owner_, TRUE);
@@ -315,6 +320,22 @@ LRESULT PropertyFrame::handle(UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     }
     return DefWindowProcW(window_, message, wParam, lParam);
+}
+
+// What lies under a page, for those that ask: the body of the tabs. The tabs themselves ask too, while they are
+// printed.
+void PropertyFrame::printTabs(HDC dc, LPARAM parts)
+{
+    if (std::exchange(printing_, true))
+        return;
+    RECT place{};
+    GetWindowRect(tabs_, &place);
+    MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&place), 2);
+    POINT origin{};
+    OffsetViewportOrgEx(dc, place.left, place.top, &origin);
+    SendMessageW(tabs_, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), parts);
+    SetViewportOrgEx(dc, origin.x, origin.y, nullptr);
+    printing_ = false;
 }
 
 bool PropertyFrame::translated(MSG& message)

@@ -43,6 +43,7 @@ private:
     HWND makeButton(const wchar_t* text, int id, int fromRight, bool isDefault);
     [[nodiscard]] RECT pagePlace() const;
     [[nodiscard]] bool translated(MSG& message);
+    void printTabs(HDC dc, LPARAM parts);
     [[nodiscard]] int scaled(int pixels) const noexcept { return MulDiv(pixels, dpi_, 96); }
 
     HINSTANCE instance_;
@@ -55,6 +56,7 @@ private:
     std::vector<std::unique_ptr<PageSlot>> pages_;
     std::size_t current_ = 0;
     bool canApply_ = false;
+    bool printing_ = false;
 };
 
 } // namespace vela::demo
