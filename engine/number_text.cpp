@@ -11,7 +11,7 @@ namespace vela::engine {
 namespace {
 
 constexpr int significantDigits = 15;
-constexpr int smallestPlainPoint = -3; // 0.0001 is the smallest power of ten written without an exponent
+constexpr int mostPlainDecimals = 15;
 constexpr int mostDecimals = 255;
 
 void putScientific(const Decimal& decimal, const Locale& locale, TextWriter& writer)
@@ -101,7 +101,7 @@ void putNumber(double number, const Locale& locale, TextWriter& writer)
     if (decimal.negative) {
         writer.put(locale.negativeSign);
     }
-    const bool plain = decimal.point >= smallestPlainPoint && decimal.point <= significantDigits;
+    const bool plain = decimal.point <= significantDigits && decimal.count - decimal.point <= mostPlainDecimals;
     plain ? putPlain(decimal, locale, writer) : putScientific(decimal, locale, writer);
 }
 
