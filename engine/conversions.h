@@ -19,9 +19,10 @@ namespace vela::engine {
 // Rounds half to even on the decimal text: "1,00005" -> 1.0000.
 [[nodiscard]] Currency toCurrency(std::u16string_view text, const Locale& locale);
 // The locale-independent leading number: "." is the point, blanks are skipped, 0 when there is none. " 12.5abc" -> 12.5
-// Raises 6 for a number beyond a double.
+// "&HFF" and "&O17" are hexadecimal and octal. Raises 6 for a number beyond a double, or beyond 32 bits behind "&".
 [[nodiscard]] double leadingNumber(std::u16string_view text);
-// At most 15 significant digits, no grouping, the locale's decimal symbol: 1234.5 -> "1234,5" in pt-BR.
+// At most 15 significant digits, no grouping, the locale's decimal symbol: 1234.5 -> "1234,5" in pt-BR. An exponent
+// only where 15 whole digits or 15 decimals would not do: 1/12 -> "8,33333333333333E-02".
 [[nodiscard]] std::u16string numberToText(double number, const Locale& locale);
 
 // `today` supplies the year of a date text without one.

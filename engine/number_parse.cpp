@@ -73,6 +73,9 @@ public:
 
     [[nodiscard]] double read()
     {
+        if (peek() == u'&') {
+            return readRadix();
+        }
         const bool negative = takeSign();
         for (bool fraction = false;; ++at_) {
             const char16_t unit = peek();
@@ -109,6 +112,24 @@ private:
         const char16_t unit = peek();
         at_ += unit == u'-' || unit == u'+' ? 1 : 0;
         return unit == u'-';
+    }
+    // "&HFFFF" is -1, as 16 bits; "&HFFFF&" is 65535, as 32 bits, and so is what 16 bits do not hold.
+    [[nodiscard]] double readRadix()
+    {
+        ++at_;
+        const int bits = radixBits(peek());
+        if (bits == 0) {
+            return 0;
+        }
+        ++at_;
+        RadixCollector digits(bits);
+        while (digits.add(peek())) {
+            ++at_;
+        }
+        if (digits.overflows()) {
+            raise(error_number::overflow);
+        }
+        return digits.fitsShort() && peek() != u'&' ? digits.toShort() : digits.toLong();
     }
     // A letter without digits is no exponent: "1e" -> 1.
     void readExponent() noexcept

@@ -19,11 +19,29 @@ int hexadecimalDigit(char16_t unit) noexcept
     if (isDigit(unit)) {
         return unit - u'0';
     }
-    const char16_t lower = unit | 0x20;
+    const char16_t lower = lowerLetter(unit);
     return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
 }
 
 } // namespace
+
+bool RadixCollector::add(char16_t unit) noexcept
+{
+    const int digit = hexadecimalDigit(unit);
+    if (digit < 0 || digit >= 1 << bitsADigit_) {
+        return false;
+    }
+    if (!overflows()) {
+        value_ = (value_ << bitsADigit_) + static_cast<std::uint64_t>(digit);
+    }
+    return true;
+}
+
+int radixBits(char16_t letter) noexcept
+{
+    const char16_t lower = lowerLetter(letter);
+    return lower == u'h' ? 4 : lower == u'o' ? 3 : 0;
+}
 
 void DigitCollector::add(char16_t digit, int dropped) noexcept
 {
@@ -127,14 +145,14 @@ bool NumberScanner::scan() noexcept
     }
     while (takeTrailing()) {
     }
-    return at_ == text_.size() && (!parenthesis_ || negative_);
+    return at_ == text_.size() && opened_ == closed_;
 }
 
 ScanVerdict NumberScanner::toDouble(double& value) const noexcept
 {
     if (radix_) {
-        value = static_cast<double>(radixValue_);
-        return radixOverflow_ ? ScanVerdict::overflow : ScanVerdict::number;
+        value = radixDigits_.toLong();
+        return radixDigits_.overflows() ? ScanVerdict::overflow : ScanVerdict::number;
     }
     const auto result = digits_.toDouble(negative_);
     value = result.value_or(0.0);
@@ -144,8 +162,8 @@ ScanVerdict NumberScanner::toDouble(double& value) const noexcept
 ScanVerdict NumberScanner::toTenThousandths(std::int64_t& value) const noexcept
 {
     if (radix_) {
-        value = static_cast<std::int64_t>(radixValue_ * 10000);
-        return radixOverflow_ ? ScanVerdict::overflow : ScanVerdict::number;
+        value = std::int64_t{radixDigits_.toLong()} * 10000;
+        return radixDigits_.overflows() ? ScanVerdict::overflow : ScanVerdict::number;
     }
     const auto result = digits_.toTenThousandths(negative_);
     value = result.value_or(0);
@@ -170,33 +188,36 @@ bool NumberScanner::takeBlanks() noexcept
     return at_ > start;
 }
 
+// One sign a text, in front or behind.
+bool NumberScanner::takeSign() noexcept
+{
+    if (signed_) {
+        return false;
+    }
+    if (take(locale_.negativeSign)) {
+        return signed_ = negative_ = true;
+    }
+    return signed_ = take(u"+");
+}
+
 bool NumberScanner::takeLeading() noexcept
 {
-    if (takeBlanks()) {
+    if (takeBlanks() || takeSign()) {
         return true;
     }
-    if (!leadingPlus_ && take(u"+")) {
-        return leadingPlus_ = true;
+    if (!opened_ && take(u"(")) {
+        return opened_ = true;
     }
-    if (!leadingMinus_ && take(locale_.negativeSign)) {
-        return leadingMinus_ = negative_ = true;
-    }
-    if (!parenthesis_ && take(u"(")) {
-        return parenthesis_ = true;
-    }
-    if (!currency_ && take(locale_.currencySymbol)) {
-        return currency_ = true;
-    }
-    return false;
+    return !currency_ && take(locale_.currencySymbol) && (currency_ = true);
 }
 
 bool NumberScanner::takeTrailing() noexcept
 {
-    if (takeBlanks() || (!leadingPlus_ && take(u"+")) || (!radix_ && take(locale_.grouping))) {
+    if (takeBlanks() || takeSign() || (!radix_ && take(locale_.grouping))) {
         return true;
     }
-    if ((!leadingMinus_ && take(locale_.negativeSign)) || (parenthesis_ && take(u")"))) {
-        return negative_ = true;
+    if (opened_ && !closed_ && take(u")")) {
+        return closed_ = negative_ = true;
     }
     return take(locale_.currencySymbol);
 }
@@ -204,36 +225,27 @@ bool NumberScanner::takeTrailing() noexcept
 // "&H" and "&O": true when one stands here, `radix_` when digits of it follow.
 bool NumberScanner::takeRadix() noexcept
 {
-    if (at_ + 1 >= text_.size() || text_[at_] != u'&') {
+    if (at_ + 1 >= text_.size() || text_[at_] != u'&' || radixBits(text_[at_ + 1]) == 0) {
         return false;
     }
-    const char16_t letter = text_[at_ + 1] | 0x20;
-    if (letter != u'h' && letter != u'o') {
-        return false;
-    }
+    radixDigits_ = RadixCollector(radixBits(text_[at_ + 1]));
     at_ += 2;
-    radix_ = scanRadixDigits(letter == u'h' ? 4 : 3);
+    radix_ = scanRadixDigits();
     return true;
 }
 
-bool NumberScanner::scanRadixDigits(int bitsADigit) noexcept
+bool NumberScanner::scanRadixDigits() noexcept
 {
-    constexpr std::uint64_t most = std::numeric_limits<std::int32_t>::max();
     const std::size_t start = at_;
-    for (; at_ < text_.size(); ++at_) {
-        const int digit = hexadecimalDigit(text_[at_]);
-        if (digit < 0 || digit >= 1 << bitsADigit) {
-            break;
-        }
-        radixValue_ = radixOverflow_ ? 0 : (radixValue_ << bitsADigit) + static_cast<std::uint64_t>(digit);
-        radixOverflow_ = radixOverflow_ || radixValue_ > most;
+    while (at_ < text_.size() && radixDigits_.add(text_[at_])) {
+        ++at_;
     }
     return at_ > start;
 }
 
 bool NumberScanner::scanDecimalDigits() noexcept
 {
-    bool anyDigit = false, fraction = false, exponent = false;
+    bool anyDigit = false, fraction = false;
     while (at_ < text_.size()) {
         const char16_t unit = text_[at_];
         if (isDigit(unit)) {
@@ -242,14 +254,11 @@ bool NumberScanner::scanDecimalDigits() noexcept
             ++at_;
         } else if ((anyDigit || fraction) && take(locale_.grouping)) {
             continue;
-        } else if (!fraction && !exponent && take(locale_.decimal)) {
+        } else if (!fraction && take(locale_.decimal)) {
             fraction = true;
-        } else if (anyDigit && !exponent && isExponentLetter(unit)) {
-            exponent = true;
+        } else if (anyDigit && isExponentLetter(unit)) {
             ++at_;
-            if (!scanExponent()) {
-                return false;
-            }
+            return scanExponent();
         } else {
             break;
         }
@@ -257,16 +266,12 @@ bool NumberScanner::scanDecimalDigits() noexcept
     return anyDigit;
 }
 
-// Signs and grouping symbols may stand anywhere between the letter and its digits.
+// A sign and digits, nothing between them: "e-3". The number ends with them.
 bool NumberScanner::scanExponent() noexcept
 {
-    bool negative = false;
-    for (;;) {
-        if (take(locale_.negativeSign)) {
-            negative = true;
-        } else if (!take(u"+") && !take(locale_.grouping)) {
-            break;
-        }
+    const bool negative = take(locale_.negativeSign);
+    if (!negative) {
+        static_cast<void>(take(u"+"));
     }
     const std::size_t start = at_;
     std::int64_t exponent = 0;

@@ -41,10 +41,30 @@ private:
     std::int64_t exponent_ = 0;
 };
 
+// The digits of "&H" and "&O" as they come; leading zeros do not count. 32 bits hold a negative number as well:
+// FFFFFFFF is -1.
+class RadixCollector {
+public:
+    explicit RadixCollector(int bitsADigit = 4) noexcept : bitsADigit_(bitsADigit) {}
+    // False for what is no digit of the radix.
+    [[nodiscard]] bool add(char16_t unit) noexcept;
+    [[nodiscard]] bool overflows() const noexcept { return value_ > UINT32_MAX; }
+    [[nodiscard]] bool fitsShort() const noexcept { return value_ <= UINT16_MAX; }
+    [[nodiscard]] std::int16_t toShort() const noexcept { return static_cast<std::int16_t>(value_); }
+    [[nodiscard]] std::int32_t toLong() const noexcept { return static_cast<std::int32_t>(value_); }
+
+private:
+    int bitsADigit_;
+    std::uint64_t value_ = 0; // stays beyond 32 bits once it is
+};
+
+// How many bits a digit has behind "&": 4 for an h, 3 for an o, 0 for what begins no such number.
+[[nodiscard]] int radixBits(char16_t letter) noexcept;
+
 enum class ScanVerdict { number, notNumber, overflow };
 
-// The value of a text that is a number as a whole: blanks, signs and the currency symbol before and behind, parentheses
-// for negatives, grouping symbols anywhere behind the first digit, exponents with e or d, "&H" and "&O".
+// The value of a text that is a number as a whole: blanks, one sign and the currency symbol before or behind,
+// parentheses for negatives, grouping symbols anywhere behind the first digit, exponents with e or d, "&H" and "&O".
 class NumberScanner {
 public:
     NumberScanner(std::u16string_view text, const Locale& locale) noexcept;
@@ -59,7 +79,7 @@ private:
     [[nodiscard]] bool takeLeading() noexcept;
     [[nodiscard]] bool takeTrailing() noexcept;
     [[nodiscard]] bool takeRadix() noexcept;
-    [[nodiscard]] bool scanRadixDigits(int bitsADigit) noexcept;
+    [[nodiscard]] bool scanRadixDigits() noexcept;
     [[nodiscard]] bool scanDecimalDigits() noexcept;
     [[nodiscard]] bool scanExponent() noexcept;
 
@@ -67,11 +87,12 @@ private:
     const Locale& locale_;
     std::size_t at_ = 0;
     DigitCollector digits_;
-    bool leadingPlus_ = false, leadingMinus_ = false, parenthesis_ = false, currency_ = false;
+    [[nodiscard]] bool takeSign() noexcept;
+
+    bool signed_ = false, opened_ = false, closed_ = false, currency_ = false;
     bool negative_ = false;
     bool radix_ = false;
-    bool radixOverflow_ = false;
-    std::uint64_t radixValue_ = 0;
+    RadixCollector radixDigits_;
 };
 
 } // namespace vela::engine

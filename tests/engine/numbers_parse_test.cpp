@@ -29,8 +29,10 @@ TEST(Numbers, AreRead)
         {u"1.", 1},
         {u"  -12,5  ", -12.5},
         {u"- 5", -5},
-        {u"+-5", -5},
         {u"-(5)", -5},
+        {u"(5)-", -5},
+        {u"5+", 5},
+        {u"( R$ 5 )", -5},
         {u"R$ 1.234,50", 1234.5},
         {u"R$ 5 R$ -", -5},
         {u",.5", 0.5},
@@ -40,6 +42,10 @@ TEST(Numbers, AreRead)
         {u"1,e5", 100000},
         {u"1,5e3-", -1500},
         {u"&HFF", 255},
+        {u"&HFFFF", 65535},
+        {u"&HFFFFFFFF", -1},
+        {u"&h0080000000", -2147483648.0},
+        {u"&O37777777777", -1},
         {u"12\0x"sv, 12},
     };
     for (const Read& row : rows) {
@@ -53,16 +59,18 @@ TEST(Numbers, AreRead)
 TEST(Numbers, AreRefused)
 {
     for (const std::u16string_view text :
-         {u""sv,       u" "sv,   u"abc"sv,  u"-"sv,   u","sv,    u"."sv,  u".5"sv,     u"1 2"sv,
-          u"12,3,4"sv, u"10%"sv, u"$5"sv,   u"R 5"sv, u"1e"sv,   u"e5"sv, u"1e5e5"sv,  u"1e5,"sv,
-          u"+5+"sv,    u"-5-"sv, u"(5"sv,   u"5)"sv,  u"()"sv,   u"&H"sv, u"&HG"sv,    u"&O8"sv,
-          u"٣"sv,      u"５"sv,  u"12/5"sv, u"R$"sv,  u"True"sv, u"\0"sv, u"\xD800"sv, u"1\xDC00"sv}) {
+         {u""sv,       u" "sv,     u"abc"sv,   u"-"sv,    u","sv,      u"."sv,      u".5"sv,    u"1 2"sv,
+          u"12,3,4"sv, u"10%"sv,   u"$5"sv,    u"R 5"sv,  u"1e"sv,     u"e5"sv,     u"1e5e5"sv, u"1e5,"sv,
+          u"+5+"sv,    u"-5-"sv,   u"(5"sv,    u"5)"sv,   u"()"sv,     u"&H"sv,     u"&HG"sv,   u"&O8"sv,
+          u"+-5"sv,    u"--5"sv,   u"5--"sv,   u"5+-"sv,  u"-5+"sv,    u"(-5"sv,    u"(5-"sv,   u"((5)"sv,
+          u"(5))"sv,   u"((5))"sv, u"1e1.5"sv, u"1e.5"sv, u"1e--3"sv,  u"1e+-3"sv,  u"٣"sv,     u"５"sv,
+          u"12/5"sv,   u"R$"sv,    u"True"sv,  u"\0"sv,   u"\xD800"sv, u"1\xDC00"sv}) {
         SCOPED_TRACE(std::string(text.begin(), text.end()));
         EXPECT_FALSE(isNumeric(text, ptBr()));
         EXPECT_EQ(errorOf([&] { return toDouble(text, ptBr()); }), error_number::typeMismatch);
         EXPECT_EQ(errorOf([&] { return toCurrency(text, ptBr()); }), error_number::typeMismatch);
     }
-    for (const std::u16string_view text : {u"1e309"sv, u"-1e99999999999999999999"sv, u"&HFFFFFFFF"sv}) {
+    for (const std::u16string_view text : {u"1e309"sv, u"-1e99999999999999999999"sv, u"&H100000000"sv}) {
         EXPECT_FALSE(isNumeric(text, ptBr()));
         EXPECT_EQ(errorOf([&] { return toDouble(text, ptBr()); }), error_number::overflow);
     }
@@ -112,6 +120,7 @@ TEST(Currency, RoundsHalfToEvenOnTheText)
         {u"-1,00015", -10002},
         {u"0,000009", 0},
         {u"&H10", 160000},
+        {u"&HFFFFFFFE", -20000},
         {u"922337203685477,5807", 9223372036854775807},
         {u"-922337203685477,5808", -9223372036854775807 - 1},
     };
@@ -128,16 +137,48 @@ TEST(Currency, RoundsHalfToEvenOnTheText)
 TEST(LeadingNumber, StopsWhereTheNumberDoes)
 {
     const Read rows[] = {
-        {u"", 0},        {u" 12.5abc", 12.5}, {u"1 234", 1234}, {u"12,5", 12},   {u"1.5.2", 1.5},
-        {u"-0012", -12}, {u"- 5", -5},        {u"--5", 0},      {u"+5", 5},      {u".5", 0.5},
-        {u"abc1", 0},    {u"1e3x", 1000},     {u"1d2", 100},    {u"1e", 1},      {u"1e+", 1},
-        {u"\t1\n2", 12}, {u"\r1", 0},         {u"R$ 5", 0},     {u"1 e 2", 100}, {u"5-", 5},
+        {u"", 0},
+        {u" 12.5abc", 12.5},
+        {u"1 234", 1234},
+        {u"12,5", 12},
+        {u"1.5.2", 1.5},
+        {u"-0012", -12},
+        {u"- 5", -5},
+        {u"--5", 0},
+        {u"+5", 5},
+        {u".5", 0.5},
+        {u"abc1", 0},
+        {u"1e3x", 1000},
+        {u"1d2", 100},
+        {u"1e", 1},
+        {u"1e+", 1},
+        {u"\t1\n2", 12},
+        {u"\r1", 0},
+        {u"R$ 5", 0},
+        {u"1 e 2", 100},
+        {u"5-", 5},
+        {u"&HFF", 255},
+        {u"&HFFFF", -1},
+        {u"&HFFFF&", 65535},
+        {u"&h 1 0000", 65536},
+        {u"&O17", 15},
+        {u"& H F F", 255},
+        {u"&O177777", -1},
+        {u"&O177777&", 65535},
+        {u"&HFFFFFFFF", -1},
+        {u"&H8000x", -32768},
+        {u"&H", 0},
+        {u"&17", 0},
+        {u"&O8", 0},
+        {u"-&HFF", 0},
+        {u"&H00000FFFF", -1},
     };
     for (const Read& row : rows) {
         SCOPED_TRACE(std::string(row.text.begin(), row.text.end()));
         EXPECT_EQ(leadingNumber(row.text), row.value);
     }
     EXPECT_EQ(errorOf([] { return leadingNumber(u"1e400"); }), error_number::overflow);
+    EXPECT_EQ(errorOf([] { return leadingNumber(u"&H100000000"); }), error_number::overflow);
 }
 
 TEST(Values, BecomeWhatAPropertyWants)
