@@ -25,7 +25,6 @@ enum class Mark : std::uint8_t {
     generalDate,
     shortDate,
     longDate,
-    mediumDate,
     longTime,
     quarter,
     day, // as the four that follow: by the number of letters
@@ -61,7 +60,7 @@ struct Token {
     bool smallLetter = false; // exponent: "e"
     bool plusSign = false;    // exponent: "E+"
     std::uint32_t start = 0;  // literal: where it stands in the pattern
-    std::uint32_t length = 0; // literal: its units; digits, "@" and "&": the run; exponent: its zeros
+    std::uint32_t length = 0; // literal: its units; digits, "@" and "&": the run; exponent: its "0"s
 };
 
 struct Section {

@@ -5,8 +5,6 @@
 namespace vela::engine {
 namespace {
 
-constexpr std::u16string_view mediumDate = u"dd-mmm-yy";
-
 // The week that holds 1 January is the first; weeks begin on Sunday.
 int weekOfYear(CivilDate date) noexcept
 {
@@ -45,7 +43,6 @@ private:
         case Mark::generalDate: return putDate(moment_, locale_, writer_);
         case Mark::shortDate: return putPicture(moment_, locale_.shortDate, locale_, writer_);
         case Mark::longDate: return putPicture(moment_, locale_.longDate, locale_, writer_);
-        case Mark::mediumDate: return putPicture(moment_, mediumDate, locale_, writer_);
         case Mark::longTime: return putPicture(moment_, locale_.longTime, locale_, writer_);
         default: return writer_.number((moment_.date.month + 2) / 3, 1); // quarter
         }

@@ -14,7 +14,6 @@ struct NamedFormat {
     NamedNumber number = NamedNumber::none;
 };
 
-constexpr std::u16string_view mediumDatePattern = u"ddddddd";
 constexpr std::array<NamedFormat, 16> namedFormats{{
     {u"currency", u"#,##0.00", NamedNumber::currency},
     {u"fixed", u"0.00"},
@@ -22,7 +21,7 @@ constexpr std::array<NamedFormat, 16> namedFormats{{
     {u"general number", u"", NamedNumber::general},
     {u"long date", u"dddddd"},
     {u"long time", u"ttttt"},
-    {u"medium date", mediumDatePattern},
+    {u"medium date", u"dd-mmm-yy"},
     {u"medium time", u"hh:nn AMPM"},
     {u"on/off", u"0", NamedNumber::onOff},
     {u"percent", u"0.00%"},
@@ -222,8 +221,18 @@ private:
         pattern_.tokens.push_back({.mark = Mark::exponent,
                                    .smallLetter = letter == u'e',
                                    .plusSign = sign == u'+',
-                                   .length = takeRun(u'0', UINT32_MAX)});
+                                   .length = takeExponentPlaces()});
         return true;
+    }
+
+    // How many "0" there are: "E+0##" has one place that is always written.
+    [[nodiscard]] std::uint32_t takeExponentPlaces() noexcept
+    {
+        std::uint32_t zeros = 0;
+        for (; peek() == u'0' || peek() == u'#'; ++at_) {
+            zeros += peek() == u'0' ? 1 : 0;
+        }
+        return zeros;
     }
 
     [[nodiscard]] bool takeDateMark()
@@ -298,8 +307,8 @@ private:
 
     [[nodiscard]] bool takeDay()
     {
-        static constexpr std::array marks{Mark::day,       Mark::dayZero,  Mark::dayShort,  Mark::dayLong,
-                                          Mark::shortDate, Mark::longDate, Mark::mediumDate};
+        static constexpr std::array marks{Mark::day,     Mark::dayZero,   Mark::dayShort,
+                                          Mark::dayLong, Mark::shortDate, Mark::longDate};
         add(marks[takeRun(u'd', marks.size()) - 1]);
         return true;
     }
