@@ -128,8 +128,10 @@ Date dateOf(const std::u16string& text, const FieldSettings& settings)
     if (const auto date = tryParseDate(text, settings.locale, settings.today))
         return *date;
     const auto number = tryParseDouble(text, settings.locale);
-    if (!number || !civilDate(Date{*number}))
+    if (!number)
         raise(error_number::typeMismatch);
+    if (!civilDate(Date{*number}))
+        raise(error_number::overflow);
     return Date{*number};
 }
 

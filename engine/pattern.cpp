@@ -29,14 +29,13 @@ void requireSections(const Compiled& pattern)
     }
 }
 
-// A serial outside the calendar stays a number.
-void putSerial(const Compiled& pattern, double serial, const Locale& locale, TextWriter& writer)
+Moment requireMoment(Date date)
 {
-    if (const auto moment = momentOf({serial})) {
-        putDatePattern(pattern, *moment, locale, writer);
-    } else {
-        putNumber(serial, locale, writer);
+    const auto moment = momentOf(date);
+    if (!moment) {
+        raise(error_number::overflow);
     }
+    return *moment;
 }
 
 void putValue(const Compiled& pattern, double number, const Locale& locale, TextWriter& writer)
@@ -45,24 +44,21 @@ void putValue(const Compiled& pattern, double number, const Locale& locale, Text
     case PatternKind::general: return putNumber(number, locale, writer);
     case PatternKind::unknown:
     case PatternKind::number: return putWithMarks(pattern, number, locale, writer);
-    case PatternKind::date: return putSerial(pattern, number, locale, writer);
+    case PatternKind::date: return putDatePattern(pattern, requireMoment({number}), locale, writer);
     case PatternKind::text: return putTextPattern(pattern, numberToText(number, locale), writer);
     }
 }
 
 void putValue(const Compiled& pattern, Date date, const Locale& locale, TextWriter& writer)
 {
-    const auto moment = momentOf(date);
-    if (!moment) {
-        raise(error_number::overflow);
-    }
+    const Moment moment = requireMoment(date);
     switch (pattern.kind) {
     case PatternKind::general:
         return pattern.named == NamedNumber::general ? putNumber(date.serial, locale, writer)
-                                                     : putDate(*moment, locale, writer);
+                                                     : putDate(moment, locale, writer);
     case PatternKind::number: return putWithMarks(pattern, date.serial, locale, writer);
     case PatternKind::unknown:
-    case PatternKind::date: return putDatePattern(pattern, *moment, locale, writer);
+    case PatternKind::date: return putDatePattern(pattern, moment, locale, writer);
     case PatternKind::text: return putTextPattern(pattern, dateToText(date, locale), writer);
     }
 }
@@ -75,10 +71,7 @@ std::optional<double> readText(PatternKind kind, std::u16string_view text, const
         return number;
     }
     const auto date = tryParseDate(text, locale, today);
-    if (date) {
-        return date->serial;
-    }
-    return number && momentOf({*number}) ? number : std::nullopt;
+    return date ? date->serial : number;
 }
 
 void putValue(const Compiled& pattern, std::u16string_view text, const Locale& locale, Date today, TextWriter& writer)
@@ -97,7 +90,7 @@ void putEmpty(const Compiled& pattern, const Locale& locale, TextWriter& writer)
     case PatternKind::general: return;
     case PatternKind::unknown:
     case PatternKind::number: return putNumberPattern(pattern, Decimal{}, NumberCase::none, locale, writer);
-    case PatternKind::date: return putSerial(pattern, 0.0, locale, writer);
+    case PatternKind::date: return putValue(pattern, 0.0, locale, writer);
     case PatternKind::text: return putTextPattern(pattern, {}, writer);
     }
 }

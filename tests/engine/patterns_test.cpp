@@ -2,6 +2,7 @@
 #include "engine/calendar_date.h"
 #include "engine/error.h"
 #include "engine/pattern.h"
+#include "tests/engine/error_of.h"
 
 #include <gtest/gtest.h>
 
@@ -95,9 +96,15 @@ TEST(NumberPatterns, OfTheLiveAmount)
 TEST(NumberPatterns, Exponents)
 {
     const NumberRow rows[] = {
-        {1.7, u"0.0000E-000", u"1,7000E000"}, {0.0001e-11, u"##00.0000e-0", u"1000,0000e-18"},
-        {47.11, u".0000E+0", u",4711E+2"},    {3.0401e-13, u"#####.####e-0%", u"30401,e-15%"},
-        {0, u"00.00E+00", u"00,00E+00"},      {5, u"0e", u"5e"},
+        {1.7, u"0.0000E-000", u"1,7000E000"},
+        {0.0001e-11, u"##00.0000e-0", u"1000,0000e-18"},
+        {47.11, u".0000E+0", u",4711E+2"},
+        {3.0401e-13, u"#####.####e-0%", u"30401,e-15%"},
+        {0, u"00.00E+00", u"00,00E+00"},
+        {5, u"0e", u"5e"},
+        {29.565331, u"0.#####E-#", u"2,95653E1"},
+        {1e-7, u"0E-#00", u"1E-07"},
+        {1e100, u"0e+##", u"1e+100"},
     };
     expectFormatted(rows);
 }
@@ -128,9 +135,14 @@ TEST(NamedFormats, OfNumbers)
         {12345, u"Scientific", u"1,23E+04"},     {1234.5, u"Currency", u"R$ 1.234,50"},
         {-1234.5, u"Currency", u"-R$ 1.234,50"}, {1, u"Yes/No", u"Sim"},
         {-1, u"True/False", u"Verdadeiro"},      {0, u"On/Off", u"Desligado"},
-        {45323.5, u"Short Date", u"01/02/2024"}, {1e10, u"Short Date", u"10000000000"},
+        {45323.5, u"Short Date", u"01/02/2024"},
     };
     expectFormatted(rows);
+    for (const double serial : {-657435.0, 2958466.0, 1e300}) {
+        EXPECT_EQ(errorOf([&] { return format(serial, u"dd/mm/yyyy", ptBr(), today); }), error_number::overflow);
+        EXPECT_EQ(errorOf([&] { return format(serial, u"Short Date", ptBr(), today); }), error_number::overflow);
+    }
+    EXPECT_EQ(errorOf([] { return format(u"1e10"s, u"dd/mm/yyyy", ptBr(), today); }), error_number::overflow);
     EXPECT_EQ(format(-1234.5, u"Currency", enUs(), today), u"($1,234.50)");
     EXPECT_EQ(format(true, u"Yes/No", enUs(), today), u"Yes");
 }
@@ -149,6 +161,7 @@ TEST(DatePatterns, Letters)
         {u"ddddd ttttt", u"01/02/2024 14:05:33"},
         {u"dddd, d mmmm yyyy", u"quinta-feira, 1 fevereiro 2024"},
         {u"dddddd", u"quinta-feira, 1 de fevereiro de 2024"},
+        {u"ddddddd", u"quinta-feira, 1 de fevereiro de 20241"},
         {u"w ww q y", u"5 5 1 32"},
         {u"yyy", u"2432"},
         {u"mmmmm", u"fevereiro2"},
@@ -193,7 +206,6 @@ TEST(Patterns, OfTexts)
         {u"45323", u"dd/mm/yyyy", u"01/02/2024"},
         {u"31.12.2024", u"dd.MM.yyyy", u"31.12.2024"},
         {u"01/02/2024", u"0", u"45323"},
-        {u"1e10", u"dd/mm/yyyy", u"1e10"},
         {u"51999887766", u"(@@) @@@@@-@@@@", u"(51) 99988-7766"},
         {u"abc", u"@@@@@", u"  abc"},
         {u"abc", u"!@@@@@", u"abc  "},
