@@ -1,5 +1,7 @@
 // Texts to dates: which numbers of a text are its time, and which its day, month and year.
+#include "engine/characters.h"
 #include "engine/conversions.h"
+#include "engine/date_form.h"
 #include "engine/date_scanner.h"
 #include "engine/error.h"
 
@@ -190,43 +192,69 @@ constexpr bool isTime(RawTime time) noexcept
     return time.hour <= 23 && time.minute <= 59 && time.second <= 59;
 }
 
-// "31.12.2024" -> a date as with "/"; "01.02.03" stays a time.
-bool isPointedDate(const DateFields& fields) noexcept
+// Points between the three numbers of a date are as good as "/" where no time can be meant: "31.12.2024 14:05". Where
+// the month stands first, a date with points has no time behind it.
+bool isPointedDate(const DateFields& fields, std::size_t first, const Locale& locale) noexcept
 {
-    const auto& field = fields.field;
-    return fields.count == 3 && !fields.hasHalf() && field[0].point && field[1].point && !field[2].timeSeparator &&
-           !field[0].month && !field[1].month && !field[2].month &&
-           !isTime({field[0].value, field[1].value, field[2].value});
+    const std::span three(fields.field.data() + first, 3);
+    const bool pointed = three[0].point && three[1].point && !three[2].timeSeparator && !three[0].hasHalf() &&
+                         !three[1].hasHalf() && !three[0].month && !three[1].month && !three[2].month;
+    const bool behindTime = first > 0 && fields.field[first - 1].timeSeparator;
+    return pointed && !behindTime && (fields.count == 3 || locale.dateOrder == DateOrder::dayMonthYear) &&
+           !isTime({three[0].value, three[1].value, three[2].value});
+}
+
+void separatePointedDate(DateFields& fields, const Locale& locale) noexcept
+{
+    for (std::size_t first = 0; first + 3 <= fields.count; ++first) {
+        if (isPointedDate(fields, first, locale)) {
+            fields.field[first].timeSeparator = fields.field[first + 1].timeSeparator = false;
+            return;
+        }
+    }
+}
+
+// "0.0" is the number.
+bool isPointedZero(const DateFields& fields) noexcept
+{
+    return fields.count == 2 && !fields.hasHalf() && fields.field[0].point && fields.field[0].value == 0 &&
+           fields.field[1].value == 0;
 }
 
 bool divideFields(const DateFields& fields, Division& division) noexcept
 {
-    if (fields.count == 0 || (fields.count == 1 && !fields.hasHalf())) {
+    if (fields.count == 0 || (fields.count == 1 && !fields.hasHalf()) || isPointedZero(fields)) {
         return false;
-    }
-    if (isPointedDate(fields)) {
-        division.dateFields = 3;
-        return true;
     }
     return divide(fields, division);
 }
 
-DateVerdict readDate(std::u16string_view text, const Locale& locale, Date today, Date& result) noexcept
+DateVerdict completed(RawDate raw, TimeOfDay time, const Locale& locale, Date& result) noexcept
+{
+    const CivilDate date{static_cast<int>(fullYear(raw.year, locale)), static_cast<int>(raw.month),
+                         static_cast<int>(raw.day)};
+    if (!isValid(date)) {
+        return DateVerdict::outOfRange;
+    }
+    result = makeDate(date, time);
+    return DateVerdict::date;
+}
+
+DateVerdict readFields(std::u16string_view text, const Locale& locale, Date today, Date& result) noexcept
 {
     DateFields fields;
     Division division;
-    if (!scanDateFields(text, locale, fields) || !divideFields(fields, division)) {
+    if (!scanDateFields(text, locale, fields)) {
+        return DateVerdict::notDate;
+    }
+    separatePointedDate(fields, locale);
+    if (!divideFields(fields, division)) {
         return DateVerdict::notDate;
     }
     RawDate raw;
     const std::span dateFields(fields.field.data() + division.firstOfDate, division.dateFields);
     if (division.dateFields > 3 || !dateOf(dateFields, locale, today, raw) || !isTime(division.time)) {
         return DateVerdict::notDate;
-    }
-    const CivilDate date{static_cast<int>(fullYear(raw.year, locale)), static_cast<int>(raw.month),
-                         static_cast<int>(raw.day)};
-    if (!isValid(date)) {
-        return DateVerdict::outOfRange;
     }
     TimeOfDay time{static_cast<int>(division.time.hour), static_cast<int>(division.time.minute),
                    static_cast<int>(division.time.second)};
@@ -235,8 +263,29 @@ DateVerdict readDate(std::u16string_view text, const Locale& locale, Date today,
     } else if (time.hour == 12 && fields.morning) {
         time.hour = 0;
     }
-    result = makeDate(date, time);
-    return DateVerdict::date;
+    return completed(raw, time, locale, result);
+}
+
+DateVerdict readOwn(std::u16string_view text, const Locale& locale, Date& result) noexcept
+{
+    const auto own = readOwnForm(untilNul(text), locale);
+    if (!own) {
+        return DateVerdict::notDate;
+    }
+    const RawDate raw{static_cast<std::uint32_t>(own->date.day), static_cast<std::uint32_t>(own->date.month),
+                      static_cast<std::uint32_t>(own->date.year)};
+    const RawTime time{static_cast<std::uint32_t>(own->time.hour), static_cast<std::uint32_t>(own->time.minute),
+                       static_cast<std::uint32_t>(own->time.second)};
+    return isDayOfMonth(raw.day, raw.month, fullYear(raw.year, locale)) && isTime(time)
+               ? completed(raw, own->time, locale, result)
+               : DateVerdict::notDate;
+}
+
+// What the locale writes is read as it was written, before its numbers and names are.
+DateVerdict readDate(std::u16string_view text, const Locale& locale, Date today, Date& result) noexcept
+{
+    const DateVerdict own = readOwn(text, locale, result);
+    return own == DateVerdict::notDate ? readFields(text, locale, today, result) : own;
 }
 
 } // namespace

@@ -35,7 +35,7 @@ public:
     {
         while (at_ < text_.size()) {
             const char16_t unit = text_[at_];
-            if (!(isDigit(unit) ? takeNumber() : isLetter(unit) ? takeName() : takeSeparator(unit))) {
+            if (!(isDigit(unit) ? takeNumber() : canBeginName(unit) ? takeName() : takeSeparator(unit))) {
                 return false;
             }
         }
@@ -43,6 +43,13 @@ public:
     }
 
 private:
+    // "říjen", "август": any letter of the language.
+    [[nodiscard]] static bool canBeginName(char16_t unit) noexcept
+    {
+        constexpr char16_t firstAccented = 0xC0;
+        return isLetter(unit) || (unit >= firstAccented && !isBlank(unit));
+    }
+
     [[nodiscard]] DateField* add() noexcept
     {
         return fields_.count < DateFields::most ? &fields_.field[fields_.count++] : nullptr;
@@ -71,10 +78,10 @@ private:
         if (takeDay(locale_.days) || takeDay(locale_.shortDays)) {
             return true;
         }
-        if (take(locale_.am)) {
+        if (take(locale_.am) || take(u"am")) {
             return markHalf(true);
         }
-        if (take(locale_.pm)) {
+        if (take(locale_.pm) || take(u"pm")) {
             return markHalf(false);
         }
         const char16_t letter = lowerLetter(text_[at_++]);
@@ -137,8 +144,8 @@ private:
             field->point = unit == u'.' && ++field->separators == 1;
         }
         switch (unit) {
-        case u':':
-        case u'.': return markTime(atEnd);
+        case u'.': return locale_.dateSeparator.starts_with(u'.') ? markDate(atEnd) : markTime(atEnd);
+        case u':': return markTime(atEnd);
         case u'-':
         case u'/': return markDate(atEnd);
         case u',': return !atEnd;

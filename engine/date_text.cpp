@@ -6,11 +6,9 @@
 namespace vela::engine {
 namespace {
 
-constexpr std::u16string_view halves = u"AM/PM";
-
 bool hasHalf(std::u16string_view picture) noexcept
 {
-    return picture.find(halves) != std::u16string_view::npos || picture.find(u't') != std::u16string_view::npos;
+    return picture.find(halfMark) != std::u16string_view::npos || picture.find(u't') != std::u16string_view::npos;
 }
 
 class PictureWriter {
@@ -25,9 +23,9 @@ public:
         while (at_ < picture_.size()) {
             if (picture_[at_] == u'\'') {
                 quoted();
-            } else if (picture_.substr(at_).starts_with(halves)) {
+            } else if (picture_.substr(at_).starts_with(halfMark)) {
                 half();
-                at_ += halves.size();
+                at_ += halfMark.size();
             } else {
                 const char16_t letter = picture_[at_];
                 letters(letter, runOf(letter));

@@ -89,6 +89,12 @@ TEST(Dates, AreReadInPortuguese)
         {u"1/2 3:4", {2026, 2, 1}, {3, 4, 0}},
         {u"1/2/2024 3 pm", {2024, 2, 1}, {15, 0, 0}},
         {u"1/2/2024\0abc"sv, {2024, 2, 1}},
+        {u"31.12.2024 14:05", {2024, 12, 31}, {14, 5, 0}},
+        {u"01.02.2003 00:00", {2003, 2, 1}},
+        {u"31.12.2024 14:05:33", {2024, 12, 31}, {14, 5, 33}},
+        {u"31.12.2024 2 pm", {2024, 12, 31}, {14, 0, 0}},
+        {u"0.1", noDate, {0, 1, 0}},
+        {u"0:0", noDate, {0, 0, 0}},
     };
     expectRead(rows, ptBr());
 }
@@ -113,9 +119,11 @@ TEST(Dates, AreReadInEnglishOrder)
 TEST(Dates, AreRefused)
 {
     constexpr std::u16string_view refused[] = {
-        u"",        u"12",      u"2024",         u"29/02/2023", u"1/0/2000",         u"15/2024/3", u"24:00",
-        u"12:",     u"1/2/",    u"1/2/3/4",      u"-1/2/2024",  u"1/2/2024 3",       u"5 pm am",   u"1 2 3 4 5 6 7",
-        u"1:2 3:4", u"domingo", u"15 marx 2024", u"31.12",      u"31.12.2024 10:00", u"\xD800",    u"25.12.2024 pm"};
+        u"",          u"12",           u"2024",    u"29/02/2023",     u"1/0/2000",
+        u"15/2024/3", u"24:00",        u"12:",     u"1/2/",           u"1/2/3/4",
+        u"-1/2/2024", u"1/2/2024 3",   u"5 pm am", u"1 2 3 4 5 6 7",  u"1:2 3:4",
+        u"domingo",   u"15 marx 2024", u"31.12",   u"01.02.03 10:00", u"0.0",
+        u"\xD800",    u"25.12.2024 pm"};
     for (const auto text : refused) {
         SCOPED_TRACE(std::string(text.begin(), text.end()));
         EXPECT_FALSE(isDate(text, ptBr(), today));
@@ -124,6 +132,59 @@ TEST(Dates, AreRefused)
     EXPECT_FALSE(isDate(u"1/1/10000", ptBr(), today));
     EXPECT_FALSE(isDate(std::u16string(70000, u'1') + u"/1/1", ptBr(), today));
     EXPECT_FALSE(isDate(std::u16string(70000, u' '), ptBr(), today));
+}
+
+// The pictures of a locale, its halves of the day, and texts in them.
+struct Forms {
+    std::u16string_view separator, shortDate, longTime, am, pm;
+    std::u16string_view text; // of 1 February 2003 13:04:05
+};
+
+TEST(Dates, WrittenByALocaleAreReadByIt)
+{
+    const Forms rows[] = {
+        {u".", u"dd.mm.yyyy", u"hh:nn:ss", u"", u"", u"01.02.2003 13:04:05"},
+        {u".", u"dd.mm.yy", u"hh:nn:ss", u"", u"", u"01.02.03 13:04:05"},
+        {u".", u"d.m.yyyy", u"h.nn.ss", u"", u"", u"1.2.2003 13.04.05"},
+        {u". ", u"d. m. yyyy", u"h:nn:ss", u"", u"", u"1. 2. 2003 13:04:05"},
+        {u". ", u"yyyy. mm. dd.", u"h:nn:ss", u"", u"", u"2003. 02. 01. 13:04:05"},
+        {u".", u"d.mm.yyyy 'г.'", u"h:nn:ss 'ч.'", u"", u"", u"1.02.2003 г. 13:04:05 ч."},
+        {u"-", u"yyyy-mm-dd", u"AM/PM h:nn:ss", u"오전", u"오후", u"2003-02-01 오후 1:04:05"},
+        {u"/", u"dd/mm/yyyy", u"hh:nn:ss AM/PM", u"a. m.", u"p. m.", u"01/02/2003 01:04:05 p. m."},
+        {u"-", u"yyyy-dd-mm", u"hh:nn:ss", u"", u"", u"2003-01-02 13:04:05"},
+        {u"-", u"dd-mmm-yy", u"hh.nn.ss", u"", u"", u"01-fev-03 13.04.05"},
+        {u" ", u"dddd d mmmm yyyy", u"h:nn:ss", u"", u"", u"sábado 1 fevereiro 2003 13:04:05"},
+    };
+    for (const Forms& row : rows) {
+        Locale locale = ptBr();
+        locale.dateSeparator = row.separator;
+        locale.timeSeparator = row.longTime.find(u'.') < 4 ? u"." : u":";
+        locale.shortDate = row.shortDate;
+        locale.longTime = row.longTime;
+        locale.am = row.am;
+        locale.pm = row.pm;
+        locale.dateOrder = row.shortDate[0] == u'y' ? DateOrder::yearMonthDay : DateOrder::dayMonthYear;
+        EXPECT_EQ(dateToText(makeDate({2003, 2, 1}, {13, 4, 5}), locale), row.text);
+        for (const double serial : {37653.0, 37653.5, 0.25, 0.75, 37653.54450231481, 46021.000011574074}) {
+            const std::u16string text = dateToText({serial}, locale);
+            SCOPED_TRACE(std::string(text.begin(), text.end()));
+            const auto read = tryParseDate(text, locale, today);
+            ASSERT_TRUE(read.has_value());
+            EXPECT_EQ(momentOf(*read), momentOf({serial}));
+        }
+    }
+    Locale german = ptBr();
+    german.dateSeparator = u".";
+    german.shortDate = u"dd.mm.yyyy";
+    expectRead({{u"01.02.03", {2003, 2, 1}},
+                {u"1.2.3 4:05", {2003, 2, 1}, {4, 5, 0}},
+                {u"29.6", {2026, 6, 29}},
+                {u"3:04 pm", noDate, {15, 4, 0}}},
+               german);
+    EXPECT_FALSE(isDate(u"0.0", german, today));
+    german.months[9] = u"říjen";
+    expectRead({{u"5 ŘÍJEN 2003", {2003, 10, 5}}}, german);
+    EXPECT_FALSE(isDate(u"31.12.2024 14:05", enUs(), today)); // the month stands first
 }
 
 TEST(Dates, AsTexts)
