@@ -169,6 +169,7 @@ void VelaContent::terminate() noexcept
 void VelaContent::attach(HWND parent, const RECT& place)
 {
     takeAmbientGround();
+    session_->locales.listen();
     if (surface_.handle())
         surface_.reparent(parent, place);
     else
@@ -198,6 +199,7 @@ void VelaContent::needWindow()
                                                        nullptr, nullptr, nullptr, nullptr));
     if (!parking_)
         engine::raise(engine::error_number::outOfMemory);
+    session_->locales.listen();
     const FieldSize now = size();
     surface_.create(parking_.get(), {0, 0, now.width, now.height});
 }

@@ -1,5 +1,6 @@
 // The control as scripts see it: names, values, errors and the font object.
 #include "automation.h"
+#include "fields.h"
 #include "library.h"
 
 #include "control/property_table.h"
@@ -230,6 +231,51 @@ TEST(Automation, AGivenFontStaysItsOwners)
     EXPECT_EQ(control.textOf(u"FontItalic"), u"True");
     EXPECT_EQ(control.textOf(u"FontBold"), u"True") << "only what was changed changes";
     EXPECT_EQ(held.textOf(u"Italic"), u"True");
+}
+
+// A setting of the user's locale as long as the test runs, told to the windows of this thread as the system tells it.
+class UserSetting {
+public:
+    UserSetting(LCTYPE type, const wchar_t* value) : type_(type)
+    {
+        GetLocaleInfoW(LOCALE_USER_DEFAULT, type, before_, 16);
+        put(value);
+    }
+    ~UserSetting() { put(before_); }
+    UserSetting(const UserSetting&) = delete;
+    UserSetting& operator=(const UserSetting&) = delete;
+
+private:
+    void put(const wchar_t* value)
+    {
+        SetLocaleInfoW(LOCALE_USER_DEFAULT, type_, value);
+        EnumThreadWindows(GetCurrentThreadId(), tell, 0);
+    }
+    static BOOL CALLBACK tell(HWND window, LPARAM)
+    {
+        SendMessageW(window, WM_SETTINGCHANGE, 0, reinterpret_cast<LPARAM>(L"intl"));
+        return TRUE;
+    }
+
+    LCTYPE type_;
+    wchar_t before_[16] = {};
+};
+
+TEST(Automation, SettingsOfTheLocaleAreSeenWhenTheyChange)
+{
+    const Automation control(create().get());
+    control.get(u"hwnd"); // with a window, as on a form
+    asNumber(control);
+    const auto shown = [&](std::u16string_view value) {
+        control.put(u"Value", text(value));
+        return control.textOf(u"Text");
+    };
+    EXPECT_EQ(shown(u"1234,5"), u"1234,50");
+    const UserSetting decimal(LOCALE_SDECIMAL, L";");
+    EXPECT_EQ(shown(u"1234;5"), u"1234;50");
+    const UserSetting negative(LOCALE_INEGNUMBER, L"0");
+    const UserSetting zero(LOCALE_ILZERO, L"0");
+    EXPECT_EQ(shown(u"-0;5"), u"(;50)");
 }
 
 } // namespace

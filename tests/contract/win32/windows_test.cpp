@@ -2,7 +2,10 @@
 // readers.
 #include "tests/contract/form_case.h"
 
+#include "engine/calendar_date.h"
+#include "engine/conversions.h"
 #include "platform/win32/control_surface.h"
+#include "platform/win32/environment.h"
 #include "platform/win32/owners.h"
 #include "platform/win32/tooltip_window.h"
 
@@ -88,6 +91,33 @@ protected:
     [[nodiscard]] HWND edit() { return windowOf(box().window()); }
     [[nodiscard]] HWND surface() { return windowOf(stage->field(0).window()); }
 };
+
+// What a locale writes it reads, whatever its forms are.
+BOOL CALLBACK readBack(wchar_t* name, DWORD, LPARAM count)
+{
+    const engine::Locale locale = win32::systemLocale(name);
+    if (locale.shortDate.empty() || locale.longTime.empty())
+        return TRUE;
+    const bool halfUnnamed = locale.longTime.find(u"AM/PM") != std::u16string::npos && locale.am == locale.pm;
+    for (const double serial : {37653.0, 37653.5, 0.25, 0.75, 37653.54450231481, 46021.000011574074, 0.0}) {
+        const std::u16string text = engine::dateToText({serial}, locale);
+        const auto read = engine::tryParseDate(text, locale, {46021.0});
+        if (halfUnnamed)
+            continue;
+        EXPECT_EQ(read ? engine::momentOf(*read) : std::nullopt, engine::momentOf({serial}))
+            << std::string(locale.name.begin(), locale.name.end()) << " " << serial << " "
+            << std::string(text.begin(), text.end());
+    }
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+TEST(Locales, ReadTheDatesThatTheyWrite)
+{
+    int count = 0;
+    EnumSystemLocalesEx(readBack, LOCALE_WINDOWS, reinterpret_cast<LPARAM>(&count), nullptr);
+    EXPECT_GT(count, 100);
+}
 
 TEST_F(Windows, TheBoxIsAnEditThatOthersMayWriteTo)
 {
