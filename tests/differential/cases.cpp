@@ -1,28 +1,23 @@
-// Asking both sides and comparing their answers.
+// Asking the engine, comparing answers, and making the engine's wrong.
 #include "tests/differential/cases.h"
 
 #include "engine/conversions.h"
 #include "engine/error.h"
 #include "engine/pattern.h"
+#include "platform/win32/environment.h"
 #include "tests/differential/system_library.h"
 
 #include <cmath>
 #include <cstdio>
+#include <vector>
 
 namespace vela::differential {
 namespace {
 
 constexpr double tolerance = 1e-14;
 
-Refusal refusalOf(int number)
-{
-    switch (number) {
-    case engine::error_number::typeMismatch: return Refusal::typeMismatch;
-    case engine::error_number::overflow: return Refusal::overflow;
-    case engine::error_number::invalidCall: return Refusal::invalidArgument;
-    default: return Refusal::other;
-    }
-}
+std::optional<Question> sabotaged;
+unsigned sabotageKind = 0;
 
 Outcome ask(const Request& request)
 {
@@ -33,6 +28,7 @@ Outcome ask(const Request& request)
     case Question::readNumber: return engine::toDouble(asked.text, locale);
     case Question::readCurrency: return static_cast<long long>(engine::toCurrency(asked.text, locale).tenThousandths);
     case Question::readDate: return engine::toDate(asked.text, locale, today).serial;
+    case Question::leadingNumber: return engine::leadingNumber(asked.text);
     case Question::writeNumber: return engine::numberToText(asked.number, locale);
     case Question::writeDate: return engine::dateToText({asked.number}, locale);
     case Question::formatNumber: return engine::format(asked.number, asked.pattern, locale, today);
@@ -41,6 +37,44 @@ Outcome ask(const Request& request)
     case Question::fixedDecimals: return engine::formatNumber(asked.number, asked.decimals, locale);
     }
     return Refusal::other;
+}
+
+Outcome answered(const Request& request)
+{
+    if (request.answer)
+        return *request.answer;
+    try {
+        return ask(request);
+    } catch (const engine::Error& error) {
+        return static_cast<Refusal>(error.number);
+    }
+}
+
+std::u16string wrongText(std::u16string text, unsigned kind)
+{
+    const std::size_t digit = text.find_last_of(u"0123456789");
+    if (kind == 0 && digit != std::u16string::npos)
+        text[digit] = text[digit] == u'9' ? u'0' : static_cast<char16_t>(text[digit] + 1);
+    else if (kind == 1 && !text.empty())
+        text.pop_back();
+    else if (kind == 2 && !text.empty())
+        text.erase(text.begin());
+    else
+        text.insert(text.begin(), u'-');
+    return text;
+}
+
+Outcome wrong(const Outcome& right, unsigned kind)
+{
+    if (std::holds_alternative<Refusal>(right))
+        return kind % 2 == 0 ? Outcome(0.0) : Outcome(std::u16string(u"0"));
+    if (const auto* text = std::get_if<std::u16string>(&right); text != nullptr && kind < 4)
+        return wrongText(*text, kind);
+    if (const auto* number = std::get_if<double>(&right); number != nullptr && kind < 4)
+        return *number == 0 ? 1e-9 : *number * std::array{10.0, -1.0, 2.0, 1 + 1e-9}[kind];
+    if (const auto* currency = std::get_if<long long>(&right); currency != nullptr && kind < 4)
+        return *currency + (kind % 2 == 0 ? 1 : 10000);
+    return Refusal::typeMismatch;
 }
 
 std::string utf8(const std::u16string& text)
@@ -65,36 +99,29 @@ std::string exact(double number)
     return text;
 }
 
-const char* nameOf(Question question)
-{
-    switch (question) {
-    case Question::readNumber: return "read number";
-    case Question::readCurrency: return "read currency";
-    case Question::readDate: return "read date";
-    case Question::writeNumber: return "write number";
-    case Question::writeDate: return "write date";
-    case Question::formatNumber: return "format number";
-    case Question::formatDate: return "format date";
-    case Question::formatText: return "format text";
-    case Question::fixedDecimals: return "fixed decimals";
-    }
-    return "?";
-}
-
 } // namespace
 
-Request requestFor(const Case& asked)
+const engine::Locale& localeOf(LocaleIndex index)
 {
-    return {asked, asked.language == Language::portuguese ? engine::ptBr() : engine::enUs()};
+    static const std::vector<engine::Locale> all = [] {
+        std::vector<engine::Locale> locales;
+        for (const std::u16string_view name : localeNames)
+            locales.push_back(win32::systemLocale(reinterpret_cast<const wchar_t*>(name.data())));
+        return locales;
+    }();
+    return all[index];
 }
 
 Outcome engineOutcome(const Request& request)
 {
-    try {
-        return ask(request);
-    } catch (const engine::Error& error) {
-        return refusalOf(error.number);
-    }
+    const Outcome right = answered(request);
+    return sabotaged == request.asked.question && !request.answer ? wrong(right, sabotageKind) : right;
+}
+
+void sabotage(std::optional<Question> question, unsigned kind)
+{
+    sabotaged = question;
+    sabotageKind = kind;
 }
 
 bool agree(const Outcome& ours, const Outcome& theirs)
@@ -110,20 +137,10 @@ bool agree(const Outcome& ours, const Outcome& theirs)
 
 std::string describe(const Case& asked)
 {
-    std::string text = nameOf(asked.question);
-    text += asked.language == Language::portuguese ? " pt-BR" : " en-US";
-    switch (asked.question) {
-    case Question::readNumber:
-    case Question::readCurrency:
-    case Question::readDate: return text + " \"" + utf8(asked.text) + "\"";
-    case Question::writeNumber:
-    case Question::writeDate: return text + " " + exact(asked.number);
-    case Question::formatNumber:
-    case Question::formatDate: return text + " " + exact(asked.number) + " with \"" + utf8(asked.pattern) + "\"";
-    case Question::formatText: return text + " \"" + utf8(asked.text) + "\" with \"" + utf8(asked.pattern) + "\"";
-    case Question::fixedDecimals: return text + " " + exact(asked.number) + " to " + std::to_string(asked.decimals);
-    }
-    return text;
+    const std::u16string_view locale = localeNames[asked.locale];
+    return std::string(nameOf(asked.question)) + " " + std::string(locale.begin(), locale.end()) + " \"" +
+           utf8(asked.text) + "\" " + exact(asked.number) + " with \"" + utf8(asked.pattern) + "\" " +
+           std::to_string(asked.decimals);
 }
 
 std::string describe(const Outcome& outcome)
@@ -134,12 +151,7 @@ std::string describe(const Outcome& outcome)
         return exact(*number);
     if (const auto* currency = std::get_if<long long>(&outcome))
         return std::to_string(*currency);
-    switch (std::get<Refusal>(outcome)) {
-    case Refusal::typeMismatch: return "type mismatch";
-    case Refusal::overflow: return "overflow";
-    case Refusal::invalidArgument: return "invalid argument";
-    default: return "refused";
-    }
+    return "error " + std::to_string(static_cast<int>(std::get<Refusal>(outcome)));
 }
 
 } // namespace vela::differential

@@ -4,60 +4,34 @@
 namespace vela::differential {
 namespace {
 
-constexpr std::size_t mostTogether = 5;
+constexpr std::size_t mostTogether = 4;
 
 using Found = std::vector<const KnownDifference*>;
 
-// Of dates and texts, then of numbers.
-const std::vector<KnownDifference>& knownDifferences()
+bool search(const Request& request, const Outcome& theirs, std::size_t first, std::size_t depth, Found& found)
 {
-    static const std::vector<KnownDifference> all = [] {
-        std::vector<KnownDifference> list(dateDifferences().begin(), dateDifferences().end());
-        list.insert(list.end(), numberDifferences().begin(), numberDifferences().end());
-        return list;
-    }();
-    return all;
-}
-
-class Search {
-public:
-    explicit Search(const Outcome& theirs) : theirs_(theirs) {}
-
-    [[nodiscard]] bool from(const Request& request, std::size_t first, std::size_t depth)
-    {
-        const auto& all = knownDifferences();
-        for (std::size_t i = first; i < all.size(); ++i) {
-            if (!all[i].applies(request, theirs_))
-                continue;
-            found_.push_back(&all[i]);
-            if (all[i].alter == nullptr)
-                return true;
-            Request altered = request;
-            all[i].alter(altered);
-            if (depth == 1 ? agree(engineOutcome(altered), theirs_) : from(altered, i + 1, depth - 1))
-                return true;
-            found_.pop_back();
-        }
-        return false;
+    const auto all = knownDifferences();
+    for (std::size_t i = first; i < all.size() && !request.answer; ++i) {
+        if (!all[i].applies(request))
+            continue;
+        found.push_back(&all[i]);
+        Request altered = request;
+        all[i].alter(altered);
+        if (depth == 1 ? agree(engineOutcome(altered), theirs) : search(altered, theirs, i + 1, depth - 1, found))
+            return true;
+        found.pop_back();
     }
-
-    [[nodiscard]] Found found() const { return found_; }
-
-private:
-    const Outcome& theirs_;
-    Found found_;
-};
+    return false;
+}
 
 } // namespace
 
-Found explain(const Case& asked, const Outcome& theirs)
+Found explain(const Request& request, const Outcome& theirs)
 {
-    for (std::size_t depth = 1; depth <= mostTogether; ++depth) {
-        Search search(theirs);
-        if (search.from(requestFor(asked), 0, depth))
-            return search.found();
-    }
-    return {};
+    Found found;
+    for (std::size_t depth = 1; depth <= mostTogether && found.empty(); ++depth)
+        search(request, theirs, 0, depth, found);
+    return found;
 }
 
 } // namespace vela::differential

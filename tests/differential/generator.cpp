@@ -1,13 +1,14 @@
-// Random numbers, texts and patterns of the shapes that fields meet, with a share of nonsense.
+// Random numbers, texts and patterns; the limits of each are in the lists of chosen values.
 #include "tests/differential/generator.h"
 
 #include <cmath>
-#include <span>
+#include <vector>
 
 namespace vela::differential {
 namespace {
 
-using Texts = std::vector<std::u16string>;
+using Text = std::u16string;
+using Texts = std::vector<Text>;
 
 Texts split(std::u16string_view text)
 {
@@ -21,220 +22,303 @@ Texts split(std::u16string_view text)
 }
 
 const Texts numberPatterns =
-    split(u"|0|#|0.00|#,##0|#,##0.00|0.0##|#.##|.00|000|0%|0.00%|0.00E+00|##0.0e-0|0.0E+0|#,##0;(#,##0)"
-          u"|0.00;-0.00;zero|0;;\"nada\"|(00) 0000-0000|000\\.000\\.000-00|\"R$ \"#,##0.00|###################0.00"
-          u"|###,###,###,###,###,##0.00|###.###.###.###.###.##0,00|###.###.###.###.###.##0.00"
-          u"|###################0,00|Standard|Fixed|percent|Scientific|Currency|Yes/No|True/False|On/Off"
-          u"|General Number|0;1;2;3|0;1;2;3;4");
-
-// The library reads behind the end of a pattern with a "c" in its last characters: only as a whole pattern.
+    split(u"|0|#|0.00|#,##0|#,##0.00|0.0##|#.##|.00|000|0%|0.00%|##0.0e-0|0.0E+0|#,##0;(#,##0)|0.00;-0.00;zero"
+          u"|0;;\"nada\"|000\\.000\\.000-00|\"R$ \"#,##0.00|###################0.00|###,###,###,###,###,##0.00"
+          u"|Standard|Fixed|percent|Scientific|Currency|0,|#,##0,.0|0,,|.0|0.#####E-#|0.00E+##|0.0#e-00#|0;1;2;3");
 const Texts datePatterns =
-    split(u"|dd/mm/yyyy|d/m/yy|yyyy-mm-dd|dd.MM.yyyy|hh:nn|hh:nn:ss|h:nn AM/PM|h:n am/pm|hh a/p|h AMPM"
-          u"|dddd, d mmmm yyyy|ddd d mmm|dd/mm/yyyy hh:mm|mm/dd/yyyy|q y|ddddd|dddddd|ttttt|General Date|Long Date"
-          u"|Medium Date|Short Date|Long Time|Medium Time|Short Time|yyy|d \"de\" mmmm|\\dd");
+    split(u"|dd/mm/yyyy|d/m/yy|yyyy-mm-dd|dd.MM.yyyy|hh:nn|hh:nn:ss|h:nn AM/PM|h:n am/pm|hh a/p|d mmm yy"
+          u"|dddd, d mmmm yyyy|ddd d mmm|dd/mm/yyyy hh:mm|mm/dd/yyyy|q y|yyy|d \"de\" mmmm|\\dd|hh:nn:ss AM/PM"
+          u"|h \\h m, d/m|hh:mm dd/mm|Short Time|w");
+const Texts ownDatePatterns = split(u"ddddd|h AMPM|Short Date|Medium Time|General Date|dddd, mmmm d, yyyy");
+const Texts textPatterns = split(u"@|@@@@@|(@@) @@@@-@@@@|&&&&|<|>|@@&&|@;\"vazio\"|\\x@\\x&|>@@@|<&&");
+const Texts words = split(u"|abc|ABC|Ação|ÉDEN|São João|ção|Öl|straße|b9|x y z|Ñandú");
+const Texts limits = split(u"922337203685477,5807|922337203685477,5808|-922337203685477,5808|-922337203685477,5809"
+                           u"|999999999999999|1000000000000000|0,0001|0,00006|0|-0|0,00|-0,00|00012|,5|5,");
+const Texts limitDates =
+    split(u"1/1/100|31/12/9999|29/02/2024|29/02/2023|28/02/1900|29/02/1900|1/1/29|1/1/30|1/1/49|1/1/50|23:59:59|24:00"
+          u"|0:00|12:00 am|12:00 pm|11:59 pm|0.0|31/12/1899|31/04/2024|30/04/2024|31.12.2024");
+constexpr double limitNumbers[] = {
+    0,         1,     -1,     0.5,        -0.5,      2.5,        1.005,   0.125,    9.995,
+    -0.001,    0.256, 0.0996, 999999.999, 1234567.5, 1e14,       1e15,    1e-4,     1e-5,
+    0.05,      0.005, 0.0005, 0.045,      99999.5,   0.99999999, 1.0 / 3, 1.0 / 12, 999999999999999,
+    5.6789e-05};
+constexpr double limitSerials[] = {0,        0.5,       1,       2.525,    -1.25,   45323, 45323.58718,
+                                   -657434,  2958465.5, 60,      36585.25, 0.99998, 1.5,   -0.75,
+                                   29221.75, -657435,   2958466, 1e10,     -1e300};
 
-const Texts textPatterns = split(u"@|@@@@@|(@@) @@@@-@@@@|&&&&|!@@@@@|<|>|@@&&|@;\"vazio\"|\\x@\\x&");
-
-const Texts monthNames = split(u"janeiro|fevereiro|março|dez|jan|mai|January|march|Dec|May|sep|agosto");
-const Texts halves = split(u"am|pm|AM|PM");
-const Texts dateSeparators = split(u"/|-|:|.| |, |/|/");
-
-const Texts numberTexts =
-    split(u"| |0|12|-12,5|1.234,5|1,234.5|1d3|1e3|1e--3|1e|(5)|(-5|(5|5-|5+-|+-5|- 5|R$ 1.234,50|$1,234.50|5 R$|&HFF"
-          u"|&HFFFFFFFF|-&HFF|&O17|&O8|1e400|1e-400|,5|.5|,|.|0,000|1.2.3,4|123456789012345678901234567890"
-          u"|922337203685477,5807|922337203685477,5808|1,00005|1,00015|10%|True");
-const Texts dateTexts =
-    split(u"|12|01/02/2024|12/31/1999|1/2|29/02/2023|2024-02-29|15:30|25:00|12:30 pm|15 março 2024|15 mar. 2024"
-          u"|15 mar 2024|March 15, 2024|31.12.2024|01.02.03|1/1/29|1/1/30|1/1/49|1/1/50|1/1/100|31/12/9999|1/1/10000"
-          u"|3 pm 1/2/2024|1/2/2024 4:5: |15 de março de 2024|segunda-feira, 15 janeiro 2024|2/2024|010224");
-
-std::u16string decimal(int value)
+// A section of fractions alone, whose whole digits the library loses: only fractions are formatted with it.
+bool lacksWhole(std::u16string_view pattern)
 {
-    std::u16string text;
-    for (const char digit : std::to_string(value))
-        text.push_back(static_cast<char16_t>(digit));
-    return text;
-}
-
-void addReadings(std::vector<Case>& cases, const Texts& texts, Question question)
-{
-    for (const std::u16string& text : texts)
-        for (const Language language : {Language::portuguese, Language::english})
-            cases.push_back({.question = question, .language = language, .text = text});
-}
-
-void addFormats(std::vector<Case>& cases, Question question, std::span<const double> numbers, const Texts& patterns)
-{
-    for (const double number : numbers) {
-        for (const std::u16string& pattern : patterns)
-            for (const Language language : {Language::portuguese, Language::english})
-                cases.push_back({question, language, number, {}, pattern});
+    for (; !pattern.empty(); pattern.remove_prefix(std::min(pattern.find(u';'), pattern.size() - 1) + 1)) {
+        const std::size_t mark = pattern.find_first_of(u"0#.;");
+        if (mark != std::u16string_view::npos && pattern[mark] == u'.')
+            return true;
     }
+    return false;
 }
+
+Text decimal(int value)
+{
+    const std::string digits = std::to_string(value);
+    return {digits.begin(), digits.end()};
+}
+
+class Shapes {
+public:
+    Shapes(LocaleIndex index, Random& random) : random_(random), index_(index), locale_(localeOf(index)) {}
+
+    int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+    bool once(int in) { return below(in) == 0; }
+    Text oneOf(const Texts& texts) { return texts[random_() % texts.size()]; }
+
+    Text digits(int least, int most)
+    {
+        Text text;
+        for (int count = least + below(most - least + 1); count > 0; --count)
+            text.push_back(static_cast<char16_t>(u'0' + below(10)));
+        return text;
+    }
+
+    // Of every size between two powers of ten, with 1 to 15 digits.
+    double number(int leastPower, int mostPower)
+    {
+        if (once(4))
+            return limitNumbers[random_() % std::size(limitNumbers)];
+        double value = 1 + below(9);
+        int power = leastPower + below(mostPower - leastPower + 1);
+        for (int more = below(13); more > 0 && power > leastPower; --more, --power)
+            value = value * 10 + below(10);
+        value = power < 0 ? value / std::pow(10.0, -power) : value * std::pow(10.0, std::min(power, 3));
+        return once(3) ? -value : value;
+    }
+
+    // Without an exponent in the library's text of it.
+    double plainNumber()
+    {
+        for (;;) {
+            const double value = number(-4, 14), magnitude = std::fabs(value);
+            if (value == 0 || (magnitude >= 1e-4 && magnitude < 1e15))
+                return value;
+        }
+    }
+
+    double serial()
+    {
+        if (once(4))
+            return limitSerials[random_() % (std::size(limitSerials) - 4)]; // the last are beyond the calendar
+        const int day = once(4) ? below(3615899) - 657434 : below(60000) - 500;
+        const double time = once(3) ? 0 : below(86400) / 86400.0;
+        return day < 0 ? day - time : day + time;
+    }
+
+    Text amount(int decimals)
+    {
+        Text text = oneOf(limits);
+        if (once(8)) {
+            const std::size_t comma = text.find(u',');
+            return comma == Text::npos ? text : text.replace(comma, 1, locale_.decimal);
+        }
+        const Text whole = digits(1, 11);
+        const bool grouped = once(3);
+        text.clear();
+        for (std::size_t i = 0; i < whole.size(); ++i)
+            text += (grouped && i > 0 && (whole.size() - i) % 3 == 0 ? locale_.grouping : Text()) + whole[i];
+        return once(3) ? text : text + locale_.decimal + digits(0, decimals);
+    }
+
+    // One sign or parentheses, before or behind; the currency symbol; blanks.
+    Text numberText()
+    {
+        const Text text = amount(4), symbol = locale_.currencySymbol, sign = locale_.negativeSign;
+        switch (text.front() == u'-' ? 9 : below(9)) {
+        case 0: return sign + text;
+        case 1: return text + sign;
+        case 2: return u"(" + text + u")";
+        case 3: return u"+" + text;
+        case 4: return symbol + (once(2) ? u" " : u"") + text;
+        case 5: return sign + symbol + text;
+        case 6: return text + symbol;
+        case 7: return u" " + text;
+        default: return text;
+        }
+    }
+
+    // A character in a place that makes it no number and no date.
+    Text spoilt(Text text)
+    {
+        const auto place = static_cast<std::size_t>(below(static_cast<int>(text.size()) + 1));
+        return text.insert(place, 1, u"x;%_*=!?[BCK"[below(12)]);
+    }
+
+    Text leadingText()
+    {
+        static const Texts tails = split(u"||| kg|,5|.|/2|-|R$|e|z9| 1 2"), signs = split(u"|||-|+|- | ");
+        static const Texts radixes = split(u"&H|&h|&O|&o|& H");
+        if (once(4)) {
+            Text text = oneOf(radixes);
+            const bool octal = (text.back() | 0x20) == u'o';
+            for (int count = below(octal ? 11 : 9); count > 0; --count)
+                text.push_back(u"01234567"
+                               u"89ABCDEFabcdef"[below(octal ? 8 : 22)]);
+            return text + (once(3) ? u"&" : once(3) ? u" Z" : u"");
+        }
+        Text text = oneOf(signs) + digits(once(6) ? 0 : 1, 12);
+        if (once(2))
+            text += u"." + digits(0, 8);
+        if (once(4))
+            text += (once(2) ? u"e" : u"d") + Text(once(2) ? u"-" : once(2) ? u"+" : u"") + digits(1, 2);
+        if (once(5))
+            text.insert(static_cast<std::size_t>(below(static_cast<int>(text.size()) + 1)), once(2) ? u" " : u"\t");
+        return text + oneOf(tails);
+    }
+
+    Text timeText()
+    {
+        static const Texts halves = split(u" am| pm|am|PM");
+        const Text text =
+            decimal(below(25)) + u":" + decimal(below(61)) + (once(2) ? u":" + decimal(below(61)) : Text());
+        return once(3) ? text + oneOf(halves) : text;
+    }
+
+    // With points where the locale writes them: elsewhere the library takes them for a time's.
+    Text dateText()
+    {
+        static const Texts separators = split(u"/|/|-| |.");
+        if (once(8))
+            return oneOf(limitDates);
+        if (once(5))
+            return timeText();
+        const Text separator = locale_.dateSeparator.starts_with(u'.') ? oneOf(separators) : separators[random_() % 4];
+        const Text year = decimal(once(3) ? below(100) : once(10) ? 100 + below(9900) : 1900 + below(200));
+        Text day = decimal(1 + below(31)), month = decimal(1 + below(12));
+        if (once(5) && locale_.months[0][0] > u'9')
+            month = (once(2) ? locale_.months : locale_.shortMonths)[random_() % 12];
+        if (once(2))
+            std::swap(day, month);
+        const Text text = once(6)   ? year + separator + day + separator + month
+                          : once(6) ? day + separator + month
+                                    : day + separator + month + separator + year;
+        return once(3) ? text + u" " + timeText() : text;
+    }
+
+    // Digit marks as they are written for fields: "#" before "0" in the whole part, "0" before "#" behind the point.
+    Text section(bool exponents)
+    {
+        static const Texts wholes = split(u"0|#|##0|000|#,##0|#,###|#,##0|###,##0|00");
+        static const Texts fractions = split(u"||.0|.00|.000|.0#|.##|.#|.00##");
+        static const Texts exponentMarks = split(u"E+0|E-0|e+00|e-00|E+000|E-#|E+##|e-0#");
+        if (exponents)
+            return (once(2) ? u"0.0#" : u"00.0#") + oneOf(exponentMarks);
+        const Text fraction = oneOf(fractions), whole = once(8) && fraction.size() > 1 ? u"" : oneOf(wholes);
+        return whole + (once(8) && !whole.empty() ? once(3) ? u",," : u"," : u"") + fraction;
+    }
+
+    // Nothing behind an exponent: the library runs literals together across it.
+    Text numberPattern()
+    {
+        static const Texts before = split(u"||||\"R$ \"|$|(|x |\\-"), behind = split(u"|||%| kg|)|\" m\"");
+        if (once(3))
+            return oneOf(numberPatterns);
+        const bool exponents = once(5);
+        Text text = oneOf(before) + section(exponents);
+        if (exponents)
+            return text;
+        const Text ending = oneOf(behind);
+        text += ending == u"%" && lacksWhole(text) ? u"" : ending;
+        return once(4) ? text + u";(" + section(false) + u")" + (once(2) ? u";\"zero\"" : u"") : text;
+    }
+
+    // At most one mark of hours; a half of the day right behind it and at the end.
+    Text datePattern()
+    {
+        static const Texts parts = split(u"d|dd|ddd|dddd|yy|yyyy|n|nn|s|ss|m|mm|mmm|mmmm|q|y|D|M|w");
+        static const Texts separators = split(u"/|-| |.|:|, | \"de\" |\\h"), hours = split(u"h|hh|H");
+        static const Texts halves = split(u" AM/PM| am/pm| a/p");
+        if (once(3))
+            return oneOf(datePatterns);
+        if (index_ < 2 && once(4))
+            return oneOf(ownDatePatterns);
+        Text pattern;
+        for (int count = 1 + below(4), hour = below(2 * count); count > 0; --count)
+            pattern += (count == hour ? oneOf(hours) + u":nn " : Text()) + oneOf(parts) +
+                       (count > 1 ? oneOf(separators) : Text());
+        const bool hasHours = pattern.find(u"nn ") != Text::npos;
+        return !hasHours && once(2) ? pattern + u" " + oneOf(hours) + u":nn" + oneOf(halves) : pattern;
+    }
+
+    void fillFormatText(Case& asked)
+    {
+        if (once(3)) {
+            asked.text = oneOf(words);
+            asked.pattern = oneOf(textPatterns);
+        } else if (once(3)) {
+            asked.text = decimal(1 + below(28)) + u"/" + decimal(1 + below(12)) + u"/" + decimal(1930 + below(100));
+            asked.pattern = datePattern();
+        } else {
+            asked.text =
+                once(4) ? oneOf(words) : decimal(1 + below(99999)) + locale_.decimal + decimal(1 + below(9999));
+            do
+                asked.pattern = numberPattern();
+            while (lacksWhole(asked.pattern));
+        }
+    }
+
+    void fillFormatNumber(Case& asked)
+    {
+        if (once(12)) {
+            asked.pattern = datePattern();
+            asked.number = once(4) ? limitSerials[random_() % 4 + std::size(limitSerials) - 4] : serial();
+            return;
+        }
+        asked.pattern = once(12) ? oneOf(textPatterns) : numberPattern();
+        asked.number = locale_.decimal == u"." || locale_.grouping == u"." ? number(-12, 18) : plainNumber();
+        if (asked.number == 0 && asked.pattern.find_first_of(u"eE") != Text::npos)
+            asked.number = 7;
+        if (lacksWhole(asked.pattern))
+            asked.number = (below(8001) - 4000) / 10000.0;
+    }
+
+private:
+    Random& random_;
+    LocaleIndex index_;
+    const engine::Locale& locale_;
+};
 
 } // namespace
 
-std::vector<Case> chosenCases()
+Case randomCase(Question question, Random& random)
 {
-    static constexpr double numbers[] = {0,     1,       -1,         0.5,       -0.5,         2.5,   1.005,
-                                         0.125, 9.995,   -0.001,     1234567.5, -1234567.891, 0.256, 1e15,
-                                         1e20,  1.5e-10, 999999.999, 0.0996,    12345678901};
-    static constexpr double serials[] = {0, 0.5, 1, 2.525, -1.25, 45323, 45323.58718, -657434, 2958465.5, 60, 36585};
-    std::vector<Case> cases;
-    addReadings(cases, numberTexts, Question::readNumber);
-    addReadings(cases, numberTexts, Question::readCurrency);
-    addReadings(cases, dateTexts, Question::readDate);
-    addFormats(cases, Question::formatNumber, numbers, numberPatterns);
-    addFormats(cases, Question::formatDate, serials, datePatterns);
-    addFormats(cases, Question::formatDate, serials, numberPatterns);
-    addFormats(cases, Question::formatNumber, serials, datePatterns);
-    for (const std::u16string& text : split(u"|abc|1234,5|-0,00|01/02/2024|12:30|45323|Ação")) {
-        for (const Texts* const patterns : {&numberPatterns, &datePatterns, &textPatterns})
-            for (const std::u16string& pattern : *patterns)
-                cases.push_back({.question = Question::formatText, .text = text, .pattern = pattern});
+    Case asked{.question = question};
+    asked.locale = random() % 2 == 0 ? random() % 2 : random() % localeNames.size();
+    Shapes shapes(asked.locale, random);
+    switch (question) {
+    case Question::readNumber:
+        asked.text = shapes.once(12)  ? u"&H" + shapes.digits(1, 7)
+                     : shapes.once(6) ? shapes.amount(6) + (shapes.once(2) ? u"e" : u"E-") + shapes.digits(1, 2)
+                                      : shapes.numberText();
+        break;
+    case Question::readCurrency: asked.text = shapes.numberText(); break;
+    case Question::readDate: asked.text = shapes.dateText(); break;
+    case Question::leadingNumber: asked.text = shapes.leadingText(); break;
+    case Question::writeNumber: asked.number = shapes.number(-25, 25); break;
+    case Question::writeDate:
+        asked.locale %= 2;
+        asked.number = shapes.serial();
+        break;
+    case Question::formatNumber: shapes.fillFormatNumber(asked); break;
+    case Question::formatDate:
+        asked.number = shapes.serial();
+        asked.pattern = shapes.datePattern();
+        break;
+    case Question::formatText: shapes.fillFormatText(asked); break;
+    case Question::fixedDecimals:
+        asked.number = shapes.plainNumber();
+        asked.decimals = shapes.below(10);
+        break;
     }
-    for (const double number : numbers) {
-        cases.push_back({.question = Question::writeNumber, .number = number});
-        cases.push_back({.question = Question::writeDate, .number = number < 2e6 ? number : 0});
-        for (const int decimals : {0, 2, 9, 10})
-            cases.push_back({.question = Question::fixedDecimals, .number = number, .decimals = decimals});
-    }
-    return cases;
-}
-
-const std::u16string& Generator::oneOf(const std::vector<std::u16string>& texts)
-{
-    return texts[random_() % texts.size()];
-}
-
-int Generator::below(int limit)
-{
-    return static_cast<int>(random_() % static_cast<unsigned>(limit));
-}
-
-double Generator::number()
-{
-    const double sign = below(3) == 0 ? -1.0 : 1.0;
-    const double digits = static_cast<double>(random_() % 1000000007U);
-    switch (below(6)) {
-    case 0: return sign * below(2000);
-    case 1: return sign * digits / std::pow(10.0, below(10));
-    case 2: return sign * (digits + 0.5) / std::pow(10.0, below(6));
-    case 3: return sign * std::ldexp(static_cast<double>(random_()), below(120) - 80);
-    case 4: return sign * std::pow(10.0, below(40) - 20);
-    default: return sign * digits * 1000 / std::pow(10.0, below(5));
-    }
-}
-
-double Generator::serial()
-{
-    const int day = below(4) == 0 ? below(3615899) - 657434 : below(60000) - 500;
-    const double time = below(3) == 0 ? 0 : below(86400) / 86400.0;
-    return day < 0 ? day - time : day + time;
-}
-
-std::u16string Generator::textFrom(std::u16string_view alphabet, int most)
-{
-    std::u16string text;
-    for (int length = below(most + 1); length > 0; --length)
-        text.push_back(alphabet[static_cast<std::size_t>(below(static_cast<int>(alphabet.size())))]);
-    return text;
-}
-
-std::u16string Generator::numberText()
-{
-    switch (below(4)) {
-    case 0: return textFrom(u"0123456789,.", 24);
-    case 1: return textFrom(u"01 5.,-+()", 8);
-    case 2: return textFrom(u"019e,.-+d&H$R%", 8);
-    default: return textFrom(u"0123456789", 9) + (below(2) == 0 ? u"," : u".") + textFrom(u"0123456789", 6);
-    }
-}
-
-std::u16string Generator::dateText()
-{
-    std::u16string text = below(20) == 0 ? u" " : u"";
-    for (int field = 0, fields = 1 + below(6); field < fields; ++field) {
-        switch (below(12)) {
-        case 0: text += oneOf(monthNames); break;
-        case 1: text += decimal(1000 + below(1500)); break;
-        case 2: text += decimal(below(120)); break;
-        default: text += decimal(below(60));
-        }
-        if (field + 1 < fields || below(8) == 0)
-            text += oneOf(dateSeparators);
-        if (below(16) == 0)
-            text += oneOf(halves);
-    }
-    return text;
-}
-
-// Without commas that divide: the library only groups.
-std::u16string Generator::numberPattern()
-{
-    static constexpr std::u16string_view marks[] = {u"0#,.", u"00##,.%;()-x", u"0#,.%;E+e-\\\"x $("};
-    if (below(2) == 0)
-        return oneOf(numberPatterns);
-    std::u16string pattern = textFrom(marks[below(3)], 14);
-    for (std::size_t at = pattern.size(); at-- > 0;) {
-        const std::u16string_view behind = std::u16string_view(pattern).substr(at + 1, 1);
-        if (pattern[at] == u',' && behind != u"0" && behind != u"#")
-            pattern.erase(at, 1);
-    }
-    return pattern;
-}
-
-std::u16string Generator::datePattern()
-{
-    if (below(2) == 0)
-        return oneOf(datePatterns);
-    // Months or hours: the library takes an "m" anywhere behind an hour for minutes.
-    static const Texts months = split(u"m|mm|mmm|mmmm|M");
-    static const Texts hours = split(u"h|hh|H|AM/PM|am/pm|a/p|AMPM");
-    static const Texts parts = split(u"d|dd|ddd|dddd|yy|yyyy|n|nn|s|ss|/|:|-| |.|q|y|D|Y|\"de\"|\\d|x|0");
-    const Texts& own = below(2) == 0 ? months : hours;
-    std::u16string pattern;
-    for (int count = below(7); count > 0; --count)
-        pattern += oneOf(below(3) == 0 ? own : parts);
-    return pattern;
-}
-
-std::u16string Generator::textPattern()
-{
-    return below(2) == 0 ? oneOf(textPatterns) : textFrom(u"@@&&!<>x-\\;", 8);
-}
-
-Case Generator::next()
-{
-    const Language language = below(2) == 0 ? Language::portuguese : Language::english;
-    const auto reading = [&](Question question, const std::u16string& text) {
-        return Case{.question = question, .language = language, .text = text};
-    };
-    const auto writing = [&](Question question, double value, const std::u16string& pattern = {}) {
-        return Case{.question = question, .language = language, .number = value, .pattern = pattern};
-    };
-    switch (below(12)) {
-    case 0: return reading(Question::readNumber, numberText());
-    case 1: return reading(Question::readCurrency, numberText());
-    case 2:
-    case 3: return reading(Question::readDate, dateText());
-    case 4: return writing(Question::writeNumber, number());
-    case 5: return writing(Question::writeDate, serial());
-    case 6:
-    case 7: return writing(Question::formatNumber, number(), numberPattern());
-    case 8:
-    case 9: return writing(Question::formatDate, serial(), datePattern());
-    case 10: {
-        Case result = reading(Question::formatText, below(2) == 0 ? numberText() : textFrom(u"bcdWYZ 019", 9));
-        result.pattern = below(3) == 0 ? numberPattern() : below(2) == 0 ? datePattern() : textPattern();
-        return result;
-    }
-    default: {
-        Case result = writing(Question::fixedDecimals, number());
-        result.decimals = below(10);
-        return result;
-    }
-    }
+    if (question <= Question::readDate && shapes.once(8))
+        asked.text = shapes.spoilt(asked.text);
+    return asked;
 }
 
 } // namespace vela::differential

@@ -9,20 +9,18 @@
 
 namespace vela::differential {
 
-// A difference is explained by asking the engine again with the request altered as the library's fault alters it: only
-// when the answer is then the library's own is the difference a known one. A few faults leave no predictable answer:
-// their `alter` is null and the narrow `applies` alone decides.
+// A difference tells what the library's fault makes of a request: asked with that, the engine must give the library's
+// own answer. It never sees that answer, and where it does not predict it the difference is not a known one.
 struct KnownDifference {
     std::string_view name;
     std::string_view reason;
-    bool (*applies)(const Request& request, const Outcome& theirs);
+    bool (*applies)(const Request& request);
     void (*alter)(Request& request);
 };
 
-[[nodiscard]] std::span<const KnownDifference> dateDifferences();
-[[nodiscard]] std::span<const KnownDifference> numberDifferences();
+// The fewest known differences, at most four, that together predict the library's answer; none when it is unlisted.
+[[nodiscard]] std::vector<const KnownDifference*> explain(const Request& request, const Outcome& theirs);
 
-// The fewest known differences, at most five, that together explain the library's answer; none when it is unlisted.
-[[nodiscard]] std::vector<const KnownDifference*> explain(const Case& asked, const Outcome& theirs);
+[[nodiscard]] std::span<const KnownDifference> knownDifferences();
 
 } // namespace vela::differential

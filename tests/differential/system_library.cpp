@@ -5,39 +5,55 @@
 
 #include <oleauto.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdlib>
+#include <memory>
 
 namespace vela::differential {
 namespace {
 
-LCID localeOf(Language language)
+LCID systemLocaleOf(LocaleIndex index)
 {
-    return language == Language::portuguese ? 0x0416 : 0x0409;
+    static const auto all = [] {
+        std::array<LCID, localeNames.size()> ids{};
+        for (std::size_t i = 0; i < ids.size(); ++i)
+            ids[i] = LocaleNameToLCID(reinterpret_cast<const wchar_t*>(localeNames[i].data()), 0);
+        return ids;
+    }();
+    return all[index];
 }
 
-class Text {
-public:
-    Text() = default;
-    explicit Text(const std::u16string& text)
-        : text_(SysAllocStringLen(reinterpret_cast<const wchar_t*>(text.data()), static_cast<UINT>(text.size())))
-    {
+// The library has no such conversion: what the C library reads of a text whose blanks have gone.
+Outcome leadingNumber(const std::u16string& text)
+{
+    std::string plain;
+    for (const char16_t unit : text)
+        if (unit != u' ' && unit != u'\t' && unit != u'\n')
+            plain.push_back(unit > 0x7E ? '?' : static_cast<char>(unit));
+    const std::string_view start = std::string_view(plain).substr(0, 2);
+    const bool hexadecimal = start == "&H" || start == "&h";
+    if (hexadecimal || start == "&O" || start == "&o") {
+        char* end = nullptr;
+        const unsigned long long value = std::strtoull(plain.c_str() + 2, &end, hexadecimal ? 16 : 8);
+        if (value > 0xFFFFFFFF)
+            return Refusal::overflow;
+        return static_cast<double>(value <= 0xFFFF && *end != '&' ? static_cast<short>(value)
+                                                                  : static_cast<int>(value));
     }
-    ~Text() { SysFreeString(text_); }
-    Text(const Text&) = delete;
-    Text& operator=(const Text&) = delete;
+    std::ranges::replace(plain, 'd', 'e');
+    const double value = std::strtod(plain.c_str(), nullptr);
+    return std::isfinite(value) ? Outcome(value) : Outcome(Refusal::overflow);
+}
 
-    [[nodiscard]] BSTR get() const { return text_; }
-    [[nodiscard]] BSTR* put() { return &text_; }
-    [[nodiscard]] std::u16string string() const
-    {
-        return text_ == nullptr ? std::u16string()
-                                : std::u16string(reinterpret_cast<char16_t*>(text_), SysStringLen(text_));
-    }
+using Text = std::unique_ptr<OLECHAR, decltype(&SysFreeString)>;
 
-private:
-    BSTR text_ = nullptr;
-};
+Text textOf(const std::u16string& text)
+{
+    return {SysAllocStringLen(reinterpret_cast<const wchar_t*>(text.data()), static_cast<UINT>(text.size())),
+            SysFreeString};
+}
 
 Refusal refusalOf(HRESULT result)
 {
@@ -55,30 +71,23 @@ Outcome outcome(HRESULT result, const T& value)
     return SUCCEEDED(result) ? Outcome(value) : Outcome(refusalOf(result));
 }
 
-Outcome outcome(HRESULT result, const Text& text)
+Outcome outcome(HRESULT result, const BSTR& written)
 {
-    return outcome(result, text.string());
-}
-
-VARIANT variantOf(double number, VARTYPE type)
-{
-    VARIANT value;
-    VariantInit(&value);
-    value.vt = type;
-    value.dblVal = number;
-    return value;
+    const Text owner(written, SysFreeString);
+    return outcome(result, written ? std::u16string(reinterpret_cast<char16_t*>(written), SysStringLen(written))
+                                   : std::u16string());
 }
 
 Outcome formatted(VARIANT value, const Case& asked)
 {
-    const LCID locale = localeOf(asked.language);
-    const Text pattern(asked.pattern);
+    const LCID locale = systemLocaleOf(asked.locale);
+    const Text pattern = textOf(asked.pattern);
     std::array<BYTE, 512> tokens{};
     HRESULT result =
-        VarTokenizeFormatString(pattern.get(), tokens.data(), static_cast<int>(tokens.size()), 0, 0, locale, nullptr);
-    Text written;
+        VarTokenizeFormatString(pattern.get(), tokens.data(), static_cast<int>(tokens.size()), 1, 1, locale, nullptr);
+    BSTR written = nullptr;
     if (SUCCEEDED(result))
-        result = VarFormatFromTokens(&value, pattern.get(), tokens.data(), 0, written.put(), locale);
+        result = VarFormatFromTokens(&value, pattern.get(), tokens.data(), 0, &written, locale);
     return outcome(result, written);
 }
 
@@ -86,18 +95,21 @@ Outcome formatted(VARIANT value, const Case& asked)
 
 Outcome systemOutcome(const Case& asked)
 {
-    const LCID locale = localeOf(asked.language);
-    const Text text(asked.text);
-    VARIANT value = variantOf(asked.number, asked.question == Question::formatDate ? VT_DATE : VT_R8);
-    Text written;
+    const LCID locale = systemLocaleOf(asked.locale);
+    const Text text = textOf(asked.text);
+    VARIANT value{};
+    value.vt = asked.question == Question::formatDate ? VT_DATE : VT_R8;
+    value.dblVal = asked.number;
+    BSTR written = nullptr;
     double number = 0;
     CY currency{};
     switch (asked.question) {
     case Question::readNumber: return outcome(VarR8FromStr(text.get(), locale, 0, &number), number);
     case Question::readCurrency: return outcome(VarCyFromStr(text.get(), locale, 0, &currency), currency.int64);
     case Question::readDate: return outcome(VarDateFromStr(text.get(), locale, 0, &number), number);
-    case Question::writeNumber: return outcome(VarBstrFromR8(asked.number, locale, 0, written.put()), written);
-    case Question::writeDate: return outcome(VarBstrFromDate(asked.number, locale, 0, written.put()), written);
+    case Question::leadingNumber: return leadingNumber(asked.text);
+    case Question::writeNumber: return outcome(VarBstrFromR8(asked.number, locale, 0, &written), written);
+    case Question::writeDate: return outcome(VarBstrFromDate(asked.number, locale, 0, &written), written);
     case Question::formatNumber:
     case Question::formatDate: return formatted(value, asked);
     case Question::formatText:
@@ -105,14 +117,17 @@ Outcome systemOutcome(const Case& asked)
         value.bstrVal = text.get();
         return formatted(value, asked);
     case Question::fixedDecimals:
-        return outcome(VarFormatNumber(&value, asked.decimals, -2, -2, 0, 0, written.put()), written);
+        return outcome(VarFormatNumber(&value, asked.decimals, -2, -2, 0, 0, &written), written);
     }
     return Refusal::other;
 }
 
-bool userIsPortuguese()
+LocaleIndex userLocale()
 {
-    return GetUserDefaultLCID() == 0x0416;
+    for (LocaleIndex index = 0; index < localeNames.size(); ++index)
+        if (systemLocaleOf(index) == GetUserDefaultLCID())
+            return index;
+    return 0;
 }
 
 double systemToday()

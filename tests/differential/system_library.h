@@ -1,4 +1,4 @@
-// The system's automation library as the judge: each question answered in the locale of its language.
+// The system's automation library as the judge: each question answered in its locale.
 #pragma once
 
 #include "tests/differential/cases.h"
@@ -6,7 +6,7 @@
 namespace vela::differential {
 
 [[nodiscard]] Outcome systemOutcome(const Case& asked);
-[[nodiscard]] bool userIsPortuguese(); // fixed decimals are written in the user's own locale: the library takes none
+[[nodiscard]] LocaleIndex userLocale(); // fixed decimals are written in the user's own locale: the library takes none
 [[nodiscard]] double systemToday();
 
 } // namespace vela::differential
