@@ -167,14 +167,31 @@ begin
 end;
 
 procedure THost.Leaving;
+
+  procedure Leaves(const Way: string);
+  begin
+    if Focused(FCode) then
+      Say('note ' + Way + ' goes on to the next field')
+    else
+      Say('host ' + Way + ' does not leave a field: the loop of the LCL hands Tab to windows of the LCL only');
+  end;
+
 begin
   Click(FName);
   Ask('key Tab');
-  if Focused(FCode) then
-    Say('note Tab goes on to the next field')
-  else
-    Say('host Tab does not leave a field: the loop of the LCL hands Tab to windows of the LCL only');
+  Leaves('Tab');
   CheckText(FName, 'maria', 'Tab writes nothing into the field');
+  FName.OleServer.EnterAsTab := True;
+  Click(FName);
+  Ask('key Return');
+  Leaves('Enter as Tab');
+  FName.OleServer.MaxLength := 5;
+  FName.OleServer.AutoTAB := True;
+  Click(FName);
+  Ask('key Home Delete');
+  Ask('type m');
+  Leaves('the automatic Tab');
+  CheckText(FName, 'maria', 'and neither do these');
 end;
 
 function Balloon: HWND;
