@@ -5,6 +5,7 @@
 #include "activex/guids.h"
 #include "activex/vela_members.h"
 #include "platform/win32/dpi.h"
+#include "platform/win32/tab_order.h"
 
 #include <olectl.h>
 
@@ -299,9 +300,10 @@ std::u16string VelaContent::containerName() const
     return shell_.site().containerName();
 }
 
-// The form is the nearest MDI child above the field, else the window at the top. It is modal when it holds its owner.
+// The form is modal when it holds its owner.
 platform::ParentForm VelaContent::parentForm() const
 {
+    const HWND form = win32::formOf(surface_.handle());
     const HWND top = GetAncestor(surface_.handle(), GA_ROOT);
     HWND form = surface_.handle();
     while (form && form != top && !(GetWindowLongPtrW(form, GWL_EXSTYLE) & WS_EX_MDICHILD))

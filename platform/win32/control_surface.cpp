@@ -105,6 +105,10 @@ void ControlSurface::destroy()
     if (!window_)
         return;
     destroying_ = true;
+    Watch watch(life_);
+    edit().letGo();
+    if (!watch.alive())
+        return;
     for (auto& box : boxes_)
         if (box)
             box->destroyWindow();
@@ -388,9 +392,8 @@ LRESULT ControlSurface::command(WPARAM first, LPARAM second)
 void ControlSurface::buttonPressed()
 {
     Watch watch(life_);
-    if (const HWND window = edit().handle())
-        SetFocus(window);
-    if (watch.alive() && events_)
+    edit().takeFocus();
+    if (watch.alive() && edit().hasFocus() && events_)
         events_->buttonClicked();
 }
 

@@ -40,7 +40,6 @@ public:
 
     [[nodiscard]] HWND handle() const noexcept { return edit_; }
     [[nodiscard]] platform::EditBoxKind kind() const noexcept { return kind_; }
-    [[nodiscard]] static EditBox* withFocus() noexcept; // null when the focus is in no field of this thread
 
     // For the surface.
     void createWindow(const RECT& place, bool visible);
@@ -54,6 +53,8 @@ public:
     void enter();
     void leave(HWND next);
     bool regainFocus(); // false when it may not have it
+    void goneForGood(); // the focus that it asked back is not coming
+    void letGo();       // its windows are about to go: it is left when it was entered
     // For the drop target: the text falls at a point of the screen.
     void dropped(std::u16string_view text, POINT point);
 

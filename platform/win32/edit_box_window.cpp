@@ -7,6 +7,7 @@
 #include "platform/win32/focus_arbiter.h"
 #include "platform/win32/guard.h"
 #include "platform/win32/keyboard.h"
+#include "platform/win32/tab_order.h"
 #include "platform/win32/text.h"
 #include "platform/win32/window_map.h"
 
@@ -22,16 +23,6 @@ constexpr WPARAM controlA = 1, controlC = 3, controlV = 22, controlX = 24, contr
 constexpr WPARAM controlBackspace = 127;
 constexpr int shiftKey = 1, controlKey = 2, altKey = 4;
 
-// From the window up to its top level, every container lets the Tab key in.
-bool tabReaches(HWND window)
-{
-    const HWND top = GetAncestor(window, GA_ROOT);
-    for (HWND parent = GetAncestor(window, GA_PARENT); parent && parent != top; parent = GetAncestor(parent, GA_PARENT))
-        if (!(GetWindowLongPtrW(parent, GWL_EXSTYLE) & WS_EX_CONTROLPARENT))
-            return false;
-    return true;
-}
-
 // The EDIT works by the characters of these keys; on their way down it only asks for the shift keys, which is slow
 // where a server answers.
 bool onlyTypes(int key) noexcept
@@ -43,7 +34,7 @@ bool onlyTypes(int key) noexcept
 
 bool sameForm(HWND one, HWND other) noexcept
 {
-    return one && other && GetAncestor(one, GA_ROOT) == GetAncestor(other, GA_ROOT);
+    return one && other && formOf(one) == formOf(other);
 }
 
 std::u16string composed(HWND window)
@@ -68,14 +59,6 @@ LRESULT CALLBACK EditBox::procedure(HWND window, UINT message, WPARAM first, LPA
     if (!box)
         return DefWindowProcW(window, message, first, second);
     return guarded([&] { return box->handle(message, first, second); }, LRESULT{0});
-}
-
-EditBox* EditBox::withFocus() noexcept
-{
-    const HWND focus = GetFocus();
-    if (!focus || reinterpret_cast<WNDPROC>(GetWindowLongPtrW(focus, GWLP_WNDPROC)) != &EditBox::procedure)
-        return nullptr;
-    return static_cast<EditBox*>(boundObject(focus));
 }
 
 LRESULT EditBox::handle(UINT message, WPARAM first, LPARAM second)
@@ -121,8 +104,10 @@ LRESULT EditBox::onDestroyed(WPARAM first, LPARAM second)
     const WNDPROC original = original_;
     unbindObject(window);
     if (!rebuilding_) {
-        entered_ = false;
+        const bool owes = std::exchange(entered_, false) || arbiter_.returnsTo(*this);
         arbiter_.forget(*this);
+        if (owes)
+            goneForGood(); // may destroy the box
     }
     return CallWindowProcW(original, window, WM_NCDESTROY, first, second);
 }
@@ -283,7 +268,7 @@ void EditBox::enter()
     if (!watch.alive() || arbiter_.suppresses(*this))
         return;
     entered_ = true;
-    const FocusArbiter::Change change(arbiter_, true);
+    const FocusArbiter::Change change(arbiter_, nullptr, true);
     if (SurfaceListener* listener = surface_.listener_)
         listener->focusEntered();
     if (!watch.alive())
@@ -298,7 +283,7 @@ void EditBox::leave(HWND next)
     Watch watch(life_);
     entered_ = false;
     const bool within = IsWindowEnabled(edit_) && sameForm(next, edit_);
-    const FocusArbiter::Change change(arbiter_, within);
+    const FocusArbiter::Change change(arbiter_, this, within);
     const platform::Leaving leaving = within ? platform::Leaving::within : platform::Leaving::away;
     if (platform::EditBoxEvents* listener = events())
         guarded([listener, leaving] { listener->lostFocus(leaving); });
@@ -315,21 +300,38 @@ void EditBox::takeFocus()
     if (!edit_ || (entered_ && GetFocus() == edit_))
         return;
     if (arbiter_.changing())
-        arbiter_.askReturn(*this);
+        arbiter_.ask(*this);
     else
         SetFocus(edit_);
 }
 
 bool EditBox::regainFocus()
 {
-    if (!edit_ || !IsWindowVisible(edit_) || !IsWindowEnabled(edit_) ||
+    const HWND focus = GetFocus();
+    if (!edit_ || !IsWindowVisible(edit_) || !IsWindowEnabled(edit_) || (focus && !sameForm(focus, edit_)) ||
         GetActiveWindow() != GetAncestor(edit_, GA_ROOT))
         return false;
-    if (GetFocus() == edit_)
+    if (focus == edit_)
         enter();
     else
         SetFocus(edit_);
     return true;
+}
+
+void EditBox::goneForGood()
+{
+    if (SurfaceListener* listener = surface_.listener_)
+        listener->focusLeft();
+}
+
+void EditBox::letGo()
+{
+    const bool owes = arbiter_.returnsTo(*this);
+    arbiter_.forget(*this);
+    if (entered_)
+        leave(nullptr);
+    else if (owes)
+        goneForGood();
 }
 
 void EditBox::settleLoan() noexcept

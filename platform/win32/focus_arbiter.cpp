@@ -44,14 +44,16 @@ FocusArbiter::~FocusArbiter()
     }
 }
 
-FocusArbiter::Change::Change(FocusArbiter& arbiter, bool mayReturn) noexcept
-    : arbiter_(arbiter), mayReturnBefore_(std::exchange(arbiter.mayReturn_, mayReturn))
+FocusArbiter::Change::Change(FocusArbiter& arbiter, EditBox* left, bool mayReturn) noexcept
+    : arbiter_(arbiter), leftBefore_(std::exchange(arbiter.left_, left)),
+      mayReturnBefore_(std::exchange(arbiter.mayReturn_, mayReturn))
 {
     ++retain().depth_;
 }
 
 FocusArbiter::Change::~Change()
 {
+    arbiter_.left_ = leftBefore_;
     arbiter_.mayReturn_ = mayReturnBefore_;
     if (--arbiter_.depth_ == 0 && (arbiter_.returning_ || !arbiter_.later_.empty()))
         arbiter_.settleLater();
@@ -70,15 +72,26 @@ FocusArbiter::Hold::~Hold()
     release();
 }
 
-void FocusArbiter::askReturn(EditBox& box)
+// The box that is left comes before all others; of the others the last one asks for all.
+void FocusArbiter::ask(EditBox& box)
 {
-    if (mayReturn_)
+    const bool owed = left_ == &box;
+    if (!mayReturn_)
+        return;
+    if (owed || !returning_ || !owed_) {
         returning_ = &box;
+        owed_ = owed;
+    } else if (returning_ != &box) {
+        waiting_ = &box;
+    }
 }
 
-bool FocusArbiter::suppresses(const EditBox& entering) const noexcept
+bool FocusArbiter::suppresses(EditBox& entering) noexcept
 {
-    return returning_ != nullptr && returning_ != &entering;
+    if (!returning_ || returning_ == &entering)
+        return false;
+    waiting_ = &entering;
+    return true;
 }
 
 void FocusArbiter::entering(EditBox& box)
@@ -128,10 +141,9 @@ void FocusArbiter::settleLater() noexcept
 
 void FocusArbiter::forget(EditBox& box) noexcept
 {
-    if (returning_ == &box)
-        returning_ = nullptr;
-    if (lender_ == &box)
-        lender_ = nullptr;
+    for (EditBox** const each : {&left_, &returning_, &waiting_, &lender_})
+        if (*each == &box)
+            *each = nullptr;
 }
 
 void FocusArbiter::later(std::function<void()> work)
@@ -162,9 +174,16 @@ void FocusArbiter::settle()
 
 void FocusArbiter::giveBack()
 {
-    if (EditBox* box = std::exchange(returning_, nullptr); box && !box->regainFocus())
-        if (EditBox* visited = EditBox::withFocus())
-            visited->enter(); // the return is off, so the visit was an entry
+    EditBox* const box = std::exchange(returning_, nullptr);
+    const bool owed = std::exchange(owed_, false);
+    if (box && box->regainFocus()) {
+        waiting_ = nullptr;
+        return;
+    }
+    if (box && owed)
+        box->goneForGood();
+    if (EditBox* const next = std::exchange(waiting_, nullptr))
+        next->regainFocus(); // the return is off, so the visit was an entry
 }
 
 void FocusArbiter::endLoan()

@@ -14,7 +14,8 @@ namespace vela::win32 {
 class EditBox;
 
 // A field that is being left may ask for the focus back. The change goes on to its end; then a message of the
-// arbiter's own gives it back. The field that had it in between neither entered nor left.
+// arbiter's own gives it back. The field that had it in between neither entered nor left, and what another one asks
+// for meanwhile waits: it has the focus only when the first cannot have it.
 // A pop-up or box of a field borrows the focus: the field has not been left until the focus goes elsewhere.
 class FocusArbiter final : private WindowHandler {
 public:
@@ -26,13 +27,15 @@ public:
     // A notification of the focus is running, for a scope.
     class Change {
     public:
-        Change(FocusArbiter& arbiter, bool mayReturn) noexcept;
+        // `left`: the box that is being left; null while one is entered.
+        Change(FocusArbiter& arbiter, EditBox* left, bool mayReturn) noexcept;
         Change(const Change&) = delete;
         Change& operator=(const Change&) = delete;
         ~Change();
 
     private:
         FocusArbiter& arbiter_;
+        EditBox* leftBefore_;
         bool mayReturnBefore_;
     };
     // The focus leaves for a box of our own, for a scope.
@@ -48,10 +51,10 @@ public:
     };
 
     [[nodiscard]] bool changing() const noexcept { return depth_ > 0 || returning_ != nullptr; }
-    void askReturn(EditBox& box);
+    void ask(EditBox& box); // while changing()
     [[nodiscard]] bool returnsTo(const EditBox& box) const noexcept { return returning_ == &box; }
-    [[nodiscard]] bool suppresses(const EditBox& entering) const noexcept;
-    void entering(EditBox& box); // a lender that is another leaves first
+    [[nodiscard]] bool suppresses(EditBox& entering) noexcept; // it is entered when the return is off
+    void entering(EditBox& box);                               // a lender that is another leaves first
     void regained(EditBox& box) noexcept;
     [[nodiscard]] bool borrows(HWND next) const noexcept;
     void lend(EditBox& box) noexcept;
@@ -75,7 +78,9 @@ private:
     void runLater();
 
     HWND window_ = nullptr;
-    EditBox* returning_ = nullptr;
+    EditBox* left_ = nullptr;      // being left
+    EditBox* returning_ = nullptr; // gets the focus when the change has settled
+    EditBox* waiting_ = nullptr;   // the last other one that wanted it since
     EditBox* lender_ = nullptr;
     std::vector<HWND> borrowers_;
     std::vector<std::function<void()>> later_;
@@ -83,6 +88,7 @@ private:
     int depth_ = 0;
     int holds_ = 0;
     bool mayReturn_ = true;
+    bool owed_ = false; // returning_ had the focus and asked for it back
 };
 
 } // namespace vela::win32
