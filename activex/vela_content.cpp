@@ -185,9 +185,9 @@ void VelaContent::detach() noexcept
     contained([&] {
         if (session_->popups.isOpenFor(vela_))
             session_->popups.closeAll();
-        vela_.DestruirToolTip();
     });
-    contained([&] { surface_.destroy(); });
+    contained([&] { surface_.destroy(); }); // a field with the focus is left
+    contained([&] { vela_.DestruirToolTip(); });
 }
 
 // Scripts that have no window for the control still find one when they ask for its handle.

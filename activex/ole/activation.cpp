@@ -18,6 +18,8 @@ bool contains(const RECT& outer, const RECT& inner) noexcept
 
 HRESULT Activation::activate()
 {
+    if (leaving_)
+        return E_FAIL;
     if (inPlace_) {
         shell_.content().show(true);
         return S_OK;
@@ -143,11 +145,10 @@ void Activation::deactivateInterface() noexcept
 void Activation::deactivate() noexcept
 {
     closed_ = true;
-    if (!inPlace_)
+    if (!inPlace_ || leaving_)
         return;
+    leaving_ = true;
     deactivateInterface();
-    if (!inPlace_) // the host was quicker
-        return;
     inPlace_ = false;
     if (Content* content = shell_.made())
         content->detach();
@@ -155,6 +156,7 @@ void Activation::deactivate() noexcept
     document_.reset();
     if (const auto site = std::move(site_))
         site->OnInPlaceDeactivate();
+    leaving_ = false;
 }
 
 void Activation::putRects(const RECT& place, const RECT& bounds)

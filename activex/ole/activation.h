@@ -39,6 +39,7 @@ private:
     bool closed_ = false;   // inside that
     bool inPlace_ = false;
     bool interface_ = false;
+    bool leaving_ = false; // being deactivated: what the host asks for inside is refused
 };
 
 } // namespace vela::activex

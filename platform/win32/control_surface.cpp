@@ -6,7 +6,7 @@
 #include "platform/win32/activation_context.h"
 #include "platform/win32/colours.h"
 #include "platform/win32/dpi.h"
-#include "platform/win32/focus_arbiter.h"
+#include "platform/win32/guard.h"
 #include "platform/win32/module.h"
 #include "platform/win32/owners.h"
 #include "platform/win32/paint.h"
@@ -102,7 +102,7 @@ void ControlSurface::appear() const
 
 void ControlSurface::destroy()
 {
-    if (!window_)
+    if (!window_ || destroying_)
         return;
     destroying_ = true;
     Watch watch(life_);
@@ -357,6 +357,8 @@ LRESULT ControlSurface::handle(HWND window, UINT message, WPARAM first, LPARAM s
     case WM_TIMER: tick(first); return 0;
     case WM_SETFOCUS: focusArrived(); return 0;
     case WM_LBUTTONDOWN: edit().takeFocus(); return 0;
+    case WM_GETDLGCODE: return dialogCode(first, second);
+    case WM_CLOSE: return 0; // a multi-line EDIT in a dialog posts it for Esc; only the host takes the field away
     case dpiChangedAfterParent: refreshDpi(); return 0;
     case WM_SYSCOLORCHANGE:
     case WM_THEMECHANGED: repaint(); return DefWindowProcW(window, message, first, second);
@@ -455,14 +457,19 @@ void ControlSurface::sizeChanged()
 
 void ControlSurface::tick(WPARAM timer)
 {
-    if (timer == hoverTimer && events_)
-        events_->hoverTick();
+    if (timer != hoverTimer || !events_ || ticking_)
+        return;
+    Watch watch(life_);
+    ticking_ = true; // a handler may run a message loop
+    guarded([this] { events_->hoverTick(); });
+    if (watch.alive())
+        ticking_ = false;
 }
 
 // Its box takes it on; surfaceLostFocus() is told when the box is left.
 void ControlSurface::focusArrived()
 {
-    if (events_)
+    if (events_ && !destroying_)
         events_->surfaceGotFocus();
 }
 

@@ -114,8 +114,9 @@ private:
     bool timer_ = false;
     std::optional<RECT> clip_;
     engine::Colour ground_{0x8000000F};
-    bool shaped_ = false; // the window has a region
-    std::u16string accessibleName_;
+    bool shaped_ = false;              // the window has a region
+    bool ticking_ = false;             // the hover tick's listener has not returned
+    std::unique_ptr<NameLabel> label_; // once a reader program has asked for the box's name
 };
 
 } // namespace vela::win32

@@ -88,6 +88,7 @@ LRESULT EditBox::handle(UINT message, WPARAM first, LPARAM second)
     case WM_UNDO:
     case EM_UNDO: command(editUndo); return TRUE;
     case EM_CANUNDO: return TRUE;
+    case WM_CLOSE: return 0; // an EDIT in a dialog posts it for Esc; only the host takes the field away
     case WM_PAINT: registerDropTarget(*this, dropTarget_); return pass(message, first, second);
     case WM_DESTROY:
         revokeDropTarget(edit_, dropTarget_);
