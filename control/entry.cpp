@@ -52,11 +52,12 @@ void Vela::showEntryTip()
     if (settings_.toolTipGotFocus.empty() || returnedFocus_ || tooltip::VersaoWindows(environment_.system) != u"NT")
         return;
     const platform::WindowId window = box().window();
-    tip().Title(settings_.nomeCampo);
-    tip().Icon(settings_.toolTipGotFocusTipo);
-    tip().TipText(settings_.toolTipGotFocus);
-    tip().CreateToolTip(window);
-    tip().ShowAt(0, arrangement().edit.height, window);
+    tooltip::CBalloonToolTip& tip = made(tip_);
+    tip.Title(settings_.nomeCampo);
+    tip.Icon(settings_.toolTipGotFocusTipo);
+    tip.TipText(settings_.toolTipGotFocus);
+    tip.CreateToolTip(window);
+    tip.ShowAt(0, arrangement().edit.height, window);
 }
 
 // "R$ 1.234,50" is edited as "1234,50"; a mask is entered before its first prompt.

@@ -39,8 +39,10 @@ void Vela::leave(platform::Leaving leaving)
         writeText(settings_.ifIsEmpty, Writer::life);
     if (const auto wrong = leaveByType())
         answerWrong(*wrong, leaving);
-    else
+    else {
         hideTip();
+        hideAlert();
+    }
 }
 
 void Vela::leaveColours()
@@ -151,20 +153,26 @@ void Vela::showAlert(const Wrong& wrong)
 {
     const View text = settings_.errorMsgCustom ? View(settings_.errorTextMessage) : wrong.text;
     if (!text.empty())
-        tooltip::ShowBalloonTip(text, wrong.title, alertIcon, box(), arrangement().edit.height, tip());
+        tooltip::ShowBalloonTip(text, wrong.title, alertIcon, box(), arrangement().edit.height, made(alert_));
 }
 
-tooltip::CBalloonToolTip& Vela::tip()
+tooltip::CBalloonToolTip& Vela::made(Tip& tip)
 {
-    if (!tip_)
-        tip_ = std::make_unique<tooltip::CBalloonToolTip>(surface_.makeTooltip());
-    return *tip_;
+    if (!tip)
+        tip = std::make_unique<tooltip::CBalloonToolTip>(surface_.makeTooltip());
+    return *tip;
 }
 
 void Vela::hideTip()
 {
     if (tip_)
         tip_->Destroy();
+}
+
+void Vela::hideAlert()
+{
+    if (alert_)
+        alert_->Destroy();
 }
 
 } // namespace vela::control

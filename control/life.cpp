@@ -160,9 +160,11 @@ void Vela::terminate()
     if (life_.ended())
         return;
     hideTip();
+    hideAlert();
     popups_.forget(*this);
     surface_.enableHoverTimer(false);
     tip_.reset();
+    alert_.reset();
     history_.reset();
     life_.end();
 }
@@ -175,6 +177,7 @@ void Vela::About()
 void Vela::DestruirToolTip()
 {
     hideTip();
+    hideAlert();
 }
 
 void Vela::LimparMemoria()

@@ -257,8 +257,10 @@ private:
     [[nodiscard]] std::optional<Wrong> leaveDate();
     void answerWrong(const Wrong& wrong, platform::Leaving leaving);
     void showAlert(const Wrong& wrong);
-    [[nodiscard]] tooltip::CBalloonToolTip& tip(); // made at its first use
+    using Tip = std::unique_ptr<tooltip::CBalloonToolTip>;
+    [[nodiscard]] tooltip::CBalloonToolTip& made(Tip& tip); // at its first use
     void hideTip();
+    void hideAlert();
 
     // History (editing.cpp)
     [[nodiscard]] History& history();
@@ -279,9 +281,10 @@ private:
     platform::ControlSurface& surface_;
     platform::Environment& environment_;
     popups::Popups& popups_;
-    mutable platform::EditBox* box_ = nullptr; // made at its first use
-    std::unique_ptr<tooltip::CBalloonToolTip> tip_;
-    std::unique_ptr<History> history_; // from the first edit of a person on
+    mutable platform::EditBox* box_ = nullptr;        // made at its first use
+    std::unique_ptr<tooltip::CBalloonToolTip> tip_;   // of the entry
+    std::unique_ptr<tooltip::CBalloonToolTip> alert_; // where the box has no balloon of its own
+    std::unique_ptr<History> history_;                // from the first edit of a person on
     std::unique_ptr<engine::LivePattern> livePattern_;
     Liveness life_;
     Settings settings_;
