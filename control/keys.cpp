@@ -88,6 +88,18 @@ void Vela::keyPress(int& key)
     });
 }
 
+// It is no text, so no rule of the field's judges it.
+void Vela::controlPress(int& key)
+{
+    if (deaf())
+        return;
+    whileAlive(life_, [&] {
+        auto told = static_cast<std::int16_t>(key);
+        if (!raiseKeyPress(told) || told == 0)
+            key = 0;
+    });
+}
+
 // Full-width digits count as digits where digits are wanted; the keypad's decimal key gives the field's symbol.
 int Vela::plainKey(int key) const noexcept
 {

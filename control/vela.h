@@ -150,6 +150,7 @@ public:
     void lostFocus(platform::Leaving leaving) override;
     void keyDown(int& code, int& shift) override;
     void keyPress(int& key) override;
+    void controlPress(int& key) override;
     void keyUp(int code, int shift) override;
     [[nodiscard]] bool laysOutTyping() const override { return liveNumber(); }
     void changed() override;

@@ -59,6 +59,9 @@ public:
     virtual void lostFocus(Leaving leaving) = 0;
     virtual void keyDown(int& code, int& shift) = 0; // virtual-key code; shift 1, control 2, alt 4
     virtual void keyPress(int& key) = 0;             // UTF-16 unit; a composed character only
+    // Instead of keyPress() for any other control character than Backspace and Enter: Esc, Control with a letter. 0
+    // forbids what it means to the box; another code changes nothing.
+    virtual void controlPress(int& key) = 0;
     virtual void keyUp(int code, int shift) = 0;
     virtual void changed() = 0; // the text became another text
     // Whether changed() lays out anew what was typed: the box then need not draw the text that stands in between.

@@ -64,6 +64,8 @@ private:
     LRESULT onKeyDown(UINT message, WPARAM code, LPARAM data);
     LRESULT onKeyUp(UINT message, WPARAM code, LPARAM data);
     LRESULT onChar(WPARAM unit, LPARAM data);
+    LRESULT onControl(WPARAM unit, LPARAM data);
+    LRESULT onTab(const MSG& key, bool back);
     LRESULT onUnicode(WPARAM codePoint, LPARAM data);
     LRESULT onComposition(WPARAM first, LPARAM flags);
     LRESULT onFocus(WPARAM first, LPARAM second);

@@ -20,7 +20,7 @@ namespace {
 
 // The characters that the Control key makes of these letters.
 constexpr WPARAM controlA = 1, controlC = 3, controlV = 22, controlX = 24, controlY = 25, controlZ = 26;
-constexpr WPARAM controlBackspace = 127;
+constexpr WPARAM controlEnter = 10, controlBackspace = 127;
 constexpr int shiftKey = 1, controlKey = 2, altKey = 4;
 
 // The EDIT works by the characters of these keys; on their way down it only asks for the shift keys, which is slow
@@ -30,6 +30,17 @@ bool onlyTypes(int key) noexcept
     const bool keypad = key >= VK_NUMPAD0 && key <= VK_DIVIDE;
     const bool punctuation = (key >= VK_OEM_1 && key <= VK_OEM_3) || (key >= VK_OEM_4 && key <= VK_OEM_102);
     return key == VK_SPACE || (key >= '0' && key <= '9') || (key >= 'A' && key <= 'Z') || keypad || punctuation;
+}
+
+constexpr bool isControl(WPARAM unit) noexcept
+{
+    return (unit < ' ' && unit != VK_BACK && unit != VK_RETURN) || unit == controlBackspace;
+}
+
+// The character of the Tab key, which is also that of Control and I.
+bool isTabKey(LPARAM data) noexcept
+{
+    return LOBYTE(HIWORD(data)) == MapVirtualKeyW(VK_TAB, MAPVK_VK_TO_VSC) || GetKeyState(VK_CONTROL) >= 0;
 }
 
 bool sameForm(HWND one, HWND other) noexcept
@@ -174,19 +185,10 @@ LRESULT EditBox::onKeyUp(UINT message, WPARAM code, LPARAM data)
 
 LRESULT EditBox::onChar(WPARAM unit, LPARAM data)
 {
-    if (swallowChar_)
+    if (swallowChar_ || (unit == VK_TAB && isTabKey(data)))
         return 0;
-    switch (unit) {
-    case controlA: return 0; // selected at the key's way down
-    case controlC: command(editCopy); return 0;
-    case controlV: command(editPaste); return 0;
-    case controlX: command(editCut); return 0;
-    case controlY: command(editRedo); return 0;
-    case controlZ: command(editUndo); return 0;
-    case VK_TAB:
-    case controlBackspace: return 0;
-    default: break;
-    }
+    if (isControl(unit))
+        return onControl(unit, data);
     Watch watch(life_);
     const HWND window = edit_;
     int key = static_cast<int>(unit);
@@ -205,6 +207,32 @@ LRESULT EditBox::onChar(WPARAM unit, LPARAM data)
     if (watch.alive())
         typedAt_ = -1;
     return result;
+}
+
+// What it means to the box still happens, unless the host has forbidden it; another code in its place is no text.
+LRESULT EditBox::onControl(WPARAM unit, LPARAM data)
+{
+    Watch watch(life_);
+    const HWND window = edit_;
+    int key = static_cast<int>(unit);
+    if (platform::EditBoxEvents* listener = events())
+        listener->controlPress(key);
+    if (!watch.alive() || edit_ != window || key == 0)
+        return 0;
+    switch (unit) {
+    case controlA: command(editSelectAll); return 0;
+    case controlC: command(editCopy); return 0;
+    case controlV: command(editPaste); return 0;
+    case controlX: command(editCut); return 0;
+    case controlY: command(editRedo); return 0;
+    case controlZ: command(editUndo); return 0;
+    case controlEnter:
+        if (isSingle())
+            return 0;
+        refresh();
+        return pass(WM_CHAR, unit, data);
+    default: return 0; // the EDIT would only beep
+    }
 }
 
 LRESULT EditBox::onUnicode(WPARAM codePoint, LPARAM data)
@@ -407,9 +435,7 @@ LRESULT EditBox::onMenu(LPARAM point)
 
 bool EditBox::shortcut(int code, int shift)
 {
-    if (code == 'A' && shift == controlKey)
-        command(editSelectAll);
-    else if (code == VK_INSERT && shift == controlKey)
+    if (code == VK_INSERT && shift == controlKey)
         command(editCopy);
     else if (code == VK_INSERT && shift == shiftKey)
         command(editPaste);

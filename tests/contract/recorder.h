@@ -42,6 +42,12 @@ public:
             filter(key);
         tell("press");
     }
+    void controlPress(int& key) override
+    {
+        if (filter)
+            filter(key);
+        tell("control");
+    }
     void keyUp(int, int) override { tell("up"); }
     [[nodiscard]] bool laysOutTyping() const override { return layingOut; }
     void changed() override { tell("changed"); }
