@@ -9,6 +9,8 @@
 
 #include <olectl.h>
 
+#include <utility>
+
 namespace vela::activex {
 
 namespace {
@@ -95,6 +97,7 @@ Variant VelaContent::get(const Member& member)
 
 void VelaContent::put(const Member& member, const VARIANT& value)
 {
+    const Told told(*this);
     const control::Property& property = control::properties()[member.row];
     switch (property.type) {
     case control::PropertyType::font:
@@ -117,6 +120,7 @@ Variant VelaContent::call(const Member& member, const Arguments&)
 
 void VelaContent::initNew()
 {
+    const Told told(*this);
     vela_.initNew();
     takeAmbientFont();
     fontChanged();
@@ -150,6 +154,7 @@ void VelaContent::takeAmbientGround()
 
 void VelaContent::load(platform::PropertyBag& bag)
 {
+    const Told told(*this);
     vela_.load(bag);
     fontChanged();
 }
@@ -256,6 +261,32 @@ bool VelaContent::wantsKey(const MSG& message) const
 bool VelaContent::eatsReturn() const
 {
     return vela_.EnterAsTab() || vela_.MultLine();
+}
+
+// The key that the host's loop has handed over is the one that its library asks about.
+bool VelaContent::eatsEnter(WPARAM key) const
+{
+    const WPARAM asked = key ? key : shell_.activeObject().translated();
+    return eatsReturn() && (asked == 0 || asked == VK_RETURN);
+}
+
+bool VelaContent::tabUnused(MSG& message)
+{
+    const Shell::Hold hold(shell_);
+    return shell_.site().translate(&message);
+}
+
+std::u16string VelaContent::fieldName() const
+{
+    return vela_.NomeCampo();
+}
+
+// A put may fail with its value stored.
+VelaContent::Told::~Told()
+{
+    content_.surface_.nameChanged();
+    if (std::exchange(content_.eatsTold_, content_.eatsReturn()) != content_.eatsTold_)
+        content_.shell_.site().controlInfoChanged();
 }
 
 void VelaContent::ambientChanged(DISPID id)

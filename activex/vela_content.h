@@ -63,6 +63,22 @@ private:
     void focusEntered() override;
     void focusLeft() override;
     void windowDestroyed() override;
+    bool tabUnused(MSG& message) override;
+    [[nodiscard]] bool eatsEnter(WPARAM key) const override;
+    [[nodiscard]] std::u16string fieldName() const override;
+
+    // Tells the host, and reader programs, at the end of a scope what has changed for them in it.
+    class Told {
+    public:
+        explicit Told(VelaContent& content) noexcept : hold_(content.shell_), content_(content) {}
+        Told(const Told&) = delete;
+        Told& operator=(const Told&) = delete;
+        ~Told();
+
+    private:
+        const Shell::Hold hold_;
+        VelaContent& content_;
+    };
 
     void takeAmbientFont();
     void fontChanged() noexcept; // the object handed out shows it
@@ -75,6 +91,7 @@ private:
     win32::ControlSurface surface_;
     control::Vela vela_;
     FontObject font_;
+    bool eatsTold_ = false; // of eatsReturn(), to the host
 };
 
 } // namespace vela::activex

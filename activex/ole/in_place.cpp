@@ -3,6 +3,8 @@
 
 #include "activex/ole/shell.h"
 
+#include <utility>
+
 namespace vela::activex {
 
 namespace {
@@ -71,7 +73,10 @@ HRESULT ActiveObject::TranslateAccelerator(LPMSG message) noexcept
 {
     if (!message)
         return E_POINTER;
-    return shell_.guarded([&]() -> HRESULT {
+    const Shell::Hold hold(shell_);
+    const bool key = message->message == WM_KEYDOWN || message->message == WM_SYSKEYDOWN;
+    const WPARAM outer = std::exchange(translated_, key ? message->wParam : 0);
+    const HRESULT result = shell_.guarded([&]() -> HRESULT {
         if (shell_.site().translate(message))
             return S_OK;
         if (!shell_.made() || !shell_.made()->hasFocus() || !shell_.made()->wantsKey(*message))
@@ -80,6 +85,8 @@ HRESULT ActiveObject::TranslateAccelerator(LPMSG message) noexcept
         DispatchMessageW(message);
         return S_OK;
     });
+    translated_ = outer;
+    return result;
 }
 
 HRESULT ActiveObject::OnFrameWindowActivate(BOOL) noexcept

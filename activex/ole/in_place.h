@@ -37,8 +37,11 @@ public:
     HRESULT STDMETHODCALLTYPE ResizeBorder(LPCRECT border, IOleInPlaceUIWindow* window, BOOL frame) noexcept override;
     HRESULT STDMETHODCALLTYPE EnableModeless(BOOL enable) noexcept override;
 
+    [[nodiscard]] WPARAM translated() const noexcept { return translated_; } // the key under way here; 0 for none
+
 private:
     Shell& shell_;
+    WPARAM translated_ = 0;
 };
 
 } // namespace vela::activex

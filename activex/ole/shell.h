@@ -73,6 +73,7 @@ public:
     [[nodiscard]] ViewObject& view() noexcept { return view_; }
     [[nodiscard]] DataObject& data() noexcept { return data_; }
     [[nodiscard]] OleObject& object() noexcept { return object_; }
+    [[nodiscard]] const ActiveObject& activeObject() const noexcept { return active_; }
 
     [[nodiscard]] bool dirty() const noexcept { return dirty_; }
     void putDirty(bool dirty) noexcept { dirty_ = dirty; }

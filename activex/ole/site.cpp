@@ -85,6 +85,12 @@ bool Site::translate(MSG* message) const noexcept
     return control && control->TranslateAccelerator(message, static_cast<DWORD>(win32::shiftState())) == S_OK;
 }
 
+void Site::controlInfoChanged() const noexcept
+{
+    if (const auto control = control_.shared())
+        control->OnControlInfoChanged();
+}
+
 void Site::focusChanged(bool has) const noexcept
 {
     if (const auto control = control_.shared())

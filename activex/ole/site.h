@@ -27,6 +27,7 @@ public:
     [[nodiscard]] bool runMode() const noexcept;               // true without a host that says otherwise
     [[nodiscard]] std::u16string containerName() const;        // of the extender's Container; "" without one
     [[nodiscard]] bool translate(MSG* message) const noexcept; // the host took the key
+    void controlInfoChanged() const noexcept;
     void focusChanged(bool has) const noexcept;
 
 private:

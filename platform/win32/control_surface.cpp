@@ -399,6 +399,15 @@ void ControlSurface::buttonPressed()
         events_->buttonClicked();
 }
 
+// The surface is the window that form libraries know, so it answers for its box.
+LRESULT ControlSurface::dialogCode(WPARAM key, LPARAM message) const
+{
+    const HWND box = edit().handle();
+    const LRESULT code = box ? SendMessageW(box, WM_GETDLGCODE, key, message) : 0;
+    const WPARAM asked = message ? reinterpret_cast<const MSG*>(message)->wParam : key;
+    return listener_ && listener_->eatsEnter(asked) ? code | DLGC_WANTALLKEYS : code;
+}
+
 LRESULT ControlSurface::colourOf(HDC dc, HWND child) const
 {
     for (const auto& box : boxes_) {

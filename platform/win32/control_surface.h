@@ -19,8 +19,10 @@ public:
     virtual void focusEntered() {}    // the focus came into the surface or one of its windows, before gotFocus()
     virtual void focusLeft() {}       // after lostFocus()
     virtual void windowDestroyed() {} // by another than destroy()
-    // A key message for the edit box, before the control sees it; true: handled, the control shall not.
-    virtual bool preTranslate(MSG&) { return false; }
+    virtual bool tabUnused(MSG&) { return false; } // a Tab that came to the box; true: the container has used it
+    // Whether the field takes Enter for itself. `key`: the one that a window asks about, 0 for one it does not tell.
+    [[nodiscard]] virtual bool eatsEnter(WPARAM) const { return false; }
+    [[nodiscard]] virtual std::u16string fieldName() const { return {}; } // for reader programs; empty: its label's
 
 protected:
     ~SurfaceListener() = default;
@@ -80,6 +82,7 @@ private:
     void unbound() override;
     LRESULT command(WPARAM first, LPARAM second);
     LRESULT colourOf(HDC dc, HWND child) const;
+    LRESULT dialogCode(WPARAM key, LPARAM message) const;
     void paint();
     void drawButton(const DRAWITEMSTRUCT& item) const;
     void sizeChanged();
