@@ -82,7 +82,6 @@ private:
     void paste();
     void copy() const;
     void cut(bool keep); // for the clipboard
-    void moveToNext(bool back);
 
     LRESULT pass(UINT message, WPARAM first, LPARAM second); // to the EDIT, then reports what it changed
     LRESULT native(UINT message, WPARAM first, LPARAM second) const noexcept;

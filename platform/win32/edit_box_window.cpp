@@ -145,19 +145,10 @@ LRESULT EditBox::onKeyDown(UINT message, WPARAM code, LPARAM data)
     Watch watch(life_);
     const HWND window = edit_;
     swallowChar_ = false;
-    if (SurfaceListener* listener = surface_.listener_) {
-        MSG key{window, message, code, data, 0, {0, 0}};
-        if (listener->preTranslate(key))
-            return 0;
-        if (!watch.alive() || edit_ != window)
-            return 0;
-    }
     int key = static_cast<int>(code);
     int shift = shift_.emplace(shiftState());
-    if (key == VK_TAB && !(shift & (controlKey | altKey))) {
-        moveToNext((shift & shiftKey) != 0);
-        return 0;
-    }
+    if (key == VK_TAB && !(shift & (controlKey | altKey)))
+        return onTab({window, message, code, data, static_cast<DWORD>(GetMessageTime()), {}}, (shift & shiftKey) != 0);
     if (platform::EditBoxEvents* listener = events(); listener && key != VK_PROCESSKEY)
         listener->keyDown(key, shift);
     if (!watch.alive() || edit_ != window)
@@ -506,12 +497,15 @@ void EditBox::dropped(std::u16string_view text, POINT point)
         listener->pasted(text);
 }
 
-void EditBox::moveToNext(bool back)
+// No loop of the host's has used it: the container is asked once more, then the way is found without it.
+LRESULT EditBox::onTab(const MSG& key, bool back)
 {
-    if (!tabReaches(edit_))
-        return;
-    const HWND next = GetNextDlgTabItem(GetAncestor(edit_, GA_ROOT), edit_, back);
-    if (next && next != edit_)
+    Watch watch(life_);
+    MSG unused = key;
+    SurfaceListener* const listener = surface_.listener_;
+    if ((listener && listener->tabUnused(unused)) || !watch.alive() || edit_ != key.hwnd)
+        return 0;
+    if (const HWND next = nextTabStop(edit_, back))
         SetFocus(next);
 }
 
