@@ -336,11 +336,6 @@ platform::ParentForm VelaContent::parentForm() const
 {
     const HWND form = win32::formOf(surface_.handle());
     const HWND top = GetAncestor(surface_.handle(), GA_ROOT);
-    HWND form = surface_.handle();
-    while (form && form != top && !(GetWindowLongPtrW(form, GWL_EXSTYLE) & WS_EX_MDICHILD))
-        form = GetAncestor(form, GA_PARENT);
-    if (!form || form == surface_.handle())
-        form = top;
     const HWND owner = top ? GetWindow(top, GW_OWNER) : nullptr;
     return {form != top, owner && !IsWindowEnabled(owner), {reinterpret_cast<std::uintptr_t>(form)}};
 }

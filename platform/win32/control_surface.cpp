@@ -2,7 +2,6 @@
 #include "platform/win32/control_surface.h"
 
 #include "engine/error.h"
-#include "platform/win32/accessible_name.h"
 #include "platform/win32/activation_context.h"
 #include "platform/win32/colours.h"
 #include "platform/win32/dpi.h"
@@ -88,8 +87,6 @@ void ControlSurface::create(HWND parent, const RECT& place)
         appear();
     if (timer_)
         SetTimer(window_, hoverTimer, hoverMilliseconds, nullptr);
-    if (!accessibleName_.empty())
-        setAccessibleName(accessibleName_);
 }
 
 // Made hidden and shown with its parts in it: half the cost of showing one after the other. WM_SETREDRAW makes a
@@ -173,17 +170,22 @@ void ControlSurface::refreshDpi()
         events_->resized();
 }
 
-void ControlSurface::setAccessibleName(std::u16string_view name)
+void ControlSurface::nameChanged()
 {
-    accessibleName_ = name;
-    if (const HWND window = edit().handle())
-        win32::setAccessibleName(window, accessibleName_);
+    if (label_ && label_->refresh())
+        NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, edit().handle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
-void ControlSurface::boxRebuilt()
+// The name is there before the system describes the box to a reader program.
+void ControlSurface::readerAsks()
 {
-    if (!accessibleName_.empty())
-        setAccessibleName(accessibleName_);
+    if (!label_)
+        label_ = std::make_unique<NameLabel>([this] {
+            const std::u16string name = listener_ ? listener_->fieldName() : std::u16string();
+            return name.empty() ? labelBefore(window_) : asLabel(name);
+        });
+    label_->standBefore(edit().handle());
+    label_->refresh();
 }
 
 void ControlSurface::draw(HDC dc, const RECT& place) const
@@ -221,7 +223,6 @@ platform::EditBox& ControlSurface::activate(platform::EditBoxKind kind)
     if (GetFocus() == before.handle())
         SetFocus(wanted.handle());
     ShowWindow(before.handle(), SW_HIDE);
-    boxRebuilt();
     return wanted;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/control_surface.h"
 #include "platform/win32/edit_box.h"
 #include "platform/win32/life.h"
+#include "platform/win32/name_label.h"
 #include "platform/win32/window.h"
 
 #include <array>
@@ -48,8 +49,8 @@ public:
     void putGround(engine::Colour colour); // of the host around it, where its corners are round
     void show(bool visible);
     void putDpi(int dpi); // while there is no window
-    void setAccessibleName(std::u16string_view name);
-    void refreshDpi(); // reads the window's dpi again; resized() when it changed
+    void nameChanged();   // what fieldName() answers
+    void refreshDpi();    // reads the window's dpi again; resized() when it changed
     // Draws the field as it looks into any device context (design mode, print, metafile).
     void draw(HDC dc, const RECT& place) const;
 
@@ -88,7 +89,7 @@ private:
     void sizeChanged();
     void tick(WPARAM timer);
     void focusArrived();
-    void boxRebuilt();
+    void readerAsks();
     void placeParts();
     void showButton();
     void appear() const;

@@ -288,7 +288,6 @@ void EditBox::rebuild()
     destroyWindow();
     kept_ = kept;
     createWindow(place, visible);
-    surface_.boxRebuilt();
     if (focused)
         SetFocus(edit_);
     entered_ = entered;

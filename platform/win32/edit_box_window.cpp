@@ -87,6 +87,7 @@ LRESULT EditBox::handle(UINT message, WPARAM first, LPARAM second)
     case WM_LBUTTONUP: return onButtonUp(first, second);
     case WM_LBUTTONDBLCLK: return onDoubleClick(first, second);
     case WM_GETDLGCODE: return dialogCode(first, second);
+    case WM_GETOBJECT: surface_.readerAsks(); return pass(message, first, second);
     case WM_UNICHAR: return onUnicode(first, second);
     case WM_IME_COMPOSITION: return onComposition(first, second);
     case WM_CONTEXTMENU: return onMenu(second);
@@ -507,6 +508,7 @@ LRESULT EditBox::onTab(const MSG& key, bool back)
         return 0;
     if (const HWND next = nextTabStop(edit_, back))
         SetFocus(next);
+    return 0;
 }
 
 } // namespace vela::win32

@@ -107,6 +107,26 @@ void strike(Form& form, int key, int with)
     settle(form);
 }
 
+void hardKey(Form& form, int key, int with)
+{
+    const auto send = [](int code, bool down) {
+        if (!code)
+            return;
+        INPUT input{};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = static_cast<WORD>(code);
+        input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(code), MAPVK_VK_TO_VSC));
+        input.ki.dwFlags = down ? 0U : KEYEVENTF_KEYUP;
+        SendInput(1, &input, sizeof input);
+    };
+    send(with, true);
+    send(key, true);
+    settle(form);
+    send(key, false);
+    send(with, false);
+    settle(form);
+}
+
 void holdKey(int key, bool down)
 {
     BYTE keys[256]{};

@@ -20,8 +20,9 @@ void pointAway();                    // at the desktop
 void clickAt(Form& form, HWND window, POINT at);
 void clickQuickly(Form& form, HWND window, POINT at, int times); // in one place, as fast as a person can and faster
 [[nodiscard]] POINT middleOf(HWND window);
-void strike(Form& form, int key, int with = 0); // down and up for the focused window, another key held meanwhile
-void holdKey(int key, bool down);               // as this thread's windows see it
+void strike(Form& form, int key, int with = 0);  // down and up for the focused window, another key held meanwhile
+void hardKey(Form& form, int key, int with = 0); // the same through the system's own queue of input
+void holdKey(int key, bool down);                // as this thread's windows see it
 
 struct SeenColours {
     COLORREF fore = CLR_INVALID;
