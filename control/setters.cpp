@@ -28,6 +28,17 @@ void Vela::BorderStyle(eEstiloBorda value)
     markChanged(u"BorderStyle");
 }
 
+// Seen at once at design time, where no field is ever left; at run time when it is next left.
+void Vela::BorderColorLostfocus(Colour value)
+{
+    settings_.borderColorLostfocus = value;
+    if (!host_.runMode()) {
+        border_ = value;
+        layOut();
+    }
+    markChanged(u"BorderColorLostfocus");
+}
+
 void Vela::EsquemaRetornoAtual(eEsquemasRetorno value)
 {
     settings_.esquemaRetornoAtual = value;

@@ -13,7 +13,6 @@ void Vela::BackColorGotFocus(Colour value) { store(settings_.backColorGotFocus, 
 void Vela::BackColorLostFocus(Colour value) { store(settings_.backColorLostFocus, value, u"BackColorLostFocus"); }
 void Vela::BorderColor_MouseMove(Colour value) { store(settings_.borderColorMouseMove, value, u"BorderColor_MouseMove"); }
 void Vela::BorderColorGotfocus(Colour value) { store(settings_.borderColorGotfocus, value, u"BorderColorGotfocus"); }
-void Vela::BorderColorLostfocus(Colour value) { store(settings_.borderColorLostfocus, value, u"BorderColorLostfocus"); }
 void Vela::CaractLiberados(View value) { store(settings_.caractLiberados, value, u"CaractLiberados"); }
 void Vela::CorValorNeg(Colour value) { store(settings_.corValorNeg, value, u"CorValorNeg"); }
 void Vela::CorValorPos(Colour value) { store(settings_.corValorPos, value, u"CorValorPos"); }

@@ -37,6 +37,21 @@ TEST(XpStyle, ShowsOneBoxAtEachPutOfAButton)
                             "box <:(> TextBox Estilo XP n?o suporta bot?es !");
 }
 
+TEST(BorderColorLostfocus, IsSeenAtOnceInDesignAndWhenTheFieldIsLeftAtRunTime)
+{
+    for (const bool run : {false, true}) {
+        FieldBench bench;
+        auto& f = bench.make(u"f", run);
+        f->initNew();
+        f.put(u"Appearance", 0);
+        f.put(u"BorderColorLostfocus", 0xFF);
+        EXPECT_EQ(f.surface->look().border.value, run ? 0x00FFFFFFU : 0xFFU);
+        bench.focus(f);
+        bench.leave();
+        EXPECT_EQ(f.surface->look().border.value, 0xFFU);
+    }
+}
+
 TEST(MultLine, IsStoredAndRefusedAtRunTimeAndSwapsTheBoxInDesign)
 {
     FieldBench bench;
