@@ -258,25 +258,6 @@ TEST(PageHands, AColourIsChosenByKeysAlone)
     EXPECT_EQ(Automation(control.get()).textOf(u"Error_ForeColor"), u"255");
 }
 
-TEST(PageHands, TheFontSampleStaysOnItsSurface)
-{
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
-    Automation(control.get()).put(u"FontSize", number(200));
-    const Hands hands(activex::fontePage, control);
-    const HWND button = hands.shown.find(L"BUTTON", u"T&este");
-    const HWND page = GetParent(button);
-    const RECT place = placeIn(button, page);
-    const RECT beside{place.right + 8, place.top, clientOf(page).right - 24, place.bottom}; // above the surface
-    const COLORREF ground = pixelOf(page, {beside.left, beside.top});
-    const auto covered = [&] {
-        return (beside.right - beside.left) * (beside.bottom - beside.top) - pixelsOf(page, ground, beside);
-    };
-    EXPECT_EQ(covered(), 0);
-    hands.click(button, {5, 5});
-    EXPECT_EQ(covered(), 0);
-}
-
 // --- looks
 
 constexpr COLORREF frameColour = RGB(10, 200, 30);
