@@ -35,14 +35,11 @@ extern "C" HRESULT STDAPICALLTYPE DllRegisterServer()
 
 extern "C" HRESULT STDAPICALLTYPE DllUnregisterServer()
 {
-    return activex::unregisterServer();
+    return activex::unregisterServer(activex::Scope::machineOrUser);
 }
 
 // regsvr32 /n /i:user Vela.ocx, with /u to undo it.
 extern "C" HRESULT STDAPICALLTYPE DllInstall(BOOL install, const wchar_t* commandLine)
 {
-    if (!install)
-        return activex::unregisterServer();
-    const bool user = commandLine && lstrcmpiW(commandLine, L"user") == 0;
-    return activex::registerServer(user ? activex::Scope::user : activex::Scope::machineOrUser);
+    return activex::install(install != FALSE, commandLine);
 }

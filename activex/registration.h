@@ -6,14 +6,16 @@
 namespace vela::activex {
 
 enum class Scope {
-    machineOrUser, // the machine; the user where the machine may not be written
+    machineOrUser, // the machine; the user where the machine may not be written. Unregistered: both
     user,
 };
 
-// Nothing stays behind when it fails. The failure names the key and the cure, in a box unless the caller wants silence
-// (regsvr32 /s) and as error information.
+// When it fails, everything is as it was before. The failure names the key and the cure, as error information and in a
+// box unless the caller wants silence (regsvr32 /s) or has no desktop that anybody sees.
 [[nodiscard]] HRESULT registerServer(Scope scope) noexcept;
-// From both places. What the other bitness shares stays as long as that one is registered.
-[[nodiscard]] HRESULT unregisterServer() noexcept;
+// From the user's registration, or from both. What the other bitness shares stays as long as that one is registered.
+[[nodiscard]] HRESULT unregisterServer(Scope scope) noexcept;
+// regsvr32 /i:WORD, with /u when it is not wanted. "user", or nothing; E_INVALIDARG and a message for another word.
+[[nodiscard]] HRESULT install(bool wanted, const wchar_t* word) noexcept;
 
 } // namespace vela::activex

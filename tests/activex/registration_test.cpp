@@ -131,6 +131,83 @@ TEST_F(Registration, ForOneUserAndBack)
     expectNothing(HKEY_CURRENT_USER);
 }
 
+TEST_F(Registration, UndoneForOneUserItStaysForTheMachine)
+{
+    ASSERT_EQ(callInstall(true, L"user"), S_OK);
+    ASSERT_EQ(callInstall(false, L"user"), S_OK);
+    expectNothing(HKEY_CURRENT_USER);
+    expectRegistered(HKEY_LOCAL_MACHINE);
+    ASSERT_EQ(callInstall(true, L"USER"), S_OK);
+    ASSERT_EQ(callInstall(false, nullptr), S_OK);
+    for (const HKEY root : roots)
+        expectNothing(root);
+}
+
+TEST_F(Registration, LeavesNoEmptyKeys)
+{
+    const auto parents = [] {
+        std::string found;
+        for (const wchar_t* const key : {L"CLSID", L"Interface", L"TypeLib"})
+            found += exists(HKEY_CURRENT_USER, key) ? '1' : '0';
+        return found;
+    };
+    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
+    const std::string before = parents();
+    ASSERT_EQ(callInstall(true, L"user"), S_OK);
+    ASSERT_EQ(callInstall(false, L"user"), S_OK);
+    EXPECT_EQ(before, "000");
+    EXPECT_EQ(parents(), before);
+}
+
+// A key in the way that takes no lasting keys below it; what was registered before says so by another path.
+TEST_F(Registration, AFailedOneLeavesTheOneThatWorked)
+{
+    const std::wstring server = L"Software\\Classes\\" + classKey(velaClass) + L"\\InprocServer32";
+    const std::wstring inTheWay = L"Software\\Classes\\Vela.cCalendar";
+    constexpr wchar_t other[] = L"C:\\antes\\Vela.ocx";
+    RegSetKeyValueW(HKEY_LOCAL_MACHINE, server.c_str(), nullptr, REG_SZ, other, sizeof other);
+    RegDeleteTreeW(HKEY_LOCAL_MACHINE, inTheWay.c_str());
+    HKEY key = nullptr;
+    RegCreateKeyExW(HKEY_LOCAL_MACHINE, inTheWay.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr,
+                    &key, nullptr);
+    {
+        const AnsweredBoxes boxes;
+        EXPECT_TRUE(FAILED(callServer("DllRegisterServer")));
+        EXPECT_EQ(boxes.texts().size(), 1u);
+    }
+    RegCloseKey(key);
+    EXPECT_EQ(valueOf(HKEY_LOCAL_MACHINE, classKey(velaClass) + L"\\InprocServer32"), other);
+    EXPECT_EQ(valueOf(HKEY_LOCAL_MACHINE, L"Vela.Vela\\CLSID"), activex::keyOf(velaClass));
+    EXPECT_EQ(valueOf(HKEY_LOCAL_MACHINE, L"Vela.cCalendar"), L"-") << "what it had written is taken back";
+    RegDeleteTreeW(HKEY_LOCAL_MACHINE, inTheWay.c_str());
+}
+
+TEST_F(Registration, AnUnknownWordIsRefusedWithAMessage)
+{
+    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
+    const AnsweredBoxes boxes;
+    EXPECT_EQ(callInstall(true, L"usuario"), E_INVALIDARG);
+    ASSERT_EQ(boxes.texts().size(), 1u);
+    EXPECT_NE(boxes.texts()[0].find(u"/i:usuario"), std::u16string::npos);
+    for (const HKEY root : roots)
+        expectNothing(root);
+}
+
+// As a service has it: a box would wait for ever.
+TEST_F(Registration, NoBoxWhereNobodySeesIt)
+{
+    const HWINSTA before = GetProcessWindowStation();
+    const HWINSTA unseen = CreateWindowStationW(nullptr, 0, GENERIC_ALL, nullptr);
+    ASSERT_TRUE(SetProcessWindowStation(unseen));
+    {
+        const AnsweredBoxes boxes;
+        EXPECT_EQ(callInstall(true, L"usuario"), E_INVALIDARG);
+        EXPECT_TRUE(boxes.texts().empty());
+    }
+    SetProcessWindowStation(before);
+    CloseWindowStation(unseen);
+}
+
 // Classes, names, library and status are found by the manifest alone.
 void expectActivation()
 {
