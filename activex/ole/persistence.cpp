@@ -50,8 +50,13 @@ HRESULT loadStream(Shell& shell, IStream& stream)
     std::string header;
     if (const HRESULT read = readBytes(stream, streamHeaderSize, header); FAILED(read))
         return read;
+    const std::size_t length = bodyLength(header);
     std::string body;
-    if (const HRESULT read = readBytes(stream, bodyLength(header), body); FAILED(read))
+    if (const HRESULT read = readBytes(stream, std::min(length, streamCountSize), body); FAILED(read))
+        return read;
+    if (body.size() == streamCountSize)
+        expectFewEntries(body);
+    if (const HRESULT read = readBytes(stream, length, body); FAILED(read))
         return read;
     MemoryBag bag = decode(header, body);
     shell.load(bag);

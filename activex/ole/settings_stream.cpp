@@ -203,12 +203,19 @@ std::size_t bodyLength(std::string_view header)
     return length;
 }
 
+void expectFewEntries(std::string_view body)
+{
+    if (Reader(body).number<std::uint32_t>() > streamEntryLimit)
+        invalid(u"the settings have too many entries");
+}
+
 MemoryBag decode(std::string_view header, std::string_view body)
 {
     if (body.size() != bodyLength(header))
         invalid(u"the settings end too early");
     if (Reader(header.substr(16)).number<std::uint32_t>() != checkValue(body))
         invalid(u"the settings are damaged");
+    expectFewEntries(body);
     Reader from(body);
     MemoryBag bag;
     for (auto left = from.number<std::uint32_t>(); left != 0; --left) {

@@ -33,10 +33,14 @@ private:
 
 inline constexpr std::size_t streamHeaderSize = 20;
 inline constexpr std::size_t streamBodyLimit = 0x4000000; // 64 MB
+inline constexpr std::size_t streamCountSize = 4;         // the count of the entries, first in the body
+inline constexpr std::size_t streamEntryLimit = 4096;     // some eighty are written
 
 [[nodiscard]] std::string encode(const MemoryBag& bag); // header and body; raises 7 beyond the limit
 // The length of the body that follows these 20 bytes. Raises 321 for what is no header, names the reason.
 [[nodiscard]] std::size_t bodyLength(std::string_view header);
+// The first bytes of a body, so that a count that lies costs no reading. Raises 321.
+void expectFewEntries(std::string_view body);
 // Raises 321 with nothing taken over.
 [[nodiscard]] MemoryBag decode(std::string_view header, std::string_view body);
 

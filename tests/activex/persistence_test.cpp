@@ -192,6 +192,20 @@ TEST(Persistence, BadStreamsAreRefusedWholeAndTheControlStaysAsItWas)
     ASSERT_EQ(field.put(u"Text", text(u"usable")).result, S_OK);
 }
 
+// 60 MB of empty entries would be kept in more than a gigabyte.
+TEST(Persistence, ACountOfMillionsIsRefusedBeforeMoreIsRead)
+{
+    std::string bytes("VelaSet\x1A\x01\0\0\0\x04\0\x94\x03\0\0\0\0\0\0\x80\0", 24);
+    bytes.resize(20 + 0x3940004);
+    const auto stream = memoryStream(bytes);
+    const ComPtr<IUnknown> control = create();
+    EXPECT_EQ(ComPtr<IPersistStreamInit>::from(control.get())->Load(stream.get()), static_cast<HRESULT>(0x800A0141));
+    ULARGE_INTEGER reached{};
+    stream->Seek({}, STREAM_SEEK_CUR, &reached);
+    EXPECT_EQ(reached.QuadPart, 24u);
+    EXPECT_EQ(Automation(control.get()).put(u"Text", text(u"usable")).result, S_OK);
+}
+
 TEST(Persistence, ABagThatFailsInTheMiddleIsReportedAsTheHostSaidIt)
 {
     const auto full = make<Bag>();
