@@ -6,6 +6,7 @@
 #include "activex/guids.h"
 #include "activex/property_page.h"
 #include "activex/vela_content.h"
+#include "platform/win32/module.h"
 
 namespace vela::activex {
 
@@ -80,15 +81,15 @@ public:
     HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) noexcept override
     {
         if (lock)
-            ModuleLock::add();
+            win32::useModule();
         else
-            ModuleLock::remove();
+            win32::leaveModule();
         return S_OK;
     }
 
 private:
     ~ClassFactory() = default;
-    ModuleLock lock_;
+    win32::ModuleUse use_;
     Create create_;
     LONG references_ = 1;
 };

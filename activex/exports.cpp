@@ -1,19 +1,30 @@
 // The entry points of the library.
 #include "activex/class_factory.h"
-#include "activex/com/module_lock.h"
 #include "activex/registration.h"
 #include "platform/win32/activation_context.h"
+#include "platform/win32/module.h"
+#include "platform/win32/thread.h"
 #include "platform/win32/window.h"
 
 using namespace vela;
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, void* atProcessEnd)
+#ifdef __GLIBCXX__
+namespace __gnu_cxx {
+void __freeres(); // gives back what the compiler's library keeps for throwing without memory, 70 KB
+}
+#endif
+
+// The system holds its lock of all modules meanwhile: nothing is loaded, made or waited for.
+extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, void* atProcessEnd)
 {
-    if (reason == DLL_PROCESS_ATTACH)
-        DisableThreadLibraryCalls(module);
+    if (reason == DLL_THREAD_DETACH)
+        win32::endThread();
     if (reason == DLL_PROCESS_DETACH && !atProcessEnd) {
         win32::unregisterClasses();
         win32::releaseActivationContext();
+#ifdef __GLIBCXX__
+        __gnu_cxx::__freeres();
+#endif
     }
     return TRUE;
 }
@@ -25,7 +36,7 @@ extern "C" HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID clsid, REFIID iid, 
 
 extern "C" HRESULT STDAPICALLTYPE DllCanUnloadNow()
 {
-    return activex::ModuleLock::any() || win32::windowsToDestroy() > 0 ? S_FALSE : S_OK;
+    return win32::moduleInUse() ? S_FALSE : S_OK;
 }
 
 extern "C" HRESULT STDAPICALLTYPE DllRegisterServer()

@@ -2,7 +2,6 @@
 #include "activex/property_page.h"
 
 #include "activex/com/guard.h"
-#include "activex/com/module_lock.h"
 #include "activex/dispatch_object.h"
 #include "activex/ole/dispatch.h"
 #include "activex/page_map.h"
@@ -10,6 +9,7 @@
 #include "activex/vela_members.h"
 #include "pages/frm_paleta.h"
 #include "platform/win32/dpi.h"
+#include "platform/win32/module.h"
 
 #include <olectl.h>
 #include <optional>
@@ -80,7 +80,7 @@ private:
     void showFailure(const engine::Error& error);
     [[nodiscard]] bool leaves(const MSG& message) const; // Tab beyond the page's ends
 
-    ModuleLock lock_;
+    win32::ModuleUse use_;
     ULONG references_ = 1;
     pages::PageKind kind_;
     std::shared_ptr<Session> session_;

@@ -119,7 +119,7 @@ start_wine() {
   fi
   # Without a window manager each managed window that goes is waited for, two seconds long.
   local program
-  for program in contract_tests activex_tests window_bench; do
+  for program in contract_tests activex_tests unloading_tests window_bench; do
     quietly "wine$bits-reg.log" wine_run "$bits" reg add \
       "HKCU\\Software\\Wine\\AppDefaults\\$program.exe\\X11 Driver" /v Managed /d N /f
   done

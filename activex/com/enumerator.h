@@ -2,8 +2,8 @@
 #pragma once
 
 #include "activex/com/guard.h"
-#include "activex/com/module_lock.h"
 #include "platform/win32/com_object.h"
+#include "platform/win32/module.h"
 
 #include <memory>
 #include <vector>
@@ -56,7 +56,7 @@ public:
 private:
     Enumerator(List list, std::size_t next) : list_(std::move(list)), next_(next) {}
 
-    ModuleLock lock_;
+    win32::ModuleUse use_;
     List list_;
     std::size_t next_;
 };

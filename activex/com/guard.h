@@ -3,6 +3,7 @@
 
 #include "activex/com/owners.h"
 #include "engine/error.h"
+#include "platform/win32/thread.h"
 
 #include <type_traits>
 
@@ -31,6 +32,7 @@ HRESULT describeCurrentException(EXCEPINFO* info) noexcept;
 template <class Call>
 HRESULT guarded(Call&& call) noexcept
 {
+    const win32::LibraryCall inside;
     try {
         if constexpr (std::is_same_v<std::invoke_result_t<Call>, HRESULT>) {
             return call();
@@ -47,6 +49,7 @@ HRESULT guarded(Call&& call) noexcept
 template <class Call>
 void contained(Call&& call) noexcept
 {
+    const win32::LibraryCall inside;
     try {
         call();
     } catch (...) {

@@ -2,7 +2,6 @@
 #include "activex/ole/shell.h"
 
 #include "activex/com/guard.h"
-#include "activex/com/later.h"
 
 #include <utility>
 
@@ -98,6 +97,7 @@ ULONG Shell::Release() noexcept
 {
     if (references_ > 1)
         return --references_;
+    const win32::LibraryCall call;
     end(); // with the last reference: the host may take and return others meanwhile
     if (references_ > 1)
         return --references_;
@@ -109,8 +109,9 @@ void Shell::releaseLater() noexcept
 {
     if (references_ == 1)
         end();
+    const auto letGo = [](void* shell) noexcept { static_cast<Shell*>(shell)->Release(); };
     if (references_ == 1)
-        releaseWhenIdle(*this);
+        win32::afterCall(letGo, this); // where that cannot wait it is kept for good, the lesser harm
     else
         --references_;
 }

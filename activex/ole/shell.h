@@ -2,7 +2,6 @@
 #pragma once
 
 #include "activex/com/guard.h"
-#include "activex/com/module_lock.h"
 #include "activex/ole/activation.h"
 #include "activex/ole/browsing.h"
 #include "activex/ole/class_info.h"
@@ -17,6 +16,8 @@
 #include "activex/ole/quick_activate.h"
 #include "activex/ole/site.h"
 #include "activex/ole/view_object.h"
+#include "platform/win32/module.h"
+#include "platform/win32/thread.h"
 
 #include <memory>
 #include <span>
@@ -37,8 +38,8 @@ public:
     ULONG STDMETHODCALLTYPE Release() noexcept override;
 
     // Keeps the shell for a scope that calls the host. When the host has let go by its end, what the host closed stays
-    // closed at once, and the memory goes when the thread next looks for messages: routines of the content may still be
-    // on the stack.
+    // closed at once, and the memory goes when the outermost call into the library ends, on the thread it is in:
+    // routines of the content may still be on the stack.
     class Hold {
     public:
         explicit Hold(Shell& shell) noexcept : shell_(shell) { shell_.AddRef(); }
@@ -47,6 +48,7 @@ public:
         ~Hold() { shell_.releaseLater(); }
 
     private:
+        const win32::LibraryCall call_;
         Shell& shell_;
     };
 
@@ -99,7 +101,7 @@ private:
     [[nodiscard]] Content& bareContent();
     [[nodiscard]] IUnknown* part(REFIID iid) noexcept;
 
-    ModuleLock lock_;
+    win32::ModuleUse use_;
     const ClassFacts& facts_;
     Maker make_;
     ULONG references_ = 1;

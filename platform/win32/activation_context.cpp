@@ -3,39 +3,33 @@
 
 #include "platform/win32/module.h"
 
+#include <atomic>
+
 namespace vela::win32 {
 namespace {
 
 // The number under which the module keeps the manifest that asks for version 6. 1 is a program's own.
 constexpr WORD manifestResource = 2;
 
-struct ModuleContext {
-    HANDLE context = INVALID_HANDLE_VALUE;
-    HMODULE controls = nullptr; // keeps the version 6 library loaded, so that its classes stay registered
-};
+std::atomic<HANDLE> held{INVALID_HANDLE_VALUE};
 
-ModuleContext makeContext() noexcept
+// The controls' library itself is among the module's imports, which that manifest leads to version 6: it comes and goes
+// with the module.
+HANDLE makeContext() noexcept
 {
     ACTCTXW wanted{};
     wanted.cbSize = sizeof wanted;
     wanted.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
     wanted.hModule = thisModule();
     wanted.lpResourceName = MAKEINTRESOURCEW(manifestResource);
-    ModuleContext made;
-    if (!FindResourceW(thisModule(), wanted.lpResourceName, MAKEINTRESOURCEW(24)))
-        return made;
-    made.context = CreateActCtxW(&wanted);
-    ULONG_PTR cookie = 0;
-    if (made.context != INVALID_HANDLE_VALUE && ActivateActCtx(made.context, &cookie)) {
-        made.controls = LoadLibraryW(L"comctl32.dll");
-        DeactivateActCtx(0, cookie);
-    }
-    return made;
+    if (FindResourceW(thisModule(), wanted.lpResourceName, MAKEINTRESOURCEW(24)))
+        held = CreateActCtxW(&wanted);
+    return held;
 }
 
-ModuleContext& moduleContext() noexcept
+HANDLE moduleContext() noexcept
 {
-    static ModuleContext context = makeContext();
+    static const HANDLE context = makeContext();
     return context;
 }
 
@@ -43,7 +37,7 @@ ModuleContext& moduleContext() noexcept
 
 ActivationContext::ActivationContext() noexcept
 {
-    if (const HANDLE context = moduleContext().context; context != INVALID_HANDLE_VALUE)
+    if (const HANDLE context = moduleContext(); context != INVALID_HANDLE_VALUE)
         ActivateActCtx(context, &cookie_);
 }
 
@@ -55,10 +49,8 @@ ActivationContext::~ActivationContext()
 
 void releaseActivationContext() noexcept
 {
-    ModuleContext& held = moduleContext();
-    if (held.context != INVALID_HANDLE_VALUE)
-        ReleaseActCtx(held.context);
-    held = {};
+    if (const HANDLE context = held.exchange(INVALID_HANDLE_VALUE); context != INVALID_HANDLE_VALUE)
+        ReleaseActCtx(context);
 }
 
 } // namespace vela::win32

@@ -17,7 +17,7 @@ private:
     ULONG_PTR cookie_ = 0;
 };
 
-// The module's context is given back when it is unloaded; called by its entry point.
+// The module's context, if one was made, is given back when it is unloaded; called by its entry point.
 void releaseActivationContext() noexcept;
 
 } // namespace vela::win32

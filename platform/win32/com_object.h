@@ -1,6 +1,8 @@
 // An object of one COM interface that goes with its last reference. Made with one; safe on any thread.
 #pragma once
 
+#include "platform/win32/module.h"
+
 #include <unknwn.h>
 
 #include <atomic>
@@ -43,6 +45,7 @@ protected:
     }
 
 private:
+    ModuleUse use_;
     std::atomic<ULONG> references_{1};
 };
 

@@ -245,9 +245,7 @@ void EditBox::createWindow(const RECT& place, bool visible)
                                       thisModule(), nullptr);
     if (!made)
         engine::raise(engine::error_number::outOfMemory);
-    original_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(made, GWLP_WNDPROC));
-    bindObject(made, this);
-    SetWindowLongPtrW(made, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&EditBox::procedure));
+    original_ = subclass(made, this, &EditBox::procedure);
     edit_ = made;
     stale_ = false;
     behind_ = false;
@@ -263,8 +261,14 @@ void EditBox::createWindow(const RECT& place, bool visible)
 void EditBox::destroyWindow()
 {
     entered_ = false;
-    if (edit_)
-        DestroyWindow(edit_);
+    const HWND window = edit_;
+    if (!window)
+        return;
+    DestroyWindow(window);
+    if (edit_ == window) { // a procedure put in front of ours kept the message to itself
+        edit_ = nullptr;
+        forgetWindow(window);
+    }
 }
 
 void EditBox::keepState()

@@ -68,7 +68,7 @@ LRESULT CALLBACK EditBox::procedure(HWND window, UINT message, WPARAM first, LPA
 {
     auto* box = static_cast<EditBox*>(boundObject(window));
     if (!box)
-        return DefWindowProcW(window, message, first, second);
+        return behindProcedure(window, message, first, second);
     return guarded([&] { return box->handle(message, first, second); }, LRESULT{0});
 }
 
@@ -114,7 +114,6 @@ LRESULT EditBox::handle(UINT message, WPARAM first, LPARAM second)
 LRESULT EditBox::onDestroyed(WPARAM first, LPARAM second)
 {
     const HWND window = std::exchange(edit_, nullptr);
-    const WNDPROC original = original_;
     unbindObject(window);
     if (!rebuilding_) {
         const bool owes = std::exchange(entered_, false) || arbiter_.returnsTo(*this);
@@ -122,7 +121,7 @@ LRESULT EditBox::onDestroyed(WPARAM first, LPARAM second)
         if (owes)
             goneForGood(); // may destroy the box
     }
-    return CallWindowProcW(original, window, WM_NCDESTROY, first, second);
+    return behindProcedure(window, WM_NCDESTROY, first, second);
 }
 
 LRESULT EditBox::onSetText(WPARAM first, LPARAM second)

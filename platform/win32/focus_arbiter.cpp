@@ -3,6 +3,7 @@
 
 #include "platform/win32/edit_box.h"
 #include "platform/win32/guard.h"
+#include "platform/win32/thread.h"
 
 #include <algorithm>
 #include <utility>
@@ -12,28 +13,39 @@ namespace {
 
 constexpr UINT settleMessage = WM_APP + 1;
 
-thread_local FocusArbiter* current = nullptr;
-
 } // namespace
 
 FocusArbiter& FocusArbiter::retain()
 {
-    if (!current)
-        current = new FocusArbiter;
-    ++current->users_;
-    return *current;
+    ThreadRecord& thread = madeThreadRecord();
+    if (!thread.arbiter)
+        thread.arbiter = new FocusArbiter;
+    ++thread.arbiter->users_;
+    return *thread.arbiter;
 }
 
 void FocusArbiter::release() noexcept
 {
     // What waits for the message loop keeps it alive until then.
-    if (current && --current->users_ == 0 && current->later_.empty())
-        delete std::exchange(current, nullptr);
+    ThreadRecord* const thread = threadRecord();
+    if (FocusArbiter* const arbiter = thread ? thread->arbiter : nullptr;
+        arbiter && --arbiter->users_ == 0 && arbiter->later_.empty())
+        delete std::exchange(thread->arbiter, nullptr);
 }
 
 FocusArbiter* FocusArbiter::ofThread() noexcept
 {
-    return current;
+    const ThreadRecord* const thread = threadRecord();
+    return thread ? thread->arbiter : nullptr;
+}
+
+void FocusArbiter::abandon() noexcept
+{
+    ThreadRecord* const thread = threadRecord();
+    if (!thread || !thread->arbiter || thread->arbiter->users_ > 0)
+        return;
+    thread->arbiter->window_ = nullptr;
+    delete std::exchange(thread->arbiter, nullptr);
 }
 
 FocusArbiter::~FocusArbiter()

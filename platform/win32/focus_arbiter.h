@@ -23,6 +23,8 @@ public:
     [[nodiscard]] static FocusArbiter& retain();
     static void release() noexcept;
     [[nodiscard]] static FocusArbiter* ofThread() noexcept; // null when nobody holds it
+    // The thread ends: what still waits will not be run. Its window is the system's to destroy.
+    static void abandon() noexcept;
 
     // A notification of the focus is running, for a scope.
     class Change {

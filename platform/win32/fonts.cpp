@@ -1,6 +1,7 @@
 // Fonts by description, one system object for all equal ones in use.
 #include "platform/win32/fonts.h"
 
+#include "platform/win32/owners.h"
 #include "platform/win32/text.h"
 
 #include <algorithm>
@@ -17,6 +18,10 @@ struct Entry {
 };
 
 constexpr double pointsPerInch = 72;
+
+// Of the process: a font is no thread's own.
+SRWLOCK keptLock = SRWLOCK_INIT;
+std::vector<Entry> kept;
 
 } // namespace
 
@@ -37,7 +42,7 @@ HFONT makeFont(const platform::FontDescription& description, int height) noexcep
 
 SharedFont sharedFont(const platform::FontDescription& description, int dpi)
 {
-    thread_local std::vector<Entry> kept;
+    const Locked lock(keptLock);
     std::erase_if(kept, [](const Entry& entry) { return entry.font.expired(); });
     for (const Entry& entry : kept)
         if (entry.dpi == dpi && entry.description == description)

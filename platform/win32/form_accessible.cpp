@@ -3,11 +3,14 @@
 
 #include "platform/win32/com_object.h"
 #include "platform/win32/guard.h"
+#include "platform/win32/owners.h"
 #include "platform/win32/text.h"
 
 #include <oleauto.h>
 
 #include <oleacc.h>
+
+#include <utility>
 
 namespace vela::win32 {
 namespace {
@@ -17,12 +20,20 @@ using ToResult = LRESULT(WINAPI*)(REFIID, WPARAM, IUnknown*);
 
 constexpr IID accessibleInterface{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
 
-template <class Function>
-Function serviceFunction(const char* name) noexcept
-{
-    static const HMODULE service = LoadLibraryW(L"oleacc.dll");
-    return service ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(service, name))) : nullptr;
-}
+// The system's library of such objects, there as long as one that stands on it.
+class Service {
+public:
+    Service() noexcept : library_(LoadLibraryExW(L"oleacc.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)) {}
+    template <class Function>
+    [[nodiscard]] Function function(const char* name) const noexcept
+    {
+        const HMODULE library = library_.get();
+        return library ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name))) : nullptr;
+    }
+
+private:
+    UniqueLibrary library_;
+};
 
 HRESULT allocate(const std::u16string& text, BSTR* into) noexcept
 {
@@ -42,7 +53,10 @@ VARIANT number(LONG value) noexcept
 
 class FormAccessible final : public ComObject<IAccessible> {
 public:
-    FormAccessible(IAccessible& standard, SpokenForm& form) noexcept : standard_(standard), form_(&form) {}
+    FormAccessible(Service service, IAccessible& standard, SpokenForm& form) noexcept
+        : service_(std::move(service)), standard_(standard), form_(&form)
+    {
+    }
     ~FormAccessible() override { standard_.Release(); }
     void disconnect() noexcept { form_ = nullptr; }
 
@@ -190,6 +204,7 @@ private:
         return child;
     }
 
+    Service service_;
     IAccessible& standard_; // held
     SpokenForm* form_;
     std::vector<SpokenLabel> labels_; // as of the last question
@@ -197,15 +212,16 @@ private:
 
 LRESULT FormSpeech::answer(HWND window, WPARAM first, SpokenForm& form)
 {
-    const auto toResult = serviceFunction<ToResult>("LresultFromObject");
-    const auto makeStandard = serviceFunction<MakeStandard>("CreateStdAccessibleObject");
+    Service service;
+    const auto toResult = service.function<ToResult>("LresultFromObject");
+    const auto makeStandard = service.function<MakeStandard>("CreateStdAccessibleObject");
     if (!toResult || !makeStandard)
         return 0;
     if (!object_) {
         void* standard = nullptr;
         if (FAILED(makeStandard(window, OBJID_CLIENT, accessibleInterface, &standard)) || !standard)
             return 0;
-        object_ = new FormAccessible(*static_cast<IAccessible*>(standard), form);
+        object_ = new FormAccessible(std::move(service), *static_cast<IAccessible*>(standard), form);
     }
     return toResult(accessibleInterface, first, object_);
 }

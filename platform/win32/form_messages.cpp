@@ -96,7 +96,7 @@ LRESULT FormWindow::widgetMessage(Widget& widget, HWND window, UINT message, WPA
     case WM_NCDESTROY:
         unbindObject(window);
         (window == widget.inner ? widget.inner : widget.window) = nullptr;
-        break;
+        return behindProcedure(window, message, first, second);
     default: break;
     }
     const LRESULT result = CallWindowProcW(original, window, message, first, second);

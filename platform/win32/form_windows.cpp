@@ -64,24 +64,14 @@ LRESULT CALLBACK widgetProcedure(HWND window, UINT message, WPARAM first, LPARAM
 {
     auto* widget = static_cast<Widget*>(boundObject(window));
     if (!widget)
-        return DefWindowProcW(window, message, first, second);
+        return behindProcedure(window, message, first, second);
     return guarded([&] { return widget->form->widgetMessage(*widget, window, message, first, second); }, LRESULT{0});
 }
 
-WNDPROC subclass(HWND window, Widget& widget) noexcept
+void letGo(HWND& window) noexcept
 {
-    const auto original = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window, GWLP_WNDPROC));
-    bindObject(window, &widget);
-    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&widgetProcedure));
-    return original;
-}
-
-void unsubclass(HWND& window, WNDPROC original) noexcept
-{
-    if (const HWND known = std::exchange(window, nullptr)) {
-        SetWindowLongPtrW(known, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+    if (const HWND known = std::exchange(window, nullptr))
         unbindObject(known);
-    }
 }
 
 // The tabs' captions and the upper side of their pane. The system keeps it.
@@ -229,11 +219,11 @@ void FormWindow::makeWidget(Widget& widget)
                         reinterpret_cast<HMENU>(INT_PTR{100} + widget.id.value), thisModule(), nullptr);
     if (!widget.window)
         return;
-    widget.original = subclass(widget.window, widget);
+    widget.original = subclass(widget.window, &widget, widgetProcedure);
     if (widget.kind() == WidgetKind::comboBox) {
         widget.inner = editOf(widget.window);
         if (widget.inner)
-            widget.innerOriginal = subclass(widget.inner, widget);
+            widget.innerOriginal = subclass(widget.inner, &widget, widgetProcedure);
     }
     if (widget.list)
         widget.list->fill();
@@ -301,8 +291,8 @@ void FormWindow::applyVisibility()
 void FormWindow::dropWindows()
 {
     for (const auto& widget : widgets_) {
-        unsubclass(widget->inner, widget->innerOriginal);
-        unsubclass(widget->window, widget->original);
+        letGo(widget->inner);
+        letGo(widget->window);
     }
     pressed_ = nullptr;
     speech_.forget();

@@ -1,6 +1,8 @@
 // The one guard of window procedures and timers: nothing escapes to the system.
 #pragma once
 
+#include "platform/win32/thread.h"
+
 #include <windows.h>
 
 #include <utility>
@@ -11,6 +13,7 @@ namespace vela::win32 {
 template <class Work, class Result>
 Result guarded(Work&& work, Result fallback) noexcept
 {
+    const LibraryCall call;
     try {
         return std::forward<Work>(work)();
     } catch (...) {
@@ -21,6 +24,7 @@ Result guarded(Work&& work, Result fallback) noexcept
 template <class Work>
 void guarded(Work&& work) noexcept
 {
+    const LibraryCall call;
     try {
         std::forward<Work>(work)();
     } catch (...) {

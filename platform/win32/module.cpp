@@ -1,7 +1,29 @@
-// Finds the module that holds this code.
+// Finds the module that holds this code, and counts what needs it.
 #include "platform/win32/module.h"
 
+#include <atomic>
+
 namespace vela::win32 {
+namespace {
+
+std::atomic<long> uses{0};
+
+} // namespace
+
+void useModule() noexcept
+{
+    ++uses;
+}
+
+void leaveModule() noexcept
+{
+    --uses;
+}
+
+bool moduleInUse() noexcept
+{
+    return uses != 0;
+}
 
 HINSTANCE thisModule() noexcept
 {

@@ -74,6 +74,18 @@ struct GdiTraits {
     static void close(Object object) noexcept { DeleteObject(object); }
 };
 
+// A lock for a scope.
+class Locked {
+public:
+    explicit Locked(SRWLOCK& lock) noexcept : lock_(lock) { AcquireSRWLockExclusive(&lock_); }
+    Locked(const Locked&) = delete;
+    Locked& operator=(const Locked&) = delete;
+    ~Locked() { ReleaseSRWLockExclusive(&lock_); }
+
+private:
+    SRWLOCK& lock_;
+};
+
 using UniqueWindow = Unique<WindowTraits>;
 using UniqueMenu = Unique<MenuTraits>;
 using UniqueKey = Unique<KeyTraits>;

@@ -3,17 +3,12 @@
 
 #include "platform/win32/guard.h"
 #include "platform/win32/module.h"
+#include "platform/win32/owners.h"
+#include "platform/win32/thread.h"
 #include "platform/win32/window_map.h"
-
-#include <array>
-#include <atomic>
 
 namespace vela::win32 {
 namespace {
-
-constexpr UINT destroyMessage = WM_APP + 0x56;
-constexpr const wchar_t* waitingMark = L"VelaWaiting"; // property of a window that waits to be destroyed
-std::atomic<long> waiting{0};
 
 LRESULT dispatch(HWND window, UINT message, WPARAM first, LPARAM second)
 {
@@ -23,20 +18,13 @@ LRESULT dispatch(HWND window, UINT message, WPARAM first, LPARAM second)
         return DefWindowProcW(window, message, first, second);
     }
     auto* handler = static_cast<WindowHandler*>(boundObject(window));
-    if (!handler && message == destroyMessage) {
-        DestroyWindow(window);
-        return 0;
-    }
-    if (!handler && message == WM_NCDESTROY && RemovePropW(window, waitingMark))
-        --waiting; // also when its parent went first and took it along
-    if (!handler)
-        return DefWindowProcW(window, message, first, second);
     if (message == WM_NCDESTROY) {
-        unbind(window);
-        handler->unbound();
-        return DefWindowProcW(window, message, first, second);
+        forgetWindow(window);
+        if (handler)
+            handler->unbound();
+        handler = nullptr;
     }
-    return handler->handle(window, message, first, second);
+    return handler ? handler->handle(window, message, first, second) : DefWindowProcW(window, message, first, second);
 }
 
 LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
@@ -51,16 +39,15 @@ struct WindowClass {
 };
 
 // A class name is per module, so that two copies of this library in one process do not meet.
-std::array<WindowClass, 3>& classes() noexcept
-{
-    static std::array<WindowClass, 3> all{{{L"VelaControl", CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW},
-                                           {L"VelaForm", CS_DBLCLKS | CS_DROPSHADOW},
-                                           {L"VelaMessages", 0}}};
-    return all;
-}
+WindowClass classes[] = {{L"VelaControl", CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW},
+                         {L"VelaForm", CS_DBLCLKS | CS_DROPSHADOW},
+                         {L"VelaMessages", 0}};
 
+// One thread at a time: a class that another is just registering cannot be found yet.
 const wchar_t* registered(WindowClass& wanted) noexcept
 {
+    static SRWLOCK lock = SRWLOCK_INIT;
+    const Locked locked(lock);
     if (!wanted.registered) {
         WNDCLASSEXW description{};
         description.cbSize = sizeof description;
@@ -69,7 +56,10 @@ const wchar_t* registered(WindowClass& wanted) noexcept
         description.hInstance = thisModule();
         description.hCursor = LoadCursorW(nullptr, reinterpret_cast<const wchar_t*>(IDC_ARROW));
         description.lpszClassName = wanted.name;
-        wanted.registered = RegisterClassExW(&description) != 0 || GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
+        wanted.registered = RegisterClassExW(&description) != 0;
+        // Left by the module's last stay in the process: its procedure stands no more.
+        if (!wanted.registered && UnregisterClassW(wanted.name, thisModule()))
+            wanted.registered = RegisterClassExW(&description) != 0;
     }
     return wanted.name;
 }
@@ -78,20 +68,20 @@ const wchar_t* registered(WindowClass& wanted) noexcept
 
 const wchar_t* surfaceClass() noexcept
 {
-    return registered(classes()[0]);
+    return registered(classes[0]);
 }
 const wchar_t* formClass() noexcept
 {
-    return registered(classes()[1]);
+    return registered(classes[1]);
 }
 const wchar_t* messageClass() noexcept
 {
-    return registered(classes()[2]);
+    return registered(classes[2]);
 }
 
 void unregisterClasses() noexcept
 {
-    for (WindowClass& each : classes())
+    for (WindowClass& each : classes)
         if (each.registered && UnregisterClassW(each.name, thisModule()))
             each.registered = false;
 }
@@ -105,17 +95,10 @@ HWND createBound(const wchar_t* windowClass, WindowHandler& handler, DWORD exten
 
 void destroyLater(HWND window) noexcept
 {
-    if (SetPropW(window, waitingMark, window)) {
-        ++waiting;
-        if (PostMessageW(window, destroyMessage, 0, 0))
-            return;
-    }
-    DestroyWindow(window);
-}
-
-long windowsToDestroy() noexcept
-{
-    return waiting;
+    ShowWindow(window, SW_HIDE);
+    const auto destroy = [](void* waiting) noexcept { DestroyWindow(static_cast<HWND>(waiting)); };
+    if (!afterCall(destroy, window))
+        DestroyWindow(window);
 }
 
 void unbind(HWND window) noexcept

@@ -25,9 +25,8 @@ void unregisterClasses() noexcept;
 // Bound in WM_NCCREATE, unbound in WM_NCDESTROY. Null when the system refuses.
 [[nodiscard]] HWND createBound(const wchar_t* windowClass, WindowHandler& handler, DWORD extendedStyle, DWORD style,
                                const RECT& place, HWND parent) noexcept;
-// An unbound window that is destroyed by the message loop, because one of its procedures may be under way.
+// An unbound window that goes when the calls under way have ended: one may be of its own procedure.
 void destroyLater(HWND window) noexcept;
-[[nodiscard]] long windowsToDestroy() noexcept; // the module may not be unloaded before there are none
 // No message reaches the handler from now on.
 void unbind(HWND window) noexcept;
 

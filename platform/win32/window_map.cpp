@@ -1,53 +1,80 @@
-// A table a thread, there while any window is bound, with the last answer at hand: messages come in runs.
+// A table in the thread's record.
 #include "platform/win32/window_map.h"
 
-#include <unordered_map>
+#include "platform/win32/thread.h"
 
 namespace vela::win32 {
 namespace {
 
-struct Table {
-    std::unordered_map<HWND, void*> objects;
-    HWND lastWindow = nullptr;
-    void* lastObject = nullptr;
-};
+ThreadRecord::Window* find(HWND window) noexcept
+{
+    ThreadRecord* const record = threadRecord();
+    if (!record)
+        return nullptr;
+    const auto found = record->windows.find(window);
+    return found != record->windows.end() ? &found->second : nullptr;
+}
 
-thread_local Table* table = nullptr;
+void remember(ThreadRecord& record, HWND window, void* object) noexcept
+{
+    record.lastWindow = window;
+    record.lastObject = object;
+}
 
 } // namespace
 
 void bindObject(HWND window, void* object)
 {
-    if (!table)
-        table = new Table;
-    table->objects[window] = object;
-    table->lastWindow = window;
-    table->lastObject = object;
+    ThreadRecord& record = madeThreadRecord();
+    record.windows[window].object = object;
+    remember(record, window, object);
+}
+
+WNDPROC subclass(HWND window, void* object, WNDPROC procedure)
+{
+    const auto behind = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window, GWLP_WNDPROC));
+    bindObject(window, object);
+    find(window)->behind = behind;
+    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    return behind;
 }
 
 void unbindObject(HWND window) noexcept
 {
-    if (!table || table->objects.erase(window) == 0)
-        return;
-    table->lastWindow = nullptr;
-    if (table->objects.empty()) {
-        delete table;
-        table = nullptr;
+    if (ThreadRecord::Window* const bound = find(window)) {
+        bound->object = nullptr;
+        remember(*threadRecord(), window, nullptr);
+    }
+}
+
+void forgetWindow(HWND window) noexcept
+{
+    if (ThreadRecord* const record = threadRecord()) {
+        record->windows.erase(window);
+        remember(*record, nullptr, nullptr);
     }
 }
 
 void* boundObject(HWND window) noexcept
 {
-    if (!table)
+    ThreadRecord* const record = threadRecord();
+    if (!record)
         return nullptr;
-    if (window != table->lastWindow) {
-        const auto found = table->objects.find(window);
-        if (found == table->objects.end())
-            return nullptr;
-        table->lastWindow = window;
-        table->lastObject = found->second;
+    if (window != record->lastWindow) {
+        const auto found = record->windows.find(window);
+        remember(*record, window, found != record->windows.end() ? found->second.object : nullptr);
     }
-    return table->lastObject;
+    return record->lastObject;
+}
+
+LRESULT behindProcedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
+{
+    const ThreadRecord::Window* const bound = find(window);
+    const WNDPROC behind =
+        bound && bound->behind ? bound->behind : reinterpret_cast<WNDPROC>(GetClassLongPtrW(window, GCLP_WNDPROC));
+    if (message == WM_NCDESTROY)
+        forgetWindow(window);
+    return CallWindowProcW(behind, window, message, first, second);
 }
 
 } // namespace vela::win32

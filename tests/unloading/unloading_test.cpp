@@ -1,0 +1,259 @@
+// The library comes and goes with its users, on any thread, and nothing of it stays behind.
+#include "apart.h"
+
+#include "tests/activex/container.h"
+#include "tests/windows/usage.h"
+
+#include <gtest/gtest.h>
+#include <oleacc.h>
+
+#include <cstdio>
+#include <string_view>
+#include <vector>
+
+namespace vela::test {
+
+namespace {
+
+// What COM keeps of a thread that uses it.
+class Apartment {
+public:
+    Apartment() { EXPECT_EQ(OleInitialize(nullptr), S_OK); }
+    Apartment(const Apartment&) = delete;
+    Apartment& operator=(const Apartment&) = delete;
+    ~Apartment() { OleUninitialize(); }
+};
+
+BOOL CALLBACK takePopup(HWND window, LPARAM into)
+{
+    wchar_t name[32]{};
+    GetClassNameW(window, name, 32);
+    if (std::wstring_view(name) == L"VelaForm")
+        *reinterpret_cast<HWND*>(into) = window;
+    return TRUE;
+}
+
+HWND popupOfThread()
+{
+    HWND found = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), takePopup, reinterpret_cast<LPARAM>(&found));
+    return found;
+}
+
+constexpr SIZE_T perLoading = 40 * 1024; // of memory; the loader and COM take most of it
+
+HWND openPopup(const Site& site)
+{
+    SendMessageW(FindWindowExW(site.window(), nullptr, L"Button", nullptr), BM_CLICK, 0, 0);
+    return popupOfThread();
+}
+
+// A field made, typed into, with its pop-up up, and let go of in one of three ways.
+void useAField(int round)
+{
+    Form form;
+    Site& site = form.addActive();
+    (round % 2 == 0 ? asDate : asNumber)(site.automation());
+    SetFocus(site.edit());
+    for (const wchar_t unit : {L'1', L'2', L'3'})
+        SendMessageW(site.edit(), WM_CHAR, unit, 1);
+    openPopup(site);
+    form.run();
+    const bool inEvent = round % 3 == 1;
+    if (inEvent) {
+        site.onEvent = [&](DISPID, DISPPARAMS&) {
+            if (site.control())
+                site.close();
+        };
+        SendMessageW(site.edit(), WM_CHAR, L'4', 1);
+    } else if (round % 3 == 2) {
+        form.destroyWindow();
+    }
+}
+
+// Wine's library of controls leaves a drawing object behind whenever it is unloaded; here it stays.
+class KeptControls {
+public:
+    KeptControls()
+    {
+        wchar_t path[MAX_PATH]{};
+        {
+            const HMODULE user = LoadLibraryW(libraryPath().c_str());
+            GetModuleFileNameW(GetModuleHandleW(L"comctl32.dll"), path, MAX_PATH);
+            kept_ = LoadLibraryW(path);
+            FreeLibrary(user);
+        }
+        EXPECT_NE(kept_, nullptr);
+    }
+    KeptControls(const KeptControls&) = delete;
+    KeptControls& operator=(const KeptControls&) = delete;
+    ~KeptControls() { FreeLibrary(kept_); }
+
+private:
+    HMODULE kept_ = nullptr;
+};
+
+TEST(Unloading, AThreadThatUsedAFieldEnds)
+{
+    if (!apart())
+        return;
+    EXPECT_TRUE(runOnThreads({[] {
+        const Apartment apartment;
+        useAField(0);
+    }})) << "the thread does not end";
+    EXPECT_EQ(library(), nullptr) << "nobody uses it any more";
+    EXPECT_EQ(liveObjects, 0);
+}
+
+TEST(Unloading, AFieldLetGoOfInItsEventGoesWithTheEvent)
+{
+    if (!apart())
+        return;
+    const HMODULE kept = LoadLibraryW(libraryPath().c_str());
+    EXPECT_TRUE(runOnThreads({[] {
+        const Apartment apartment;
+        auto* const form = new Form; // the thread ends without looking for messages again
+        Site& site = form->addActive();
+        form->focus(site);
+        site.onEvent = [&](DISPID, DISPPARAMS&) {
+            if (site.control())
+                site.close();
+        };
+        SendMessageW(site.edit(), WM_CHAR, L'a', 1);
+        EXPECT_FALSE(site.control());
+        EXPECT_EQ(canUnload(), S_OK);
+    }}));
+    EXPECT_EQ(canUnload(), S_OK);
+    FreeLibrary(kept);
+}
+
+TEST(Unloading, APostedMessageKeepsItUntilItsThreadEnds)
+{
+    if (!apart())
+        return;
+    const HMODULE kept = LoadLibraryW(libraryPath().c_str());
+    EXPECT_TRUE(runOnThreads({[] {
+        const Apartment apartment;
+        auto* const form = new Form;
+        Site& site = form->addActive();
+        asPlate(site.automation());
+        site.automation().set({{u"AutoTAB", true}});
+        form->focus(site);
+        for (const wchar_t unit : std::wstring_view(L"ABC1234")) // the Tab waits for the next message
+            SendMessageW(site.edit(), WM_CHAR, unit, 1);
+        site.close();
+        EXPECT_EQ(canUnload(), S_FALSE);
+    }}));
+    EXPECT_EQ(canUnload(), S_OK);
+    FreeLibrary(kept);
+}
+
+TEST(Unloading, AnAccessibleObjectKeepsIt)
+{
+    if (!apart())
+        return;
+    const HMODULE kept = LoadLibraryW(libraryPath().c_str());
+    const Apartment apartment;
+    ComPtr<IAccessible> held;
+    {
+        Form form;
+        Site& site = form.addActive();
+        asDate(site.automation());
+        const HWND popup = openPopup(site);
+        ASSERT_NE(popup, nullptr);
+        const auto answer = SendMessageW(popup, WM_GETOBJECT, 0, static_cast<LPARAM>(OBJID_CLIENT));
+        const HMODULE service = LoadLibraryW(L"oleacc.dll");
+        const auto take = reinterpret_cast<HRESULT(WINAPI*)(LRESULT, REFIID, WPARAM, void**)>(
+            reinterpret_cast<void*>(GetProcAddress(service, "ObjectFromLresult")));
+        ASSERT_EQ(take(answer, __uuidof(IAccessible), 0, held.putVoid()), S_OK);
+    }
+    EXPECT_EQ(popupOfThread(), nullptr);
+    EXPECT_EQ(canUnload(), S_FALSE);
+    VARIANT self{};
+    self.vt = VT_I4;
+    VARIANT role{};
+    EXPECT_NE(held->get_accRole(self, &role), E_NOTIMPL); // code of the library, without a form
+    held.reset();
+    pump();
+    EXPECT_EQ(canUnload(), S_OK);
+    FreeLibrary(kept);
+}
+
+TEST(Unloading, NothingIsLoadedOnTheWayOutNorStays)
+{
+    if (!apart())
+        return;
+    const auto expectGone = [] {
+        for (const wchar_t* const name : {L"Vela.ocx", L"comctl32.dll", L"oleacc.dll"})
+            EXPECT_EQ(GetModuleHandleW(name), nullptr) << name;
+    };
+    FreeLibrary(LoadLibraryW(libraryPath().c_str()));
+    expectGone(); // never used
+    {
+        const Apartment apartment;
+        useAField(0);
+    }
+    expectGone();
+}
+
+TEST(Unloading, ComesAndGoesManyTimes)
+{
+    if (!apart())
+        return;
+    const auto cycle = [](int round) {
+        const Apartment apartment;
+        useAField(round);
+    };
+    const KeptControls controls;
+    for (int round = 0; round < 20; ++round)
+        cycle(round);
+    const Usage before;
+    const int rounds = asked("VELA_TEST_COUNT", 60);
+    for (int round = 0; round < rounds; ++round)
+        cycle(round);
+    EXPECT_EQ(library(), nullptr);
+    const Usage after;
+    std::printf("%d rounds: memory %+lld\n", rounds,
+                static_cast<long long>(after.memory) - static_cast<long long>(before.memory));
+    expectFlat(before, after, static_cast<SIZE_T>(rounds) * perLoading);
+}
+
+// Some have the library at work while it is let go of by the others; now and then by all of them.
+TEST(Unloading, SixteenApartments)
+{
+    if (!apart())
+        return;
+    constexpr int threads = 16;
+    const auto all = [](int rounds) {
+        std::vector<std::function<void()>> works;
+        for (int first = 0; first < threads; ++first)
+            works.push_back([first, rounds] {
+                for (int round = 0; round < rounds; ++round) {
+                    const Apartment apartment;
+                    useAField(first + round);
+                    CoFreeUnusedLibrariesEx(0, 0);
+                    useAField(first + round + 1);
+                }
+            });
+        ASSERT_TRUE(runOnThreads(works)) << "a thread does not end";
+    };
+    const Form first; // its class stands before the threads ask for it
+    const KeptControls controls;
+    all(2);
+    const Usage before;
+    const int rounds = asked("VELA_TEST_COUNT", 4);
+    all(rounds);
+    const Usage after;
+    EXPECT_EQ(liveObjects, 0);
+    EXPECT_EQ(library(), nullptr);
+    EXPECT_LE(after.handles, before.handles + 3 * threads); // two of each ended thread stay, however many fields it had
+    EXPECT_LE(after.drawing, before.drawing + 4);
+    EXPECT_LE(after.memory, before.memory + static_cast<SIZE_T>(threads * rounds) * 2 * perLoading);
+    std::printf("%d fields; memory %+lld, handles %+d\n", threads * rounds * 2,
+                static_cast<long long>(after.memory) - static_cast<long long>(before.memory),
+                after.handles - before.handles);
+}
+
+} // namespace
+
+} // namespace vela::test
