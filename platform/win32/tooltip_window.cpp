@@ -6,8 +6,10 @@
 #include "platform/win32/guard.h"
 #include "platform/win32/module.h"
 #include "platform/win32/text.h"
+#include "platform/win32/window_map.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace vela::win32 {
 
@@ -29,6 +31,8 @@ bool TooltipWindow::create(platform::WindowId parent)
     // No style of the tooltip's own: the default look. A pop-up is what the class makes of itself; asked for as one, it
     // is never framed nor given the focus by a window manager.
     window_ = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP, 0, 0, 0, 0, owner, nullptr, nullptr, nullptr);
+    if (window_)
+        subclass(window_, this, &TooltipWindow::procedure);
     // The record without its reserved field: 44 bytes in 32 bit, 64 in 64 bit. Version 5 refuses the longer one.
     tool_ = {};
     tool_.cbSize = offsetof(TTTOOLINFOA, lpReserved);
@@ -42,15 +46,22 @@ bool TooltipWindow::create(platform::WindowId parent)
 
 void TooltipWindow::destroy()
 {
-    if (exists())
-        DestroyWindow(window_);
-    window_ = nullptr;
+    if (const HWND window = std::exchange(window_, nullptr)) {
+        unbindObject(window);
+        DestroyWindow(window);
+    }
 }
 
-// A destroyed parent takes its tooltip window with it.
+LRESULT CALLBACK TooltipWindow::procedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
+{
+    if (auto* const tooltip = static_cast<TooltipWindow*>(boundObject(window)); tooltip && message == WM_NCDESTROY)
+        tooltip->window_ = nullptr;
+    return behindProcedure(window, message, first, second);
+}
+
 bool TooltipWindow::exists() const
 {
-    return window_ != nullptr && IsWindow(window_);
+    return window_ != nullptr;
 }
 
 void TooltipWindow::addTool(std::u16string_view text)

@@ -33,12 +33,13 @@ public:
     [[nodiscard]] HWND handle() const noexcept { return window_; }
 
 private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept;
     LRESULT send(UINT message, WPARAM first, LPARAM second) const noexcept;
     void keepText(std::u16string_view text);
     static void CALLBACK timeIsUp(HWND window, UINT message, UINT_PTR timer, DWORD time) noexcept;
 
-    int visibleFor_ = 0; // milliseconds; the control's own time is for tips that are not tracked
-    HWND window_ = nullptr; // its parent may destroy it first
+    int visibleFor_ = 0;    // milliseconds; the control's own time is for tips that are not tracked
+    HWND window_ = nullptr; // forgotten when it goes, which may be with its parent: its number is used again
     std::string text_;
     TTTOOLINFOA tool_{};
 };

@@ -296,6 +296,43 @@ TEST_F(Windows, AButtonTakesEachOfSeveralQuickClicks)
     }
 }
 
+TEST_F(Windows, ATooltipGoneWithItsParentIsForgotten)
+{
+    const HWND parent = CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    win32::TooltipWindow tip;
+    ASSERT_TRUE(tip.create({reinterpret_cast<std::uintptr_t>(parent)}));
+    DestroyWindow(parent);
+    EXPECT_EQ(tip.handle(), nullptr) << "the next window may have the same number";
+    EXPECT_FALSE(tip.exists());
+}
+
+// One that puts its own procedure in front of a form's box, and takes it out again when the form has gone on.
+WNDPROC procedureBefore = nullptr;
+int messagesHeard = 0;
+LRESULT CALLBACK hearFirst(HWND window, UINT message, WPARAM first, LPARAM second)
+{
+    ++messagesHeard;
+    return CallWindowProcW(procedureBefore, window, message, first, second);
+}
+
+TEST_F(Windows, AProcedurePutInFrontStaysToTheEnd)
+{
+    Clicks events;
+    static constexpr std::array<platform::WidgetRow, 1> rows{
+        {{.kind = platform::WidgetKind::textBox, .name = u"a", .place = {0, 0, 600, 300}}}};
+    static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
+    const auto form = stage->forms().make(layout, events);
+    form->showPopup({200, 200, 110, 109}, stage->field(0).window());
+    const HWND box = FindWindowExW(windowOf(form->window()), nullptr, L"Edit", nullptr);
+    ASSERT_NE(box, nullptr);
+    procedureBefore =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrW(box, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&hearFirst)));
+    messagesHeard = 0;
+    form->close();
+    EXPECT_FALSE(IsWindow(box));
+    EXPECT_GE(messagesHeard, 2) << "WM_DESTROY and WM_NCDESTROY at least";
+}
+
 TEST_F(Windows, AReaderHearsThePaintedLabels)
 {
     Clicks events;
