@@ -47,9 +47,12 @@ engine::Error errorFromHresult(HRESULT failure)
     return {number, std::u16string(engine::errorDescription(number))};
 }
 
-engine::Error errorFromHost(HRESULT failure)
+engine::Error errorFromHost(HRESULT failure, IUnknown& host, REFIID called)
 {
     engine::Error error = errorFromHresult(failure);
+    const auto support = ComPtr<ISupportErrorInfo>::from(&host);
+    if (!support || support->InterfaceSupportsErrorInfo(called) != S_OK)
+        return error;
     ComPtr<IErrorInfo> info;
     if (GetErrorInfo(0, info.put()) != S_OK)
         return error;

@@ -36,7 +36,7 @@ void HostBag::write(std::u16string_view key, const engine::Value& value,
 void HostBag::fail(HRESULT failure)
 {
     failure_ = failure;
-    throw errorFromHost(failure);
+    throw errorFromHost(failure, bag_, IID_IPropertyBag);
 }
 
 } // namespace vela::activex

@@ -5,6 +5,7 @@
 
 #include "activex/guids.h"
 #include "control/property_table.h"
+#include "engine/error.h"
 
 #include <gtest/gtest.h>
 #include <olectl.h>
@@ -222,6 +223,23 @@ TEST(Persistence, ABagThatFailsInTheMiddleIsReportedAsTheHostSaidIt)
     full->failAfter = 5;
     full->failure = STG_E_MEDIUMFULL;
     EXPECT_EQ(ComPtr<IPersistPropertyBag>::from(configured().get())->Save(full.get(), TRUE, TRUE), STG_E_MEDIUMFULL);
+}
+
+// A bag that says nothing of error information has left none: what the thread has is of an older call.
+TEST(Persistence, TheTextOfAnOlderErrorIsNotTheBags)
+{
+    ComPtr<ICreateErrorInfo> older;
+    ASSERT_EQ(CreateErrorInfo(older.put()), S_OK);
+    older->SetDescription(const_cast<wchar_t*>(L"de antes"));
+    SetErrorInfo(0, ComPtr<IErrorInfo>::from(older.get()).get());
+    const auto bag = make<Bag>();
+    bag->failAfter = 0;
+    EXPECT_EQ(ComPtr<IPersistPropertyBag>::from(create().get())->Load(bag.get(), nullptr), STG_E_READFAULT);
+    ComPtr<IErrorInfo> info;
+    ASSERT_EQ(GetErrorInfo(0, info.put()), S_OK);
+    Bstr description;
+    info->GetDescription(description.put());
+    EXPECT_EQ(description.text(), engine::errorDescription(engine::error_number::invalidCall));
 }
 
 TEST(Persistence, ValuesOfOtherTypesAreConvertedOrRefused)
