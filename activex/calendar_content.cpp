@@ -125,8 +125,17 @@ HWND CalendarContent::window() const noexcept
 
 void CalendarContent::attach(HWND parent, const RECT& place)
 {
+    ambientChanged(DISPID_AMBIENT_UIDEAD);
     form().showChild(parent, place);
     size_ = {place.right - place.left, place.bottom - place.top};
+}
+
+void CalendarContent::ambientChanged(DISPID id)
+{
+    if (id != DISPID_AMBIENT_UIDEAD && id != DISPID_UNKNOWN)
+        return;
+    dead_ = shell_.site().dead();
+    form().putDead(dead_);
 }
 
 void CalendarContent::detach() noexcept
@@ -179,7 +188,7 @@ bool CalendarContent::hasFocus() const
 
 bool CalendarContent::wantsKey(const MSG& message) const
 {
-    if (message.message != WM_KEYDOWN)
+    if (message.message != WM_KEYDOWN || dead_)
         return false;
     switch (message.wParam) {
     case VK_LEFT:

@@ -41,7 +41,7 @@ public:
     [[nodiscard]] bool wantsKey(const MSG& message) const override;
     [[nodiscard]] bool eatsReturn() const override { return true; } // Enter picks a day
     [[nodiscard]] int dpi() override;
-    void ambientChanged(DISPID) override {}
+    void ambientChanged(DISPID id) override;
 
     void draw(HDC dc, const RECT& bounds) override;
     [[nodiscard]] std::u16string plainText() override;
@@ -59,6 +59,7 @@ private:
     std::shared_ptr<Session> session_;
     mutable popups::cCalendar calendar_; // its form is reached through it
     FieldSize size_;
+    bool dead_ = false;
 };
 
 } // namespace vela::activex

@@ -180,6 +180,7 @@ void VelaContent::attach(HWND parent, const RECT& place)
         surface_.reparent(parent, place);
     else
         surface_.create(parent, place);
+    surface_.putDead(shell_.site().dead());
     surface_.show(true);
     parking_ = {};
 }
@@ -251,7 +252,7 @@ bool VelaContent::hasFocus() const
 
 bool VelaContent::wantsKey(const MSG& message) const
 {
-    if (message.message != WM_KEYDOWN)
+    if (message.message != WM_KEYDOWN || surface_.dead())
         return false;
     if (message.wParam == VK_RETURN)
         return eatsReturn();
@@ -293,6 +294,8 @@ void VelaContent::ambientChanged(DISPID id)
 {
     if (id == DISPID_AMBIENT_LOCALEID || id == DISPID_UNKNOWN)
         session_->locales.refresh();
+    if (id == DISPID_AMBIENT_UIDEAD || id == DISPID_UNKNOWN)
+        surface_.putDead(shell_.site().dead());
     if (id == DISPID_AMBIENT_BACKCOLOR || id == DISPID_UNKNOWN)
         takeAmbientGround();
 }

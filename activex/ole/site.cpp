@@ -58,6 +58,13 @@ std::optional<Variant> Site::ambient(DISPID id) const noexcept
     return propertyOf(ambients.get(), id);
 }
 
+bool Site::dead() const noexcept
+{
+    auto value = ambient(DISPID_AMBIENT_UIDEAD);
+    return value && SUCCEEDED(VariantChangeType(&value->ref(), &value->ref(), 0, VT_BOOL)) &&
+           value->get().boolVal != VARIANT_FALSE;
+}
+
 bool Site::runMode() const noexcept
 {
     auto value = ambient(DISPID_AMBIENT_USERMODE);

@@ -24,6 +24,7 @@ public:
 
     // Nothing when the host has no such ambient.
     [[nodiscard]] std::optional<Variant> ambient(DISPID id) const noexcept;
+    [[nodiscard]] bool dead() const noexcept;                  // the control shall not answer a person
     [[nodiscard]] bool runMode() const noexcept;               // true without a host that says otherwise
     [[nodiscard]] std::u16string containerName() const;        // of the extender's Container; "" without one
     [[nodiscard]] bool translate(MSG* message) const noexcept; // the host took the key

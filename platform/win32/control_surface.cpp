@@ -6,6 +6,7 @@
 #include "platform/win32/colours.h"
 #include "platform/win32/dpi.h"
 #include "platform/win32/guard.h"
+#include "platform/win32/keyboard.h"
 #include "platform/win32/module.h"
 #include "platform/win32/owners.h"
 #include "platform/win32/paint.h"
@@ -347,6 +348,8 @@ LRESULT ControlSurface::handle(HWND window, UINT message, WPARAM first, LPARAM s
 {
     if (!window_) // still being made
         return DefWindowProcW(window, message, first, second);
+    if (dead_ && (isInput(message) || message == WM_MOUSEACTIVATE))
+        return message == WM_MOUSEACTIVATE ? MA_NOACTIVATEANDEAT : 0; // its children ask it before they take a click
     switch (message) {
     case WM_COMMAND: return command(first, second);
     case WM_CTLCOLOREDIT:
@@ -381,6 +384,8 @@ LRESULT ControlSurface::command(WPARAM first, LPARAM second)
     const HWND from = reinterpret_cast<HWND>(second);
     const UINT code = HIWORD(first);
     if (from && from == button_) {
+        if (dead_)
+            return 0;
         if (code == BN_CLICKED || code == BN_DBLCLK) // an owner-drawn one makes the second quick click a double click
             buttonPressed();
         else if (code == BN_KILLFOCUS)

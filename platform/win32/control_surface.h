@@ -48,9 +48,11 @@ public:
     void clip(std::optional<RECT> shown);  // no more of it is shown, in its own pixels; none: all of it
     void putGround(engine::Colour colour); // of the host around it, where its corners are round
     void show(bool visible);
-    void putDpi(int dpi); // while there is no window
-    void nameChanged();   // what fieldName() answers
-    void refreshDpi();    // reads the window's dpi again; resized() when it changed
+    void putDpi(int dpi);                              // while there is no window
+    void putDead(bool dead) noexcept { dead_ = dead; } // keys and clicks are not answered
+    [[nodiscard]] bool dead() const noexcept { return dead_; }
+    void nameChanged(); // what fieldName() answers
+    void refreshDpi();  // reads the window's dpi again; resized() when it changed
     // Draws the field as it looks into any device context (design mode, print, metafile).
     void draw(HDC dc, const RECT& place) const;
 
@@ -113,6 +115,7 @@ private:
     RECT place_{0, 0, 0, 0};
     int dpi_ = 96;
     bool enabled_ = true;
+    bool dead_ = false;
     bool visible_ = true;
     bool destroying_ = false;
     bool timer_ = false;

@@ -75,6 +75,8 @@ LRESULT CALLBACK EditBox::procedure(HWND window, UINT message, WPARAM first, LPA
 LRESULT EditBox::handle(UINT message, WPARAM first, LPARAM second)
 {
     showText();
+    if (surface_.dead() && isInput(message))
+        return 0;
     switch (message) {
     case WM_CHAR: return onChar(first, second);
     case WM_KEYDOWN:

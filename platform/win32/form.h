@@ -29,7 +29,8 @@ public:
     virtual void setListener(FormListener* listener) noexcept = 0;
     virtual void showChildWindow(bool visible) = 0;
     virtual void moveChild(const RECT& place) = 0;
-    virtual void leaveParent() = 0; // the windows go, the values stay
+    virtual void putDead(bool dead) = 0; // keys and clicks are not answered
+    virtual void leaveParent() = 0;      // the windows go, the values stay
     // Tab, arrows and access keys among its widgets; true when the message was one of them. Enter and Esc are left
     // to the frame.
     [[nodiscard]] virtual bool translate(MSG& message) = 0;

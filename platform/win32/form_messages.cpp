@@ -61,6 +61,8 @@ LRESULT FormWindow::widgetMessage(Widget& widget, HWND window, UINT message, WPA
 {
     const Running running(running_, life_);
     const WNDPROC original = window == widget.inner ? widget.innerOriginal : widget.original;
+    if (dead_ && isInput(message))
+        return 0;
     const auto gone = [&] { return !running.alive() || (widget.window != window && widget.inner != window); };
     switch (message) {
     case WM_KEYDOWN:
@@ -127,6 +129,8 @@ LRESULT FormWindow::handle(HWND window, UINT message, WPARAM first, LPARAM secon
     if (!window_) // still being made
         return DefWindowProcW(window, message, first, second);
     const Running running(running_, life_);
+    if (dead_ && (isInput(message) || message == WM_MOUSEACTIVATE))
+        return message == WM_MOUSEACTIVATE ? MA_NOACTIVATEANDEAT : 0;
     switch (message) {
     case WM_COMMAND: return command(first, second);
     case WM_NOTIFY: return notify(*reinterpret_cast<const NMHDR*>(second));

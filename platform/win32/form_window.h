@@ -50,6 +50,7 @@ public:
     void setListener(FormListener* listener) noexcept override { listener_ = listener; }
     void showChildWindow(bool visible) override;
     void moveChild(const RECT& place) override;
+    void putDead(bool dead) override { dead_ = dead; }
     void leaveParent() override;
     [[nodiscard]] bool translate(MSG& message) override;
     [[nodiscard]] SIZE naturalSize(int dpi) const override;
@@ -160,6 +161,7 @@ private:
     int timer_ = 0;
     Role role_ = Role::none;
     bool shown_ = false;
+    bool dead_ = false;
     bool closed_ = false;
     bool quiet_ = false; // windows are being written
     bool swallowChar_ = false;

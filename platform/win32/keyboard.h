@@ -15,4 +15,12 @@ namespace vela::win32 {
     return (held(VK_SHIFT) ? 1 : 0) + (held(VK_CONTROL) ? 2 : 0) + (held(VK_MENU) ? 4 : 0);
 }
 
+// Keys, characters and the pointer's buttons: what a window that shall not answer leaves alone.
+[[nodiscard]] constexpr bool isInput(UINT message) noexcept
+{
+    const bool button = message > WM_MOUSEMOVE && message <= WM_MOUSELAST;
+    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || button || message == WM_CONTEXTMENU ||
+           message == WM_IME_COMPOSITION;
+}
+
 } // namespace vela::win32

@@ -71,23 +71,26 @@ std::wstring labelBefore(HWND control)
 
 NameLabel::~NameLabel()
 {
-    if (window_)
-        DestroyWindow(window_);
+    const HWND window = window_;
+    if (!window)
+        return;
+    DestroyWindow(window);
+    if (window_) // a procedure put in front of ours kept the message to itself
+        forgetWindow(window);
 }
 
 LRESULT CALLBACK NameLabel::procedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
 {
     auto* label = static_cast<NameLabel*>(boundObject(window));
     if (!label)
-        return DefWindowProcW(window, message, first, second);
-    const WNDPROC original = label->original_;
+        return behindProcedure(window, message, first, second);
     if (message == WM_GETTEXT || message == WM_GETTEXTLENGTH)
         guarded([label] { label->refresh(); });
     if (message == WM_NCDESTROY) {
         unbindObject(window);
         label->window_ = nullptr;
     }
-    return CallWindowProcW(original, window, message, first, second);
+    return behindProcedure(window, message, first, second);
 }
 
 void NameLabel::standBefore(HWND box)
@@ -98,9 +101,7 @@ void NameLabel::standBefore(HWND box)
             CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 0, 0, GetParent(box), nullptr, thisModule(), nullptr);
         if (!window_)
             return;
-        original_ = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window_, GWLP_WNDPROC));
-        bindObject(window_, this);
-        SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&NameLabel::procedure));
+        subclass(window_, this, &NameLabel::procedure);
     }
     const HWND before = GetWindow(box, GW_HWNDPREV);
     if (before != window_)

@@ -30,7 +30,6 @@ private:
 
     std::function<std::wstring()> text_;
     HWND window_ = nullptr;
-    WNDPROC original_ = nullptr;
     std::wstring shown_;
 };
 

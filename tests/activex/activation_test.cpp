@@ -235,6 +235,37 @@ TEST(Activation, TheSystemsContainer)
     EXPECT_EQ(GetFocus(), editOf(second.get()));
 }
 
+// A host whose programs stand still says so; the field keeps its text and opens nothing.
+TEST(Activation, ADeadInterfaceAnswersNoKeyAndNoClick)
+{
+    for (const bool fromTheStart : {false, true}) {
+        SCOPED_TRACE(fromTheStart);
+        Form form;
+        Site& site = form.add();
+        const auto putDead = [&](bool dead) { site.ambients[DISPID_AMBIENT_UIDEAD].ref() = truth(dead).release(); };
+        putDead(fromTheStart);
+        ASSERT_EQ(site.activate({10, 10, 210, 34}), S_OK);
+        asNumber(site.automation());
+        form.focus(site);
+        putDead(true);
+        if (!fromTheStart)
+            site.as<IOleControl>()->OnAmbientPropertyChange(DISPID_AMBIENT_UIDEAD);
+        site.log.clear();
+        strike(form, '5');
+        clickAt(form, buttonOf(site), middleOf(buttonOf(site)));
+        settle(form);
+        EXPECT_EQ(GetActiveWindow(), form.window());
+        EXPECT_EQ(site.automation().textOf(u"Text"), u"");
+        for (const int event : {DISPID_CLICK, DISPID_KEYDOWN, DISPID_KEYPRESS, DISPID_KEYUP})
+            EXPECT_EQ(site.count("event " + std::to_string(event)), 0) << event;
+        EXPECT_EQ(site.count("OnUIActivate"), 0);
+        putDead(false);
+        site.as<IOleControl>()->OnAmbientPropertyChange(DISPID_UNKNOWN);
+        strike(form, '5');
+        EXPECT_EQ(shownBy(site.edit()), u"5");
+    }
+}
+
 } // namespace
 
 } // namespace vela::test
