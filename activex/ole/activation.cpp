@@ -2,6 +2,7 @@
 #include "activex/ole/activation.h"
 
 #include "activex/com/guard.h"
+#include "activex/ole/modal_frames.h"
 #include "activex/ole/shell.h"
 
 namespace vela::activex {
@@ -77,6 +78,7 @@ HRESULT Activation::begin(IOleInPlaceSite& site)
     if (!inPlace_)
         return E_FAIL;
     frame_ = std::move(frame);
+    addModalFrame(frame_.get());
     document_ = std::move(document);
     try {
         Content& content = shell_.content();
@@ -152,6 +154,7 @@ void Activation::deactivate() noexcept
     inPlace_ = false;
     if (Content* content = shell_.made())
         content->detach();
+    removeModalFrame(frame_.get());
     frame_.reset();
     document_.reset();
     if (const auto site = std::move(site_))
@@ -178,12 +181,6 @@ void Activation::clip(const RECT& place, const RECT& bounds) noexcept
     IntersectRect(&shown, &place, &bounds);
     OffsetRect(&shown, -place.left, -place.top);
     contained([&] { content->clip(contains(bounds, place) ? nullptr : &shown); });
-}
-
-void Activation::enableModeless(bool enable) noexcept
-{
-    if (const auto frame = frame_.shared())
-        frame->EnableModeless(enable);
 }
 
 void Activation::windowLost() noexcept

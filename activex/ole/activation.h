@@ -22,7 +22,6 @@ public:
     void deactivateInterface() noexcept;
     void deactivate() noexcept;
     void putRects(const RECT& place, const RECT& clip);
-    void enableModeless(bool enable) noexcept;
     void windowLost() noexcept; // the host destroyed the window without a word
 
 private:

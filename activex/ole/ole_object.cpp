@@ -3,6 +3,7 @@
 
 #include "activex/com/enumerator.h"
 #include "activex/ole/shell.h"
+#include "platform/win32/modal.h"
 
 #include <olectl.h>
 
@@ -136,14 +137,11 @@ HRESULT OleObject::showProperties(HWND parent)
     const auto pages = shell_.facts().pages;
     if (pages.empty())
         return S_OK;
-    Activation& activation = shell_.activation();
-    activation.enableModeless(false);
+    const win32::Modal dialog;
     IUnknown* object = &shell_;
-    const HRESULT shown = OleCreatePropertyFrame(parent, 0, 0, asWide(shell_.facts().name.data()), 1, &object,
-                                                 static_cast<ULONG>(pages.size()), const_cast<CLSID*>(pages.data()),
-                                                 GetUserDefaultLCID(), 0, nullptr);
-    activation.enableModeless(true);
-    return shown;
+    return OleCreatePropertyFrame(parent, 0, 0, asWide(shell_.facts().name.data()), 1, &object,
+                                  static_cast<ULONG>(pages.size()), const_cast<CLSID*>(pages.data()),
+                                  GetUserDefaultLCID(), 0, nullptr);
 }
 
 HRESULT OleObject::EnumVerbs(IEnumOLEVERB** list) noexcept

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace vela::demo {
 
@@ -29,13 +30,19 @@ public:
     HRESULT STDMETHODCALLTYPE SetMenu(HMENU, HOLEMENU, HWND) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE RemoveMenus(HMENU) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE SetStatusText(LPCOLESTR) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL enable) override
+    {
+        modeless.push_back(enable != FALSE);
+        return S_OK;
+    }
     HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
 
     [[nodiscard]] IOleInPlaceActiveObject* activeObject() const noexcept { return active_.Get(); }
     // A new control of that name; the class object is asked for once.
     HRESULT create(const wchar_t* progId, ComPtr<IOleObject>& control);
     HRESULT font(IDispatch** font); // the form's, one for all
+
+    std::vector<bool> modeless; // as controls asked for it: off before a box, on after it
 
 private:
     ~FormFrame() = default;

@@ -4,6 +4,7 @@
 #include "platform/win32/dialogs.h"
 #include "platform/win32/focus_arbiter.h"
 #include "platform/win32/guard.h"
+#include "platform/win32/modal.h"
 #include "platform/win32/module.h"
 #include "platform/win32/text.h"
 
@@ -66,7 +67,10 @@ platform::BoxAnswer showBox(UINT flags, const std::wstring& title, const std::ws
     const HWND owner = GetActiveWindow();
     const HWND focus = GetFocus();
     const std::wstring shown = title.empty() ? applicationTitle(owner) : title;
-    const int pressed = MessageBoxW(owner, text.c_str(), shown.c_str(), flags | MB_SETFOREGROUND);
+    const int pressed = [&] {
+        const Modal box;
+        return MessageBoxW(owner, text.c_str(), shown.c_str(), flags | MB_SETFOREGROUND);
+    }();
     // A form that is no dialog keeps the focus to itself when it is active again.
     if (focus && focus != GetFocus() && GetActiveWindow() == GetAncestor(focus, GA_ROOT))
         SetFocus(focus);

@@ -3,6 +3,7 @@
 #include "platform/win32/dpi.h"
 #include "platform/win32/focus_arbiter.h"
 #include "platform/win32/form_window.h"
+#include "platform/win32/modal.h"
 #include "platform/win32/text.h"
 
 #include <algorithm>
@@ -94,6 +95,7 @@ void FormWindow::appear()
 
 void FormWindow::showModal()
 {
+    const Modal dialog;
     const HWND active = GetActiveWindow();
     const HWND owner = active ? GetAncestor(active, GA_ROOT) : nullptr;
     const int dpi = dpiOf(owner);

@@ -2,6 +2,7 @@
 #include "platform/win32/thread.h"
 
 #include "platform/win32/focus_arbiter.h"
+#include "platform/win32/modal.h"
 #include "platform/win32/owners.h"
 
 #include <cstdlib>
@@ -126,6 +127,17 @@ bool afterCall(void (*run)(void* object) noexcept, void* object) noexcept
     } catch (...) {
         return false;
     }
+}
+
+void putModalListener(ModalListener* listener)
+{
+    madeThreadRecord().modal = listener;
+}
+
+ModalListener* modalListener() noexcept
+{
+    const ThreadRecord* const record = slot.get();
+    return record ? record->modal : nullptr;
 }
 
 } // namespace vela::win32

@@ -12,6 +12,7 @@
 namespace vela::win32 {
 
 class FocusArbiter;
+class ModalListener;
 
 // Behind a slot of the system's: the compiler's thread-local storage is slower, and a destructor there would hold the
 // module until the thread ends, which then frees the code that is running.
@@ -36,6 +37,7 @@ struct ThreadRecord {
     HWND lastWindow = nullptr;                // and what it is bound to: messages come in runs
     void* lastObject = nullptr;
     FocusArbiter* arbiter = nullptr;
+    ModalListener* modal = nullptr;
     int calls = 0;
     std::vector<Act> afterwards;
     void* variables[8] = {};      // of the compiler's library, from malloc

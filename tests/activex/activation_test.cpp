@@ -235,6 +235,23 @@ TEST(Activation, TheSystemsContainer)
     EXPECT_EQ(GetFocus(), editOf(second.get()));
 }
 
+TEST(Activation, TheFrameIsToldOfABoxOnce)
+{
+    Form form;
+    Site& site = form.addActive();
+    Site& other = form.addActive();                   // of the same frame
+    site.automation().put(u"IF_IsEmpty", text(u"0")); // the error of its handler is shown in a box
+    auto& told = form.frame().get()->modeless;
+    const AnsweredBoxes boxes([&] { EXPECT_EQ(told, std::vector<bool>{false}); });
+    form.focus(site);
+    site.eventResult = DISP_E_EXCEPTION;
+    SetFocus(other.edit());
+    settle(form);
+    site.eventResult = S_OK;
+    EXPECT_EQ(boxes.texts().size(), 1u);
+    EXPECT_EQ(told, (std::vector<bool>{false, true}));
+}
+
 // A host whose programs stand still says so; the field keeps its text and opens nothing.
 TEST(Activation, ADeadInterfaceAnswersNoKeyAndNoClick)
 {
