@@ -15,7 +15,7 @@ namespace vela::test {
 namespace {
 
 constexpr char mark[] = "VELA_TEST_APART";
-constexpr DWORD threadMilliseconds = 120000;
+constexpr DWORD threadMilliseconds = 300000;
 
 bool isApart()
 {

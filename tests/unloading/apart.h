@@ -11,7 +11,7 @@ namespace vela::test {
 // True in the scenario's own process. Elsewhere that process is started, and its end is this test's result; one that
 // hangs is cut off and has failed.
 //     TEST(Unloading, Name) { if (!apart()) return; ... }
-[[nodiscard]] bool apart(DWORD seconds = 240);
+[[nodiscard]] bool apart(DWORD seconds = 420);
 
 // Each on a thread of its own, which ends as the function returns. False when one does not end in time.
 [[nodiscard]] bool runOnThreads(const std::vector<std::function<void()>>& works);

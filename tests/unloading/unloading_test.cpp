@@ -239,9 +239,9 @@ TEST(Unloading, SixteenApartments)
     };
     const Form first; // its class stands before the threads ask for it
     const KeptControls controls;
-    all(2);
+    all(1);
     const Usage before;
-    const int rounds = asked("VELA_TEST_COUNT", 4);
+    const int rounds = asked("VELA_TEST_COUNT", 2);
     all(rounds);
     const Usage after;
     EXPECT_EQ(liveObjects, 0);
