@@ -56,7 +56,11 @@ public:
     HRESULT STDMETHODCALLTYPE SetMenu(HMENU, HOLEMENU, HWND) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE RemoveMenus(HMENU) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE SetStatusText(LPCOLESTR) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return called("EnableModeless"); }
+    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL enable) override
+    {
+        inner_->EnableModeless(enable);
+        return called("EnableModeless");
+    }
     HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
 
 private:
@@ -171,7 +175,7 @@ HRESULT Site::OnUIActivate()
 HRESULT Site::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT place, LPRECT clip,
                                LPOLEINPLACEFRAMEINFO)
 {
-    *frame = ComPtr<IOleInPlaceFrame>::adopt(new Frame(form_.frame())).release();
+    *frame = form_.handedFrame().release();
     *document = nullptr;
     *place = place_;
     GetClientRect(form_.window(), clip);
@@ -216,6 +220,7 @@ Form::Form()
                               description.hInstance, nullptr);
     ShowWindow(window_, SW_SHOWNOACTIVATE);
     frame_ = ComPtr<demo::FormFrame>::adopt(new demo::FormFrame(window_));
+    handedFrame_ = ComPtr<IOleInPlaceFrame>::adopt(new Frame(frame_));
 }
 
 Form::~Form()
@@ -225,7 +230,8 @@ Form::~Form()
     frame_->SetActiveObject(nullptr, nullptr);
     destroyWindow();
     pump();
-    EXPECT_EQ(frame_.release()->Release(), 0u) << "the frame is held by a control";
+    EXPECT_EQ(handedFrame_.release()->Release(), 0u) << "the frame is held by a control";
+    EXPECT_EQ(frame_.release()->Release(), 0u);
 }
 
 void Form::destroyWindow()

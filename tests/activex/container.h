@@ -136,6 +136,7 @@ public:
     void remove(Site& site);                               // closed and let go
     [[nodiscard]] HWND window() const noexcept { return window_; }
     [[nodiscard]] const ComPtr<demo::FormFrame>& frame() const noexcept { return frame_; }
+    [[nodiscard]] ComPtr<IOleInPlaceFrame> handedFrame() const noexcept { return handedFrame_.shared(); } // to controls
     [[nodiscard]] IOleInPlaceActiveObject* active() const noexcept;
 
     // A key to the focused window through the form's loop: the active object first, then the dialog keys.
@@ -148,6 +149,7 @@ public:
 private:
     HWND window_ = nullptr;
     ComPtr<demo::FormFrame> frame_;
+    ComPtr<IOleInPlaceFrame> handedFrame_; // notes its calls, then passes them on
     std::vector<ComPtr<Site>> sites_;
 };
 
