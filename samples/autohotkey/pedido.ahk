@@ -3,8 +3,8 @@
 janela := Gui(, "Pedido")
 campo := janela.Add("ActiveX", "w160 h23", "Vela.Vela")
 placa := campo.Value
+placa.Mask := "___-____"          ; first the mask, then the type, then the rules
 placa.TextType := 3               ; Mascara
-placa.Mask := "___-____"
 placa.MaskRules := "@@@-####"
 ComObjConnect(placa, "placa_")
 mostrar := janela.Add("Button", "Default", "&Mostrar")

@@ -59,7 +59,13 @@ public:
     HRESULT STDMETHODCALLTYPE GetBorder(RECT*) override { return INPLACE_E_NOTOOLSPACE; }
     HRESULT STDMETHODCALLTYPE RequestBorderSpace(LPCBORDERWIDTHS) override { return INPLACE_E_NOTOOLSPACE; }
     HRESULT STDMETHODCALLTYPE SetBorderSpace(LPCBORDERWIDTHS) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE SetActiveObject(IOleInPlaceActiveObject*, LPCOLESTR) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR) override
+    {
+        if (object) object->AddRef();
+        if (active_) active_->Release();
+        active_ = object;
+        return S_OK;
+    }
     HRESULT STDMETHODCALLTYPE InsertMenus(HMENU, LPOLEMENUGROUPWIDTHS) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE SetMenu(HMENU, HOLEMENU, HWND) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE RemoveMenus(HMENU) override { return E_NOTIMPL; }
@@ -67,8 +73,15 @@ public:
     HRESULT STDMETHODCALLTYPE EnableModeless(BOOL) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
 
+    // Keys go to the control that has the focus, then to the form's dialog keys.
+    bool translates(MSG& message)
+    {
+        return (active_ && active_->TranslateAccelerator(&message) == S_OK) || IsDialogMessageW(window_, &message);
+    }
+
 private:
     HWND window_;
+    IOleInPlaceActiveObject* active_ = nullptr; // the control lets go of it when it is closed
 };
 
 static HRESULT put(IDispatch* object, const wchar_t* name, VARIANT value)
@@ -92,6 +105,7 @@ static HRESULT get(IDispatch* object, const wchar_t* name, VARIANT* value)
 }
 
 static VARIANT number(long value) { VARIANT v; VariantInit(&v); v.vt = VT_I4; v.lVal = value; return v; }
+static VARIANT truth(bool on) { VARIANT v; VariantInit(&v); v.vt = VT_BOOL; v.boolVal = on ? VARIANT_TRUE : VARIANT_FALSE; return v; }
 static VARIANT real(double value) { VARIANT v; VariantInit(&v); v.vt = VT_R8; v.dblVal = value; return v; }
 
 static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
@@ -123,12 +137,18 @@ static int run(bool valuesOnly)
     }
     RECT place{16, 16, 176, 39};
     control->SetClientSite(&site);
+    IPersistStreamInit* settings = nullptr;
+    if (SUCCEEDED(control->QueryInterface(IID_IPersistStreamInit, reinterpret_cast<void**>(&settings)))) {
+        settings->InitNew();
+        settings->Release();
+    }
     control->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, &site, 0, window, &place);
     put(field, L"TextType", number(1));          // Numerico
     put(field, L"SimbolDecExib", number(2));     // Virgula
     put(field, L"SimbolDecRet", number(2));
     put(field, L"SimbolAgrupMilhar", number(1)); // Ponto
     put(field, L"QtdCasasDec", number(2));
+    put(field, L"InserirZeros", truth(true));
     put(field, L"Value", real(1234.5));
 
     VARIANT value;
@@ -144,7 +164,7 @@ static int run(bool valuesOnly)
         ShowWindow(window, SW_SHOW);
         MSG message;
         while (GetMessageW(&message, nullptr, 0, 0) > 0)
-            if (!IsDialogMessageW(window, &message)) {
+            if (!site.translates(message)) {
                 TranslateMessage(&message);
                 DispatchMessageW(&message);
             }

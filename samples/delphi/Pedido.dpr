@@ -2,7 +2,7 @@ program Pedido;
 
 // A form made in code, with a late-bound field: no imported type library is needed.
 uses
-  Forms, Controls, OleCtrls, SysUtils, Dialogs, StdCtrls, Classes, ActiveX;
+  Forms, Controls, OleCtrls, SysUtils, Variants, Dialogs, StdCtrls, Classes, ActiveX;
 
 type
   TVela = class(TOleControl)
@@ -47,6 +47,7 @@ begin
   Form.Preco.OleObject.SimbolDecRet := 2;
   Form.Preco.OleObject.SimbolAgrupMilhar := 1; // Ponto
   Form.Preco.OleObject.QtdCasasDec := 2;
+  Form.Preco.OleObject.InserirZeros := True;
   Botao := TButton.Create(Form);
   Botao.Parent := Form;
   Botao.SetBounds(16, 60, 90, 25);

@@ -21,10 +21,9 @@ Begin VB.Form frmPedido
       TabIndex        =   0
       Top             =   240
       Width           =   1815
-      TextType        =   3
       Mask            =   "___-____"
+      TextType        =   3
       MaskRules       =   "@@@-####"
-      MaxLength       =   8
       Alignment       =   2
    End
    Begin VelaLib.Vela Preco
@@ -38,6 +37,8 @@ Begin VB.Form frmPedido
       SimbolDecRet    =   2
       SimbolAgrupMilhar=   1
       QtdCasasDec     =   2
+      InserirZeros    =   -1  'True
+      AutoSelect      =   -1  'True
       Alignment       =   1
    End
 End

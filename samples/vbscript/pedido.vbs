@@ -15,8 +15,7 @@ WScript.Echo "Value: " & preco.Value
 
 Set placa = CreateObject("Vela.Vela")
 placa.Mask = "___-____"
-placa.TextType = 3            ' Mascara
-placa.Mask = "___-____"
+placa.TextType = 3            ' Mascara: the mask comes before, the rules after
 placa.MaskRules = "@@@-####"
 placa.Value = "ABC1234"
 WScript.Echo "Text:  " & placa.Text

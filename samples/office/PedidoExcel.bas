@@ -1,5 +1,5 @@
-Attribute VB_Name = "Pedido"
-' Excel: import this module and run NovoPedido. It puts a date field on the active sheet.
+Attribute VB_Name = "PedidoExcel"
+' Excel: File > Import File in the VBA editor, then run NovoPedido. It puts a date field on the active sheet.
 Option Explicit
 
 Public Sub NovoPedido()
