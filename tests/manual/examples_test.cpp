@@ -57,11 +57,15 @@ TEST(Manual, EveryExamplePrintsWhatItSays)
 {
     const std::filesystem::path root = std::filesystem::path(VELA_TEST_DIR) / ".." / "..";
     int count = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(root / "docs" / "guides"))
-        for (const Example& example : examplesOf(entry.path(), "```vela\n")) {
-            EXPECT_EQ(run(example.script), example.expected) << entry.path();
+    const auto check = [&](const std::filesystem::path& page) {
+        for (const Example& example : examplesOf(page, "```vela\n")) {
+            EXPECT_EQ(run(example.script), example.expected) << page;
             ++count;
         }
+    };
+    check(root / "README.md");
+    for (const auto& entry : std::filesystem::directory_iterator(root / "docs" / "en")) // the other language has the same
+        check(entry.path());
     EXPECT_GE(count, 10) << "the manual has lost its examples";
 }
 

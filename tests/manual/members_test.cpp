@@ -9,7 +9,7 @@
 
 TEST(Manual, MembersPageIsUpToDate)
 {
-    std::ifstream stream(std::filesystem::path(VELA_TEST_DIR) / ".." / ".." / "docs" / "members.md", std::ios::binary);
+    std::ifstream stream(std::filesystem::path(VELA_TEST_DIR) / ".." / ".." / "docs" / "en" / "reference.md", std::ios::binary);
     const std::string kept{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    EXPECT_EQ(kept, vela::manual::membersPage()) << "run vela-manual > docs/members.md";
+    EXPECT_EQ(kept, vela::manual::membersPage()) << "run vela-manual > docs/en/reference.md";
 }

@@ -1,4 +1,4 @@
-// Prints the manual's page of members: vela-manual > docs/members.md
+// Prints the manual's page of members: vela-manual > docs/en/reference.md
 #include "apps/manual/members_page.h"
 
 #include <cstdio>
