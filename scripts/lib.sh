@@ -8,7 +8,8 @@ cache=${VELA_CACHE:-/var/cache/vela}
 wine32_root=$cache/wine32-root
 mkdir -p "$logs" "$cache"
 
-export LC_ALL=pt_BR.UTF-8 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
+export WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
+unset LC_ALL # until the locale is there: a shell complains of one that is missing
 
 say() { printf '%s\n' "$*"; }
 
@@ -37,9 +38,12 @@ need_native() {
 }
 
 need_locale() {
-  locale -a 2>/dev/null | grep -qi '^pt_BR\.utf-\?8$' ||
-    quietly locale.log env LC_ALL=C localedef -i pt_BR -f UTF-8 pt_BR.UTF-8
+  has_locale || quietly locale.log env LC_ALL=C localedef -i pt_BR -f UTF-8 pt_BR.UTF-8
+  export LC_ALL=pt_BR.UTF-8
 }
+
+has_locale() { locale -a 2>/dev/null | grep -i '^pt_BR\.utf-\?8$' >/dev/null; }
+! has_locale || export LC_ALL=pt_BR.UTF-8
 
 need_windows() {
   need_native
