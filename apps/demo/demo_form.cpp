@@ -4,6 +4,7 @@
 #include "apps/demo/property_frame.h"
 
 #include <cstdio>
+#include <utility>
 
 namespace vela::demo {
 
@@ -12,6 +13,7 @@ namespace {
 constexpr wchar_t windowClassName[] = L"VelaDemonstration";
 constexpr int clientWidth = 920, clientHeight = 600;
 constexpr int margin = 16, columnWidth = 288, labelHeight = 15, fieldHeight = 23, lineHeight = 14, rowGap = 10;
+constexpr int fieldWidth = 150, valueGap = 6; // the rest of the column tells the field's Value
 constexpr int valuesTop = 470;
 
 enum CommandId { valuesCommand = 100, propertiesCommand, closeCommand, valuesBox, statusBox };
@@ -96,9 +98,11 @@ std::wstring DemoForm::openFields()
         makeChild(L"STATIC", row.label, 0, {left, y, left + columnWidth - 8, y + labelHeight}, -1);
         y += labelHeight + 1;
         const int height = fieldHeight + (row.lines - 1) * lineHeight;
-        const RECT place{scaled(left), scaled(y), scaled(left + columnWidth - 12), scaled(y + height)};
+        const RECT place{scaled(left), scaled(y), scaled(left + fieldWidth), scaled(y + height)};
+        HWND told = makeChild(L"STATIC", L"", SS_NOPREFIX | (row.lines == 1 ? SS_CENTERIMAGE | SS_ENDELLIPSIS : 0),
+                              {left + fieldWidth + valueGap, y, left + columnWidth, y + height}, -1);
         y += height + rowGap;
-        Field field{&row, {}, place};
+        Field field{&row, {}, place, told};
         field.site.Attach(new ControlSite(*frame_.Get(), window_, row.name));
         const std::size_t index = fields_.size();
         const HRESULT opened =
@@ -146,11 +150,36 @@ std::wstring DemoForm::valuesOf(const Field& field) const
     return line + L"\r\n";
 }
 
+// Read once the field was left: reading the Value of a date that is being typed would correct it.
+void DemoForm::showValue(const Field& field)
+{
+    OleValue value;
+    getByName(field.site->object(), L"Value", value);
+    const wchar_t* quote = value.get().vt == VT_BSTR ? L"\"" : L"";
+    SetWindowTextW(field.told, (std::wstring(L"Value: ") + quote + value.text() + quote).c_str());
+}
+
+// A pop-up of a field that has the focus leaves the field on the form entered.
+void DemoForm::noteFocus()
+{
+    HWND focus = GetFocus();
+    if (focus == window_ || !IsChild(window_, focus))
+        return;
+    std::size_t now = 0;
+    while (now < fields_.size() && !IsChild(fields_[now].site->window(), focus))
+        ++now;
+    const std::size_t before = std::exchange(entered_, now);
+    if (before != now && before < fields_.size())
+        showValue(fields_[before]);
+}
+
 void DemoForm::showValues()
 {
     std::wstring all;
-    for (const Field& field : fields_)
+    for (const Field& field : fields_) {
         all += valuesOf(field);
+        showValue(field);
+    }
     SetWindowTextW(values_, all.c_str());
     const std::string bytes = utf8(all);
     DWORD written = 0;
@@ -260,10 +289,11 @@ void DemoForm::run()
 {
     MSG message{};
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        if (translated(message))
-            continue;
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
+        if (!translated(message)) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
+        noteFocus();
     }
 }
 

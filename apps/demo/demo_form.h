@@ -30,6 +30,7 @@ private:
         const FieldRow* row = nullptr;
         ComPtr<ControlSite> site;
         RECT place{};
+        HWND told = nullptr; // the text beside it
     };
 
     static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
@@ -41,6 +42,8 @@ private:
     HWND makeChild(const wchar_t* windowClass, const wchar_t* text, DWORD style, RECT place, int id);
     void layOut();
     void showValues();
+    static void showValue(const Field& field);
+    void noteFocus();
     [[nodiscard]] std::wstring valuesOf(const Field& field) const;
     [[nodiscard]] int scaled(int pixels) const noexcept { return MulDiv(pixels, dpi_, 96); }
 
@@ -55,6 +58,7 @@ private:
     ComPtr<FormFrame> frame_;
     std::vector<Field> fields_;
     std::size_t lastFocused_ = 0;
+    std::size_t entered_ = 0; // the field that has the focus, fields_.size() for none
 };
 
 } // namespace vela::demo

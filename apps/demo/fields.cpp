@@ -106,7 +106,7 @@ std::vector<FieldRow> valueRows()
 {
     return {
         {L"Preco", L"P&reço", 1, 1, true, money(L"R$ ")},
-        {L"Percentual", L"Percen&tual", 1, 1, true, money(L";%")},
+        {L"Percentual", L"Percen&tual (%)", 1, 1, true, money(L"")},
         {L"Caixa", L"&Valor do caixa", 1, 1, true, cashRegister()},
         {L"Data", L"&Data", 1, 1, true, with(date(L"dd/mm/yyyy", L"__/__/____"), {on(L"ShowButtonCalendario")})},
         {L"Hora", L"&Hora", 1, 1, true, date(L"hh:nn", L"__:__")},
