@@ -25,7 +25,7 @@ drive_fields() {
   field Senha 'segredo'
   write 'primeira linha'; keys Return; field Notas 'segunda linha'; keys Tab
   field Preco '1234,5'
-  field Percentual '12,5'
+  field Percentual '12'
   field Caixa '123456'
   field Data '29022024'
   field Hora '0930'

@@ -155,8 +155,7 @@ void DemoForm::showValue(const Field& field)
 {
     OleValue value;
     getByName(field.site->object(), L"Value", value);
-    const wchar_t* quote = value.get().vt == VT_BSTR ? L"\"" : L"";
-    SetWindowTextW(field.told, (std::wstring(L"Value: ") + quote + value.text() + quote).c_str());
+    SetWindowTextW(field.told, (L"Value: " + value.text()).c_str());
 }
 
 // A pop-up of a field that has the focus leaves the field on the form entered.
