@@ -42,7 +42,8 @@ constexpr Member calendarMembers[] = {
 const ClassFacts& calendarFacts() noexcept
 {
     static const ClassFacts facts{
-        calendarClass, calendarInterface, &calendarEvents, u"Vela.cCalendar.1", u"cCalendar", {}, {}, {184, 167}};
+        calendarClass, calendarInterface, &calendarEvents, identity::calendarProgId, identity::calendarName, {}, {},
+        {184, 167}};
     return facts;
 }
 

@@ -5,8 +5,6 @@
 
 #include <guiddef.h>
 
-#include <string>
-
 namespace vela::activex {
 
 namespace guid_text {
@@ -52,11 +50,5 @@ inline constexpr GUID geralPage = guidOf(identity::geralPage);
 inline constexpr GUID errosPage = guidOf(identity::errosPage);
 inline constexpr GUID fontePage = guidOf(identity::fontePage);
 inline constexpr GUID calendarioPage = guidOf(identity::calendarioPage);
-
-// "{320E27E0-A91E-4A22-8CAB-3D96B34084B5}"
-[[nodiscard]] inline std::wstring keyOf(std::string_view identity)
-{
-    return L"{" + std::wstring(identity.begin(), identity.end()) + L"}";
-}
 
 } // namespace vela::activex

@@ -1,6 +1,8 @@
 // The identities of the library, fixed for ever. Code, type library and registration-free manifest take them from here.
 #pragma once
 
+#include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace vela::activex::identity {
@@ -12,9 +14,18 @@ inline constexpr std::string_view velaClass = "77678695-52FF-4469-9181-A2CD883F9
 inline constexpr std::string_view velaInterface = "4D7A0FB5-AF9C-4184-9FFB-96C0BA26BC14";
 inline constexpr std::string_view velaEvents = "F6D5EEEE-D980-4204-9371-5CF4E6029B4B";
 
+inline constexpr std::u16string_view velaProgId = u"Vela.Vela.1";
+inline constexpr std::u16string_view velaName = u"Vela"; // as people see it
+
 inline constexpr std::string_view calendarClass = "97711B87-63AC-48FB-A8FD-378D74FA385D";
 inline constexpr std::string_view calendarInterface = "7D3F2E39-F608-496F-9B73-B4BC1C9C3C5C";
 inline constexpr std::string_view calendarEvents = "ADC88CD0-68E7-4CF3-94B9-334DC928BE10";
+
+inline constexpr std::u16string_view calendarProgId = u"Vela.cCalendar.1";
+inline constexpr std::u16string_view calendarName = u"cCalendar";
+
+// Recompose on resize, no linking inside, active from the start and whenever visible, client site first.
+inline constexpr std::uint32_t miscStatus = 0x20191;
 
 inline constexpr std::string_view principalPage = "F889477E-467F-470B-A346-44368DCC6E6A";
 inline constexpr std::string_view geralPage = "08C0BE6B-0068-47EC-9E41-62ACB4A676C2";
@@ -31,3 +42,13 @@ inline constexpr std::string_view enumerations[] = {
 };
 
 } // namespace vela::activex::identity
+
+namespace vela::activex {
+
+// "{320E27E0-A91E-4A22-8CAB-3D96B34084B5}"
+[[nodiscard]] inline std::wstring keyOf(std::string_view identity)
+{
+    return L"{" + std::wstring(identity.begin(), identity.end()) + L"}";
+}
+
+} // namespace vela::activex

@@ -1,18 +1,15 @@
-// What stands in the registry, as one list of entries, and its writing and deleting.
+// Writing the registry's entries and deleting them.
 #include "activex/registration.h"
 
-#include "activex/calendar_content.h"
 #include "activex/com/guard.h"
-#include "activex/guids.h"
-#include "activex/resource.h"
-#include "activex/vela_content.h"
+#include "activex/identities.h"
+#include "activex/registry_entries.h"
 #include "platform/win32/module.h"
 #include "platform/win32/owners.h"
 
 #include <algorithm>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace vela::activex {
@@ -20,172 +17,18 @@ namespace vela::activex {
 namespace {
 
 constexpr wchar_t classes[] = L"Software\\Classes\\";
-constexpr wchar_t automationProxy[] = L"{00020420-0000-0000-C000-000000000046}"; // of dispinterfaces
-constexpr wchar_t controlCategory[] = L"{40FC6ED4-2438-11CF-A3DB-080036F12502}";
-constexpr wchar_t programmableCategory[] = L"{40FC6ED5-2438-11CF-A3DB-080036F12502}";
-constexpr wchar_t libraryName[] = L"Vela 1.0";
-constexpr wchar_t libraryFlags[] = L"2"; // a library of controls
 #ifdef _WIN64
-constexpr wchar_t platformKey[] = L"win64";
+constexpr Bitness ownBitness = Bitness::win64;
 constexpr REGSAM otherView = KEY_WOW64_32KEY;
 #else
-constexpr wchar_t platformKey[] = L"win32";
+constexpr Bitness ownBitness = Bitness::win32;
 constexpr REGSAM otherView = KEY_WOW64_64KEY;
 #endif
 
-struct Entry {
-    std::wstring key; // below Software\Classes
-    const wchar_t* name;
-    std::wstring value;
-};
-
-struct ControlKeys {
-    const ClassFacts& (*facts)() noexcept;
-    std::string_view classId;
-    std::string_view interfaceId;
-    const wchar_t* interfaceName;
-    std::string_view eventsId;
-    const wchar_t* eventsName;
-};
-constexpr ControlKeys controls[] = {
-    {velaFacts, identity::velaClass, identity::velaInterface, L"IVela", identity::velaEvents, L"IVelaEvents"},
-    {calendarFacts, identity::calendarClass, identity::calendarInterface, L"IcCalendar", identity::calendarEvents,
-     L"IcCalendarEvents"},
-};
-
-constexpr std::pair<std::string_view, const wchar_t*> pageClasses[] = {
-    {identity::principalPage, L"Vela: ppPrincipal"},   {identity::geralPage, L"Vela: ppGeral"},
-    {identity::errosPage, L"Vela: ppErros"},           {identity::fontePage, L"Vela: ppFonte"},
-    {identity::calendarioPage, L"Vela: ppCalendario"},
-};
-
-std::wstring wide(std::u16string_view text)
-{
-    return {text.begin(), text.end()};
-}
-
-std::wstring wide(std::string_view text)
-{
-    return {text.begin(), text.end()};
-}
-
 std::wstring decimal(long number)
 {
-    return wide(std::string_view(std::to_string(number)));
-}
-
-std::wstring classKey(std::string_view id)
-{
-    return L"CLSID\\" + keyOf(id);
-}
-
-std::wstring interfaceKey(std::string_view id)
-{
-    return L"Interface\\" + keyOf(id);
-}
-
-std::wstring libraryKey()
-{
-    return L"TypeLib\\" + keyOf(identity::library);
-}
-
-// "Vela.Vela.1" -> "Vela.Vela"
-std::wstring withoutVersion(const std::wstring& progId)
-{
-    return progId.substr(0, progId.rfind(L'.'));
-}
-
-void addServer(std::vector<Entry>& entries, const std::wstring& key, const std::wstring& name,
-               const std::wstring& module)
-{
-    entries.push_back({key, nullptr, name});
-    entries.push_back({key + L"\\InprocServer32", nullptr, module});
-    entries.push_back({key + L"\\InprocServer32", L"ThreadingModel", L"Apartment"});
-}
-
-void addControl(std::vector<Entry>& entries, const ControlKeys& control, const std::wstring& module)
-{
-    const ClassFacts& facts = control.facts();
-    const std::wstring key = classKey(control.classId);
-    const std::wstring progId = wide(facts.progId);
-    const std::wstring general = withoutVersion(progId);
-    const std::wstring name = wide(facts.name);
-    addServer(entries, key, name, module);
-    entries.push_back({key + L"\\ProgID", nullptr, progId});
-    entries.push_back({key + L"\\VersionIndependentProgID", nullptr, general});
-    entries.push_back({key + L"\\TypeLib", nullptr, keyOf(identity::library)});
-    entries.push_back({key + L"\\Version", nullptr, wide(identity::libraryVersion)});
-    entries.push_back({key + L"\\Control", nullptr, {}});
-    entries.push_back({key + L"\\Programmable", nullptr, {}});
-    entries.push_back({key + L"\\MiscStatus", nullptr, L"0"});
-    entries.push_back({key + L"\\MiscStatus\\1", nullptr, decimal(miscStatus)});
-    entries.push_back({key + L"\\ToolboxBitmap32", nullptr, module + L", " + decimal(VELA_TOOLBOX_BITMAP)});
-    entries.push_back({key + L"\\Verb\\0", nullptr, L"&Editar,0,2"});
-    entries.push_back({key + L"\\Implemented Categories\\" + controlCategory, nullptr, {}});
-    entries.push_back({key + L"\\Implemented Categories\\" + programmableCategory, nullptr, {}});
-    entries.push_back({progId, nullptr, name});
-    entries.push_back({progId + L"\\CLSID", nullptr, keyOf(control.classId)});
-    entries.push_back({general, nullptr, name});
-    entries.push_back({general + L"\\CLSID", nullptr, keyOf(control.classId)});
-    entries.push_back({general + L"\\CurVer", nullptr, progId});
-}
-
-void addInterface(std::vector<Entry>& entries, std::string_view id, const wchar_t* name)
-{
-    const std::wstring key = interfaceKey(id);
-    entries.push_back({key, nullptr, name});
-    entries.push_back({key + L"\\ProxyStubClsid32", nullptr, automationProxy});
-    entries.push_back({key + L"\\TypeLib", nullptr, keyOf(identity::library)});
-    entries.push_back({key + L"\\TypeLib", L"Version", wide(identity::libraryVersion)});
-}
-
-void addLibrary(std::vector<Entry>& entries, const std::wstring& module)
-{
-    const std::wstring key = libraryKey() + L"\\" + wide(identity::libraryVersion);
-    entries.push_back({key, nullptr, libraryName});
-    entries.push_back({key + L"\\0\\" + platformKey, nullptr, module});
-    entries.push_back({key + L"\\FLAGS", nullptr, libraryFlags});
-    entries.push_back({key + L"\\HELPDIR", nullptr, module.substr(0, module.rfind(L'\\'))});
-}
-
-std::vector<Entry> allEntries()
-{
-    const std::wstring module = win32::modulePath();
-    std::vector<Entry> entries;
-    for (const ControlKeys& control : controls) {
-        addControl(entries, control, module);
-        addInterface(entries, control.interfaceId, control.interfaceName);
-        addInterface(entries, control.eventsId, control.eventsName);
-    }
-    for (const auto& [id, name] : pageClasses)
-        addServer(entries, classKey(id), name, module);
-    addLibrary(entries, module);
-    return entries;
-}
-
-// Keys that each bitness has to itself.
-std::vector<std::wstring> ownKeys()
-{
-    std::vector<std::wstring> keys;
-    for (const ControlKeys& control : controls) {
-        keys.push_back(classKey(control.classId));
-        keys.push_back(interfaceKey(control.interfaceId));
-        keys.push_back(interfaceKey(control.eventsId));
-    }
-    for (const auto& [id, name] : pageClasses)
-        keys.push_back(classKey(id));
-    return keys;
-}
-
-std::vector<std::wstring> sharedKeys()
-{
-    std::vector<std::wstring> keys{libraryKey()};
-    for (const ControlKeys& control : controls) {
-        const std::wstring progId = wide(control.facts().progId);
-        keys.push_back(progId);
-        keys.push_back(withoutVersion(progId));
-    }
-    return keys;
+    const std::string digits = std::to_string(number);
+    return {digits.begin(), digits.end()};
 }
 
 win32::UniqueKey opened(HKEY root, const std::wstring& key, REGSAM access)
@@ -211,7 +54,7 @@ class Attempt {
 public:
     explicit Attempt(HKEY root) noexcept : root_(root) {}
 
-    LSTATUS write(const Entry& entry)
+    LSTATUS write(const RegistryEntry& entry)
     {
         if (const std::wstring fresh = firstMissing(entry.key); !fresh.empty())
             changes_.push_back({fresh, nullptr, true, {}});
@@ -284,7 +127,7 @@ private:
 bool otherBitnessRegistered(HKEY root)
 {
     HKEY found = nullptr;
-    const std::wstring path = classes + classKey(identity::velaClass);
+    const std::wstring path = classes + registryClassKey(identity::velaClass);
     if (RegOpenKeyExW(root, path.c_str(), 0, KEY_QUERY_VALUE | otherView, &found) != ERROR_SUCCESS)
         return false;
     const win32::UniqueKey close(found);
@@ -319,12 +162,12 @@ Failure deleteAll(HKEY root)
         if (status != ERROR_SUCCESS && first.status == ERROR_SUCCESS)
             first = {status, key};
     };
-    for (const std::wstring& key : ownKeys())
+    for (const std::wstring& key : keysOfOneBitness())
         remove(key);
     if (otherBitnessRegistered(root))
-        remove(libraryKey() + L"\\" + wide(identity::libraryVersion) + L"\\0\\" + platformKey);
+        remove(libraryFileKey(ownBitness));
     else
-        for (const std::wstring& key : sharedKeys())
+        for (const std::wstring& key : keysOfBothBitnesses())
             remove(key);
     deleteEmptyParents(root);
     return first;
@@ -372,7 +215,7 @@ HRESULT report(HKEY root, const Failure& failure)
 HRESULT registerIn(HKEY root)
 {
     Attempt attempt(root);
-    for (const Entry& entry : allEntries())
+    for (const RegistryEntry& entry : registryEntries(win32::modulePath(), ownBitness))
         if (const LSTATUS status = attempt.write(entry)) {
             attempt.undo();
             return report(root, {status, entry.key});

@@ -54,8 +54,8 @@ bool isEditKey(WPARAM key, bool control) noexcept
 
 const ClassFacts& velaFacts() noexcept
 {
-    static const ClassFacts facts{velaClass, velaInterface, &velaEvents,      u"Vela.Vela.1",
-                                  u"Vela",   pages,         velaCategories(), {120, 21}};
+    static const ClassFacts facts{velaClass,          velaInterface, &velaEvents,      identity::velaProgId,
+                                  identity::velaName, pages,         velaCategories(), {120, 21}};
     return facts;
 }
 

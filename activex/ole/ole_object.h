@@ -3,6 +3,7 @@
 
 #include "activex/com/owners.h"
 #include "activex/com/part.h"
+#include "activex/identities.h"
 
 #include <oleidl.h>
 
@@ -10,8 +11,7 @@ namespace vela::activex {
 
 class Shell;
 
-// Recompose on resize, no linking inside, active from the start and whenever visible, client site first.
-inline constexpr DWORD miscStatus = 0x20191;
+using identity::miscStatus;
 
 class OleObject final : public Part<IOleObject> {
 public:
