@@ -8,8 +8,10 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <cwchar>
 #include <fstream>
 #include <string>
+#include <utility>
 
 namespace vela::test {
 
@@ -287,6 +289,27 @@ TEST_F(Registration, VersionAndToolboxPictureAreInTheFile)
     UINT size = 0;
     ASSERT_TRUE(VerQueryValueW(block.data(), L"\\", reinterpret_cast<void**>(&version), &size));
     EXPECT_EQ(version->dwFileVersionMS, 0x00010000u);
+    EXPECT_EQ(version->dwFileVersionLS, 0u);
+    EXPECT_EQ(version->dwProductVersionMS, version->dwFileVersionMS);
+    const std::pair<const wchar_t*, const wchar_t*> texts[] = {
+        {L"CompanyName", L"The Vela authors"},
+        {L"FileDescription", L"Vela: campo de entrada de dados para formul\u00E1rios"},
+        {L"FileVersion", L"1.0.0.0"},
+        {L"InternalName", L"Vela"},
+        {L"LegalCopyright", L"Copyright \u00A9 2026 The Vela authors. Licen\u00E7a MIT."},
+        {L"OLESelfRegister", L""},
+        {L"OriginalFilename", L"Vela.ocx"},
+        {L"ProductName", L"Vela"},
+        {L"ProductVersion", L"1.0.0.0"},
+    };
+    for (const auto& [name, expected] : texts) {
+        const std::string shown(name, name + std::wcslen(name));
+        wchar_t* text = nullptr;
+        ASSERT_TRUE(VerQueryValueW(block.data(), (L"\\StringFileInfo\\041604B0\\" + std::wstring(name)).c_str(),
+                                   reinterpret_cast<void**>(&text), &size))
+            << shown;
+        EXPECT_EQ(std::wstring(text), expected) << shown;
+    }
     const HMODULE module = LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
     const HANDLE picture = LoadImageW(module, MAKEINTRESOURCEW(101), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);
     BITMAP bitmap{};
