@@ -1,6 +1,7 @@
 // Settings saved and loaded through every interface of persistence, and what happens to bad ones.
 #include "automation.h"
 #include "host_objects.h"
+#include "kept_lines.h"
 #include "library.h"
 
 #include "activex/guids.h"
@@ -10,6 +11,8 @@
 #include <gtest/gtest.h>
 #include <olectl.h>
 
+#include <fstream>
+#include <iterator>
 #include <random>
 #include <string>
 
@@ -154,6 +157,31 @@ TEST(Persistence, TheBytesAreTheSameInBothBitnesses)
     EXPECT_EQ(field.textOf(u"Mask"), u"__-__");
     EXPECT_EQ(field.textOf(u"QtdCasasDec"), u"2");
     EXPECT_EQ(field.textOf(u"InserirZeros"), u"True") << "the loaded default";
+}
+
+// "saved.QtdCasasDec = 3" of a control that has loaded these bytes.
+void addLoaded(std::vector<std::string>& lines, const std::string& source, const std::string& bytes)
+{
+    const ComPtr<IUnknown> control = create();
+    ASSERT_EQ(ComPtr<IPersistStreamInit>::from(control.get())->Load(memoryStream(bytes).get()), S_OK) << source;
+    const Automation field(control.get());
+    for (const control::Property& property : control::properties())
+        if (property.type != control::PropertyType::font && property.name != u"hwnd" && property.name != u"HwndCtl")
+            lines.push_back(source + "." + narrow(property.name) + " = " + narrow(field.textOf(property.name)));
+}
+
+// A stream with seventy-two keys, written by version 1.0.0, and one with none: forms that were saved open as they did.
+TEST(Persistence, ReadsWhatVersion1Saved)
+{
+    const auto bytesOfFile = [](const char* path) {
+        std::ifstream file(path, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    std::vector<std::string> lines;
+    addLoaded(lines, "saved", bytesOfFile(VELA_TEST_DIR "/kept/settings-1.0.bin"));
+    addLoaded(lines, "missing", std::string("VelaSet\x1A\x01\0\0\0\x04\0\0\0\x1C\xDF\x44\x21\0\0\0\0", 24));
+    writeLines(VELA_BINARY_DIR "/settings.txt", lines);
+    EXPECT_EQ(lost(linesOf(VELA_TEST_DIR "/kept/settings-1.0.txt"), lines), std::vector<std::string>{});
 }
 
 TEST(Persistence, BadStreamsAreRefusedWholeAndTheControlStaysAsItWas)

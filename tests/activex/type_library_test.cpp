@@ -1,4 +1,5 @@
 // The compiled type library beside the table of members: every name, DISPID, type, flag and help text.
+#include "kept_lines.h"
 #include "library.h"
 
 #include "activex/guids.h"
@@ -8,6 +9,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 namespace vela::test {
 
@@ -248,6 +250,98 @@ TEST(TypeLibrary, TheControlAnswersWithItsOwn)
     GUID events{};
     ASSERT_EQ(provider->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events), S_OK);
     EXPECT_EQ(events, activex::velaEvents);
+}
+
+// "TipoText.TextoNormal = 0", "IVela.Text = 0: get BSTR", "IVelaEvents.KeyPress = -603: call void(Integer* KeyAscii)".
+void addMembers(std::vector<std::string>& lines, ITypeInfo& info, const std::u16string& type)
+{
+    const Attributes attributes(info);
+    for (UINT i = 0; i < attributes->cVars; ++i) {
+        VARDESC* variable = nullptr;
+        ASSERT_EQ(info.GetVarDesc(i, &variable), S_OK);
+        lines.push_back(narrow(type + u"." + nameOf(info, variable->memid)) + " = " +
+                        std::to_string(variable->lpvarValue->lVal));
+        info.ReleaseVarDesc(variable);
+    }
+    for (UINT i = 0; i < attributes->cFuncs; ++i) {
+        FUNCDESC* function = nullptr;
+        ASSERT_EQ(info.GetFuncDesc(i, &function), S_OK);
+        BSTR names[8]{};
+        UINT count = 0;
+        info.GetNames(function->memid, names, 8, &count);
+        const char* const kind = function->invkind == INVOKE_PROPERTYGET      ? "get "
+                                 : function->invkind == INVOKE_PROPERTYPUT    ? "put "
+                                 : function->invkind == INVOKE_PROPERTYPUTREF ? "putref "
+                                                                              : "call ";
+        std::u16string parameters;
+        for (SHORT n = 0; n < function->cParams; ++n)
+            parameters +=
+                (n ? u", " : u"") + typeText(info, function->lprgelemdescParam[n].tdesc) +
+                (UINT(n) + 1 < count ? u" " + std::u16string(names[n + 1], names[n + 1] + SysStringLen(names[n + 1]))
+                                     : u"");
+        lines.push_back(narrow(type + u"." + nameOf(info, function->memid)) + " = " + std::to_string(function->memid) +
+                        ": " + kind + narrow(typeText(info, function->elemdescFunc.tdesc) + u"(" + parameters + u")"));
+        for (UINT n = 0; n < count; ++n)
+            SysFreeString(names[n]);
+        info.ReleaseFuncDesc(function);
+    }
+    for (UINT i = 0; attributes->typekind == TKIND_COCLASS && i < attributes->cImplTypes; ++i) {
+        HREFTYPE reference = 0;
+        ComPtr<ITypeInfo> implemented;
+        ASSERT_EQ(info.GetRefTypeOfImplType(i, &reference), S_OK);
+        ASSERT_EQ(info.GetRefTypeInfo(reference, implemented.put()), S_OK);
+        lines.push_back(narrow(type + u": " + nameOf(*implemented.get(), MEMBERID_NIL)));
+    }
+}
+
+// Everything that a compiled program, a saved form or a script may depend on.
+std::vector<std::string> interfaceNow(ITypeLib& library)
+{
+    std::vector<std::string> lines;
+    TLIBATTR* attributes = nullptr;
+    library.GetLibAttr(&attributes);
+    lines.push_back("library " + textOf(attributes->guid) + " " + std::to_string(attributes->wMajorVerNum) + "." +
+                    std::to_string(attributes->wMinorVerNum));
+    library.ReleaseTLibAttr(attributes);
+    for (UINT i = 0; i < library.GetTypeInfoCount(); ++i) {
+        ComPtr<ITypeInfo> info;
+        library.GetTypeInfo(i, info.put());
+        const std::u16string name = nameOf(*info.get(), MEMBERID_NIL);
+        lines.push_back(narrow(name) + " " + textOf(Attributes(*info.get())->guid));
+        addMembers(lines, *info.get(), name);
+    }
+    for (const wchar_t* const progId : {L"Vela.Vela", L"Vela.Vela.1", L"Vela.cCalendar", L"Vela.cCalendar.1"}) {
+        CLSID id{};
+        CLSIDFromProgID(progId, &id);
+        lines.push_back(std::string(progId, progId + std::wcslen(progId)) + " " + textOf(id));
+    }
+    return lines;
+}
+
+TEST(TypeLibrary, HasWhatVersion1Promised)
+{
+    const std::vector<std::string> now = interfaceNow(*loadLibrary().get());
+    writeLines(VELA_BINARY_DIR "/interface.txt", now);
+    EXPECT_EQ(lost(linesOf(VELA_TEST_DIR "/../../activex/idl/vela-1.0.txt"), now), std::vector<std::string>{});
+}
+
+TEST(TypeLibrary, WhatIsLostIsNoticed)
+{
+    using Lines = std::vector<std::string>;
+    const struct {
+        const char* what;
+        Lines now;
+        Lines lost;
+    } rows[] = {
+        {"nothing changed", {"a = 1", "b = 2"}, {}},
+        {"something more, wherever it stands", {"x", "a = 1", "y", "b = 2", "z"}, {}},
+        {"gone", {"b = 2"}, {"a = 1"}},
+        {"another number", {"a = 1", "b = 3"}, {"b = 2"}},
+        {"moved", {"b = 2", "a = 1"}, {"b = 2"}},
+        {"everything", {}, {"a = 1", "b = 2"}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(lost({"a = 1", "b = 2"}, row.now), row.lost) << row.what;
 }
 
 } // namespace
