@@ -94,9 +94,10 @@ engine::Value getProperty(Vela& control, std::u16string_view name)
 std::span<const Method> methods() noexcept
 {
     static constexpr std::array<Method, 3> rows{{
-        {u"About", -552, [](Vela& control) { control.About(); }},
-        {u"DestruirToolTip", 80, [](Vela& control) { control.DestruirToolTip(); }},
-        {u"LimparMemoria", 81, [](Vela& control) { control.LimparMemoria(); }},
+        {u"About", -552, [](Vela& control) { control.About(); }, u"Mostra a caixa Sobre"},
+        {u"DestruirToolTip", 80, [](Vela& control) { control.DestruirToolTip(); }, u"Retira a dica do campo"},
+        {u"LimparMemoria", 81, [](Vela& control) { control.LimparMemoria(); },
+         u"Solta a caixa de edição; depois, o que precisa dela gera o erro 91"},
     }};
     return rows;
 }
@@ -104,12 +105,13 @@ std::span<const Method> methods() noexcept
 std::span<const Event> events() noexcept
 {
     static constexpr std::array<Event, 6> rows{{
-        {u"Change", 1, {}},
-        {u"Click", -600, {}},
-        {u"KeyPress", -603, keyPressParameters},
-        {u"KeyUp", -604, keyParameters},
-        {u"KeyDown", -602, keyParameters},
-        {u"MouseOut", 2, {}},
+        {u"Change", 1, {}, u"O texto mudou"},
+        {u"Click", -600, {}, u"O campo foi clicado; um clique duplo o gera mais uma vez"},
+        {u"KeyPress", -603, keyPressParameters,
+         u"Um caractere foi digitado e filtrado; ponha 0 em KeyAscii para recusá-lo, ou outro caractere"},
+        {u"KeyUp", -604, keyParameters, u"Uma tecla foi solta"},
+        {u"KeyDown", -602, keyParameters, u"Uma tecla foi apertada; ponha 0 em KeyCode para recusá-la"},
+        {u"MouseOut", 2, {}, u"O ponteiro saiu do campo"},
     }};
     return rows;
 }

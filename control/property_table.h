@@ -23,7 +23,7 @@ struct Property {
     Access access = Access::readWrite;
     Browsable browsable = Browsable::yes;
     bool bindable = false;    // tells requestedit and changed to property sinks
-    std::u16string_view help; // empty: none
+    std::u16string_view help; // for object browsers, in Portuguese
     engine::Value (*get)(Vela&) = nullptr;
     void (*put)(Vela&, const engine::Value&) = nullptr; // takes a value of the property's own type
 };
@@ -45,6 +45,7 @@ struct Method {
     std::u16string_view name;
     int dispid = 0;
     void (*call)(Vela&) = nullptr;
+    std::u16string_view help;
 };
 [[nodiscard]] std::span<const Method> methods() noexcept; // About, DestruirToolTip, LimparMemoria
 
@@ -55,6 +56,7 @@ struct Event {
     std::u16string_view name;
     int dispid = 0;
     std::span<const EventParameter> parameters;
+    std::u16string_view help;
 };
 [[nodiscard]] std::span<const Event> events() noexcept; // Change, Click, KeyPress, KeyUp, KeyDown, MouseOut
 

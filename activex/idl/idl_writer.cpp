@@ -89,6 +89,11 @@ std::string typeOf(const Property& property)
     return {};
 }
 
+std::string helpOf(std::u16string_view text)
+{
+    return "helpstring(" + quoted(narrow(text)) + ")";
+}
+
 // What both the get and the put of a property carry.
 std::string attributesOf(const Property& property)
 {
@@ -101,9 +106,7 @@ std::string attributesOf(const Property& property)
         text += ", nonbrowsable";
     if (property.browsable == Browsable::hidden)
         text += ", hidden";
-    if (!property.help.empty())
-        text += ", helpstring(" + quoted(narrow(property.help)) + ")";
-    return text;
+    return text + ", " + helpOf(property.help);
 }
 
 std::string propertyText(const Property& property)
@@ -127,7 +130,8 @@ std::string velaInterfaceText()
     for (const Property& property : control::properties())
         text += propertyText(property);
     for (const control::Method& method : control::methods())
-        text += line(2, "[id(" + std::to_string(method.dispid) + ")] void " + narrow(method.name) + "();");
+        text += line(2, "[id(" + std::to_string(method.dispid) + "), " + helpOf(method.help) + "] void " +
+                            narrow(method.name) + "();");
     return text + line(1, "}") + "\n";
 }
 
@@ -140,8 +144,8 @@ std::string velaEventsText()
         std::string parameters;
         for (const control::EventParameter& parameter : event.parameters)
             parameters += (parameters.empty() ? "" : ", ") + ("[in, out] short* " + narrow(parameter.name));
-        text +=
-            line(2, "[id(" + std::to_string(event.dispid) + ")] void " + narrow(event.name) + "(" + parameters + ");");
+        text += line(2, "[id(" + std::to_string(event.dispid) + "), " + helpOf(event.help) + "] void " +
+                            narrow(event.name) + "(" + parameters + ");");
     }
     return text + line(1, "}") + "\n";
 }
@@ -150,12 +154,16 @@ std::string calendarText()
 {
     return line(1, identified(identity::calendarInterface, ", helpstring(\"Calend\u00E1rio mensal\")")) +
            line(1, "dispinterface IcCalendar") + line(1, "{") + line(1, "properties:") + line(1, "methods:") +
-           line(2, "[id(0), propget, bindable] DATE DateInitial();") +
-           line(2, "[id(1)] void IniciaCalendario([in] VARIANT data);") +
-           line(2, "[id(2)] VARIANT IncluiDataRealcada([in] VARIANT data);") + line(1, "}") + "\n" +
+           line(2, "[id(0), propget, bindable, " + helpOf(u"Data escolhida no calend\u00E1rio") +
+                       "] DATE DateInitial();") +
+           line(2, "[id(1), " + helpOf(u"Escolhe a data e mostra o m\u00EAs dela") +
+                       "] void IniciaCalendario([in] VARIANT data);") +
+           line(2, "[id(2), " + helpOf(u"Conta uma data real\u00E7ada") +
+                       "] VARIANT IncluiDataRealcada([in] VARIANT data);") +
+           line(1, "}") + "\n" +
            line(1, identified(identity::calendarEvents, ", helpstring(\"Eventos do calend\u00E1rio mensal\")")) +
            line(1, "dispinterface IcCalendarEvents") + line(1, "{") + line(1, "properties:") + line(1, "methods:") +
-           line(2, "[id(-600)] void Click();") + line(1, "}") + "\n";
+           line(2, "[id(-600), " + helpOf(u"Uma data foi escolhida") + "] void Click();") + line(1, "}") + "\n";
 }
 
 std::string classText(std::string_view identity, std::string_view name, std::string_view help)

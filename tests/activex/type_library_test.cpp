@@ -160,6 +160,7 @@ TEST(TypeLibrary, HoldsEveryPropertyOfTheTableAndNoOther)
             const Function& function = found->second;
             EXPECT_EQ(function.name, property.name);
             EXPECT_EQ(function.help, property.help);
+            EXPECT_FALSE(function.help.empty());
             EXPECT_EQ(function.type, expectedType(property));
             EXPECT_EQ(function.flags, expectedFlags(property));
             EXPECT_TRUE(function.kind == INVOKE_PROPERTYGET || function.kind == putKind(property));
@@ -175,6 +176,8 @@ TEST(TypeLibrary, HoldsMethodsAndEvents)
     for (const control::Method& method : control::methods()) {
         const auto found = members.find(method.dispid);
         ASSERT_NE(found, members.end());
+        EXPECT_EQ(found->second.help, method.help);
+        EXPECT_FALSE(method.help.empty());
         EXPECT_EQ(found->second.name, method.name);
         EXPECT_TRUE(found->second.parameters.empty());
     }
@@ -184,6 +187,8 @@ TEST(TypeLibrary, HoldsMethodsAndEvents)
         const auto found = events.find(event.dispid);
         ASSERT_NE(found, events.end());
         EXPECT_EQ(found->second.name, event.name);
+        EXPECT_EQ(found->second.help, event.help);
+        EXPECT_FALSE(event.help.empty());
         ASSERT_EQ(found->second.parameters.size(), event.parameters.size());
         for (const std::u16string& type : found->second.parameters)
             EXPECT_EQ(type, u"Integer*");
