@@ -1,22 +1,12 @@
-// Which page, and which of its widgets, edits a property: for hosts that open a page on one property.
+// The pages by their entries and by their classes.
 #pragma once
 
-#include "pages/page.h"
+#include "activex/page_entries.h"
 
 #include <guiddef.h>
 
-#include <string_view>
-
 namespace vela::activex {
 
-struct PageEntry {
-    std::u16string_view property;
-    pages::PageKind page;
-    std::u16string_view widget;
-    int index = -1; // of a control array
-};
-
-[[nodiscard]] const PageEntry* findPageEntry(std::u16string_view property) noexcept; // null: on no page
 [[nodiscard]] const CLSID& pageClass(pages::PageKind page) noexcept;
 
 } // namespace vela::activex
