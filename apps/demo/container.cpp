@@ -73,7 +73,7 @@ HRESULT FormFrame::GetWindow(HWND* window)
 
 HRESULT FormFrame::SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR)
 {
-    ComPtr<IOleInPlaceActiveObject>(object).Swap(active_); // letting the last one go may end in this very call
+    active_ = object;
     return S_OK;
 }
 

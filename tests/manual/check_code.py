@@ -112,8 +112,6 @@ NATIVE = {"sh": check_shell, "xml": check_xml, "reg": check_registry, "cmd": che
 
 
 def same_in_both_languages():
-    if not (TOP / "docs/pt-BR").exists():
-        return
     for page in sorted((TOP / "docs/en").glob("*.md")):
         other = TOP / "docs/pt-BR" / page.name
         if not other.exists():
@@ -124,11 +122,19 @@ def same_in_both_languages():
             raise ValueError(f"docs/pt-BR/{page.name}: block {at + 1} is not that of docs/en")
 
 
+def anchors_of(page):
+    headings = re.findall(r"(?m)^#+ (.*)$", page.read_text(encoding="utf-8"))
+    return {re.sub(r"[^\w\- ]", "", heading.lower()).replace(" ", "-") for heading in headings}
+
+
 def links_lead_somewhere():
-    for page in [*pages(), *TOP.glob("*/README.md")]:
-        for link in re.findall(r"\]\(([^)#\s]+)(?:#[^)]*)?\)", page.read_text(encoding="utf-8")):
-            if not link.startswith("http") and not (page.parent / link).exists():
-                raise ValueError(f"{page.relative_to(TOP)}: a link to {link}, which is not there")
+    for page in {*pages(), *TOP.glob("*/README.md")}:
+        for link, anchor in re.findall(r"\]\(([^)#\s]*)#?([^)\s]*)\)", page.read_text(encoding="utf-8")):
+            if link.startswith("http"):
+                continue
+            target = page.parent / link if link else page
+            if not target.exists() or (anchor and anchor not in anchors_of(target)):
+                raise ValueError(f"{page.relative_to(TOP)}: a link to {link}#{anchor}, which is not there")
 
 
 def named_tests_exist():
