@@ -73,7 +73,7 @@ HRESULT FormFrame::GetWindow(HWND* window)
 
 HRESULT FormFrame::SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR)
 {
-    active_ = object;
+    ComPtr<IOleInPlaceActiveObject>(object).Swap(active_); // letting the last one go may end in this very call
     return S_OK;
 }
 
