@@ -54,6 +54,8 @@ void TooltipWindow::destroy()
 
 LRESULT CALLBACK TooltipWindow::procedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
 {
+    if (message == WM_MOUSEACTIVATE)
+        return MA_NOACTIVATE; // a click on it is no leaving of the field; Wine's class would take the focus
     if (auto* const tooltip = static_cast<TooltipWindow*>(boundObject(window)); tooltip && message == WM_NCDESTROY)
         tooltip->window_ = nullptr;
     return behindProcedure(window, message, first, second);

@@ -140,6 +140,22 @@ TEST(Focus, TwoWrongFieldsDoNotPassItToAndFro)
     EXPECT_EQ(FocusPath::windows(), (std::vector<HWND>{two, one, two, dates.after, two, dates.after}));
 }
 
+TEST(Focus, AClickOnTheAlertIsNoWayOut)
+{
+    TwoDates dates(true, true);
+    dates.enter(dates.first);
+    strike(dates.form, VK_TAB);
+    const HWND alert = balloonShown();
+    ASSERT_NE(alert, nullptr);
+    const FocusPath path;
+    clickAt(dates.form, alert, middleOf(alert));
+    EXPECT_EQ(FocusPath::windows(), std::vector<HWND>{});
+    EXPECT_EQ(GetActiveWindow(), dates.form.window());
+    EXPECT_EQ(GetFocus(), dates.first.edit());
+    strike(dates.form, VK_TAB);
+    EXPECT_EQ(GetFocus(), dates.first.edit()) << "still held";
+}
+
 TEST(Focus, TheAlertIsABalloonAndNoBox)
 {
     const AnsweredBoxes boxes;

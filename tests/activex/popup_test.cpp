@@ -1,5 +1,6 @@
 // The pop-ups as a person uses them on a field of the library: clicks, keys, other windows, and forms that go.
 #include "person.h"
+#include "two_dates.h"
 
 #include "popups/calculator_layout.h"
 #include "popups/calendar_layout.h"
@@ -246,21 +247,6 @@ TEST(Popup, OpenedOnAFieldWithoutTheFocusItStartsWithTheEntryForm)
     EXPECT_EQ(desk.site.automation().textOf(u"Text"), u"1234,00") << "the calculator's operands end at a comma";
 }
 
-BOOL CALLBACK countTip(HWND window, LPARAM count)
-{
-    wchar_t name[32]{};
-    GetClassNameW(window, name, 32);
-    *reinterpret_cast<int*>(count) += IsWindowVisible(window) && lstrcmpiW(name, L"tooltips_class32") == 0;
-    return TRUE;
-}
-
-int tipsShown()
-{
-    int shown = 0;
-    EnumThreadWindows(GetCurrentThreadId(), countTip, reinterpret_cast<LPARAM>(&shown));
-    return shown;
-}
-
 TEST(Popup, OpeningHidesTheOwnersEntryTip)
 {
     for (const auto kind : {asDate, asNumber}) {
@@ -270,9 +256,9 @@ TEST(Popup, OpeningHidesTheOwnersEntryTip)
         settle(desk.form);
         desk.form.focus(desk.site);
         settle(desk.form);
-        ASSERT_EQ(tipsShown(), 1);
+        ASSERT_EQ(balloons(), 1);
         desk.open();
-        EXPECT_EQ(tipsShown(), 0);
+        EXPECT_EQ(balloons(), 0);
     }
 }
 

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace vela::test {
 
 inline constexpr COLORREF wrongColour = 0x000000C8;
@@ -66,19 +68,31 @@ private:
     }
 };
 
-inline BOOL CALLBACK countBalloon(HWND window, LPARAM count)
+inline BOOL CALLBACK takeBalloon(HWND window, LPARAM into)
 {
     wchar_t name[32]{};
     GetClassNameW(window, name, 32);
-    *reinterpret_cast<int*>(count) += IsWindowVisible(window) && lstrcmpiW(name, L"tooltips_class32") == 0;
+    if (IsWindowVisible(window) && lstrcmpiW(name, L"tooltips_class32") == 0)
+        reinterpret_cast<std::vector<HWND>*>(into)->push_back(window);
     return TRUE;
+}
+
+inline std::vector<HWND> balloonWindows()
+{
+    std::vector<HWND> shown;
+    EnumThreadWindows(GetCurrentThreadId(), takeBalloon, reinterpret_cast<LPARAM>(&shown));
+    return shown;
 }
 
 inline int balloons()
 {
-    int shown = 0;
-    EnumThreadWindows(GetCurrentThreadId(), countBalloon, reinterpret_cast<LPARAM>(&shown));
-    return shown;
+    return static_cast<int>(balloonWindows().size());
+}
+
+inline HWND balloonShown()
+{
+    const auto shown = balloonWindows();
+    return shown.empty() ? nullptr : shown.front();
 }
 
 } // namespace vela::test
