@@ -31,14 +31,16 @@ drive_fields() {
   field Hora '0930'
   keys Tab
   write 'zeca'; sleep 0.6; picture entry-tip; keys Tab
-  field Vencimento '31022024'; sleep 0.6; picture error-alert; keys Tab
+  keys Tab # the date with the alert comes last: its balloon would cover what is below
   write 'azul'; picture focus; keys Tab
   place Cores; xdotool mousemove $((left + 30)) $(((top + bottom) / 2)); sleep 0.4; picture hover
   xdotool mousemove 5 5; sleep 0.3
   for border in Solida Tracos Pontos TracosPontos Relevo XP; do field "$border" "borda"; done
+  place Vencimento; click_at $((left + 20)) $(((top + bottom) / 2)); keys Home
+  field Vencimento '31022024'; sleep 0.6; picture error-alert; keys Tab; sleep 5
 
-  place Data; click_at $((right - 9)) $(((top + bottom) / 2)); sleep 0.6; picture calendar
-  place Percentual; click_at $((left + 20)) $(((top + bottom) / 2)); keys F2; sleep 0.6; picture calculator
+  place Data; click_at $((right - 9)) $(((top + bottom) / 2)); sleep 1.5; picture calendar
+  place Percentual; click_at $((left + 20)) $(((top + bottom) / 2)); keys F2; sleep 1.5; picture calculator
   keys plus 3 equal; sleep 0.2; picture calculator-result; keys F2; sleep 0.4
   place Nome; click_at $((left + 20)) $(((top + bottom) / 2))
   keys F9; sleep 0.8
