@@ -123,5 +123,8 @@ run_host_lazarus() {
   library=$(printf '%s' "Z:$build/win64/Vela.ocx" | tr / '\\')
   once hosts-importer.log timeout 120 "$top/scripts/wine-command" 64 "$hosts/lazarus/importer.exe" "$library" "$hosts/lazarus"
   once hosts-imported.log pascal -MObjFPC -Scghi "$top/tests/hosts/lazarus/host.pas"
+  python3 "$top/tests/manual/check_code.py" pascal "$hosts/lazarus/manual"
+  local form
+  for form in "$hosts"/lazarus/manual/*.pas; do once hosts-manual.log pascal -MObjFPC -Scghi "$form"; done
   drive lazarus "$top/scripts/wine-command" 64 "$hosts/lazarus/host.exe"
 }

@@ -37,8 +37,9 @@ need_native() {
   need_locale
 }
 
+# Beside the archive, which a shell that has looked for it in vain does not look into again.
 need_locale() {
-  has_locale || quietly locale.log env LC_ALL=C localedef -i pt_BR -f UTF-8 pt_BR.UTF-8
+  has_locale || quietly locale.log env LC_ALL=C localedef --no-archive -i pt_BR -f UTF-8 pt_BR.UTF-8
   export LC_ALL=pt_BR.UTF-8
 }
 

@@ -3,6 +3,7 @@
 check_code.py native        parses, compiles C#, compares the languages of the manual, looks links up
 check_code.py 64|32         runs scripts and C++ programs under Wine on the registered Vela.ocx, replays the rest
 check_code.py list          what is done with each block
+check_code.py pascal FOLDER writes the forms that `./test hosts:lazarus` compiles
 
 How each language is treated (a fence of any other language fails):
   vela          run by manual_tests, which compares what it prints
@@ -17,6 +18,7 @@ How each language is treated (a fence of any other language fails):
 The tests that the manual names are looked up.
 """
 import concurrent.futures
+import pathlib
 import re
 import subprocess
 import sys
@@ -262,6 +264,17 @@ def windows(bits):
             without_registration(bits, built.result())
 
 
+def pascal_units(folder):
+    """The forms of the manual that use the imported unit, each beside a form file, for a compiler that has that unit."""
+    for block in all_blocks():
+        unit = re.match(r"unit (\w+);", block.code) if block.language == "pascal" else None
+        if unit and "VelaLib_1_0_TLB" in block.code:
+            form = re.search(r"(\w+): T(\w+);\s*implementation", block.code)
+            pathlib.Path(folder).mkdir(parents=True, exist_ok=True)
+            (pathlib.Path(folder) / f"{unit[1].lower()}.pas").write_text(block.code, encoding="utf-8")
+            (pathlib.Path(folder) / f"{unit[1].lower()}.lfm").write_text(f"object {form[1]}: T{form[2]}\nend\n")
+
+
 def tell():
     how = {"vela": "run by manual_tests", "vbs": "run by cscript", "js": "run by cscript", "cpp": "compiled and run",
            "csharp": "compiled by mcs and replayed", "cmd": "known commands; registrations run", "sh": "bash -n", "xml": "parsed",
@@ -272,6 +285,6 @@ def tell():
 
 if __name__ == "__main__":
     try:
-        {"native": native, "list": tell}.get(sys.argv[1], lambda: windows(sys.argv[1]))()
+        {"native": native, "list": tell, "pascal": lambda: pascal_units(sys.argv[2])}.get(sys.argv[1], lambda: windows(sys.argv[1]))()
     except ValueError as fault:
         sys.exit(str(fault))

@@ -68,7 +68,7 @@ EVENTS = members_of("IVelaEvents")
 HOST_EVENTS = {"gotfocus", "lostfocus", "validate", "enter", "exit", "updated", "beforeupdate", "afterupdate"}
 ENUMERATORS = dict(re.findall(r"^        (\w+) = (\d+),?$", IDL, re.M))
 HOST_MEMBERS = {"height", "left", "tabindex", "top", "width", "visible", "name", "parent", "setbounds", "setfocus", "object",
-                "oleobject", "_extentx", "_extenty"}
+                "oleobject", "oleserver", "active", "_extentx", "_extenty"}
 
 COMMENTS = {"vb": r"'[^\n]*", "frm": r"'[^\n]*", "vbnet": r"'[^\n]*", "html": r"'[^\n]*", "csharp": r"//[^\n]*",
             "pascal": r"//[^\n]*|\{[^}]*\}", "ahk": r"(?:^|(?<=\s));[^\n]*"}
@@ -161,7 +161,7 @@ def acts(block):
             put = statement["put"] and not compares
             found.append((number, path, statement["member"], statement["value"] if put else None))
     fields |= {path for _, path, member, value in found if member.lower() == "texttype" and value is not None}
-    fields |= {path for _, path, _, _ in found if re.search(r"\.(oleobject|object)$", path)}
+    fields |= {path for _, path, _, _ in found if re.search(r"\.(oleobject|oleserver|object)$", path)}
     for number, path, member, value in found:
         if path in fields and member.lower() not in HOST_MEMBERS:
             rows.append((number, path, member, script_value(value) if value is not None else None))
