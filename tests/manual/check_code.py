@@ -29,13 +29,13 @@ from code_blocks import TOP, acts, fences, pages, samples
 REPLAYED = {"vb", "vbnet", "pascal", "ahk", "html", "frm", "csharp"}
 LANGUAGES = REPLAYED | {"vela", "vbs", "js", "cpp", "cmd", "sh", "xml", "reg", "vbp", "text"}
 COMMANDS = r"(?i)@echo|rem|regsvr32|install\.cmd|uninstall\.cmd|msiexec|cscript|csc|vbc|dotnet|reg|del|copy|cd|signtool|vela-console"
-WORK = TOP / "build/manual"
+WORK = TOP / "build/manual" / "".join(sys.argv[1:2])  # the parts of ./test run at the same time
 
 
 def run(command, encoding="utf-8", **more):
     """The status and what was printed."""
     try:
-        done = subprocess.run(command, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=60, **more)
+        done = subprocess.run(command, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=120, **more)
     except subprocess.TimeoutExpired as late: # a box that nobody answers
         raise ValueError(f"{command[-1]} did not end: {(late.stdout or b'').decode(encoding, 'replace')[-300:]}") from late
     return done.returncode, done.stdout.decode(encoding, "replace").replace("\r", "")
@@ -278,7 +278,7 @@ def pascal_units(folder):
 def tell():
     how = {"vela": "run by manual_tests", "vbs": "run by cscript", "js": "run by cscript", "cpp": "compiled and run",
            "csharp": "compiled by mcs and replayed", "cmd": "known commands; registrations run", "sh": "bash -n", "xml": "parsed",
-           "reg": "parsed", "vbp": "identity compared"}
+           "reg": "parsed", "vbp": "identity compared", "text": "no code"}
     for block in all_blocks():
         print(f"{block}\t{block.language}\t{how.get(block.language, 'replayed')}")
 
