@@ -40,11 +40,15 @@ if "%silent%"=="no" pause
 exit /b %failed%
 
 :register
-if "%scope%"=="machine" "%~1" /s "%~dp0%2\Vela.ocx"
-if "%scope%"=="user" "%~1" /s /n /i:user "%~dp0%2\Vela.ocx"
+if "%scope%"=="user" goto registeruser
+"%~1" /s "%~dp0%2\Vela.ocx"
 if errorlevel 1 goto refused
-if "%scope%"=="machine" echo Registrado para todos / Registered for every user: %~dp0%2\Vela.ocx
-if "%scope%"=="user" echo Registrado para este usuário / Registered for this user: %~dp0%2\Vela.ocx
+echo Registrado para todos / Registered for every user: %~dp0%2\Vela.ocx
+exit /b 0
+:registeruser
+"%~1" /s /n /i:user "%~dp0%2\Vela.ocx"
+if errorlevel 1 goto refused
+echo Registrado para este usuário / Registered for this user: %~dp0%2\Vela.ocx
 exit /b 0
 :refused
 echo Falhou o registro de / Could not register: %~dp0%2\Vela.ocx

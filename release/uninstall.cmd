@@ -40,11 +40,15 @@ if "%silent%"=="no" pause
 exit /b %failed%
 
 :remove
-if "%scope%"=="machine" "%~1" /s /u "%~dp0%2\Vela.ocx"
-if "%scope%"=="user" "%~1" /s /u /n /i:user "%~dp0%2\Vela.ocx"
+if "%scope%"=="user" goto removeuser
+"%~1" /s /u "%~dp0%2\Vela.ocx"
 if errorlevel 1 goto refused
-if "%scope%"=="machine" echo Removido para todos / Removed for every user: %~dp0%2\Vela.ocx
-if "%scope%"=="user" echo Removido para este usuário / Removed for this user: %~dp0%2\Vela.ocx
+echo Removido para todos / Removed for every user: %~dp0%2\Vela.ocx
+exit /b 0
+:removeuser
+"%~1" /s /u /n /i:user "%~dp0%2\Vela.ocx"
+if errorlevel 1 goto refused
+echo Removido para este usuário / Removed for this user: %~dp0%2\Vela.ocx
 exit /b 0
 :refused
 echo Falhou a remoção de / Could not remove: %~dp0%2\Vela.ocx

@@ -11,8 +11,9 @@ import re
 import shutil
 import sys
 import unicodedata
+import urllib.parse
 
-import markdown
+from markdown_it import MarkdownIt
 
 STYLE = """body { font: 16px/1.5 "Segoe UI", Arial, sans-serif; max-width: 60em; margin: 2em auto; padding: 0 1em; color: #222; }
 nav { border-bottom: 1px solid #bbb; padding-bottom: .5em; } nav a { margin-right: 1.5em; }
@@ -30,15 +31,16 @@ PAGE = """<!DOCTYPE html>
 </body>
 </html>
 """
-WORDS = {"pt-BR": ("Início", "Índice alfabético", "Neste manual"), "en": ("Start", "Index", "In this manual")}
+# A manual's first page, its index, and its own language, as it calls them.
+WORDS = {"pt-BR": ("Início", "Índice alfabético", "Português"), "en": ("Start", "Index", "English")}
 RENAMED = {"README.md": "README.txt", "LICENSE": "LICENSE.txt", "README.pt-BR.md": "README.txt"}
 HEADING = re.compile(r'<h([1-3]) id="([^"]*)">(.*?)</h\1>', re.S)
 MEMBER_ROW = re.compile(r"<tr>\s*<td><code>(\w+)</code></td>")
 
 
 # As the places where Markdown is read online make them: "Coming from `Mask`" -> "coming-from-mask"
-def slug(text, separator):
-    return re.sub(r"[^\w\- ]", "", text.lower()).strip().replace(" ", separator)
+def slug(text):
+    return re.sub(r"[^\w\- ]", "", text.lower()).strip().replace(" ", "-")
 
 
 def page_name(path):
@@ -56,7 +58,7 @@ class Manual:
         self.roots = [pathlib.PurePath(".")] if (docs / "README.md").exists() else []
         self.roots += [p.parent for p in self.sources if p.name == "README.md" and p.parent.name in WORDS]
         self.entries = {root: set() for root in self.roots}
-        self.broken = []
+        self.broken, self.places, self.wanted = [], {}, []
 
     def root_of(self, page):
         return max((r for r in self.roots if r == pathlib.PurePath(".") or r in page.parents), key=lambda r: len(r.parts),
@@ -66,9 +68,10 @@ class Manual:
         return WORDS.get(root.name, WORDS["en"])
 
     def link(self, source, href):
-        if re.match(r"[a-z]+:|#", href):
+        if re.match(r"[a-z]+:", href):
             return href
         path, _, place = href.partition("#")
+        path = path or source.name
         wanted = pathlib.PurePath(os.path.normpath(source.parent / path))
         end = "#" + place if place else ""
         if wanted.parts[:1] != ("..",):
@@ -76,7 +79,11 @@ class Manual:
                 self.broken.append(f"{source}: {href}")
             if (self.docs / wanted).is_dir():
                 wanted /= "README.md"
-            return (os.path.relpath(page_name(wanted), source.parent) if wanted.suffix == ".md" else path) + end
+            if wanted.suffix != ".md":
+                return path + end
+            if place:
+                self.wanted.append((source, href, page_name(wanted), urllib.parse.unquote(place)))
+            return os.path.relpath(page_name(wanted), source.parent) + end
         outside = pathlib.PurePath(*wanted.parts[1:])
         if not (self.docs.parent / outside).exists():
             self.broken.append(f"{source}: {href}")
@@ -86,8 +93,16 @@ class Manual:
         return os.path.relpath(pathlib.PurePath("..") / inside, source.parent) + end if (self.release / inside).is_file() else None
 
     def body(self, source):
-        maker = markdown.Markdown(extensions=["tables", "fenced_code", "toc", "sane_lists"], extension_configs={"toc": {"slugify": slug}})
-        text = maker.convert((self.docs / source).read_text(encoding="utf-8"))
+        text = MarkdownIt("commonmark", {"html": False}).enable("table").render((self.docs / source).read_text(encoding="utf-8"))
+        taken = {}
+
+        def placed(match):
+            name = slug(plain(match[2]))
+            taken[name] = taken.get(name, -1) + 1
+            name += f"-{taken[name]}" if taken[name] else ""
+            return f'<h{match[1]} id="{name}">{match[2]}</h{match[1]}>'
+
+        text = re.sub(r"<h([1-6])>(.*?)</h\1>", placed, text)
 
         def linked(match):
             href = self.link(source, html.unescape(match[1]))
@@ -101,6 +116,7 @@ class Manual:
 
     def collect(self, page, root, body):
         entries = self.entries[root] if root in self.entries else set()
+        self.places[page] = set(re.findall(r' id="([^"]*)"', body))
         title = next((plain(m[3]) for m in HEADING.finditer(body)), page.stem)
         for match in HEADING.finditer(body):
             word = plain(match[3])
@@ -111,14 +127,18 @@ class Manual:
 
     def write(self, page, root, title, body):
         up = os.path.relpath(".", page.parent) + "/"
-        start, index, _ = self.words(root)
+        start, index = self.words(root)[:2]
         home = os.path.relpath(root, page.parent)
-        links = [(f"{home}/index.html", start), (f"{home}/words.html", index)]
-        links += [(f"{os.path.relpath(other, page.parent)}/index.html", other.name) for other in self.roots if other != root and other.name]
+        links = [(f"{home}/index.html", start)]
+        links += [(f"{home}/words.html", index)] if self.has_index(root) else []
+        links += [(f"{os.path.relpath(other, page.parent)}/index.html", self.words(other)[2]) for other in self.roots if other != root and other.name]
         target = self.target / page
         target.parent.mkdir(parents=True, exist_ok=True)
         target.write_bytes(PAGE.format(language=root.name or "en", title=html.escape(title), up=up, body=body,
                                        links="".join(f'<a href="{href}">{word}</a>' for href, word in links)).encode())
+
+    def has_index(self, root):
+        return root.name in WORDS or len(self.roots) == 1
 
     def index_page(self, root):
         def key(entry):
@@ -135,7 +155,7 @@ class Manual:
 
     # Where no README.md names the manuals there are.
     def door(self):
-        links = "".join(f'<li><a href="{root.as_posix()}/index.html">{root.name}</a></li>' for root in self.roots)
+        links = "".join(f'<li><a href="{root.as_posix()}/index.html">{self.words(root)[2]}</a></li>' for root in self.roots)
         page = PAGE.format(language="en", title="Manual", up="", links="", body=f"<h1>Vela</h1><ul>{links}</ul>")
         (self.target / "index.html").write_text(page, encoding="utf-8")
 
@@ -149,8 +169,9 @@ class Manual:
             copy = self.target / path.relative_to(self.docs)
             copy.parent.mkdir(parents=True, exist_ok=True)
             shutil.copyfile(path, copy)
-        for root in self.roots:
+        for root in filter(self.has_index, self.roots):
             self.index_page(root)
+        self.broken += [f"{source}: {href}" for source, href, page, place in self.wanted if place not in self.places.get(page, ())]
         if not (self.target / "index.html").exists():
             self.door()
         if self.broken:

@@ -39,12 +39,9 @@ class Package:
         self.registries = registries
         self.components, self.queries = [], []
 
-    def bits_of(self, folder):
-        return "win32" if self.architecture == "x86" or folder == "win32" else "win64"
-
-    # A 32-bit folder stands below the system's folder of 32-bit programs, so that each bitness has its registry.
-    def root_of(self, folder):
-        return "PF32" if self.bits_of(folder) == "win32" else "PF64"
+    # The 64-bit package has the 32-bit library in the system's folder of 32-bit programs, where nothing else is.
+    def is_beside(self, folder):
+        return self.architecture == "x64" and folder == "win32"
 
     def files(self):
         skipped = "win64" if self.architecture == "x86" else None
@@ -61,13 +58,15 @@ class Package:
             yield element("RegistryValue", Root="HKLM", Key="Software\\Classes\\" + key, Type="string", Value=value, **named) + "/>"
 
     def folder_id(self, folder):
-        return ("D_" + self.root_of(folder) + "_" + re.sub(r"[^A-Za-z0-9_]", "_", folder)).rstrip("_")
+        if self.is_beside(folder):
+            return "D_beside"
+        return "D_" + re.sub(r"[^A-Za-z0-9_]", "_", folder or "main")
 
     # One component for the files of each folder; the library's also holds what registering it writes.
     def component(self, folder, files):
         name = self.folder_id(folder).replace("D_", "C_")
         self.components.append(name)
-        wide = "yes" if self.bits_of(folder) == "win64" else "no"
+        wide = "yes" if self.architecture == "x64" and not self.is_beside(folder) else "no"
         yield element("Component", Id=name, Guid=identity(self.architecture, folder or "."), Win64=wide) + ">"
         key = folder + "/Vela.ocx" if folder in self.registries else files[0][1].as_posix()
         for path, file in files:
@@ -92,16 +91,14 @@ class Package:
         if not SHORT.fullmatch(name):
             self.queries.append(f"UPDATE `Directory` SET `DefaultDir`='{name[:6]}~1|{name}' WHERE `Directory`='{directory_id}'")
 
-    def directory(self, folder, content, root):
-        here = [f for f in content.get(folder, []) if self.root_of(folder) == root]
-        below = sorted({f for f in content if f != folder and (pathlib.PurePosixPath(f).parent.as_posix() == (folder or "."))})
-        inside = [line for f in below for line in self.directory(f, content, root)]
-        if here:
-            inside = list(self.component(folder, here)) + inside
-        if not inside:
-            return []
-        name = "Vela" if folder == "" else pathlib.PurePosixPath(folder).name
-        directory_id = f"D_{root}" if folder == "" else self.folder_id(folder)
+    def directory(self, folder, content):
+        inside = list(self.component(folder, content[folder])) if content[folder] else []
+        for below in sorted(content):
+            if below and (below.rpartition("/")[0] == folder) and not self.is_beside(below):
+                inside += self.directory(below, content)
+        return self.directory_element(self.folder_id(folder), folder.rpartition("/")[2] or "Vela", inside)
+
+    def directory_element(self, directory_id, name, inside):
         self.settle_directory(directory_id, name)
         return [element("Directory", Id=directory_id, Name=name) + ">", *inside, "</Directory>"]
 
@@ -114,11 +111,11 @@ class Package:
             while folder:  # folders that hold folders only
                 folder = folder.rpartition("/")[0]
                 content.setdefault(folder, [])
-        roots = []
-        for root, system in (("PF64", "ProgramFiles64Folder"), ("PF32", "ProgramFilesFolder")):
-            lines = self.directory("", content, root)
-            if lines:
-                roots += [element("Directory", Id=system) + ">", *lines, "</Directory>"]
+        main = "ProgramFiles64Folder" if self.architecture == "x64" else "ProgramFilesFolder"
+        roots = [element("Directory", Id=main) + ">", *self.directory("", content), "</Directory>"]
+        if self.architecture == "x64":
+            beside = self.directory_element("D_beside", "Vela", self.component("win32", content["win32"]))
+            roots += [element("Directory", Id="ProgramFilesFolder") + ">", *beside, "</Directory>"]
         condition, message = REFUSED[self.architecture]
         return "\n".join([
             '<?xml version="1.0" encoding="utf-8"?>', '<Wix xmlns="http://schemas.microsoft.com/wix/2006/wi">',

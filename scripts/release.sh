@@ -5,7 +5,7 @@ python() { /usr/bin/python3 -B "$@"; }
 
 build_release() {
   local bits
-  compile native vela-registry
+  compile native-asan vela-registry
   for bits in 64 32; do
     compile "win$bits" velaocx vela-console
     build_example "$bits"
@@ -22,7 +22,7 @@ build_example() {
   sed "s/\"amd64\"/\"$architecture\"/" "$top/samples/manifest/pedido.exe.manifest" >"$folder/pedido.exe.manifest"
 }
 
-registry_of() { "$build/native/activex/vela-registry" "$1" '@FOLDER@\Vela.ocx' >"$2/$1.txt"; }
+registry_of() { "$build/native-asan/activex/vela-registry" "$1" '@FOLDER@\Vela.ocx' >"$2/$1.txt"; }
 
 # make_release FOLDER [CERTIFICATE [TIMESTAMP]]
 make_release() {
