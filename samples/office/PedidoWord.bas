@@ -4,7 +4,7 @@ Option Explicit
 
 Public Sub NovoPedido()
     Dim forma As InlineShape
-    Set forma = Selection.InlineShapes.AddOLEControl(ClassType:="Vela.Vela.1")
+    Set forma = ActiveDocument.InlineShapes.AddOLEControl("Vela.Vela.1", Selection.Range)
     With forma.OLEFormat.Object
         .DateFormat = "dd/mm/yyyy"
         .TextType = 2                       ' Data
