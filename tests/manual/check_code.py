@@ -98,8 +98,9 @@ def check_project(block):
 
 def check_csharp(block):
     target = "winexe" if "static void Main" in block.code else "library"
-    must(block, ["mcs", "-nologo", f"-target:{target}", f"-out:{WORK}/{abs(hash(block.code))}.exe", "-r:System.Windows.Forms",
-                 "-r:System.Drawing", "-r:Microsoft.CSharp", "-warnaserror", written(block, ".cs")])
+    source = written(block, ".cs")
+    must(block, ["mcs", "-nologo", f"-target:{target}", f"-out:{source.with_suffix('.exe')}", "-r:System.Windows.Forms",
+                 "-r:System.Drawing", "-r:Microsoft.CSharp", "-warnaserror", source])
 
 
 def check_identities(block):
@@ -114,14 +115,16 @@ NATIVE = {"sh": check_shell, "xml": check_xml, "reg": check_registry, "cmd": che
 
 
 def same_in_both_languages():
-    for page in sorted((TOP / "docs/en").glob("*.md")):
-        other = TOP / "docs/pt-BR" / page.name
-        if not other.exists():
-            raise ValueError(f"docs/pt-BR/{page.name} is missing")
+    pairs = [(TOP / "docs/en" / name, TOP / "docs/pt-BR" / name)
+             for name in {path.name for path in [*TOP.glob("docs/en/*.md"), *TOP.glob("docs/pt-BR/*.md")]}]
+    for page, other in [*pairs, (TOP / "README.md", TOP / "README.pt-BR.md")]:
+        if not page.exists() or not other.exists():
+            raise ValueError(f"{page.name} is there in one language only")
         mine, theirs = ([(b.language, b.code, b.output) for b in fences(path)] for path in (page, other))
+        mine = [block for block in mine if page.name != "README.md" or block[0] != "sh"]  # developers read English
         if mine != theirs:
             at = next((i for i, (a, b) in enumerate(zip(mine, theirs)) if a != b), min(len(mine), len(theirs)))
-            raise ValueError(f"docs/pt-BR/{page.name}: block {at + 1} is not that of docs/en")
+            raise ValueError(f"{other.relative_to(TOP)}: block {at + 1} is not that of {page.relative_to(TOP)}")
 
 
 def anchors_of(page):
