@@ -13,11 +13,13 @@ How each language is treated (a fence of any other language fails):
   vb, vbnet, pascal, ahk, html, frm
                 replayed: each property put or read, name by name, on the registered control
   cmd           each line a command that is known; registrations are run
-  sh, xml, reg  parsed
+  sh            parsed; the step for continuous integration is run
+  xml, reg      parsed
   text          no code: a drawing
 The tests that the manual names are looked up.
 """
 import concurrent.futures
+import os
 import pathlib
 import re
 import subprocess
@@ -67,7 +69,22 @@ def all_blocks():
 # --- What needs no Windows.
 
 def check_shell(block):
-    must(block, ["bash", "-n", written(block, ".sh")])
+    script = written(block, ".sh")
+    must(block, ["bash", "-n", script])
+    if "forms/*.vela" in block.code:
+        check_pipeline(block, script)
+
+
+def check_pipeline(block, script):
+    """The step for continuous integration passes forms that keep their expectations, and no others."""
+    folder = WORK / "pipeline"
+    (folder / "forms").mkdir(parents=True, exist_ok=True)
+    form = next(other.code for other in fences(TOP / block.place) if re.search(r"(?m)^expect .*1\.234,50", other.code))
+    path = f"{TOP}/build/native-asan:{os.environ['PATH']}"
+    for code, expected in ((form, 0), (form.replace("1.234,50", "1.234,51"), 1)):
+        (folder / "forms/form.vela").write_text(code, encoding="utf-8")
+        if run(["bash", script], cwd=folder, env={**os.environ, "PATH": path})[0] != expected:
+            raise ValueError(f"{block}: it did not end with {expected}")
 
 
 def check_xml(block):
@@ -280,7 +297,7 @@ def pascal_units(folder):
 
 def tell():
     how = {"vela": "run by manual_tests", "vbs": "run by cscript", "js": "run by cscript", "cpp": "compiled and run",
-           "csharp": "compiled by mcs and replayed", "cmd": "known commands; registrations run", "sh": "bash -n", "xml": "parsed",
+           "csharp": "compiled by mcs and replayed", "cmd": "known commands; registrations run", "sh": "bash -n; the pipeline's step run", "xml": "parsed",
            "reg": "parsed", "vbp": "identity compared", "text": "no code"}
     for block in all_blocks():
         print(f"{block}\t{block.language}\t{how.get(block.language, 'replayed')}")
