@@ -3,6 +3,8 @@ rem Registers Vela.ocx where this folder stands: install.cmd [/user] [/silent]
 rem For every user, which needs an administrator, or with /user for the user who runs it; for 64-bit and 32-bit programs
 rem where the system has both. Ends with 0, or with 1 when something could not be registered. /silent waits for no key.
 setlocal
+rem shift would take the name of this file along
+set "here=%~dp0"
 set scope=machine
 set silent=no
 set failed=0
@@ -22,7 +24,7 @@ shift
 goto words
 
 :start
-if not exist "%~dp0win32\Vela.ocx" goto unpack
+if not exist "%here%win32\Vela.ocx" goto unpack
 if "%scope%"=="machine" call :administrator
 if %failed%==1 goto end
 set native=%SystemRoot%\System32
@@ -41,17 +43,17 @@ exit /b %failed%
 
 :register
 if "%scope%"=="user" goto registeruser
-"%~1" /s "%~dp0%2\Vela.ocx"
+"%~1" /s "%here%%2\Vela.ocx"
 if errorlevel 1 goto refused
-echo Registrado para todos / Registered for every user: %~dp0%2\Vela.ocx
+echo Registrado para todos / Registered for every user: %here%%2\Vela.ocx
 exit /b 0
 :registeruser
-"%~1" /s /n /i:user "%~dp0%2\Vela.ocx"
+"%~1" /s /n /i:user "%here%%2\Vela.ocx"
 if errorlevel 1 goto refused
-echo Registrado para este usuário / Registered for this user: %~dp0%2\Vela.ocx
+echo Registrado para este usuário / Registered for this user: %here%%2\Vela.ocx
 exit /b 0
 :refused
-echo Falhou o registro de / Could not register: %~dp0%2\Vela.ocx
+echo Falhou o registro de / Could not register: %here%%2\Vela.ocx
 set failed=1
 exit /b 1
 

@@ -3,6 +3,8 @@ rem Takes away what install.cmd registered: uninstall.cmd [/user] [/silent]
 rem For every user, which needs an administrator, or with /user for the user who runs it; of 64-bit and 32-bit programs
 rem where the system has both. Ends with 0, or with 1 when something could not be removed. /silent waits for no key.
 setlocal
+rem shift would take the name of this file along
+set "here=%~dp0"
 set scope=machine
 set silent=no
 set failed=0
@@ -22,7 +24,7 @@ shift
 goto words
 
 :start
-if not exist "%~dp0win32\Vela.ocx" goto unpack
+if not exist "%here%win32\Vela.ocx" goto unpack
 if "%scope%"=="machine" call :administrator
 if %failed%==1 goto end
 set native=%SystemRoot%\System32
@@ -41,17 +43,17 @@ exit /b %failed%
 
 :remove
 if "%scope%"=="user" goto removeuser
-"%~1" /s /u "%~dp0%2\Vela.ocx"
+"%~1" /s /u "%here%%2\Vela.ocx"
 if errorlevel 1 goto refused
-echo Removido para todos / Removed for every user: %~dp0%2\Vela.ocx
+echo Removido para todos / Removed for every user: %here%%2\Vela.ocx
 exit /b 0
 :removeuser
-"%~1" /s /u /n /i:user "%~dp0%2\Vela.ocx"
+"%~1" /s /u /n /i:user "%here%%2\Vela.ocx"
 if errorlevel 1 goto refused
-echo Removido para este usuário / Removed for this user: %~dp0%2\Vela.ocx
+echo Removido para este usuário / Removed for this user: %here%%2\Vela.ocx
 exit /b 0
 :refused
-echo Falhou a remoção de / Could not remove: %~dp0%2\Vela.ocx
+echo Falhou a remoção de / Could not remove: %here%%2\Vela.ocx
 set failed=1
 exit /b 1
 

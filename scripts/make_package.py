@@ -51,10 +51,11 @@ def entries(sources, build):
 
 def stage(sources, build, folder):
     shutil.rmtree(folder, ignore_errors=True)
+    version = folder.name.removeprefix("vela-")
     for name, path in entries(sources, build):
         target = folder / name
         target.parent.mkdir(parents=True, exist_ok=True)
-        target.write_bytes(content(path))
+        target.write_bytes(content(path).replace(b"@VERSION@", version.encode()))
     make_manual(sources / "docs", folder / "manual", folder)
 
 
