@@ -50,11 +50,6 @@ struct Erasure {
 [[nodiscard]] std::optional<int> nextInputPosition(int caret, const MaskSettings& settings) noexcept;
 // The caret before the first prompt character of a text; nothing when it holds none (the field is complete).
 [[nodiscard]] std::optional<int> firstPrompt(std::u16string_view text, std::u16string_view promptChar) noexcept;
-// What an empty field shows: the template itself, prompts included.
-[[nodiscard]] constexpr std::u16string_view emptyLayout(const MaskSettings& settings) noexcept
-{
-    return settings.mask;
-}
 
 // The characters of `text` at the input positions, prompts as blanks: "(11) 23__" in "(__) ____" -> "1123  ".
 [[nodiscard]] std::u16string maskedValue(std::u16string_view text, const MaskSettings& settings);

@@ -3,19 +3,12 @@
 
 #include "engine/locale.h"
 #include "engine/pattern.h"
-#include "engine/property_types.h"
 
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace vela::engine {
-
-// The text of a symbol: Vazio "", Ponto ".", every other value ",".
-[[nodiscard]] constexpr std::u16string_view symbolText(Simbolos symbol) noexcept
-{
-    return symbol == Simbolos::Vazio ? u"" : symbol == Simbolos::Ponto ? u"." : u",";
-}
 
 struct NumberSettings {
     std::u16string_view decimal;  // the display decimal symbol: "", "." or ","

@@ -38,7 +38,8 @@ struct Input {
     const Locale& locale() const { return choices[0] % 2 == 0 ? ptBr() : enUs(); }
     std::u16string_view symbol(int which) const
     {
-        return symbolText(static_cast<Simbolos>(choices[0] >> (1 + 2 * which) & 3));
+        constexpr std::u16string_view symbols[]{u"", u".", u",", u","};
+        return symbols[choices[0] >> (1 + 2 * which) & 3];
     }
 };
 

@@ -29,12 +29,6 @@ struct DayCell {
     friend bool operator==(const DayCell&, const DayCell&) = default;
 };
 
-struct PointTwips {
-    int left = 0;
-    int top = 0;
-    friend bool operator==(PointTwips, PointTwips) = default;
-};
-
 [[nodiscard]] std::u16string caption(const DayCell& cell); // "01".."31" or empty
 [[nodiscard]] std::u16string tagText(const DayCell& cell); // "", "-1".."12"
 
@@ -71,9 +65,6 @@ public:
     // Counts one highlighted date and marks nothing; false at the limit, which stays.
     [[nodiscard]] bool countHighlight() noexcept;
     [[nodiscard]] int highlightCount() const noexcept { return highlightCount_; }
-    // The marks (LBLRealce) are parked in the top left corner, where they also start.
-    void resetHighlights() noexcept { marks_.fill({}); }
-    [[nodiscard]] const std::array<PointTwips, cellCount>& marks() const noexcept { return marks_; }
 
 private:
     void drawMonth(std::u16string_view anyDateOfIt);
@@ -86,7 +77,6 @@ private:
     void selectShown(engine::CivilDate date);
 
     std::array<DayCell, cellCount> cells_{};
-    std::array<PointTwips, cellCount> marks_{};
     std::vector<int> years_;
     std::u16string selected_; // "dd/mm/yyyy", empty until initialised
     int monthIndex_ = -1;

@@ -14,7 +14,6 @@ public:
     explicit Activation(Shell& shell) noexcept : shell_(shell) {}
 
     [[nodiscard]] bool inPlace() const noexcept { return inPlace_; }
-    [[nodiscard]] bool withInterface() const noexcept { return interface_; }
 
     // Raises what making the window raises; answers what the site refused with.
     HRESULT activate();

@@ -48,10 +48,4 @@ HRESULT putByName(IDispatch* object, const wchar_t* name, const OleValue& value)
     return invoke(object, name, DISPATCH_PROPERTYPUT, parameters, nullptr);
 }
 
-HRESULT callByName(IDispatch* object, const wchar_t* name)
-{
-    DISPPARAMS none{};
-    return invoke(object, name, DISPATCH_METHOD, none, nullptr);
-}
-
 } // namespace vela::demo

@@ -63,6 +63,5 @@ private:
 // Both answer the call's HRESULT; a failed call leaves `result` empty.
 HRESULT getByName(IDispatch* object, const wchar_t* name, OleValue& result);
 HRESULT putByName(IDispatch* object, const wchar_t* name, const OleValue& value);
-HRESULT callByName(IDispatch* object, const wchar_t* name);
 
 } // namespace vela::demo

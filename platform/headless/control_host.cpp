@@ -12,7 +12,7 @@ HostHandlers& ControlHost::handlers()
 
 platform::ParentForm ControlHost::parentForm() const
 {
-    return parent_.value_or(platform::ParentForm{false, false, element_->form().topLevelWindow()});
+    return {false, false, element_->form().topLevelWindow()};
 }
 
 // A handler may destroy this host: it is called from a copy, and nothing of the host is used afterwards.

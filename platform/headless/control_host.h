@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string_view>
 
 namespace vela::headless {
@@ -31,11 +30,6 @@ public:
     }
 
     [[nodiscard]] HostHandlers& handlers(); // made at the first call
-    void putRunMode(bool runMode) noexcept { runMode_ = runMode; }
-    void putParentForm(platform::ParentForm form)
-    {
-        parent_ = form;
-    } // else: no MDI child, not modal, the form's window
 
     void propertyChanged(std::u16string_view name) override;
     [[nodiscard]] bool runMode() const override { return runMode_; }
@@ -55,7 +49,6 @@ private:
     void report(std::u16string_view name, int count = 0, int first = 0, int second = 0) const;
 
     const Element* element_;
-    std::optional<platform::ParentForm> parent_;
     std::unique_ptr<HostHandlers> handlers_;
     bool runMode_;
 };

@@ -85,13 +85,11 @@ void ControlSurface::arrange(const platform::SurfaceLayout& layout)
 void ControlSurface::clear()
 {
     form().faults().pass();
-    rectangle_.reset();
 }
 
-void ControlSurface::drawRectangle(engine::Colour colour, int width)
+void ControlSurface::drawRectangle(engine::Colour, int)
 {
     form().faults().pass();
-    rectangle_ = Rectangle{colour, width};
 }
 
 void ControlSurface::enableHoverTimer(bool enabled)

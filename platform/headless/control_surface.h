@@ -64,13 +64,6 @@ public:
     void pointerMoved() override;
     void tick() override;
 
-    // What drawRectangle() left on the surface.
-    struct Rectangle {
-        engine::Colour colour;
-        int width = 0;
-    };
-    [[nodiscard]] const std::optional<Rectangle>& rectangle() const noexcept { return rectangle_; }
-
 private:
     EditBox& showBox(platform::EditBoxKind kind);
 
@@ -78,7 +71,6 @@ private:
     platform::WindowId window_;
     platform::SurfaceLook look_;
     platform::SurfaceLayout layout_;
-    std::optional<Rectangle> rectangle_;
     platform::EditBoxEvents* boxEvents_ = nullptr;
     platform::SurfaceEvents* surfaceEvents_ = nullptr;
     std::optional<EditBox> firstBox_; // of whichever kind was asked for first

@@ -119,7 +119,6 @@ private:
     void moveFocus(Element* target);
     void leaveFocused();
     void arriveAt(Element* target);
-    void settle(Element* target);
     template <class Act>
     void act(Act&& what);
     void runPendingTabs();

@@ -14,8 +14,6 @@ void TooltipWindow::send(trace::Tip message) const
 bool TooltipWindow::create(platform::WindowId)
 {
     form_.faults().pass();
-    if (refuses_)
-        return false;
     exists_ = true;
     send({.message = TipMessage::create});
     return true;

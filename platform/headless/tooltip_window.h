@@ -27,8 +27,6 @@ public:
     void trackActivate(bool active) override;
     [[nodiscard]] std::pair<int, int> clientToScreen(platform::WindowId window, int x, int y) const override;
 
-    void refuseCreation() noexcept { refuses_ = true; } // create() answers false from now on
-
 private:
     void send(trace::Tip message) const;
 
@@ -36,7 +34,6 @@ private:
     const Element* owner_;
     mutable std::pair<int, int> lastPoint_{0, 0}; // converted last: what a packed position most likely says
     bool exists_ = false;
-    bool refuses_ = false;
 };
 
 } // namespace vela::headless

@@ -112,7 +112,6 @@ public:
                                                        platform::FormEvents& events) override;
 
     [[nodiscard]] WidgetForm* find(std::u16string_view layoutName) const noexcept; // the newest one that is not closed
-    [[nodiscard]] const std::vector<WidgetForm*>& living() const noexcept { return living_; }
     void tick(); // of every running timer, oldest form first
     // What a person does while a modal form is on show.
     std::function<void(WidgetForm&)> modalScript;

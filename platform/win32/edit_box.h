@@ -47,7 +47,6 @@ public:
     void fontScaleChanged();
     void editChanged() noexcept; // EN_CHANGE
     void settleLoan() noexcept;  // the focus leaves a part of the field that is no box
-    [[nodiscard]] bool isEntered() const noexcept { return entered_; }
     [[nodiscard]] bool ownsWindow(HWND window) const noexcept; // one of its field's
     // For the focus arbiter.
     void enter();

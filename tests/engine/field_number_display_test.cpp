@@ -15,15 +15,6 @@ NumberSettings settings(std::u16string_view decimal, std::u16string_view groupin
     return {decimal, grouping, decimals, zeros, locale};
 }
 
-TEST(NumberSymbols, EveryOtherValueIsAComma)
-{
-    EXPECT_EQ(symbolText(Simbolos::Vazio), u"");
-    EXPECT_EQ(symbolText(Simbolos::Ponto), u".");
-    EXPECT_EQ(symbolText(Simbolos::Virgula), u",");
-    EXPECT_EQ(symbolText(static_cast<Simbolos>(7)), u",");
-    EXPECT_EQ(symbolText(static_cast<Simbolos>(-1)), u",");
-}
-
 TEST(NumberDisplay, OnExit)
 {
     struct Row {
