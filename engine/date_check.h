@@ -19,7 +19,7 @@ struct DateCheckSettings {
 
 struct DateVerdict {
     // Written out: the generated one clears the room for a failure first, a fifth of a check's time.
-    DateVerdict() noexcept {} // NOLINT(modernize-use-equals-default)
+    DateVerdict() noexcept {}
 
     bool accepted = true;
     std::u16string_view message;  // why not; the time check has none

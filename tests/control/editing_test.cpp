@@ -88,7 +88,7 @@ TEST(Paste, RaisesKeyPressForEachAndObeysItsHandler)
 // Pasted whole, digits give what they give typed one by one, wherever the caret stands.
 TEST(Paste, EqualsTyping)
 {
-    std::mt19937 random(20240301); // NOLINT: the same texts every time
+    std::mt19937 random(20240301); // the same texts every time
     constexpr void (*kinds[])(Field&) = {none, plate, telephone, date, number, amount};
     for (int round = 0; round < 300; ++round) {
         std::u16string digits;
@@ -209,7 +209,7 @@ TEST(Undo, OneChangeEachAndNoNewFormat)
 // Many random edits, more than the history keeps: undone and redone they meet the same texts again.
 TEST(Undo, SurvivesALongSession)
 {
-    std::mt19937 random(20240229); // NOLINT: the same session every time
+    std::mt19937 random(20240229); // the same session every time
     FieldBench bench;
     Field& f = bench.add();
     bench.focus(f);
