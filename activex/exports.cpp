@@ -14,7 +14,7 @@ void __freeres(); // gives back what the compiler's library keeps for throwing w
 }
 #endif
 
-// The system holds its lock of all modules meanwhile: nothing is loaded, made or waited for.
+// The system holds the loader lock here: nothing may be loaded, made or waited for.
 extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, void* atProcessEnd)
 {
     if (reason == DLL_THREAD_DETACH)

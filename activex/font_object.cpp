@@ -154,12 +154,12 @@ ComPtr<IFontDisp> FontObject::object(const platform::FontDescription& descriptio
     return object;
 }
 
-// What the object refuses it does not show; the control has it all the same.
+// A value that the font object refuses is not shown by the object; the control keeps it.
 void FontObject::follow(const platform::FontDescription& description) noexcept
 {
     if (!own_.get() || written_ == description)
         return;
-    const bool before = std::exchange(writing_, true); // who hears of one part may put another
+    const bool before = std::exchange(writing_, true); // a sink that is notified of one part may change another
     contained([&] { write(description); });
     writing_ = before;
 }
@@ -176,7 +176,7 @@ platform::FontDescription FontObject::adopt(IUnknown* object)
     return description;
 }
 
-// Only what differs: each put makes the object look again for what the system has.
+// Puts only what differs, because each put makes the object search the installed fonts again.
 void FontObject::write(const platform::FontDescription& description)
 {
     const platform::FontDescription before = std::exchange(written_, description);

@@ -18,7 +18,7 @@ namespace vela::activex {
 [[nodiscard]] platform::FontDescription withPart(platform::FontDescription font, DISPID part,
                                                  const platform::FontDescription& other);
 
-// A font and the ear for its changes. Empty until it is given one.
+// A font and the sink for its change notifications. Empty until it is given one.
 class HeardFont {
 public:
     using Changed = std::function<void(DISPID part)>; // DISPID_FONT_...
@@ -63,7 +63,7 @@ private:
 
     Changed changed_;
     bool writing_ = false;              // the change is the control's own
-    platform::FontDescription written_; // what the object was last made to be: it may show another that exists
+    platform::FontDescription written_; // what was last written to the object, which may show another installed font
     HeardFont own_;
     HeardFont given_;
 };

@@ -54,8 +54,8 @@ public:
 private:
     ~PropertyPage() = default;
 
-    // Stands while anything of the page runs that may call the host or show a box: keeps this object and the page. What
-    // the host asks for meanwhile is done when the last one ends.
+    // On the stack while the page runs code that may call the host or show a box: keeps this object and the page alive.
+    // What the host asks for meanwhile is done when the last of these scopes ends.
     class Act {
     public:
         explicit Act(PropertyPage& page) noexcept : page_(ComPtr<PropertyPage>::share(&page)) { ++page.acts_; }
@@ -113,7 +113,7 @@ ULONG PropertyPage::Release() noexcept
 {
     const ULONG left = --references_;
     if (left == 0) {
-        references_ = 1; // the windows' last words reach a living object
+        references_ = 1; // the last messages of the windows must reach a live object
         Deactivate();
         delete this;
     }
@@ -201,7 +201,7 @@ void PropertyPage::settle() noexcept
         });
 }
 
-// Inside another act or a call of the host its failure is theirs; else the person who acted is told.
+// An error inside another act or a call of the host is reported there; otherwise it is shown to the person.
 void PropertyPage::runAct(const std::function<void()>& act)
 {
     if (acts_ > 0)

@@ -173,7 +173,7 @@ Failure deleteAll(HKEY root)
     return first;
 }
 
-// regsvr32 /s, and whoever else has no wish for boxes.
+// Whether the caller wants no boxes, as regsvr32 /s.
 bool wantsSilence()
 {
     const std::wstring line = GetCommandLineW() + std::wstring(L" ");
@@ -183,7 +183,7 @@ bool wantsSilence()
     return false;
 }
 
-// A service has none, and nobody would ever answer the box.
+// A service has no desktop that anybody sees, so nobody would answer the box.
 bool hasVisibleStation() noexcept
 {
     USEROBJECTFLAGS flags{};

@@ -126,7 +126,7 @@ void VelaContent::initNew()
     fontChanged();
 }
 
-// A new field looks as its form; what a form saved has its own font.
+// A new field takes the font of its form; a loaded one has the font that it was saved with.
 void VelaContent::takeAmbientFont()
 {
     const auto ambient = shell_.site().ambient(DISPID_AMBIENT_FONT);
@@ -185,7 +185,8 @@ void VelaContent::attach(HWND parent, const RECT& place)
     parking_ = {};
 }
 
-// A pop-up would hang under nothing, and so would an alert: the field of a form that closes is left on the way.
+// Closes the pop-up and the alert first, because their owner window is about to be destroyed. A field with the focus
+// reports lostFocus() on the way.
 void VelaContent::detach() noexcept
 {
     contained([&] {
@@ -264,7 +265,7 @@ bool VelaContent::eatsReturn() const
     return vela_.EnterAsTab() || vela_.MultLine();
 }
 
-// The key that the host's loop has handed over is the one that its library asks about.
+// A host's library asks without naming the key; then it is the one that the host's message loop has just handed over.
 bool VelaContent::eatsEnter(WPARAM key) const
 {
     const WPARAM asked = key ? key : shell_.activeObject().translated();
@@ -334,7 +335,7 @@ std::u16string VelaContent::containerName() const
     return shell_.site().containerName();
 }
 
-// The form is modal when it holds its owner.
+// The form counts as modal when its owner window is disabled.
 platform::ParentForm VelaContent::parentForm() const
 {
     const HWND form = win32::formOf(surface_.handle());

@@ -67,7 +67,7 @@ private:
     [[nodiscard]] bool eatsEnter(WPARAM key) const override;
     [[nodiscard]] std::u16string fieldName() const override;
 
-    // Tells the host, and reader programs, at the end of a scope what has changed for them in it.
+    // Notifies the host and screen readers, at the end of a scope, of what has changed for them in it.
     class Told {
     public:
         explicit Told(VelaContent& content) noexcept : hold_(content.shell_), content_(content) {}

@@ -9,7 +9,7 @@ namespace vela::control {
 
 namespace {
 
-// A handle as hosts hold it: windows' handles fit 32 bits.
+// A window handle as the 32-bit number that hosts read: the system never uses more bits.
 std::int32_t handleOf(platform::WindowId window) noexcept
 {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(window.value));
@@ -48,7 +48,7 @@ Vela::Colour Vela::BackColor() const
     return box().colours().back;
 }
 
-// A background put at run time is also the one used while the field has the focus.
+// Oddity: BackColor also sets BackColorGotFocus; forms put BackColor alone and expect to see it during the entry.
 void Vela::BackColor(Colour value)
 {
     box().putColours({box().colours().fore, value});
@@ -161,7 +161,7 @@ std::int16_t Vela::MaxLength() const
 
 void Vela::MaxLength(std::int16_t value)
 {
-    static_cast<void>(box()); // without a box there is nobody to find the value invalid
+    static_cast<void>(box()); // raises 91 when there is no box
     putTrait(&platform::EditTraits::maxLength, notNegative(value));
 }
 

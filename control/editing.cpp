@@ -41,7 +41,7 @@ bool liesOnMask(std::u16string_view text, std::size_t start, const engine::MaskS
     return namedLiteral;
 }
 
-// Where the literals just before the caret begin: a person pastes over a template that the caret stands inside of.
+// Where the run of literals just before the caret begins, because a pasted text may begin with those literals.
 std::size_t literalRunBefore(std::size_t caret, const engine::MaskSettings& settings)
 {
     std::size_t start = std::min(caret, settings.mask.size());
@@ -50,7 +50,8 @@ std::size_t literalRunBefore(std::size_t caret, const engine::MaskSettings& sett
     return start;
 }
 
-// "a\r\n|" + Backspace takes one unit or two, as the platform's box has it: what stands there now tells.
+// Backspace behind a line break removes one code unit or two, depending on the platform's edit box. Reads the text that
+// is left to find out which.
 void measureErased(History::Expected& edit, const platform::EditBox& box)
 {
     std::size_t units = std::min<std::size_t>(1, edit.removed.size());
@@ -97,13 +98,13 @@ void Vela::PasteSink::writeText(std::u16string_view text, int caret)
     selection_ = {caret, 0};
 }
 
-// Over what is marked in a full mask there is no prompt that would draw the caret on: a run of literals is crossed.
+// When a key replaces a selection in a full mask, no prompt draws the caret on, so a run of literals is skipped here.
 void Vela::PasteSink::crossLiterals(int key)
 {
     if (selectionBefore_.length == 0 || key > u'z' || !isLetterOrDigit(static_cast<char16_t>(key)))
         return;
     const auto next = engine::nextInputPosition(selection_.start, field_.maskSettings());
-    if (next && *next > selection_.start + 1) // one literal is crossed by typing itself
+    if (next && *next > selection_.start + 1) // a single literal is skipped by the mask engine
         selection_ = {*next, 0};
 }
 
@@ -132,7 +133,7 @@ bool Vela::PasteSink::type(char16_t unit)
     return true;
 }
 
-// As the box inserts: nothing when it is locked or full.
+// Inserts as the edit box does: nothing when it is locked or full.
 void Vela::PasteSink::insert(std::u16string_view typed)
 {
     const auto start = static_cast<std::size_t>(selection_.start);
@@ -252,7 +253,7 @@ History& Vela::history()
     return *history_;
 }
 
-// What cannot be read cannot be undone, and hurts nobody else.
+// When the box cannot be read, the edit cannot be undone: the history is cleared, and no error is raised.
 template <class Describe>
 void Vela::expectEdit(Describe describe)
 {
@@ -269,7 +270,7 @@ void Vela::expectEdit(Describe describe)
     }
 }
 
-// The box is about to do with a key what boxes do.
+// Remembers what the edit box will insert, so that the change it reports can be undone.
 void Vela::expectTyping(int key)
 {
     const bool typed = key >= u' ' || key == u'\t' || key == engine::key_code::enter;
@@ -287,7 +288,8 @@ void Vela::expectTyping(int key)
         });
 }
 
-// The selection goes, or the character on one side of the caret: at most two units, for a pair goes as one.
+// Remembers what Backspace or Delete will remove: the selection, or the character on one side of the caret. That is at
+// most two code units, because a surrogate pair and a line break are removed as one.
 void Vela::expectErasing(bool backwards)
 {
     if (masked() || box().traits().locked)
@@ -304,7 +306,7 @@ void Vela::expectErasing(bool backwards)
     });
 }
 
-// The box has reported a change: the edit that was expected, or one that nobody announced.
+// Records the expected edit when the edit box reports its change. A change that was not expected clears the history.
 void Vela::keepTyped()
 {
     if (!history_)
@@ -324,8 +326,8 @@ void Vela::keepTyped()
     }
 }
 
-// A text that a key or a paste makes the control write. The live re-format belongs to the key before it; where that
-// key was none of a person's, there is nothing to undo.
+// Records a text that the control writes because of a key or a paste. A live re-format is undone together with the key
+// before it; when the host wrote the text there is nothing to undo.
 void Vela::keepWritten(View before, View after, platform::Selection selection, bool joined)
 {
     if (joined && (!history_ || writer_ == Writer::host))

@@ -38,7 +38,7 @@ void Vela::gotFocus()
     });
 }
 
-// Someone held by an own wrong entry goes on seeing it in the error colour.
+// When the focus returned because this field's entry is wrong, keep the error colour.
 void Vela::enterColours()
 {
     box().putColours({held_ ? settings_.errorForeColor : settings_.foreColorGotFocus, settings_.backColorGotFocus});
@@ -60,7 +60,9 @@ void Vela::showEntryTip()
     tip.ShowAt(0, arrangement().edit.height, window);
 }
 
-// "R$ 1.234,50" is edited as "1234,50"; a mask is entered before its first prompt.
+// Writes the form that is edited ("R$ 1.234,50" -> "1234,50"). In a mask the caret goes before the first prompt.
+// Oddity: entering a field with MaskToNumeric leaves the symbol in the text; the live re-format works on the text as it
+// stands.
 void Vela::enterText()
 {
     Scratch text(*this);
@@ -163,8 +165,8 @@ void Vela::changed()
     });
 }
 
-// As a cash register shows an amount: "0,001" -> "0,01", the caret as far from the end as it was. What is written
-// here is not formatted again.
+// Re-formats an amount as a cash register does: "0,001" -> "0,01". The caret keeps its distance from the end. The text
+// written here is not re-formatted again.
 void Vela::reformatLive()
 {
     Scratch text(*this);

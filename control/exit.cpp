@@ -76,8 +76,8 @@ std::optional<Vela::Wrong> Vela::leaveByType()
     return std::nullopt;
 }
 
-// "1234,5" -> "1.234,50", its sign's colour, then "R$ 1.234,50". A display that the locale does not read as a number
-// ends here with its error: no colour, no symbol.
+// Formats the number, sets the colour of its sign, then adds the symbol: "1234,5" -> "1.234,50" -> "R$ 1.234,50". When
+// the locale does not read the formatted text as a number, this ends with that error, without colour and symbol.
 std::optional<Vela::Wrong> Vela::leaveNumber()
 {
     Scratch text(*this);
@@ -104,7 +104,8 @@ std::optional<Vela::Wrong> Vela::leaveNumber()
     return std::nullopt;
 }
 
-// The untouched template passes. A date that is refused for its day or month gets prompts back over it.
+// The untouched template is accepted. A date that is refused for its day or month gets prompts in their place.
+// Oddity: a Data field without DateFormat is not checked; forms use such fields for texts that are no dates.
 std::optional<Vela::Wrong> Vela::leaveDate()
 {
     Scratch text(*this);
@@ -125,8 +126,9 @@ std::optional<Vela::Wrong> Vela::leaveDate()
     return Wrong{engine::wrongDateTitle, time ? engine::wrongTimeText : engine::wrongDateText};
 }
 
-// A wrong entry is given the focus back at the first attempt to leave; the next one lets it go, unless ErrorFocus
-// keeps it for good. Who goes away, to another window or because the field is disabled, is told but not held.
+// The focus returns to a wrong entry at the first attempt to leave. The next attempt succeeds, unless ErrorFocus keeps
+// the focus for good. When the focus goes to another window, or the field is disabled, the alert is shown but the focus
+// does not return.
 void Vela::answerWrong(const Wrong& wrong, platform::Leaving leaving)
 {
     if (settings_.errorTextClear)
@@ -148,7 +150,7 @@ void Vela::answerWrong(const Wrong& wrong, platform::Leaving leaving)
     }
 }
 
-// A message of the developer's own replaces the text, not the title.
+// A custom message replaces the alert's text, not its title.
 void Vela::showAlert(const Wrong& wrong)
 {
     const View text = settings_.errorMsgCustom ? View(settings_.errorTextMessage) : wrong.text;

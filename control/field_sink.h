@@ -37,7 +37,7 @@ public:
 
 private:
     Vela& field_;
-    Liveness::Probe alive_; // a text written can be the control's last
+    Liveness::Probe alive_; // writing a text may destroy the control
     Scratch text_;          // as last read
 };
 

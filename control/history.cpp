@@ -74,7 +74,7 @@ void History::dropUndone()
     units_.resize(doneUnits_);
 }
 
-// Half at a time, so that a full history moves seldom; never between two joined steps.
+// Drops the oldest half at once, so that the steps of a full history are seldom moved. Joined steps stay together.
 void History::dropOldest()
 {
     std::size_t count = std::max<std::size_t>(1, steps_.size() / 2);

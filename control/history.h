@@ -20,7 +20,7 @@ public:
         std::u16string removed;
         std::u16string inserted;
         platform::Selection before;
-        bool erasing = false; // how much of `removed` goes is seen when it has gone
+        bool erasing = false; // how much of `removed` the box removes is read afterwards
         bool backwards = false;
     };
 

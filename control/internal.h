@@ -48,8 +48,8 @@ private:
     Writer outer_;
 };
 
-// A text buffer borrowed from the control for one routine, empty at first; it goes back with its room. Routines may
-// nest: what the control has no buffer left for starts with none.
+// A text buffer that the control lends to one routine. It is empty at first and keeps its capacity when it is returned.
+// Routines may nest: when the control has no buffer left, a new one is made.
 class Vela::Scratch {
 public:
     explicit Scratch(Vela& control) : control_(control), alive_(control.life_), text_(borrow(control)) {}

@@ -29,7 +29,8 @@ void Vela::keyDown(int& code, int& shift)
             history_->expecting = false;
         keyDownByType(code);
         if (settings_.upTab && code == keyDownArrow)
-            environment_.desktop.keyDown(keyTab); // no key-up follows; kept so
+            // Oddity: Down sends a Tab key-down without its key-up; a key-up would raise KeyUp in the next field.
+            environment_.desktop.keyDown(keyTab);
         if (settings_.upTab && code == keyUpArrow)
             environment_.desktop.sendKeys(u"+{TAB}");
         auto told = static_cast<std::int16_t>(code);
@@ -56,7 +57,7 @@ void Vela::sKeyDown(int code)
 {
     trapToLog(label::keyDown, [&] {
         if (code != keyDelete && code != engine::key_code::backspace) {
-            static_cast<void>(box().textLength()); // a box that fails is told of with every key
+            static_cast<void>(box().textLength()); // a failing box is logged with every key
             return;
         }
         Scratch text(*this);
@@ -88,7 +89,7 @@ void Vela::keyPress(int& key)
     });
 }
 
-// It is no text, so no rule of the field's judges it.
+// A control character such as Esc raises KeyPress only: it is no text, so no rule of the field applies to it.
 void Vela::controlPress(int& key)
 {
     if (deaf())

@@ -18,8 +18,8 @@ Vela::~Vela()
     terminate();
 }
 
-// The order is told to the host, setter by setter. In run mode the box of a new control cannot be chosen: it is
-// the single-line one.
+// Sets the defaults through the setters, because the host is notified in this order. In run mode MultLine cannot be
+// put, and a new control has the single-line box.
 void Vela::initNew()
 {
     EsquemaRetornoAtual(eEsquemasRetorno::Primeiro);
@@ -53,8 +53,8 @@ void Vela::initNew()
     layOut();
 }
 
-// A bag that fails in the middle leaves what it gave, defaults for the rest, and a field that works. The first
-// failure is the one told.
+// When the bag fails half way, the values read so far stay, the others get their defaults and the field works. The
+// first error is the one that is raised.
 void Vela::load(platform::PropertyBag& bag)
 {
     StoredState state;
@@ -80,7 +80,7 @@ void Vela::load(platform::PropertyBag& bag)
     step([&] { prepareText(); });
     step([&] {
         if (whole)
-            applyLoadedDefault(); // one that fails ends the step: no scheme is in force
+            applyLoadedDefault(); // when it fails, no return scheme is adopted
         adoptScheme();
     });
     step([&] { layOut(); });
@@ -135,7 +135,8 @@ void Vela::prepareText()
     }
 }
 
-// Unlike the setter: no length test, and a formula on a field that is no date is reported, and kept.
+// Oddity: a loaded ValorPadrao is not tested for its length, and a formula on a field that is no date shows a box;
+// forms with such defaults would load with other texts.
 void Vela::applyLoadedDefault()
 {
     if (settings_.valorPadrao.empty())
@@ -183,7 +184,7 @@ void Vela::DestruirToolTip()
 void Vela::LimparMemoria()
 {
     released_ = true;
-    surface_.enableHoverTimer(false); // its ticks ask the box
+    surface_.enableHoverTimer(false); // a tick would read the released box
 }
 
 void Vela::markChanged(View name)

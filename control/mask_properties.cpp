@@ -36,7 +36,7 @@ void Vela::MaskRules(View value)
     store(settings_.maskRules, settings_.textType == TipoText::Mascara ? value : View(), u"MaskRules");
 }
 
-// Kept and saved; nothing reads it.
+// Oddity: MaskSomenteNumeros is kept and saved, and read by nothing; saved forms hold the key.
 void Vela::MaskSomenteNumeros(bool value)
 {
     store(settings_.maskSomenteNumeros, value && masked(), u"MaskSomenteNumeros");
@@ -54,7 +54,9 @@ void Vela::MaskToNumeric(bool value)
     markChanged(u"MaskToNumeric");
 }
 
-// The old default goes while the old type is still in force.
+// The old default is cleared before the type changes, because the setter depends on the type.
+// Oddity: switching TextType first clears ValorPadrao and may show boxes of the setters it runs; forms put the default
+// after the type.
 void Vela::TextType(TipoText value)
 {
     if (settings_.multLine) {
@@ -89,7 +91,7 @@ void Vela::switchToText()
 
 void Vela::switchToNumber()
 {
-    putTrait(&platform::EditTraits::locked, settings_.locked); // after a date or a mask it can be typed in again
+    putTrait(&platform::EditTraits::locked, settings_.locked); // a date or a mask had locked the box
     ShowButtonCalendario(false);
     Text(u"");
     Mask(u"");

@@ -106,7 +106,11 @@ constexpr Row fontSizeRow(Name key, std::int32_t missing)
                       const engine::Value& value) { state.traits.font.size = std::get<std::int32_t>(value); }};
 }
 
-// In the order of reading. The underline flag's key has a capital L, unlike the property.
+// In the order of reading.
+// Oddity: the underline flag is saved as FontUnderLine, unlike the property; saved forms hold that key.
+// Oddity: ToolTipGotFocusTipo = TTIconInfo reloads as TTNoIcon (what is left out when writing is not what is read for a
+// missing key); files of both kinds are in use.
+// Oddity: an empty FormatoExibData or DateFormat reloads as its default; forms without the key depend on it.
 constexpr std::array<Row, 79> rows{{
     row(
         u"MultLine", 0, [](auto& s) -> auto& { return s.settings.multLine; }, Writing::number(11)),
@@ -384,7 +388,7 @@ std::optional<engine::Value> writingDefault(const Row& row)
     return std::nullopt;
 }
 
-// Needs no conversion: what a control has written mostly.
+// True when the value has the property's own type already, as in most bags that a control has written.
 bool isOwn(PropertyType type, const engine::Value& value) noexcept
 {
     switch (type) {

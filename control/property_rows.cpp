@@ -78,7 +78,7 @@ Property readOnly(Name name, int dispid, Browsable browsable, Name help = {})
             .get = &get<T, Get>};
 }
 
-// By name a font is its face; only a font object can be put.
+// Read by name, a font answers the name of its face; only a font object can be put.
 Property fontRow(Name name, int dispid, Name help)
 {
     return {.name = name,

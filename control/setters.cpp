@@ -5,11 +5,11 @@
 
 namespace vela::control {
 
-// A value beyond the two is stored, and shown as it was.
+// A value beyond the enumeration is stored, and the look stays as it was.
 void Vela::Appearance(Aparencia value)
 {
     settings_.appearance = value;
-    static_cast<void>(box()); // it is the edit box's look: 91 without one
+    static_cast<void>(box()); // raises 91 when there is no box
     if (value == Aparencia::c3D || value == Aparencia::cFlat) {
         sunken_ = value == Aparencia::c3D;
         layOut();
@@ -28,7 +28,7 @@ void Vela::BorderStyle(eEstiloBorda value)
     markChanged(u"BorderStyle");
 }
 
-// Seen at once at design time, where no field is ever left; at run time when it is next left.
+// Shown at once at design time, when the focus never leaves a field; at run time shown when the field is next left.
 void Vela::BorderColorLostfocus(Colour value)
 {
     settings_.borderColorLostfocus = value;
@@ -46,7 +46,8 @@ void Vela::EsquemaRetornoAtual(eEsquemasRetorno value)
     markChanged(u"EsquemaRetornoAtual");
 }
 
-// Copies: a later change of the scheme's texts counts when the scheme is chosen again. Beyond 1 to 4: as it was.
+// Copies the scheme's texts: a later change of them counts when the scheme is chosen again.
+// Oddity: EsquemaRetornoAtual outside 1 to 4 is stored and changes nothing; an error would stop forms that put it.
 void Vela::adoptScheme()
 {
     const auto scheme = static_cast<std::int32_t>(settings_.esquemaRetornoAtual);
@@ -57,7 +58,8 @@ void Vela::adoptScheme()
     delimitadorAtual_ = settings_.delimiters[index];
 }
 
-// A date's box is locked by its type and left alone here; a mask's stays locked whatever the value.
+// Oddity: Locked = False leaves a Mascara box locked, and the lock of a Data box alone; the control edits these boxes
+// itself and would do so twice.
 void Vela::Locked(bool value)
 {
     settings_.locked = value;
@@ -70,7 +72,7 @@ void Vela::Locked(bool value)
     putTrait(&platform::EditTraits::locked, true);
 }
 
-// At run time the flag is stored, then refused; kept so.
+// Oddity: MultLine put at run time raises 1002 and yet reads back the new value; the key filter works by that value.
 void Vela::MultLine(bool value)
 {
     settings_.multLine = value;
@@ -82,6 +84,7 @@ void Vela::MultLine(bool value)
     layOut();
 }
 
+// Oddity: QtdCasasDec = 0 resets the three symbols and InserirZeros; forms switch to whole numbers with this one put.
 void Vela::QtdCasasDec(std::uint8_t value)
 {
     settings_.qtdCasasDec = value;
@@ -104,7 +107,7 @@ void Vela::ShowButtonCalculadora(bool value)
     showButton(settings_.showButtonCalculadora, value);
 }
 
-// The last put of either flag decides the button. The XP style has no button and says so at each put.
+// The flag that was put last decides whether the button shows. The XP style has no button: there each put shows a box.
 void Vela::showButton(bool& flag, bool value)
 {
     const bool refused = settings_.borderStyle == eEstiloBorda::XP;

@@ -1,5 +1,5 @@
-// The setters that store a value and mark it changed, one line each. Two names are told differently, and kept so:
-// "ErrorForeColor" and "tipoletra".
+// The setters that store a value and mark it changed, one line each.
+// Oddity: Error_ForeColor announces itself as "ErrorForeColor", tipoLetra as "tipoletra"; hosts compare these names.
 #include "control/internal.h"
 
 namespace vela::control {

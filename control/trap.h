@@ -10,8 +10,9 @@
 
 namespace vela::control {
 
-// Tells `report` of the error that `body` ends with, its step as counted by `step`; error 0 is none. What the body had
-// done before it failed stays done. When the control has not survived the body, 91 goes on to the caller instead.
+// Calls `report` with the error that `body` raises and its step as counted by `step`; error number 0 is not reported.
+// What the body did before it failed is not undone. When the control was destroyed meanwhile, 91 is raised to the
+// caller instead.
 template <class Body, class Report>
 void trap(Liveness& life, Body&& body, Report&& report)
 {
@@ -34,7 +35,7 @@ void trap(Liveness& life, Body&& body, Report&& report)
     }
 }
 
-// Runs what the platform has called: its failure reaches the platform unless the control is gone.
+// Runs a handler that the platform has called. Its error is passed on to the platform unless the control is gone.
 template <class Body>
 void whileAlive(Liveness& life, Body&& body)
 {
@@ -47,7 +48,7 @@ void whileAlive(Liveness& life, Body&& body)
     }
 }
 
-// Decimal, with a minus sign where it is due: what error texts are made of.
+// The number in decimal, for error texts.
 [[nodiscard]] std::u16string decimalText(int number);
 
 } // namespace vela::control

@@ -56,7 +56,7 @@ engine::DateCheckSettings Vela::checkSettings() const
     return {settings_.mask, settings_.dateFormat, settings_.promptChar, locale()};
 }
 
-// Reading can change the text: a date that is refused gets its prompts back.
+// Oddity: reading Value of a wrong date corrects the text as leaving does; handlers read Value to correct a field.
 engine::Value Vela::Value()
 {
     engine::Value result;
@@ -81,7 +81,7 @@ engine::Value Vela::Value()
     return result;
 }
 
-// The correction stands inside the check's own trap.
+// An error while the corrected date is written is logged like an error of the check.
 void Vela::correctText(View text)
 {
     trapToLog(label::date, [&] { writeText(text, Writer::life); });
@@ -93,7 +93,11 @@ void Vela::Value(const engine::Value& value)
         writeText(*text, Writer::host);
 }
 
-// A number is written as it comes, then once more as it is displayed: each may be a change.
+// A number is written as it was given, then once more as it is displayed; each may raise Change.
+// Oddity: the rules for typing (MaskRules, CaractLiberados, MaxLength and others) are not applied to what code writes;
+// forms fill fields with texts that nobody could type.
+// Oddity: a text that is no number, written to the Text of a number field, empties the field without an error; forms
+// clear fields that way.
 void Vela::putText(View value, Writer writer)
 {
     if (settings_.textType == TipoText::TextoNormal) {
@@ -111,7 +115,8 @@ void Vela::putText(View value, Writer writer)
     }
 }
 
-// A formula waits silently on a field that is no date; a plain default of another length than the mask's is dropped.
+// A formula ("%date") on a field that is no date is stored without a message. A plain default of a date field is
+// cleared when its length is not the mask's.
 void Vela::ValorPadrao(View value)
 {
     settings_.valorPadrao = value;
@@ -127,7 +132,7 @@ void Vela::ValorPadrao(View value)
     markChanged(u"ValorPadrao");
 }
 
-// "%date" and "%hour" of a date field, in any case.
+// Writes the text of the formula "%date" or "%hour", in any case.
 void Vela::applyFormula()
 {
     const Text16 name = engine::lowerCase(View(settings_.valorPadrao).substr(1));

@@ -179,8 +179,8 @@ public:
     [[nodiscard]] const engine::Locale& locale() const { return environment_.locales.locale(); }
 
 private:
-    // Who writes a text. The live re-format answers a person and a host; the history keeps what a person does and
-    // ends with what a host, loading, entry or exit write.
+    // Who writes a text. The live re-format runs for what a person or a host writes. The history records a person's
+    // edits and is cleared when a host, loading, entry or exit writes.
     enum class Writer { person, host, life, keys, history };
     class WriterScope;
     class Scratch;
@@ -192,7 +192,7 @@ private:
     [[nodiscard]] bool masked() const noexcept;                                     // Data or Mascara
     [[nodiscard]] bool liveNumber() const noexcept;                                 // Numerico with MaskToNumeric
     void readText(std::u16string& into) const { box().text(into); }
-    // Each calls out; when the control has not survived it they raise 91 and nothing of it may be touched.
+    // Each may call the host. When the control was destroyed meanwhile they raise 91, and no member may be touched.
     void markChanged(View name);
     void writeText(View text, Writer writer);
     void showBox(platform::BoxIcon icon, View title, View text);
@@ -299,7 +299,7 @@ private:
     bool sunken_ = true;             // the edit box draws a 3D border of its own
     bool buttonVisible_ = false;     // cmdCalendario
     bool returnedFocus_ = false;     // a wrong entry has been given the focus back once
-    bool held_ = false;              // the focus came back because of an own wrong entry
+    bool held_ = false;              // the focus returned because this field's entry is wrong
     bool firstClick_ = false;        // no click yet since the focus arrived
     bool keypadDecimal_ = false;     // the next character comes from the keypad's decimal key
 };

@@ -21,7 +21,7 @@ struct TimeOfDay {
     friend bool operator==(TimeOfDay, TimeOfDay) = default;
 };
 
-// A date and its time of day, read off a serial as one: a time that rounds up to midnight is the next day's.
+// The date and the time of day that a serial stands for. A time that rounds up to midnight belongs to the next day.
 struct Moment {
     CivilDate date;
     TimeOfDay time;

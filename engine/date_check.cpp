@@ -87,7 +87,8 @@ int gather(std::u16string_view text, const DateCheckSettings& settings, const st
     return 0;
 }
 
-// A prompt in the first place, or none at all, lets a check go on; kept.
+// Oddity: a prompt in the first position alone does not count as incomplete; counting it would refuse entries that
+// forms accept today.
 bool isIncomplete(std::u16string_view text, std::u16string_view promptChar) noexcept
 {
     const auto found = promptChar.size() == 1 ? text.find(promptChar.front()) : text.find(promptChar);
@@ -115,6 +116,7 @@ struct Rule {
     int digits = 0;              // how many of its characters become prompts
 };
 
+// Oddity: 31/04 resets one digit of the month, 31/11 two; forms go on from the text that is left there.
 Rule shortMonthRule(int day, int month) noexcept
 {
     if (day <= 30)
@@ -128,7 +130,8 @@ Rule shortMonthRule(int day, int month) noexcept
     }
 }
 
-// Every fourth year is a leap year here, whole centuries too; kept.
+// Oddity: every year that divides by 4 is a leap year to the check, and day 0 and month 0 pass; saved dates such as
+// 29/02/1900 would be refused.
 Rule brokenRule(int day, int month, int year) noexcept
 {
     const bool leap = (year & 3) == 0;

@@ -1,4 +1,4 @@
-// Pictures read backwards: what each letter of a picture could have written.
+// Reads a date text by a date picture: for each letter of the picture, what it could have written.
 #include "engine/date_form.h"
 
 #include "engine/characters.h"
@@ -14,7 +14,7 @@ class PictureReader {
 public:
     PictureReader(std::u16string_view text, const Locale& locale) noexcept : text_(text), locale_(locale) {}
 
-    // Goes on where the picture before it ended.
+    // Continues at the position where the previous picture ended.
     [[nodiscard]] bool read(std::u16string_view picture) noexcept
     {
         for (std::size_t at = 0; at < picture.size();) {

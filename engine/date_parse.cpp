@@ -214,7 +214,7 @@ void separatePointedDate(DateFields& fields, const Locale& locale) noexcept
     }
 }
 
-// "0.0" is the number.
+// "0.0" is read as a number and is no time.
 bool isPointedZero(const DateFields& fields) noexcept
 {
     return fields.count == 2 && !fields.hasHalf() && fields.field[0].point && fields.field[0].value == 0 &&
@@ -281,7 +281,7 @@ DateVerdict readOwn(std::u16string_view text, const Locale& locale, Date& result
                : DateVerdict::notDate;
 }
 
-// What the locale writes is read as it was written, before its numbers and names are.
+// A text in one of the locale's own forms is read by that form first; only then are its numbers and names interpreted.
 DateVerdict readDate(std::u16string_view text, const Locale& locale, Date today, Date& result) noexcept
 {
     const DateVerdict own = readOwn(text, locale, result);

@@ -114,7 +114,7 @@ private:
         return false;
     }
 
-    // The day of the week is read over: it is not compared with the date.
+    // Skips the name of a day of the week: it is not compared with the date.
     [[nodiscard]] bool takeDay(std::span<const std::u16string, 7> names) noexcept
     {
         for (const auto& name : names) {
@@ -125,7 +125,7 @@ private:
         return false;
     }
 
-    // Once a text, and only behind a number.
+    // AM or PM is accepted once in a text, and only behind a number.
     [[nodiscard]] bool markHalf(bool morning) noexcept
     {
         DateField* const field = last();

@@ -98,7 +98,7 @@ std::uint64_t scaledExactly(double magnitude, int exponent) noexcept
     BigWhole scaled(static_cast<std::uint64_t>(std::ldexp(fraction, mantissaBits)));
     if (exponent > 0)
         scaled.multiplyByPowerOfFive(exponent);
-    // Twice the number, cut: its last bit then tells the half.
+    // Twice the number, truncated: its last bit then tells whether to round up.
     const int shift = binary - mantissaBits + exponent + 1;
     if (shift > 0)
         scaled.shiftLeft(shift);

@@ -12,7 +12,8 @@
 namespace vela::engine {
 namespace {
 
-constexpr std::u16string_view nothingText = u"null"; // a text of four letters, without delimiters
+// Oddity: null is a text; hosts compare Value with this word.
+constexpr std::u16string_view nothingText = u"null";
 constexpr std::size_t npos = std::u16string_view::npos;
 
 std::u16string without(std::u16string_view part, std::u16string_view text)
@@ -55,6 +56,8 @@ std::u16string returnedNumber(std::u16string_view text, const FieldSettings& set
     return number;
 }
 
+// Oddity: Value removes only the whole SimboloMonetario, ";" included; returned values of fields with such a symbol
+// would change.
 void readNumber(std::u16string_view text, const FieldSettings& settings, FieldReading& reading)
 {
     if (!isNumeric(std::u16string_view(without(settings.currencySymbol, text)), settings.locale)) {
@@ -64,7 +67,8 @@ void readNumber(std::u16string_view text, const FieldSettings& settings, FieldRe
     auto built = without(settings.currencySymbol, delimited(returnedNumber(text, settings), settings));
     reading.value = built;
     if (!settings.delimiter.empty() && built.find(settings.delimiter) != npos)
-        raise(error_number::typeMismatch); // a delimiter is no part of a number, whatever it is made of
+        // Oddity: a delimiter makes a number's Value fail; hosts rely on the text that comes back
+        raise(error_number::typeMismatch);
     reading.value = toDouble(std::u16string_view(built), settings.locale);
 }
 
@@ -122,7 +126,9 @@ std::u16string numberTextFor(const Value& value, const FieldSettings& settings)
     return formatNumber(number, settings.decimals, settings.locale);
 }
 
-// Texts are read as dates, and numbers written as texts as serials.
+// Reads a text as a date, and a text that is a number as the serial of a date.
+// Oddity: text is read as a date in the order of the user's region, whatever DateFormat says; stored texts would become
+// other dates.
 Date dateOf(const std::u16string& text, const FieldSettings& settings)
 {
     if (const auto date = tryParseDate(text, settings.locale, settings.today))

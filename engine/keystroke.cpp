@@ -37,7 +37,8 @@ private:
         return key_;
     }
 
-    // Whether Enter goes on; a multi-line box raises KeyPress once more for it, kept.
+    // Raises KeyPress for Enter and answers whether the key is handled further.
+    // Oddity: Enter in a multi-line box raises KeyPress twice; handlers in use count on the second event.
     bool passEnter()
     {
         if (!raiseKeyPress())
@@ -82,6 +83,7 @@ private:
         return raiseKeyPress();
     }
 
+    // Oddity: Backspace takes nothing away from a live amount; handlers expect no KeyPress for it.
     bool inFixedPoint()
     {
         if (!isDigit(key_)) {
@@ -120,7 +122,8 @@ private:
             key_ = 0;
     }
 
-    // The host may change the key, the settings and the control's life. A dead control ends everything.
+    // The host's handler may change the key and the settings. False when it destroyed the control: then nothing may be
+    // used any more.
     bool raiseKeyPress()
     {
         auto key = static_cast<std::int16_t>(key_);
@@ -133,6 +136,7 @@ private:
         return true;
     }
 
+    // Oddity: a refused key in the last place still moves on with AutoTAB; forms are filled in without the Tab key.
     void automaticTab()
     {
         if (!settings_.autoTab || key_ == key_code::backspace)
@@ -156,6 +160,8 @@ private:
     KeystrokeSettings settings_;
 };
 
+// Oddity: without AutoSelect a field that shows "0,00" refuses the comma that is typed; a second symbol would make the
+// text no number.
 int decimalKey(int key, std::u16string_view text, KeystrokeSink& sink)
 {
     const auto symbol = static_cast<char16_t>(key);
@@ -166,8 +172,8 @@ int decimalKey(int key, std::u16string_view text, KeystrokeSink& sink)
     return text.find(symbol) == std::u16string_view::npos ? key : 0;
 }
 
-// The test asks for a caret strictly beyond the symbol's 1-based position, so that right behind the symbol one
-// digit too many can be typed; kept.
+// The caret has to stand behind the first decimal before a digit is refused.
+// Oddity: a third decimal can be typed right behind the decimal symbol; people correct the first decimal that way.
 int digitKey(int key, const KeystrokeSettings& settings, std::u16string_view text, const KeystrokeSink& sink)
 {
     if (settings.decimal.empty())
@@ -186,7 +192,7 @@ int filterKeystroke(int key, KeystrokeSink& sink)
     return Filter(key, sink).run();
 }
 
-// Every key is judged with the text at hand: a box that cannot tell it refuses them all.
+// The text is read for every key, so that a box whose text cannot be read refuses every key.
 int numericKey(int key, const KeystrokeSettings& settings, KeystrokeSink& sink)
 {
     const auto text = sink.text();

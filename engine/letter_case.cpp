@@ -77,8 +77,9 @@ inline char16_t lowered(char16_t unit) noexcept
     return unit < latin1Lower.size() ? latin1Lower[unit] : lowerBeyondLatin1(unit);
 }
 
-// A letter of a lowered text, for where words begin. By plain comparison of units: the division sign counts as a
-// letter, y acute, thorn and y diaeresis do not; kept.
+// A letter of a text in small letters, by plain comparison of code units.
+// Oddity: for proper case the division sign counts as a letter and "ý", "þ" and "ÿ" do not; stored names would be
+// written anew.
 constexpr bool isWordLetter(char16_t unit) noexcept
 {
     return (unit >= u'a' && unit <= u'z') || (unit >= 0xE0 && unit <= 0xFC);

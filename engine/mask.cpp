@@ -44,12 +44,13 @@ bool ruleAccepts(int key, int position, const MaskSettings& settings) noexcept
     case u'?': return true;
     case u'#': return isDigit(key);
     case u'@': return isCapital(key);
-    default: return false; // a literal copied into the rules blocks its position
+    default: return false; // Oddity: a rule character that is no rule blocks its position; old rules protect places so
     }
 }
 
-// Where the caret jumps from a literal: the next prompt in the text. The search begins one character before the
-// caret (its 1-based start is the caret's 0-based value), so that "_|/_" goes back to "|_/_"; kept.
+// Where the caret jumps from a literal: the next prompt in the text. The search begins one character before the caret,
+// so that "_|/_" goes back to "|_/_".
+// Oddity: at a literal right behind an empty position the caret moves back; people correct the position that way.
 std::optional<int> pastLiterals(int caret, const MaskSettings& settings, std::u16string_view text) noexcept
 {
     if (caret >= static_cast<int>(text.size()) || isPromptAt(caret, settings) || settings.promptChar.size() != 1)
@@ -110,7 +111,8 @@ MaskStep validateMask(int key, int caret, const MaskSettings& settings, std::u16
         step.promptCaret = pastLiterals(caret, settings, text);
         return step;
     }
-    const int position = isPromptAt(caret, settings) ? caret : caret + 1; // exactly one literal is skipped
+    // Oddity: exactly one literal is skipped before a key; typing into masks with two would change
+    const int position = isPromptAt(caret, settings) ? caret : caret + 1;
     if (!isPromptAt(position, settings))
         return step;
     step.key = isSmall(key) ? key - u'a' + u'A' : key;
@@ -164,6 +166,8 @@ std::u16string maskedValue(std::u16string_view text, const MaskSettings& setting
     return value;
 }
 
+// Oddity: a text that holds the literals of a mask, such as Text itself, is laid out wrongly; values without literals
+// depend on each character filling one position.
 std::u16string layIntoMask(std::u16string_view value, const MaskSettings& settings)
 {
     if (value.empty())

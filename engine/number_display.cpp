@@ -100,7 +100,8 @@ bool isGrouped(std::u16string_view whole, char16_t symbol) noexcept
     return true;
 }
 
-// The whole part is read as a locale-independent leading number, so that "1234.5" groups as "1.234".
+// Oddity: a whole part that is not grouped in threes is read up to what follows its first "." as a fraction; "1234.5"
+// has to group as "1.234".
 void putGrouped(std::u16string_view whole, std::u16string_view fraction, const Locale& locale, TextWriter& writer,
                 std::u16string& into)
 {
@@ -135,8 +136,9 @@ SymbolParts symbolParts(std::u16string_view symbol) noexcept
     return {symbol.substr(0, separator), symbol.substr(separator + 1), true};
 }
 
-// The digits without symbol, the last two behind a ",": "12345" -> "123,45". Always two, whatever the number of
-// places (with 3 places "12345" -> "12,45"); kept for the fields that are set up on it.
+// Puts "," before the last two digits: "12345" -> "123,45".
+// Oddity: the live layout always keeps two characters behind its comma; fields with another number of places are set up
+// for it.
 void shiftPoint(std::u16string& digits, int decimals)
 {
     const auto places = static_cast<std::size_t>(std::max(decimals, 0));
@@ -224,7 +226,7 @@ void putAmount(const KeyedAmount& amount, const NumberSettings& settings, std::u
     writer.flush();
 }
 
-// The live re-format's text; false, when it is not for this text.
+// Writes the text of the live re-format; false when this text is not re-formatted.
 bool putLive(std::u16string_view text, const NumberSettings& settings, LivePattern& patterns, std::u16string& into)
 {
     if (const auto amount = keyedAmount(text, settings)) {
@@ -238,7 +240,7 @@ bool putLive(std::u16string_view text, const NumberSettings& settings, LivePatte
         return false;
     removeAll(settings.decimal, text, into);
     shiftPoint(into, settings.decimals);
-    if (const auto number = tryParseDouble(into, settings.locale)) { // what is no number stays as it stands
+    if (const auto number = tryParseDouble(into, settings.locale)) { // a text that is no number stays as it is
         into.clear();
         pattern->format(*number, settings.locale, into);
     }
@@ -277,7 +279,9 @@ void displayNumber(std::u16string_view text, const NumberSettings& settings, std
     if (padded)
         writer.repeat(u'0', places - typed.size());
     writer.flush();
-    if (settings.grouping == u",") // the decimal point turns with the rest; kept
+    // Oddity: with "." for decimals and "," for grouping the decimal point turns into "," too; displays in use look
+    // like that.
+    if (settings.grouping == u",")
         std::ranges::replace(into, u'.', u',');
 }
 
@@ -298,6 +302,8 @@ bool applySymbol(std::u16string_view text, std::u16string_view symbol, std::u16s
     return true;
 }
 
+// Oddity: with "." for decimals and for grouping the decimal point is lost; grouping is removed without looking at
+// decimals.
 void entryForm(std::u16string_view text, std::u16string_view symbol, std::u16string_view grouping, std::u16string& into)
 {
     const auto parts = symbolParts(symbol);

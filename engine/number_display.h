@@ -22,7 +22,7 @@ struct NumberSettings {
 // `text` must not view.
 void displayNumber(std::u16string_view text, const NumberSettings& settings, std::u16string& into);
 
-// A decimal symbol alone, which is an error when the field is left.
+// True for a text that is only the decimal symbol: leaving the field with it is an error.
 [[nodiscard]] constexpr bool isSymbolAlone(std::u16string_view text, std::u16string_view decimal) noexcept
 {
     return !decimal.empty() && text == decimal;
@@ -61,7 +61,7 @@ private:
 [[nodiscard]] std::optional<int> liveFormat(std::u16string_view text, int caret, const NumberSettings& settings,
                                             LivePattern& patterns, std::u16string& into);
 
-// What a decimal symbol alone announces when the field is left.
+// Title and text of the alert for a text that is only a decimal symbol.
 inline constexpr std::u16string_view wrongNumberTitle = u"Erro: Valor númerico incorreto !";
 inline constexpr std::u16string_view wrongNumberText = u"Verifique o valor preenchido.";
 

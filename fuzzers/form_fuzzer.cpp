@@ -98,7 +98,7 @@ struct Field {
     [[nodiscard]] std::u16string text() { return box().shownText(); }
 };
 
-// What loading prepares anew or what is deliberately not kept.
+// Settings that loading sets anew, or that are deliberately not saved.
 bool isKept(std::u16string_view key)
 {
     constexpr std::array<std::u16string_view, 7> others{

@@ -119,7 +119,8 @@ void frmPaleta::keyDown(WidgetId widget, int& code, int&)
     end(cancels);
 }
 
-// Every key but a digit is refused, Backspace too: a correction is made by selecting and typing over.
+// Oddity: the palette's colour boxes refuse Backspace, as every key but a digit; people select and type over, and a box
+// never stands empty.
 void frmPaleta::keyPress(WidgetId widget, int& key)
 {
     if (isAmount(widget) && !digit(key))

@@ -20,7 +20,9 @@ public:
 
     void showModal() { form_->showModal(); }
     [[nodiscard]] engine::Colour chosenColour() const noexcept { return colour_; }
-    // Only the cancel button cancels: the close command applies the colour, black when nothing was chosen.
+    // Only the cancel button cancels. Black is chosen when nothing was.
+    // Oddity: closing the palette by its close command counts as OK; developers close it that way and expect their
+    // colour.
     [[nodiscard]] bool cancelled() const noexcept { return cancelled_; }
     [[nodiscard]] bool isClosed() const noexcept { return closed_; }
     [[nodiscard]] engine::Colour preview() const;

@@ -13,7 +13,7 @@ namespace vela::pages {
     return digit(key) || key == 8;
 }
 
-// A currency symbol may hold 0 and 9, not the digits between them; kept as it always was.
+// Oddity: the symbol box refuses the digits 1 to 8 and takes 0 and 9; saved symbols hold those two.
 [[nodiscard]] constexpr bool symbolKey(int key) noexcept
 {
     return key < u'1' || key > u'8';

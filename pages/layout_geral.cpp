@@ -35,7 +35,7 @@ constexpr auto rows = std::to_array<platform::WidgetRow>({
     {K::optionButton, u"optGotfocus", -1, u"Gotfocus", u'G', {150, 315, 1800, 255}, u"fraEventos"},
     {K::optionButton, u"optLost", -1, u"LostFocus", u'L', {2430, 315, 1800, 255}, u"fraEventos"},
 
-    // One of the two stands in this place.
+    // Two groups share this place; one of them is visible.
     {K::frame, u"fraGotFocus", -1, {}, 0, {120, 3000, 5360, 1170}},
     {K::checkBox, u"chkAutoSelect", -1, u"Auto Seleção do Texto", u'A', {150, 270, 4800, 255}, u"fraGotFocus"},
     {K::label, u"lblCorFundoGot", -1, colourLabel, 0, {150, 720, 2850, 225}, u"fraGotFocus"},

@@ -8,8 +8,9 @@
 
 namespace vela::pages {
 
-// Blank and printable ASCII, then the accented capitals with ×, then the small ones with ÷. The gaps (no Ö, Ú, Û, Ü,
-// ö, ü, ý and others) are kept: saved profiles and fields were made with this list.
+// Blank and printable ASCII, then the accented capitals with ×, then the small ones with ÷.
+// Oddity: the allowed-characters list has 133 characters, with gaps (no Ö, Ú, Û, Ü, ö, ü, ý and others); saved profiles
+// and fields were made with this list.
 void fillLetters(platform::ItemList& list);
 // The selected items joined, in the order of the list: 'A', '1' selected -> "1A".
 [[nodiscard]] std::u16string selectedLetters(const platform::ItemList& list);

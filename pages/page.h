@@ -31,7 +31,7 @@ public:
     // with what had been loaded by then. The objects outlive the selection; an object whose control has gone raises
     // an error of its own. Leaves the changed flag down.
     virtual void open(std::span<PropertyObject* const> selection) = 0;
-    // Forgets the selection without a word: the host lets go of its controls.
+    // Drops the selection and notifies nobody, because the host lets go of its controls.
     virtual void release() noexcept = 0;
     // Checks, then writes to the first object. False: the page refused and has said why; nothing was written, the
     // flag stands. Raises what a write raises: what had been written stays written, the flag stands. After a load that

@@ -102,7 +102,7 @@ private:
     bool loading_ = false;
     std::vector<Binding> bindings_;
     std::vector<Filter> filters_;
-    std::unique_ptr<platform::Form> form_; // last: its events find the rest standing
+    std::unique_ptr<platform::Form> form_; // last member, so destroyed first: its events may still use the others
 };
 
 } // namespace vela::pages

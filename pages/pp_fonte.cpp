@@ -56,7 +56,7 @@ bool ppFonte::apply()
     return true;
 }
 
-// Only another text marks the change: choosing the font that stands there again changes nothing.
+// Only a change of the text marks the page changed: choosing the font that is already there does not.
 void ppFonte::fontNameActed()
 {
     std::u16string name = page_.text(u"CboFontName");

@@ -41,8 +41,8 @@ constexpr std::array<Field, 24> fields{{
     {u"ShowButtonCalculadora", u"chkShowButtonCalculadora", Mapping::check},
 }};
 
-// TextType stands behind MaskRules although switching to Mascara clears the rules: a first apply that switches loses
-// them. Kept, because what is saved in existing forms was applied in this order.
+// Oddity: TextType is written after MaskRules: a first apply that switches to Mascara loses the rules; existing forms
+// were saved in this order.
 constexpr std::array<std::u16string_view, 10> orderToMask{
     u"SimboloMonetario", u"SimbolDecExib", u"SimbolDecRet", u"SimbolAgrupMilhar", u"QtdCasasDec",
     u"InserirZeros",     u"CorValorNeg",   u"CorValorPos",  u"AceitaNegativos",   u"MaskSomenteNumeros"};

@@ -90,7 +90,7 @@ void ppPrincipal::showFailedLoad() const
 
 // --- masks
 
-// Whatever fails leaves the list as far as it got.
+// When reading the store fails, the list keeps what was added so far.
 void ppPrincipal::fillMasks()
 {
     try {
@@ -103,13 +103,15 @@ void ppPrincipal::fillMasks()
     }
 }
 
-// The mask box follows the list's text at every change, choice and leaving, also where that text is empty.
+// Oddity: tabbing through the list "Máscaras Prontas" copies its text into the mask, also where that text is empty;
+// developers clear a mask that way.
 void ppPrincipal::copyPreset()
 {
     page_.putText(u"txtMascara", page_.text(u"cboMascarasProntas"));
 }
 
-// The list is filled again by the next load only, so the new mask is not in it yet.
+// The list is filled by the next load only, so the new mask is not in it yet.
+// Oddity: a mask that is saved twice is kept twice; keys of masks are made from the time and must stay.
 void ppPrincipal::saveMask()
 {
     const std::u16string mask = page_.text(u"cboMascarasProntas");
@@ -139,6 +141,7 @@ void ppPrincipal::fillProfiles()
     }
 }
 
+// Oddity: a profile that is saved again is listed twice until the page is opened anew; the list's indexes stay right.
 void ppPrincipal::saveProfile()
 {
     const std::u16string letters = selectedLetters(page_.items(u"lstLetrasPermitidas"));

@@ -22,8 +22,8 @@ protected:
 class PageSite {
 public:
     virtual void changed(bool dirty) = 0; // the page's changed flag was set or cleared
-    // Calls `act`, something a person did on the page, once. Whoever drops the page meanwhile keeps it until this has
-    // returned. What the act raises goes to the caller or is told to the person. Acts may nest.
+    // Calls `act`, something a person did on the page, once. A host that drops the page meanwhile keeps it alive until
+    // this returns. An error of the act goes to the caller or is shown to the person. Acts may nest.
     virtual void runAct(const std::function<void()>& act) = 0;
 
 protected:

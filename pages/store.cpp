@@ -1,4 +1,4 @@
-// Masks under keys nobody sees, profiles under their names.
+// Stores masks under generated keys and profiles under their names.
 #include "pages/store.h"
 
 #include "engine/pattern.h"

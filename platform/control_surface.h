@@ -48,7 +48,7 @@ public:
 
     // Shows this box and hides the other; the box is made at its first use and keeps its own text and traits.
     virtual EditBox& activate(EditBoxKind kind) = 0;
-    virtual void putEnabled(bool enabled) = 0; // False while its box has the focus: the box is left away, for nowhere
+    virtual void putEnabled(bool enabled) = 0; // false: a box with the focus is left with Leaving::away
     [[nodiscard]] virtual const SurfaceLook& look() const = 0;
     virtual void putLook(const SurfaceLook& look) = 0; // repaints
     virtual void arrange(const SurfaceLayout& layout) = 0;

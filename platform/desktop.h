@@ -17,7 +17,8 @@ class Desktop {
 public:
     virtual ~Desktop() = default;
 
-    // Modal. An empty title is the application's own. Never shown while the focus is on its way: then afterwards.
+    // Modal. An empty title stands for the application's. A box asked for during a change of focus is shown when that
+    // has ended.
     virtual BoxAnswer messageBox(BoxIcon icon, BoxButtons buttons, std::u16string_view title,
                                  std::u16string_view text) = 0;
     [[nodiscard]] virtual std::u16string inputBox(std::u16string_view prompt,

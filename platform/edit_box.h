@@ -48,8 +48,8 @@ struct EditTraits {
     friend bool operator==(const EditTraits&, const EditTraits&) = default;
 };
 
-// Where the focus goes that leaves a box. `away` is another top-level window or another form of the host, and nowhere
-// when the box is disabled: nobody is held up there, so the focus is not asked back.
+// Where the focus goes when it leaves a box. `away`: to another top-level window or another form of the host, or
+// nowhere because the box is disabled. The focus is then not asked back.
 enum class Leaving { within, away };
 
 // What the person does in the box, in the order of happening. A code put to 0 swallows the key.
@@ -59,12 +59,12 @@ public:
     virtual void lostFocus(Leaving leaving) = 0;
     virtual void keyDown(int& code, int& shift) = 0; // virtual-key code; shift 1, control 2, alt 4
     virtual void keyPress(int& key) = 0;             // UTF-16 unit; a composed character only
-    // Instead of keyPress() for any other control character than Backspace and Enter: Esc, Control with a letter. 0
-    // forbids what it means to the box; another code changes nothing.
+    // Called instead of keyPress() for control characters other than Backspace and Enter: Esc, Control with a letter. A
+    // handler that sets the key to 0 stops what the box does with it; another code has no effect.
     virtual void controlPress(int& key) = 0;
     virtual void keyUp(int code, int shift) = 0;
     virtual void changed() = 0; // the text became another text
-    // Whether changed() lays out anew what was typed: the box then need not draw the text that stands in between.
+    // Whether changed() re-formats what was typed: the box then need not draw the text in between.
     [[nodiscard]] virtual bool laysOutTyping() const { return false; }
     virtual void clicked() = 0;
     virtual void doubleClicked() = 0;

@@ -42,7 +42,7 @@ struct WidgetRow {
     TextAlignment alignment = TextAlignment::left;
     double fontSize = 0; // points; 0: the form's font
     bool bold = false;
-    bool fits = false; // a label: where its text or one of its control array is too wide, theirs are written smaller
+    bool fits = false; // a label: smaller when a text of its control array is too wide
 };
 
 struct FormLayout {
@@ -142,7 +142,7 @@ public:
     [[nodiscard]] virtual WidgetId focused() const = 0;
     virtual void putBackColour(engine::Colour colour) = 0; // of the form
     virtual void startTimer(int milliseconds) = 0;         // 0 stops it
-    // Shows without an owner's leave: a pop-up at this place of the screen, at its own scale. `shown` -> activated().
+    // Shows as a pop-up at this place of the screen, at its own scale, then reports activated().
     virtual void showPopup(engine::RectPixels place, WindowId owner) = 0;
     virtual void showModal() = 0; // returns when closed
     virtual void close() = 0;     // closed() once; safe inside any event, the form object stays until released

@@ -29,7 +29,8 @@ public:
     [[nodiscard]] const CalendarGrid& grid() const noexcept { return calendar_.grid; }
     [[nodiscard]] platform::Form& form() noexcept { return *form_; } // for the host to embed
 
-    void refresh() { calendar_.view.refresh(); } // a picture of it is wanted: the colours may be others now
+    // called before a picture is drawn: the shared colours may have changed
+    void refresh() { calendar_.view.refresh(); }
 
     std::function<void()> picked; // a day has been picked with the mouse or the Enter key, or a key has moved it
 

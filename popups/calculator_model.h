@@ -1,6 +1,7 @@
 // The calculator's state machine over a text display: handlers take the display and return the new one and what to do.
-// Operands are read from the display with "." as the point whatever the locale, results are shown in the locale:
-// in pt-BR 2.5 is shown as "2,5" and read again as 2. Kept as it has always been.
+// Results are shown in the locale: in pt-BR 2.5 is shown as "2,5" and read again as 2.
+// Oddity: the calculator reads operands with "." as the point whatever the locale; sums that people are used to would
+// change.
 #pragma once
 
 #include "engine/locale.h"
@@ -26,7 +27,7 @@ public:
     static constexpr std::array<std::u16string_view, 5> operators = {u"/", u"+", u"X", u"-", u"="};
 
     void continueNumber() noexcept; // the display counts as a number being typed
-    // The display hands a number over as if it were being typed.
+    // Treats the display's number as one that is being typed.
     void handOver(bool decimalFlag) noexcept;
     void resetForLoad() noexcept; // operands stay
 
@@ -62,8 +63,8 @@ private:
     State state_;
 };
 
-// What the digits after the first "," say: "12,00" false, "12,50" true, "12" false. Raises 6 beyond a double:
-// "0,1e999".
+// Whether the digits after the first "," hold more than zeros: "12,00" false, "12,50" true, "12" false. Raises 6 beyond
+// a double: "0,1e999".
 [[nodiscard]] bool hasDecimals(std::u16string_view text);
 
 } // namespace vela::popups

@@ -1,4 +1,5 @@
-// The seven calendar colours: one record of the process, shared by every control and calendar of every thread.
+// Oddity: the seven Calendar_ colours are one record of the process, shared by every control and calendar of every
+// thread; forms set them on one field only.
 #pragma once
 
 #include "engine/value.h"

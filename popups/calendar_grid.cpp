@@ -95,7 +95,7 @@ void CalendarGrid::drawChosenMonth()
         drawMonth(u"01/" + twoDigits(monthIndex_ + 1) + u"/" + yearText());
 }
 
-// The steps stand in this order because a later one overwrites what an earlier one wrote too much.
+// The order of the steps matters: a later one overwrites the cell that an earlier one filled beyond its month.
 void CalendarGrid::drawMonth(std::u16string_view anyDateOfIt)
 {
     cells_.fill({});
@@ -166,7 +166,7 @@ void CalendarGrid::clickDay(int cell)
     selected_ = caption(clicked) + u"/" + twoDigits(monthIndex_ + 1) + u"/" + yearText();
 }
 
-// The month on show lies beyond the list's years, and so may the day: it is the date that the cell stands for.
+// The month shown is outside the list's years, so the date is the one that the clicked cell stands for.
 void CalendarGrid::selectShown(engine::CivilDate date)
 {
     if (!engine::isValid(date))
@@ -189,7 +189,7 @@ void CalendarGrid::followTag(int tag)
     }
 }
 
-// Beyond the list as it stands the year stays.
+// Outside the list the year stays as it is.
 void CalendarGrid::tryPutYearIndex(int index)
 {
     if (index >= 0 && index < static_cast<int>(years_.size()))

@@ -23,8 +23,9 @@ struct DayCell {
     int day = 0; // 0: the caption is empty
     DayRole role = DayRole::active;
     // Index of the adjacent month the day belongs to: -1 December of the year before, 12 January of the next year.
-    // Nothing for a day of the displayed month. Leading cells of a December carry -1 too: kept as it has always been,
-    // a click on them leads to December of the year before.
+    // Nothing for a day of the displayed month.
+    // Oddity: leading days of a December view lead to December of the year before, because their tag is -1 too; scripts
+    // and people find the date that this click gives.
     std::optional<int> tag;
     friend bool operator==(const DayCell&, const DayCell&) = default;
 };
@@ -36,8 +37,10 @@ class CalendarGrid {
 public:
     explicit CalendarGrid(int highlightLimit) noexcept;
 
-    // Today is selected unless a date is; appends one more run of years (the list is never emptied); draws the month
-    // of the selected date. Raises 13 for a selected text that is no date.
+    // Today is selected unless a date is; draws the month of the selected date. Raises 13 for a selected text that is
+    // no date.
+    // Oddity: each IniciaCalendario appends the years 1950 to 2050 again; indexes that hosts hold stay right because
+    // the list is never emptied.
     void initialise(engine::CivilDate today);
     // Puts the first year of the list that matches (none: the year stays), then the month; each put draws.
     void show();
@@ -62,7 +65,7 @@ public:
     [[nodiscard]] std::optional<engine::CivilDate> dateOf(int cell) const noexcept; // the day a cell stands for
     [[nodiscard]] int frameCell() const noexcept { return frameCell_; }             // -1: not placed yet
 
-    // Counts one highlighted date and marks nothing; false at the limit, which stays.
+    // Oddity: highlighted dates are counted, not marked; hosts handle the refusal at the limit. False at the limit.
     [[nodiscard]] bool countHighlight() noexcept;
     [[nodiscard]] int highlightCount() const noexcept { return highlightCount_; }
 

@@ -12,7 +12,7 @@ CalendarOperations::CalendarOperations(platform::Environment& environment, platf
 {
 }
 
-// The model is whole before a window can fail, and what it has is shown where it could not be whole.
+// The model is filled before a widget can fail. After a failure, what the model holds is shown all the same.
 void CalendarOperations::load()
 {
     auto error = trapped([&] {

@@ -47,7 +47,7 @@ void putBack(platform::Form& form, platform::WidgetId id, engine::Colour colour,
     form.putLook(id, look);
 }
 
-// True while the view writes combos whose Click is its own doing.
+// True while the view itself chooses in the combos, whose Click is then ignored.
 class Refreshing {
 public:
     explicit Refreshing(bool& flag) noexcept : flag_(flag) { flag_ = true; }

@@ -7,7 +7,8 @@ namespace vela::popups {
 
 namespace {
 
-// The second question to an MDI child's owner asks for a window that is its own child, so it is never true; kept.
+// Oddity: the check of an MDI child's owner is never true, because it asks for a window that is its own child; pop-ups
+// over MDI children would stay open longer.
 bool isInFront(platform::WindowId popup, Owner& owner, const platform::Desktop& desktop)
 {
     const platform::ParentForm parent = owner.popupParent();

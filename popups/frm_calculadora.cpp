@@ -47,7 +47,7 @@ frmCalculadora::frmCalculadora(platform::Environment& environment, platform::For
     load();
 }
 
-// A value that a widget refuses (380) is passed over; any other failure is told and ends loading.
+// A value that a widget refuses (380) is ignored; any other error is shown in a box and ends loading.
 void frmCalculadora::load()
 {
     constexpr void (frmCalculadora::*steps[])() = {&frmCalculadora::nameButtons, &frmCalculadora::paintDisplay};
@@ -128,7 +128,7 @@ void frmCalculadora::show(engine::RectPixels place, platform::WindowId parent)
 {
     life_.form().showPopup(place, parent);
     if (life_.isLoaded())
-        life_.form().focus(widget::equals); // shown again while it is the active one: it is not told so once more
+        life_.form().focus(widget::equals); // no activated() comes when it is shown again while it is the active window
 }
 
 void frmCalculadora::clicked(platform::WidgetId id)
@@ -193,6 +193,7 @@ void frmCalculadora::keyDown(platform::WidgetId focused, int& code, int& shift)
     const HandlerScope running(record_);
     if (!life_.isLoaded())
         return;
+    // Oddity: F2 does nothing after a clear button until a digit or operator is pressed; it would write an unwanted 0.
     if (code == f2Key) {
         if (widget::isOperator(focused))
             valueToOwner();
@@ -214,7 +215,7 @@ bool frmCalculadora::conventionalKey(int code)
     }
 }
 
-// The text is put first: where that fails the calculator stays open.
+// Puts the text first, so that the calculator stays open when that fails.
 void frmCalculadora::valueToOwner()
 {
     const double value = engine::toDouble(std::u16string_view(display()), locale());

@@ -17,7 +17,7 @@ public:
     // All outlive the object; the label heads what the timer writes to the log.
     PopupLife(platform::Environment& environment, platform::FormFactory& forms, const platform::FormLayout& layout,
               platform::FormEvents& events, PopupRecord& record, std::u16string_view label);
-    ~PopupLife() { loaded_ = false; } // the window's going away is no closing
+    ~PopupLife() { loaded_ = false; } // destroying the window is not reported as closing
     PopupLife(const PopupLife&) = delete;
     PopupLife& operator=(const PopupLife&) = delete;
 
@@ -25,9 +25,10 @@ public:
     void unload(); // once; the pop-up stays until its record lets go of it
     [[nodiscard]] bool isLoaded() const noexcept { return loaded_; }
 
-    // In front; false when an event that was pending has closed it. Called by a handler that runs.
+    // The form became active. Runs pending events; false when one of them has closed the pop-up. Called while a handler
+    // runs.
     [[nodiscard]] bool activated();
-    // `boxUp`: a message box of its own stands over it, and it stays.
+    // `boxUp`: a message box of the pop-up itself is up, so the pop-up stays open.
     void deactivated(bool boxUp);
     void tick(bool boxUp);
     void closed();

@@ -5,7 +5,7 @@
 
 namespace vela::popups {
 
-// While a handler runs, nothing that has closed may be destroyed: the handler may be its own.
+// While a handler runs, no closed pop-up may be destroyed: the handler may be its own.
 struct PopupRecord {
     int handlersRunning = 0;
     std::function<void()> closed; // clears the process-wide reference; the object lives on for a while

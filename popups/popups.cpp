@@ -42,7 +42,8 @@ public:
             loaded_->unload();
     }
 
-    // The owner is going. What was put aside may still stand in a handler that would come back to it.
+    // The owner is being destroyed. A closed pop-up may still be running a handler that would use the owner, so closed
+    // ones drop it too.
     void forget(const Owner& owner)
     {
         for (const auto& form : aside_)
@@ -56,11 +57,11 @@ public:
     void discard()
     {
         if (loaded_ && trapped([&] { loaded_->unload(); }) && loaded_)
-            loaded_->closed(); // its window would not close; it is let go of all the same
+            loaded_->closed(); // its window failed to close: the record lets go of it anyway
     }
 
     PopupRecord record;
-    bool opening = false; // the focus that opening itself moves does not close it
+    bool opening = false; // a change of focus caused by opening does not close it
 
 private:
     static void drop(PopupForm& form, const Owner& owner)

@@ -31,7 +31,8 @@ public:
     void closeAll();
     void forget(const Owner& owner); // an owner is going: closes both, whoever owns them, and drops references to it
 
-    // One is loaded and would write into this owner: the focus it takes from the owner is no leaving.
+    // Whether a loaded pop-up belongs to this owner. When such a pop-up takes the focus, the owner's field has not been
+    // left.
     [[nodiscard]] bool isOpenFor(const Owner& owner) const noexcept;
     [[nodiscard]] CalendarioSDI* calendar() noexcept; // null when not loaded
     [[nodiscard]] frmCalculadora* calculator() noexcept;

@@ -1,6 +1,6 @@
-// What the compiler calls for thread-local variables (its own library's: what is being thrown) and for constants made
-// at their first use. Its own way takes a slot of the process and two handles of each thread for good whenever the
-// library is unloaded.
+// The functions that compiled code calls for thread-local variables (such as the exception in flight) and for constants
+// made at their first use. The compiler's own versions leak a slot of the process and two handles of each thread
+// whenever the library is unloaded.
 #include "platform/win32/thread.h"
 
 #include <atomic>
@@ -94,7 +94,7 @@ extern "C" int pthread_once(long* state, void (*run)(void))
     return 0;
 }
 
-// Without memory there is nothing to throw with either.
+// Out of memory: an exception could not be thrown either.
 extern "C" void* __emutls_get_address(void* object)
 {
     Variable& variable = *static_cast<Variable*>(object);

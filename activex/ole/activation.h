@@ -34,7 +34,7 @@ private:
     ComPtr<IOleInPlaceFrame> frame_;
     ComPtr<IOleInPlaceUIWindow> document_;
     bool entering_ = false; // being activated: not to be activated again inside
-    bool closed_ = false;   // inside that
+    bool closed_ = false;   // the host closed the control inside the activation
     bool inPlace_ = false;
     bool interface_ = false;
     bool leaving_ = false; // being deactivated: what the host asks for inside is refused

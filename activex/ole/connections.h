@@ -48,7 +48,7 @@ private:
         ComPtr<IUnknown> sink;
     };
 
-    // The first connection behind the cookie `told`, which becomes its cookie; none beyond `newest`.
+    // The next connection with a cookie above `told` and not above `newest`; its cookie is then stored in `told`.
     [[nodiscard]] ComPtr<IUnknown> after(DWORD& told, DWORD newest) const noexcept;
 
     IConnectionPointContainer& container_;

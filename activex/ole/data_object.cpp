@@ -73,7 +73,7 @@ HGLOBAL newBlock(const void* from, std::size_t size)
     return block;
 }
 
-// Units of the picture are the field's pixels; how large they are is for what plays it, or for the viewport.
+// The picture is drawn in the field's pixels; the viewport, or whoever plays the metafile, scales them.
 void drawScaled(Shell& shell, HDC dc, std::optional<SIZE> viewport = {})
 {
     const FieldSize size = shell.content().size();

@@ -9,7 +9,7 @@ namespace vela::activex {
 engine::Value HostBag::read(std::u16string_view key, const engine::Value& defaultValue)
 {
     const std::u16string name(key);
-    // The type asks the host to convert; one that cannot is asked for what it has.
+    // The type of the variant asks the host to convert the value. A host that cannot is asked again without a type.
     Variant value;
     value.ref().vt = variantType(defaultValue);
     HRESULT result = bag_.Read(asWide(name), &value.ref(), log_);

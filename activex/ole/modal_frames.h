@@ -1,4 +1,5 @@
-// The frames of a thread's controls that are active in place: their modeless windows rest while a modal box is up.
+// The frames of a thread's controls that are active in place: while a modal box is up they disable their modeless
+// windows.
 #pragma once
 
 #include <oleidl.h>

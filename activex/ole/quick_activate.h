@@ -1,4 +1,4 @@
-// One call that gives a control all it wants from its host, and the host all it wants to know.
+// IQuickActivate: host and control exchange in one call what each needs to know of the other.
 #pragma once
 
 #include "activex/com/part.h"

@@ -111,7 +111,7 @@ void Shell::releaseLater() noexcept
         end();
     const auto letGo = [](void* shell) noexcept { static_cast<Shell*>(shell)->Release(); };
     if (references_ == 1)
-        win32::afterCall(letGo, this); // where that cannot wait it is kept for good, the lesser harm
+        win32::afterCall(letGo, this); // when it cannot be put off it is never freed: freed here it could crash
     else
         --references_;
 }
@@ -121,7 +121,7 @@ void Shell::end() noexcept
     if (std::exchange(ended_, true))
         return;
     if (content_)
-        content_->terminate(); // first: losing its window is no leaving of the field
+        content_->terminate(); // first, so that the end of its window does not run the field's exit
     activation_.deactivate();
     connections_.clear();
     site_.put(nullptr);

@@ -37,9 +37,9 @@ public:
     ULONG STDMETHODCALLTYPE AddRef() noexcept override;
     ULONG STDMETHODCALLTYPE Release() noexcept override;
 
-    // Keeps the shell for a scope that calls the host. When the host has let go by its end, what the host closed stays
-    // closed at once, and the memory goes when the outermost call into the library ends, on the thread it is in:
-    // routines of the content may still be on the stack.
+    // Keeps the shell alive for a scope that calls the host. When the host has released it meanwhile, it is closed at
+    // once; its memory is freed when the outermost call into the library ends on this thread, because routines of the
+    // content may still be on the stack.
     class Hold {
     public:
         explicit Hold(Shell& shell) noexcept : shell_(shell) { shell_.AddRef(); }

@@ -43,7 +43,7 @@ ComPtr<IDispatch> objectIn(const std::optional<Variant>& value) noexcept
 
 void Site::put(IOleClientSite* client) noexcept
 {
-    // All is asked for before anything is let go of: either may call back.
+    // All interfaces are queried before an old one is released, because either may call back.
     auto next = ComPtr<IOleClientSite>::share(client);
     auto ambients = ComPtr<IDispatch>::from(client);
     auto control = ComPtr<IOleControlSite>::from(client);

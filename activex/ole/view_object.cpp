@@ -16,8 +16,8 @@ bool drawable(DWORD aspect) noexcept
     return aspect == DVASPECT_CONTENT || aspect == DVASPECT_OPAQUE || aspect == DVASPECT_TRANSPARENT;
 }
 
-// While it lives the context counts in pixels, and `place` is the rectangle in them. A metafile keeps its units: what
-// plays it sets them; so does a turned world, where pixels have no sides to draw along.
+// While it lives, the device context is in pixels and `place` is the rectangle in them. A metafile keeps its units,
+// because its player sets them; so does a rotated world, in which no side follows the pixels.
 class PixelDc {
 public:
     PixelDc(HDC dc, const RECTL& bounds) noexcept

@@ -313,7 +313,7 @@ void Session::destroyField(Field& field)
         std::rethrow_exception(failure);
 }
 
-// A control goes whatever its end raises.
+// The control is destroyed even when terminating it raises an error.
 std::exception_ptr Session::end(Field& field)
 {
     for (const auto& hook : beforeDestroy)

@@ -158,7 +158,7 @@ void DemoForm::showValue(const Field& field)
     SetWindowTextW(field.told, (L"Value: " + value.text()).c_str());
 }
 
-// A pop-up of a field that has the focus leaves the field on the form entered.
+// While a field's pop-up has the focus, the form still shows the field as entered.
 void DemoForm::noteFocus()
 {
     HWND focus = GetFocus();
@@ -241,7 +241,7 @@ LRESULT CALLBACK DemoForm::windowProcedure(HWND window, UINT message, WPARAM wPa
     }
 }
 
-// As a dialog does: who had the focus has it again when the form is active again.
+// As a dialog does, gives the focus back to the window that had it when the form is activated again.
 void DemoForm::keepFocus(bool active)
 {
     if (active)

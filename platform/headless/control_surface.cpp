@@ -134,7 +134,7 @@ void ControlSurface::resize(int width, int height)
         surfaceEvents_->resized();
 }
 
-// The surface receives the focus and hands it to its box, which then reports it.
+// The surface receives the focus and gives it to its box, which then reports it.
 void ControlSurface::enter()
 {
     if (surfaceEvents_ == nullptr)
@@ -142,7 +142,7 @@ void ControlSurface::enter()
     const LifeLine::Watch watch(life_);
     const auto done = [&] {
         if (!watch.gone())
-            entering_ = false; // also where the box was not asked for
+            entering_ = false; // also when the box was not given the focus
     };
     entering_ = true;
     try {

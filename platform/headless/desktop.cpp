@@ -8,7 +8,7 @@ namespace vela::headless {
 using platform::BoxAnswer;
 using platform::BoxButtons;
 
-// The oldest answer, when it is of this kind; of another kind it is lost.
+// The oldest queued answer when it is of this kind; one of another kind is dropped.
 template <class Kind>
 std::optional<Kind> Desktop::takeAnswer()
 {

@@ -172,7 +172,7 @@ void EditBox::reportChange()
         events->changed();
 }
 
-// The handlers may destroy the box: nothing of it is touched after one that did. One that disables it ends the key.
+// A handler may destroy the box: after that no member is used. A handler that disables the box ends the key.
 void EditBox::key(Key key)
 {
     const LifeLine::Watch watch(life_);
@@ -244,7 +244,7 @@ void EditBox::applyNamedKey(int code)
     }
 }
 
-// What the letters mean is the field's business, but for the copy.
+// Copies for Control+C and Control+X and reports the others to the field, which carries them out.
 void EditBox::applyControlKey(int letter)
 {
     platform::EditBoxEvents* const events = surface_.boxEvents(*this);

@@ -29,7 +29,7 @@ public:
     // The field's own operations: each may be made to fail.
     void text(std::u16string& into) const override;
     [[nodiscard]] int textLength() const override;
-    // Reads for the field's history alone: a failure planned for the text stays for the field's own next reading.
+    // Read for the field's history only: a failure planned for the text stays for the next reading by text().
     void part(platform::Selection part, std::u16string& into) const override;
     void putText(std::u16string_view text) override;
     void insert(std::u16string_view text) override;

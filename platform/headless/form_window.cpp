@@ -111,7 +111,7 @@ void FormWindow::focusNone()
 void FormWindow::release(Element& element)
 {
     if (&element == focused_ && !moving_)
-        moveFocus(nullptr); // a move that is under way sees to it itself
+        moveFocus(nullptr); // a change of focus that is under way handles it
 }
 
 void FormWindow::askFocus(Element& element)
@@ -148,10 +148,10 @@ void FormWindow::moveFocus(Element* target)
         wanted_ = nullptr;
         leaveFocused();
         if (wanted_ != nullptr && wanted_->acceptsFocus())
-            target = wanted_; // it keeps the focus, or another one was sent it
+            target = wanted_; // it kept the focus, or another element was given it
         wanted_ = nullptr;
         arriveAt(holds(target) && target->acceptsFocus() ? target : nullptr);
-        target = std::exchange(wanted_, nullptr); // asked for by the one that was entered
+        target = std::exchange(wanted_, nullptr); // the element just entered asked for another
         const bool refused = focused_ != nullptr && !focused_->acceptsFocus();
         if (!refused && (target == nullptr || target == focused_))
             break;
@@ -183,7 +183,7 @@ void FormWindow::arriveAt(Element* target)
     guarded(failure_, [&] { desktop_.activate(focused_ != nullptr ? this : nullptr); });
 }
 
-// A failing act does not hold up the Tabs that it asked for.
+// Tabs that the act asked for are carried out even when it failed.
 template <class Act>
 void FormWindow::act(Act&& what)
 {

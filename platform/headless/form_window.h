@@ -20,7 +20,8 @@ namespace vela::headless {
 
 class FormWindow;
 
-// Something on the form that can take the focus. It leaves the form when it is destroyed, without being left.
+// Something on the form that can take the focus. When it is destroyed it is removed from the form without reporting
+// that the focus left.
 class Element {
 public:
     Element(FormWindow& form, std::u16string name);
@@ -80,7 +81,8 @@ public:
     // asking for it (askFocus); it is then entered again and the one asked for sees nothing.
     void focus(Element& element);
     void focusNone(); // another window's control takes it, and may have to give it back
-    // The element no longer accepts the focus: when it has it, it is left away, and nobody has the focus.
+    // The element no longer accepts the focus. When it has the focus it is left with Leaving::away, and no element has
+    // it then.
     void release(Element& element);
     void tab(bool backwards); // skips elements that do not accept the focus, goes round at both ends
     // From handlers: granted at once, or when a change of the focus that is under way has settled.

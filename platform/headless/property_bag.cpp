@@ -8,8 +8,8 @@ namespace vela::headless {
 
 namespace {
 
-// As copying it does, also where memory runs out in the middle: GCC 12's variant takes one with a text for never
-// without a value, and destroys what it has not yet made.
+// Assigns a copy of the value, safely when an allocation fails: with GCC 12 the variant's own assignment would then
+// destroy a text that was never made.
 engine::Value copyOf(const engine::Value& value)
 {
     return std::visit([](const auto& held) { return engine::Value(held); }, value);

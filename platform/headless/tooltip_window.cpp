@@ -63,7 +63,8 @@ void TooltipWindow::updateText(std::u16string_view text)
         send({.message = TipMessage::updateText, .text = text});
 }
 
-// A packed position does not say whether x was beyond 16 bits: the point converted last tells.
+// The packed value does not tell whether x was beyond 16 bits. When the point last answered by clientToScreen() packs
+// to the same value, that point is traced.
 void TooltipWindow::trackPosition(std::int32_t packed)
 {
     if (!exists_)

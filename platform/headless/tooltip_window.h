@@ -32,7 +32,9 @@ private:
 
     FormWindow& form_;
     const Element* owner_;
-    mutable std::pair<int, int> lastPoint_{0, 0}; // converted last: what a packed position most likely says
+    // The screen point last answered by clientToScreen(); the trace prints it when trackPosition() packs the same
+    // point.
+    mutable std::pair<int, int> lastPoint_{0, 0};
     bool exists_ = false;
 };
 

@@ -1,4 +1,4 @@
-// The colours of hosts as the system's, with high contrast in its right.
+// Converts the colours of hosts into the system's; in high contrast the system's own colours win.
 #pragma once
 
 #include "engine/value.h"

@@ -324,7 +324,7 @@ void ControlSurface::placeParts()
                      SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
 }
 
-// A button of the system's, made when it is first wanted. Clicked, it never keeps the focus; Tab passes it by.
+// A BUTTON window, made when it is first needed. A click on it does not leave the focus there, and Tab skips it.
 void ControlSurface::showButton()
 {
     const bool wanted = look_.button && layout_.button.width > 0;
@@ -405,7 +405,7 @@ void ControlSurface::buttonPressed()
         events_->buttonClicked();
 }
 
-// The surface is the window that form libraries know, so it answers for its box.
+// Form libraries know the surface's window only, so it answers for its edit box.
 LRESULT ControlSurface::dialogCode(WPARAM key, LPARAM message) const
 {
     const HWND box = edit().handle();
@@ -481,7 +481,7 @@ void ControlSurface::tick(WPARAM timer)
         ticking_ = false;
 }
 
-// Its box takes it on; surfaceLostFocus() is told when the box is left.
+// Gives the focus to the edit box; surfaceLostFocus() is reported when the focus leaves that box.
 void ControlSurface::focusArrived()
 {
     if (events_ && !destroying_)

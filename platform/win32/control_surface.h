@@ -29,8 +29,8 @@ protected:
     ~SurfaceListener() = default;
 };
 
-// Works without a window too: then it keeps text, selection, traits, colours and size itself, and hands them to the
-// windows when create() makes them. A window that goes leaves its state behind.
+// Works without a window too: then it keeps text, selection, traits, colours and size itself. create() gives them to
+// the windows, and a window that is destroyed leaves its state here.
 class ControlSurface final : public platform::ControlSurface, private WindowHandler {
 public:
     ControlSurface();

@@ -63,7 +63,7 @@ std::wstring applicationTitle(HWND active)
 
 platform::BoxAnswer showBox(UINT flags, const std::wstring& title, const std::wstring& text)
 {
-    const FocusArbiter::Hold hold; // the field that had the focus is not left by it
+    const FocusArbiter::Hold hold; // while the box is up, the field that had the focus is not left
     const HWND owner = GetActiveWindow();
     const HWND focus = GetFocus();
     const std::wstring shown = title.empty() ? applicationTitle(owner) : title;
@@ -71,7 +71,7 @@ platform::BoxAnswer showBox(UINT flags, const std::wstring& title, const std::ws
         const Modal box;
         return MessageBoxW(owner, text.c_str(), shown.c_str(), flags | MB_SETFOREGROUND);
     }();
-    // A form that is no dialog keeps the focus to itself when it is active again.
+    // A window that is no dialog does not give the focus back to its child when it is activated again.
     if (focus && focus != GetFocus() && GetActiveWindow() == GetAncestor(focus, GA_ROOT))
         SetFocus(focus);
     return answerOf(pressed);
@@ -108,9 +108,9 @@ Keystroke parse(std::u16string_view keys) noexcept
     return stroke;
 }
 
-// What the person happens to hold would make another key of it: Shift turns a Tab round, Alt makes the closing of the
-// window of an F4. So it is let go. Shift and Control are pressed again afterwards; Alt is not, because pressed and let
-// go with no key between it would open the window's menu.
+// Modifier keys that the person holds would change the key that is sent: Shift turns Tab round, Alt makes F4 close the
+// window. So they are released first. Shift and Control are pressed again afterwards; Alt is not, because pressed and
+// released with no key between it would open the window's menu.
 void strike(Keystroke stroke)
 {
     constexpr std::array<WORD, 6> modifiers{VK_LSHIFT, VK_RSHIFT, VK_LCONTROL, VK_RCONTROL, VK_LMENU, VK_RMENU};
@@ -133,7 +133,8 @@ void strike(Keystroke stroke)
     SendInput(static_cast<UINT>(before.size()), before.data(), sizeof(INPUT));
 }
 
-// An F4 opens the list of the combo that has the focus; one that a click has opened with the focus would be shut by it.
+// F4 opens the list of the combo that has the focus, and closes it when the click that gave the focus has opened it
+// already.
 bool isNeeded(Keystroke stroke) noexcept
 {
     const HWND focus = GetFocus();

@@ -257,7 +257,7 @@ void EditBox::createWindow(const RECT& place, bool visible)
         native(EM_SETSEL, static_cast<WPARAM>(kept_.start), kept_.start + kept_.length);
 }
 
-// Not a leave: a field that is destroyed does not run its exit.
+// Not reported as leaving: a field that is destroyed does not run its exit.
 void EditBox::destroyWindow()
 {
     entered_ = false;
@@ -265,7 +265,7 @@ void EditBox::destroyWindow()
     if (!window)
         return;
     DestroyWindow(window);
-    if (edit_ == window) { // a procedure put in front of ours kept the message to itself
+    if (edit_ == window) { // another subclass procedure did not pass on WM_NCDESTROY
         edit_ = nullptr;
         forgetWindow(window);
     }
@@ -277,7 +277,7 @@ void EditBox::keepState()
     kept_ = selection();
 }
 
-// The same box in a new window: text, selection and focus stay, and nobody hears of it.
+// Makes the window anew. Text, selection and focus stay, and no event is reported.
 void EditBox::rebuild()
 {
     keepState();
@@ -342,8 +342,8 @@ bool EditBox::sameText() const
     return scratch_ == text_;
 }
 
-// A unit that is laid out as soon as it is typed: the window gets one text instead of two. Whoever looks at the window
-// in between finds the text that was typed, for every message that comes from elsewhere shows it first.
+// A code unit that the field re-formats as soon as it is typed: the window gets one text instead of two. A message from
+// elsewhere in between first writes the typed text to the window, so that nobody reads an old one.
 bool EditBox::typeUnseen(int unit)
 {
     platform::EditBoxEvents* const listener = events();
@@ -376,7 +376,8 @@ void EditBox::showText()
     select(caret);
 }
 
-// One unit typed or rubbed out without a selection is known without reading the window again.
+// Remembers a code unit that is about to be typed or erased without a selection, so that the window need not be read
+// again.
 void EditBox::expectTyped(int unit, LRESULT selected) noexcept
 {
     const int caret = LOWORD(selected);
@@ -386,7 +387,7 @@ void EditBox::expectTyped(int unit, LRESULT selected) noexcept
     typedUnit_ = back ? u'\0' : static_cast<char16_t>(unit);
 }
 
-// "ab|c" + 'X': text_ becomes "abXc" when the window has as many units.
+// Puts the remembered code unit into text_ when the window's length agrees: "ab|c" + 'X' -> "abXc".
 bool EditBox::adoptTyped()
 {
     const int at = std::exchange(typedAt_, -1);
@@ -400,7 +401,7 @@ bool EditBox::adoptTyped()
     return true;
 }
 
-// The EDIT says that it changed also where it was full or got the same text.
+// Whether the text differs: EN_CHANGE comes also when the EDIT was full or got the same text.
 bool EditBox::becameAnother()
 {
     if (adoptTyped())

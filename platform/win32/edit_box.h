@@ -45,15 +45,15 @@ public:
     void createWindow(const RECT& place, bool visible);
     void destroyWindow();
     void fontScaleChanged();
-    void editChanged() noexcept; // EN_CHANGE
-    void settleLoan() noexcept;  // the focus leaves a part of the field that is no box
+    void editChanged() noexcept;                               // EN_CHANGE
+    void settleLoan() noexcept;                                // the focus leaves a part of the field that is no box
     [[nodiscard]] bool ownsWindow(HWND window) const noexcept; // one of its field's
     // For the focus arbiter.
     void enter();
     void leave(HWND next);
     bool regainFocus(); // false when it may not have it
-    void goneForGood(); // the focus that it asked back is not coming
-    void letGo();       // its windows are about to go: it is left when it was entered
+    void goneForGood(); // the focus that it asked for will not return
+    void letGo();       // its windows are about to be destroyed: reports lostFocus() when it was entered
     // For the drop target: the text falls at a point of the screen.
     void dropped(std::u16string_view text, POINT point);
 
@@ -113,7 +113,7 @@ private:
     bool rebuilding_ = false;
     bool dropTarget_ = false;
     mutable bool stale_ = false; // the window holds a newer text than text_
-    bool behind_ = false;        // or an older one, and kept_ is where the caret will stand
+    bool behind_ = false;        // the window holds an older text than text_, and kept_ is the caret to set
     int passing_ = 0;
     int typedAt_ = -1; // where one unit is about to be typed, or rubbed out (0); -1: not known
     char16_t typedUnit_ = 0;

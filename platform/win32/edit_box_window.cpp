@@ -23,8 +23,8 @@ constexpr WPARAM controlA = 1, controlC = 3, controlV = 22, controlX = 24, contr
 constexpr WPARAM controlEnter = 10, controlBackspace = 127;
 constexpr int shiftKey = 1, controlKey = 2, altKey = 4;
 
-// The EDIT works by the characters of these keys; on their way down it only asks for the shift keys, which is slow
-// where a server answers.
+// The EDIT acts on the WM_CHAR of these keys. Their WM_KEYDOWN only makes it read the shift keys, which is slow where
+// each reading asks a server, as under Wine.
 bool onlyTypes(int key) noexcept
 {
     const bool keypad = key >= VK_NUMPAD0 && key <= VK_DIVIDE;
@@ -130,7 +130,7 @@ LRESULT EditBox::onSetText(WPARAM first, LPARAM second)
 {
     refresh();
     const LRESULT result = native(WM_SETTEXT, first, second);
-    // A box of several lines says nothing of a text put so.
+    // A multi-line EDIT sends no EN_CHANGE for WM_SETTEXT, so the texts are compared.
     Watch watch(life_);
     if (result && !sameText()) {
         changed_ = false;
@@ -202,7 +202,8 @@ LRESULT EditBox::onChar(WPARAM unit, LPARAM data)
     return result;
 }
 
-// What it means to the box still happens, unless the host has forbidden it; another code in its place is no text.
+// The box still acts on the control character unless the host set the key to 0. Another code that the host sets is not
+// inserted.
 LRESULT EditBox::onControl(WPARAM unit, LPARAM data)
 {
     Watch watch(life_);
@@ -242,7 +243,8 @@ LRESULT EditBox::onUnicode(WPARAM codePoint, LPARAM data)
     return FALSE;
 }
 
-// What was composed is typed unit by unit, through the same filter; the rest of the composition is the system's.
+// The text that an input method composed is typed unit by unit, through the same filter; the system handles the rest of
+// the composition.
 LRESULT EditBox::onComposition(WPARAM first, LPARAM flags)
 {
     Watch watch(life_);
@@ -299,7 +301,7 @@ void EditBox::enter()
         listener->gotFocus();
 }
 
-// The focus is given back only within the same form: closing or deactivating one is never held up.
+// The focus returns only within the same form, so that closing or deactivating a form is never prevented.
 void EditBox::leave(HWND next)
 {
     Watch watch(life_);
@@ -386,7 +388,7 @@ LRESULT EditBox::onButtonUp(WPARAM first, LPARAM second)
     Watch watch(life_);
     const bool click = !std::exchange(skipClick_, false);
     const LRESULT result = pass(WM_LBUTTONUP, first, second);
-    // Where the focus was not granted there is no click.
+    // Without the focus no click is reported.
     if (watch.alive() && click && entered_)
         if (platform::EditBoxEvents* listener = events())
             listener->clicked();
@@ -499,7 +501,7 @@ void EditBox::dropped(std::u16string_view text, POINT point)
         listener->pasted(text);
 }
 
-// No loop of the host's has used it: the container is asked once more, then the way is found without it.
+// The host's message loop did not use the Tab: asks the container once more, then moves the focus from here.
 LRESULT EditBox::onTab(const MSG& key, bool back)
 {
     Watch watch(life_);

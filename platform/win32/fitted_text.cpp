@@ -13,7 +13,7 @@ namespace {
 
 constexpr int smallestPart = 2; // of the height that was wished for: no smaller than its half
 
-// How much of its width the text that lacks most room has: 1 and above where each of them fits.
+// The smallest ratio of the width there is to the width that a text needs: at least 1 when all of them fit.
 double roomFor(HDC dc, const platform::FontDescription& description, int height, const std::vector<FittingText>& texts)
 {
     const UniqueGdi<HFONT> font(makeFont(description, height));

@@ -1,4 +1,4 @@
-// Fonts that give way where a system's font is wider than a form's table was made for.
+// Smaller fonts where the system's font is wider than the one that a form's table was made for.
 #pragma once
 
 #include "platform/edit_box.h"

@@ -26,7 +26,7 @@ FocusArbiter& FocusArbiter::retain()
 
 void FocusArbiter::release() noexcept
 {
-    // What waits for the message loop keeps it alive until then.
+    // Waiting work keeps the arbiter alive until the message loop has run it.
     ThreadRecord* const thread = threadRecord();
     if (FocusArbiter* const arbiter = thread ? thread->arbiter : nullptr;
         arbiter && --arbiter->users_ == 0 && arbiter->later_.empty())
@@ -84,7 +84,7 @@ FocusArbiter::Hold::~Hold()
     release();
 }
 
-// The box that is left comes before all others; of the others the last one asks for all.
+// The box that is being left comes first. Of the others only the last one that asked is remembered.
 void FocusArbiter::ask(EditBox& box)
 {
     const bool owed = left_ == &box;
@@ -168,13 +168,14 @@ LRESULT FocusArbiter::handle(HWND window, UINT message, WPARAM first, LPARAM sec
 {
     if (message != settleMessage)
         return DefWindowProcW(window, message, first, second);
-    static_cast<void>(retain()); // the last field may go while it is entered
+    static_cast<void>(retain()); // entering a field may destroy the last one
     guarded([this] { settle(); });
     release();
     return 0;
 }
 
-// Inside a change (a message loop of a handler's own) the next settling message, posted at its end, does the work.
+// Nothing is settled during a change of focus, when a handler runs a message loop: the message posted at the end of the
+// change does it.
 void FocusArbiter::settle()
 {
     if (depth_ > 0)
@@ -195,7 +196,7 @@ void FocusArbiter::giveBack()
     if (box && owed)
         box->goneForGood();
     if (EditBox* const next = std::exchange(waiting_, nullptr))
-        next->regainFocus(); // the return is off, so the visit was an entry
+        next->regainFocus(); // the return failed, so the focus stays where it went
 }
 
 void FocusArbiter::endLoan()

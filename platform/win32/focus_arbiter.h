@@ -13,20 +13,20 @@ namespace vela::win32 {
 
 class EditBox;
 
-// A field that is being left may ask for the focus back. The change goes on to its end; then a message of the
-// arbiter's own gives it back. The field that had it in between neither entered nor left, and what another one asks
-// for meanwhile waits: it has the focus only when the first cannot have it.
+// A field that is being left may ask for the focus back. The change of focus first runs to its end; then a posted
+// message gives the focus back. The field that had the focus in between reports neither gotFocus() nor lostFocus().
+// When another field asks for the focus meanwhile it waits, and gets it only when the first field cannot have it.
 // A pop-up or box of a field borrows the focus: the field has not been left until the focus goes elsewhere.
 class FocusArbiter final : private WindowHandler {
 public:
-    // Lives as long as anybody of the thread holds it.
+    // Lives as long as anything of the thread holds it.
     [[nodiscard]] static FocusArbiter& retain();
     static void release() noexcept;
     [[nodiscard]] static FocusArbiter* ofThread() noexcept; // null when nobody holds it
-    // The thread ends: what still waits will not be run. Its window is the system's to destroy.
+    // Called when the thread ends: waiting work is dropped, and the system destroys the window.
     static void abandon() noexcept;
 
-    // A notification of the focus is running, for a scope.
+    // Marks, for a scope, that a focus notification is running.
     class Change {
     public:
         // `left`: the box that is being left; null while one is entered.
@@ -40,7 +40,7 @@ public:
         EditBox* leftBefore_;
         bool mayReturnBefore_;
     };
-    // The focus leaves for a box of our own, for a scope.
+    // Marks, for a scope, that the focus goes to a message box of this library.
     class Hold {
     public:
         Hold() noexcept;
@@ -55,8 +55,8 @@ public:
     [[nodiscard]] bool changing() const noexcept { return depth_ > 0 || returning_ != nullptr; }
     void ask(EditBox& box); // while changing()
     [[nodiscard]] bool returnsTo(const EditBox& box) const noexcept { return returning_ == &box; }
-    [[nodiscard]] bool suppresses(EditBox& entering) noexcept; // it is entered when the return is off
-    void entering(EditBox& box);                               // a lender that is another leaves first
+    [[nodiscard]] bool suppresses(EditBox& entering) noexcept; // reports gotFocus() later when the return fails
+    void entering(EditBox& box);                               // another lender reports lostFocus() first
     void regained(EditBox& box) noexcept;
     [[nodiscard]] bool borrows(HWND next) const noexcept;
     void lend(EditBox& box) noexcept;
@@ -65,7 +65,7 @@ public:
     void removeBorrower(HWND topLevel) noexcept;
     void settleLater() noexcept;
     void forget(EditBox& box) noexcept;
-    // Run by the message loop, after the change that is going on and its return.
+    // Has the message loop run the work, after the current change of focus and its return.
     void later(std::function<void()> work);
 
 private:

@@ -20,7 +20,7 @@ using ToResult = LRESULT(WINAPI*)(REFIID, WPARAM, IUnknown*);
 
 constexpr IID accessibleInterface{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
 
-// The system's library of such objects, there as long as one that stands on it.
+// Holds oleacc.dll, which makes the system's accessible objects, for as long as one of them is in use.
 class Service {
 public:
     Service() noexcept : library_(LoadLibraryExW(L"oleacc.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)) {}

@@ -203,7 +203,7 @@ LRESULT FormWindow::keysWanted(const MSG* key) const noexcept
     return DLGC_WANTARROWS | (enter ? DLGC_WANTALLKEYS : 0);
 }
 
-// The focus came from the other window, or goes to it.
+// Notifies the listener when the focus came from `other`, or goes to it, and `other` is no window of this form.
 void FormWindow::focusCrossed(UINT message, HWND other)
 {
     if (!listener_ || isOwn(other))
@@ -323,7 +323,7 @@ LRESULT FormWindow::notify(const NMHDR& header)
     return 0;
 }
 
-// As a click of the person does.
+// Acts as a person's click does.
 void FormWindow::press(Widget& widget)
 {
     if (!widget.enabled || !showing(widget))
@@ -407,7 +407,7 @@ Widget* FormWindow::labelAt(POINT point)
     return nullptr;
 }
 
-// A box of our own over the form does not make it an inactive one.
+// While a message box of this library is up, the form still counts as active.
 void FormWindow::activation(bool active)
 {
     if (closed_ || !shown_ || role_ == Role::child || arbiter_.holding())

@@ -96,8 +96,8 @@ void FormWindow::paintGround(HDC dc, const RECT& client)
             paintPane(dc, *widget, rectOf(*widget));
 }
 
-// A page stands on what its frame shows there, the body of its tabs or a colour of its own, and what is on its own tabs
-// on their pane. Both are asked for once: an answer for every widget would have the frame paint itself as often.
+// Behind a page shows what its frame paints there, the tabs' body or a colour; behind the widgets on the page's own
+// tabs, the tabs' pane. Both are asked for once, because the frame paints itself for each answer.
 void FormWindow::learnGround()
 {
     if (!window_ || !hasGround())
@@ -149,7 +149,7 @@ void FormWindow::paintWidget(HDC dc, Widget& widget)
     }
 }
 
-// Of the characters, in pixels, when this much of its place on either side is the border's.
+// The height of a label's characters in pixels, when a border takes `border` pixels on either side of its text.
 int FormWindow::labelHeight(HDC dc, const Widget& widget, int border)
 {
     constexpr double twipsPerPoint = 20;

@@ -79,10 +79,11 @@ void FormWindow::showPopup(engine::RectPixels place, platform::WindowId owner)
     if (watch.alive() && window_ && GetActiveWindow() != window_)
         SetForegroundWindow(window_);
     else if (watch.alive() && window_ && again)
-        activation(true); // it stayed active, so the system says nothing
+        activation(true); // it was active already, so no WM_ACTIVATE comes
 }
 
-// Seen whole: painted with its widgets before it is made the active one, which hands the program its turn.
+// Paints the form with all its widgets before it is activated: activation lets other code run, and the form would be
+// seen half drawn.
 void FormWindow::appear()
 {
     Watch watch(life_);
@@ -199,7 +200,7 @@ void FormWindow::close()
         events_.closed();
 }
 
-// The one that had the focus gets it back, unless it went elsewhere meanwhile.
+// Gives the focus back to the window that had it, unless it went elsewhere meanwhile.
 void FormWindow::endShowing()
 {
     if (!std::exchange(shown_, false))

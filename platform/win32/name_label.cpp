@@ -35,7 +35,7 @@ std::wstring captionOf(HWND label)
     return GetWindowLongPtrW(label, GWL_STYLE) & SS_NOPREFIX ? asLabel(utf16(caption)) : caption;
 }
 
-// A host's window around the control and nothing else.
+// True for a window of the host that holds only the control.
 bool wraps(HWND outer, HWND control) noexcept
 {
     RECT client{};
@@ -75,7 +75,7 @@ NameLabel::~NameLabel()
     if (!window)
         return;
     DestroyWindow(window);
-    if (window_) // a procedure put in front of ours kept the message to itself
+    if (window_) // another subclass procedure did not pass on WM_NCDESTROY
         forgetWindow(window);
 }
 

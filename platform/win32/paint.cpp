@@ -256,7 +256,7 @@ void paintPlainEllipse(HDC dc, const RECT& place, COLORREF colour)
     Ellipse(dc, place.left, place.top, place.right + 1, place.bottom + 1);
 }
 
-// A metafile keeps orders, and a printer is not read.
+// Smooth edges need a device context that can be read: a metafile and a printer get a plain ellipse.
 void paintEllipse(HDC dc, const RECT& place, COLORREF colour)
 {
     if (takesPictures(dc))

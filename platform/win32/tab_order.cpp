@@ -1,5 +1,5 @@
-// Dialogs look into a container only where it is marked for it; a field inside one that is not finds its way out
-// itself.
+// Finds the next tab stop. A dialog searches a container only when that has WS_EX_CONTROLPARENT; a field in another
+// container is found its way out here.
 #include "platform/win32/tab_order.h"
 
 namespace vela::win32 {

@@ -82,7 +82,7 @@ ThreadRecord& madeThreadRecord()
     return *record;
 }
 
-// An object that a host never let go of keeps the module, and what it stands on.
+// An object that a host never released keeps the module loaded, and the record with it.
 void endThread() noexcept
 {
     ThreadRecord* const record = slot.get();
@@ -94,7 +94,7 @@ void endThread() noexcept
         slot.remove(*record);
 }
 
-// Without a record, what should wait for the end of a call is done at once, or kept.
+// When no record can be made, work for the end of the call is done at once, or its object is never freed.
 LibraryCall::LibraryCall() noexcept : record_(madeThreadRecord(std::nothrow))
 {
     if (record_ && record_->calls++ == 0)

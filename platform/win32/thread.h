@@ -14,10 +14,10 @@ namespace vela::win32 {
 class FocusArbiter;
 class ModalListener;
 
-// Behind a slot of the system's: the compiler's thread-local storage is slower, and a destructor there would hold the
-// module until the thread ends, which then frees the code that is running.
+// Kept in a TLS slot of the system. The compiler's thread-local storage is slower, and a destructor there would keep
+// the module loaded until the thread ends, and then unload the code that is running.
 struct ThreadRecord {
-    // The module is in use while a procedure of its own may get the window's messages, bound or not.
+    // The module stays loaded while a procedure of its own may get the window's messages, bound or not.
     struct Window {
         void* object = nullptr;
         WNDPROC behind = nullptr; // the procedure that ours was put in front of
@@ -50,7 +50,7 @@ struct ThreadRecord {
 // The entry point says that the calling thread ends: its record goes, and its windows are the system's to destroy.
 void endThread() noexcept;
 
-// Stands on the stack of every call from outside: window procedures and methods of objects. Keeps the module.
+// On the stack of every call from outside (window procedures and methods of objects); keeps the module loaded.
 class LibraryCall {
 public:
     LibraryCall() noexcept;
@@ -62,8 +62,8 @@ private:
     ThreadRecord* record_;
 };
 
-// Runs when the thread's outermost LibraryCall ends, so off the stack of whatever may still use the object; at once
-// where there is none. False when it cannot be kept until then.
+// Calls `run` when the thread's outermost LibraryCall ends, when nothing on the stack uses the object any more; at once
+// when no call is under way. False when the work could not be stored.
 bool afterCall(void (*run)(void* object) noexcept, void* object) noexcept;
 
 } // namespace vela::win32

@@ -57,7 +57,7 @@ const wchar_t* registered(WindowClass& wanted) noexcept
         description.hCursor = LoadCursorW(nullptr, reinterpret_cast<const wchar_t*>(IDC_ARROW));
         description.lpszClassName = wanted.name;
         wanted.registered = RegisterClassExW(&description) != 0;
-        // Left by the module's last stay in the process: its procedure stands no more.
+        // A class left from an earlier loading of the module: its window procedure is gone.
         if (!wanted.registered && UnregisterClassW(wanted.name, thisModule()))
             wanted.registered = RegisterClassExW(&description) != 0;
     }

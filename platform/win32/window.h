@@ -19,13 +19,13 @@ protected:
 [[nodiscard]] const wchar_t* surfaceClass() noexcept;
 [[nodiscard]] const wchar_t* formClass() noexcept;
 [[nodiscard]] const wchar_t* messageClass() noexcept;
-// The entry point calls it before the module goes.
+// Called by the entry point before the module is unloaded.
 void unregisterClasses() noexcept;
 
 // Bound in WM_NCCREATE, unbound in WM_NCDESTROY. Null when the system refuses.
 [[nodiscard]] HWND createBound(const wchar_t* windowClass, WindowHandler& handler, DWORD extendedStyle, DWORD style,
                                const RECT& place, HWND parent) noexcept;
-// An unbound window that goes when the calls under way have ended: one may be of its own procedure.
+// Destroys an unbound window when the calls under way have ended: one of them may run in its procedure.
 void destroyLater(HWND window) noexcept;
 // No message reaches the handler from now on.
 void unbind(HWND window) noexcept;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr wchar_t formClass[] = L"VelaTestForm";
 
-// Takes the events; separate from the site's own IDispatch, which answers for the ambients.
+// Takes the control's events; separate from the site's own IDispatch, which answers the ambient properties.
 class EventSink final : public Dispatch {
 public:
     explicit EventSink(Site& site) : site_(site) {}

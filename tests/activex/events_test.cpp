@@ -104,7 +104,7 @@ TEST(Events, FrozenControlsAreSilent)
     EXPECT_EQ(site.count("event 1"), 1);
 }
 
-// The handlers of the field trap what an event's handler raises, and say so.
+// An error that a host's event handler raises is trapped by the field and shown in a box.
 TEST(Events, AHandlersErrorIsShown)
 {
     const AnsweredBoxes boxes;
@@ -204,7 +204,7 @@ const Harm harms[] = {
      }},
 };
 
-// What a person does on the form while the host does its harm once, wherever `arm` puts it.
+// A person's acts on the form, during which the host does its harm once, in the call that `arm` chooses.
 void workUnder(const Harm& harm, const std::function<void(Site&, std::function<void()>)>& arm)
 {
     const AnsweredBoxes boxes;

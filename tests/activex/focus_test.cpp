@@ -36,7 +36,7 @@ constexpr Go bySurfacesEdge = [](TwoDates& dates, HWND) { clickAt(dates.form, da
 
 Site* hosted = nullptr;
 
-// As a host's own window around a control has it: the control is activated when the window gets the focus.
+// A host's own window around a control: it activates the control when it gets the focus.
 LRESULT CALLBACK activatesOnFocus(HWND window, UINT message, WPARAM first, LPARAM second)
 {
     if (message == WM_SETFOCUS)
@@ -124,7 +124,7 @@ TEST(Focus, AWrongEntryKeepsItOnceAndTheOtherFieldSeesNothing)
     EXPECT_TRUE(AnsweredBoxes::texts().empty());
 }
 
-// Let go by the first, the second is wrong as well: each keeps the person once, and neither sends back for the other.
+// Both fields hold a wrong entry: each takes the focus back once, and neither return is caused by the other field.
 TEST(Focus, TwoWrongFieldsDoNotPassItToAndFro)
 {
     const LeakCheck leaks;
@@ -266,7 +266,7 @@ TEST(Focus, AFormClosesOverAWrongEntry)
     EXPECT_TRUE(AnsweredBoxes::texts().empty());
 }
 
-// A field that its host hides or disables while it is left cannot have the focus back: the next one is entered.
+// A field that its host hides or disables while it is left cannot have the focus back, so the next field is entered.
 TEST(Focus, AFieldThatCannotHaveItBackLetsItGo)
 {
     for (const bool hidden : {false, true}) {
@@ -294,7 +294,7 @@ LRESULT CALLBACK asHostSubclasses(HWND window, UINT message, WPARAM first, LPARA
     return CallWindowProcW(beforeHost, window, message, first, second);
 }
 
-// The field that was passed over is entered after all, whoever has put a procedure of his own before the box's.
+// The field whose entry was suppressed reports it later, also when the host has subclassed its edit box.
 TEST(Focus, AFieldIsKnownThoughItsHostSubclassesTheBox)
 {
     for (const auto go : {byProgram, bySurface, byHostsWindow}) {

@@ -16,14 +16,15 @@ namespace vela::test {
 
 namespace {
 
-// The control's own part, without a reference: the host holds one only, so that its last can go inside any call.
+// Calls the control without holding a reference: the host has the only one, so that its release inside any call
+// destroys the control.
 template <class Interface>
 Interface* bare(const Site& site)
 {
     return site.as<Interface>().get();
 }
 
-// What a host has in hand, and its dice.
+// What a host holds of the control, and its random choices.
 class Hand {
 public:
     explicit Hand(unsigned seed) : random_(seed) {}
@@ -320,7 +321,7 @@ void prepare(Hand& hand, bool active)
     bare<IPersistStreamInit>(*hand.site)->Save(hand.stream(), FALSE);
 }
 
-// What was going on is told when the process ends in it; without the system's debugger.
+// Prints what was going on when the process ends in it; without the system's debugger.
 class CrashNote {
 public:
     CrashNote() : before_(SetUnhandledExceptionFilter(tell)) {}

@@ -47,7 +47,7 @@ const Asked offered[] = {
     {"ICategorizeProperties", activex::categorizePropertiesId},
 };
 
-// From each interface to each other, and back to one identity.
+// QueryInterface from each interface to each other, and back to one identity.
 TEST(Interfaces, AreOneObject)
 {
     const LeakCheck leaks;

@@ -11,7 +11,7 @@ constexpr wchar_t childClass[] = L"VelaTestMdiChild";
 constexpr DISPID mouseOut = 2;
 const wchar_t remembered[] = L"VelaTestFocus";
 
-// As form libraries have it: the control that had the focus has it again when its form is the active one.
+// As form libraries do: the control that had the focus gets it again when its form is activated.
 LRESULT CALLBACK mdiChild(HWND window, UINT message, WPARAM first, LPARAM second)
 {
     const LRESULT result = DefMDIChildProcW(window, message, first, second);
@@ -59,7 +59,7 @@ void expectLeftAway(TwoDates& dates, int balloonsShown)
     EXPECT_EQ(balloons(), balloonsShown);
 }
 
-// The first return is still to come: it was not used up by going away.
+// The return at the first attempt is not used up when the focus goes to another form.
 void expectHeldOnce(TwoDates& dates, HWND next, bool errorFocus)
 {
     dates.enter(dates.first);

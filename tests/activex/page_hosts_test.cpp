@@ -78,7 +78,7 @@ TEST(PageSelections, AnObjectWithoutAutomationIsRefusedAndTheFormerOnesStay)
     EXPECT_EQ(shown.page->Apply(), S_OK);
 }
 
-// The page's own reference keeps the closed control: what is applied goes there and hurts nobody.
+// The page's reference keeps the closed control alive: what is applied is written there without an error.
 TEST(PageSelections, AControlClosedWhileItsPageIsOpenStillTakesItsValues)
 {
     const LeakCheck leaks;

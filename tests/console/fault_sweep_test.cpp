@@ -64,7 +64,7 @@ const Scenario scenarios[] = {
     {"tooltip", "", "tip new\ntip set Title \"t\"\ntip create\ntip show 1 2\ntip destroy"},
 };
 
-// Whatever happened, these lines print the same.
+// After any fault these lines print the same.
 constexpr const char* check = R"(
 trace none
 page close
@@ -118,7 +118,8 @@ bool survives(const Scenario& scenario, const std::function<void(Session&)>& arm
     output.clear();
     session.runScript(check);
     std::string answers = output;
-    for (const char* closed : {"palette colour", "error 91"}) // of what was not there any more
+    // from using a palette or a control that the fault has closed
+    for (const char* closed : {"palette colour", "error 91"})
         for (std::size_t at; (at = answers.find(closed)) == 0;)
             answers.erase(0, answers.find('\n') + 1);
     EXPECT_EQ(answers, checked);

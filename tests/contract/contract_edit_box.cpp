@@ -9,7 +9,7 @@ using platform::Selection;
 
 class EditBoxContract : public FieldCase {};
 
-// The same whether or not the field lays out what is typed.
+// The result is the same whether or not the field re-formats what is typed.
 class TypingContract : public FieldCase, public testing::WithParamInterface<bool> {
 protected:
     TypingContract()

@@ -1,4 +1,4 @@
-// The fields, and how what was seen is written down.
+// Makes the fields and writes down what was seen of them.
 #include "field_bench.h"
 
 #include <type_traits>

@@ -82,7 +82,7 @@ TEST(Amount, PutByAHandlerIsFormattedInsideAWriteOfTheControl)
     EXPECT_EQ(narrow(f.box().shownText()), "9,99");
 }
 
-// A key whose text cannot be written, and then its record cannot be either: nothing of the key happens after that.
+// When a key's text cannot be written, and the log record of that cannot either, nothing more of the key happens.
 TEST(Log, ThatCannotBeWrittenReachesTheCaller)
 {
     FieldBench bench;

@@ -127,7 +127,7 @@ TEST(Loading, ThatFailsLeavesAUsableFieldWithDefaultsForTheRest)
     }
 }
 
-// What was not read leaves the process's colours as they are, whatever a control loaded before has made of them.
+// Colours that were not read leave the process's colours as they are, whatever an earlier control has loaded.
 TEST(Loading, ThatFailsLeavesTheSharedColoursAlone)
 {
     const popups::CalendarColours others{{1}, {2}, {3}, {4}, {5}, {6}, {7}};

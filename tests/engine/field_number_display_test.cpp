@@ -65,7 +65,7 @@ TEST(NumberDisplay, OnExit)
     }
 }
 
-// The short way of grouping and the pattern agree wherever the short way is taken.
+// The fast path of grouping and the pattern agree wherever the fast path is taken.
 TEST(NumberDisplay, TheShortWayGroupsAsThePatternDoes)
 {
     const Pattern pattern(u"###,###,###,###,###,###,###,###,###,###,###,###,###,###,##0");
@@ -179,7 +179,7 @@ TEST(LiveFormat, Keystrokes)
     }
 }
 
-// What the rule makes of a keyed amount, with the pattern: the short way must not differ.
+// What the pattern makes of a keyed amount: the fast path must not differ.
 std::u16string byPattern(std::u16string digits, std::u16string_view grouping)
 {
     digits.erase(std::remove(digits.begin(), digits.end(), u','), digits.end());

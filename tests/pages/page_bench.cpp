@@ -115,7 +115,7 @@ void RecordingObject::makeAllDifferent()
         else
             value = next;
     }
-    // Within their lists; typing letters is free no more, so that they are kept.
+    // Values within their lists. Free typing is off, so that the allowed characters are kept.
     properties[u"TextType"] = std::int32_t{3};
     properties[u"SimbolDecExib"] = std::int32_t{2};
     properties[u"SimbolDecRet"] = std::int32_t{1};

@@ -254,7 +254,7 @@ TEST(Unloading, ComesAndGoesManyTimes)
     expectFlat(before, after, static_cast<SIZE_T>(rounds) * perLoading);
 }
 
-// Some have the library at work while it is let go of by the others; now and then by all of them.
+// Some threads keep the library working while the others release it; now and then all release it.
 TEST(Unloading, SixteenApartments)
 {
     if (!apart())
@@ -274,7 +274,7 @@ TEST(Unloading, SixteenApartments)
         ASSERT_TRUE(runOnThreads(works)) << "a thread does not end";
     };
     std::optional<KeptGlyphs> glyphs;
-    const Form first; // its class stands before the threads ask for it
+    const Form first; // its window class is registered before the threads ask for it
     const KeptControls controls;
     {
         const Apartment apartment;
