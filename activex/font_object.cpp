@@ -159,9 +159,8 @@ void FontObject::follow(const platform::FontDescription& description) noexcept
 {
     if (!own_.get() || written_ == description)
         return;
-    const bool before = std::exchange(writing_, true); // a sink that is notified of one part may change another
+    const engine::ScopedFlag writing(writing_, true); // a sink that is notified of one part may change another
     contained([&] { write(description); });
-    writing_ = before;
 }
 
 platform::FontDescription FontObject::adopt(IUnknown* object)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "activex/com/owners.h"
+#include "engine/scoped_value.h"
 #include "platform/edit_box.h"
 
 #include <ocidl.h>

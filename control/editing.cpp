@@ -168,7 +168,7 @@ void Vela::PasteSink::finish()
 
 bool Vela::raiseKeyPress(std::int16_t& key)
 {
-    const Liveness::Probe alive(life_);
+    const engine::Alive alive(life_);
     host_.raiseKeyPress(key);
     return static_cast<bool>(alive);
 }

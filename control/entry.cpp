@@ -7,7 +7,7 @@ namespace vela::control {
 
 void Vela::raise(void (platform::ControlHost::*event)())
 {
-    const Liveness::Probe alive(life_);
+    const engine::Alive alive(life_);
     (host_.*event)();
     if (!alive)
         engine::raise(engine::error_number::objectNotSet);

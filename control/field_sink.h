@@ -37,8 +37,8 @@ public:
 
 private:
     Vela& field_;
-    Liveness::Probe alive_; // writing a text may destroy the control
-    Scratch text_;          // as last read
+    engine::Alive alive_; // writing a text may destroy the control
+    Scratch text_;        // as last read
 };
 
 // The keys of a pasted text, typed one by one at a copy of the box's text; the box is written once, by finish().
@@ -69,7 +69,7 @@ private:
     void insert(std::u16string_view typed);
 
     Vela& field_;
-    Liveness::Probe alive_;
+    engine::Alive alive_;
     std::u16string before_;
     std::u16string text_;
     platform::Selection selectionBefore_;

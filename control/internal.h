@@ -26,28 +26,6 @@ constexpr std::u16string_view viewOf(const char16_t& symbol) noexcept
     return {&symbol, symbol == 0 ? std::size_t{0} : std::size_t{1}};
 }
 
-// Marks who is writing a text while the box reports it as changed.
-class Vela::WriterScope {
-public:
-    WriterScope(Vela& control, Writer writer) noexcept
-        : control_(control), alive_(control.life_), outer_(std::exchange(control.writer_, writer))
-    {
-    }
-    ~WriterScope()
-    {
-        if (alive_)
-            control_.writer_ = outer_;
-    }
-    WriterScope(const WriterScope&) = delete;
-    WriterScope& operator=(const WriterScope&) = delete;
-    [[nodiscard]] bool alive() const noexcept { return static_cast<bool>(alive_); }
-
-private:
-    Vela& control_;
-    Liveness::Probe alive_;
-    Writer outer_;
-};
-
 // A text buffer that the control lends to one routine. It is empty at first and keeps its capacity when it is returned.
 // Routines may nest: when the control has no buffer left, a new one is made.
 class Vela::Scratch {
@@ -83,7 +61,7 @@ private:
     }
 
     Vela& control_;
-    Liveness::Probe alive_;
+    engine::Alive alive_;
     std::unique_ptr<std::u16string> text_;
 };
 

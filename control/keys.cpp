@@ -35,7 +35,7 @@ void Vela::keyDown(int& code, int& shift)
             environment_.desktop.sendKeys(u"+{TAB}");
         auto told = static_cast<std::int16_t>(code);
         auto toldShift = static_cast<std::int16_t>(shift);
-        const Liveness::Probe alive(life_);
+        const engine::Alive alive(life_);
         host_.raiseKeyDown(told, toldShift);
         code = told;
         shift = toldShift;
@@ -81,7 +81,7 @@ void Vela::keyPress(int& key)
     if (deaf())
         return;
     whileAlive(life_, [&] {
-        const Liveness::Probe alive(life_);
+        const engine::Alive alive(life_);
         BoxSink sink(*this);
         key = engine::filterKeystroke(plainKey(key), sink);
         if (alive && !deaf())
@@ -148,7 +148,7 @@ void Vela::keyUp(int code, int shift)
     whileAlive(life_, [&] {
         auto told = static_cast<std::int16_t>(code);
         auto toldShift = static_cast<std::int16_t>(shift);
-        const Liveness::Probe alive(life_);
+        const engine::Alive alive(life_);
         host_.raiseKeyUp(told, toldShift);
         if (!alive || told != keyRightArrow || !masked())
             return;
@@ -166,7 +166,7 @@ void Vela::buttonClicked()
 // Opening reports its own failures; free text and masks have no pop-up.
 void Vela::openPopup()
 {
-    const Liveness::Probe alive(life_);
+    const engine::Alive alive(life_);
     if (settings_.textType == TipoText::Numerico)
         popups_.openCalculator(*this);
     else if (settings_.textType == TipoText::Data)

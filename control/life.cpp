@@ -3,6 +3,7 @@
 
 #include "control/persistence.h"
 #include "engine/error.h"
+#include "engine/scoped_value.h"
 #include "tooltip/about_box.h"
 
 namespace vela::control {
@@ -64,7 +65,7 @@ void Vela::load(platform::PropertyBag& bag)
         if (!failure)
             failure = error;
     };
-    const Liveness::Probe alive(life_);
+    const engine::Alive alive(life_);
     const auto step = [&](auto body) {
         if (!alive)
             return;
@@ -189,7 +190,7 @@ void Vela::LimparMemoria()
 
 void Vela::markChanged(View name)
 {
-    const Liveness::Probe alive(life_);
+    const engine::Alive alive(life_);
     host_.propertyChanged(name);
     if (!alive)
         engine::raise(engine::error_number::objectNotSet);
@@ -197,7 +198,7 @@ void Vela::markChanged(View name)
 
 void Vela::showBox(platform::BoxIcon icon, View title, View text)
 {
-    const Liveness::Probe alive(life_);
+    const engine::Alive alive(life_);
     environment_.desktop.messageBox(icon, platform::BoxButtons::ok, title, text);
     if (!alive)
         engine::raise(engine::error_number::objectNotSet);
@@ -212,9 +213,10 @@ void Vela::writeText(View text, Writer writer)
 {
     if (history_ && (writer == Writer::host || writer == Writer::life))
         history_->clear();
-    const WriterScope scope(*this, writer);
+    const engine::Alive alive(life_);
+    const engine::ScopedValue scope(life_, writer_, writer);
     box().putText(text);
-    if (!scope.alive())
+    if (!alive)
         engine::raise(engine::error_number::objectNotSet);
 }
 

@@ -1,10 +1,9 @@
 // The error traps of the control's routines: a failure is reported once and not passed on.
 #pragma once
 
-#include "control/liveness.h"
-#include "engine/error.h"
+#include "engine/alive.h"
+#include "engine/trapped.h"
 
-#include <new>
 #include <string>
 #include <utility>
 
@@ -14,32 +13,25 @@ namespace vela::control {
 // What the body did before it failed is not undone. When the control was destroyed meanwhile, 91 is raised to the
 // caller instead.
 template <class Body, class Report>
-void trap(Liveness& life, Body&& body, Report&& report)
+void trap(engine::Life& life, Body&& body, Report&& report)
 {
-    const Liveness::Probe alive(life);
+    const engine::Alive alive(life);
     int step = 0;
-    const auto tell = [&](engine::Error failure) {
-        if (!alive)
-            engine::raise(engine::error_number::objectNotSet);
-        failure.step = step;
-        if (failure.number != 0)
-            report(std::as_const(failure));
-    };
-    try {
-        std::forward<Body>(body)(step);
-    } catch (const engine::Error& error) {
-        tell(error);
-    } catch (const std::bad_alloc&) {
-        constexpr int number = engine::error_number::outOfMemory;
-        tell({.number = number, .description = std::u16string(engine::errorDescription(number))});
-    }
+    auto failure = engine::trapped([&] { std::forward<Body>(body)(step); });
+    if (!failure)
+        return;
+    if (!alive)
+        engine::raise(engine::error_number::objectNotSet);
+    failure->step = step;
+    if (failure->number != 0)
+        report(std::as_const(*failure));
 }
 
 // Runs a handler that the platform has called. Its error is passed on to the platform unless the control is gone.
 template <class Body>
-void whileAlive(Liveness& life, Body&& body)
+void whileAlive(engine::Life& life, Body&& body)
 {
-    const Liveness::Probe alive(life);
+    const engine::Alive alive(life);
     try {
         std::forward<Body>(body)();
     } catch (const engine::Error&) {

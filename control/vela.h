@@ -2,8 +2,8 @@
 #pragma once
 
 #include "control/history.h"
-#include "control/liveness.h"
 #include "control/settings.h"
+#include "engine/alive.h"
 #include "engine/date_check.h"
 #include "engine/error.h"
 #include "engine/field_value.h"
@@ -182,7 +182,6 @@ private:
     // Who writes a text. The live re-format runs for what a person or a host writes. The history records a person's
     // edits and is cleared when a host, loading, entry or exit writes.
     enum class Writer { person, host, life, keys, history };
-    class WriterScope;
     class Scratch;
     class BoxSink;   // the keystroke filter's view of the field
     class PasteSink; // the same over a text that is not yet in the box
@@ -287,7 +286,7 @@ private:
     std::unique_ptr<tooltip::CBalloonToolTip> alert_; // where the box has no balloon of its own
     std::unique_ptr<History> history_;                // from the first edit of a person on
     std::unique_ptr<engine::LivePattern> livePattern_;
-    Liveness life_;
+    engine::Life life_;
     Settings settings_;
     std::u16string formatoRetornoAtual_;
     std::u16string delimitadorAtual_;

@@ -3,6 +3,7 @@
 
 #include "engine/conversions.h"
 #include "engine/error.h"
+#include "engine/scoped_value.h"
 #include "pages/spoken_names.h"
 
 #include <algorithm>
@@ -18,17 +19,6 @@ using platform::WidgetId;
 using platform::WidgetKind;
 
 namespace {
-
-class Loading {
-public:
-    explicit Loading(bool& flag) : flag_(flag) { flag_ = true; }
-    ~Loading() { flag_ = false; }
-    Loading(const Loading&) = delete;
-    Loading& operator=(const Loading&) = delete;
-
-private:
-    bool& flag_;
-};
 
 Value colourValue(Colour colour)
 {
@@ -172,7 +162,7 @@ void PageForm::open(std::span<PropertyObject* const> selection, const Action& lo
     object_ = selection.empty() ? nullptr : selection.front();
     failedLoad_ = engine::Error{.number = engine::error_number::objectNotSet}; // until the load says otherwise
     try {
-        const Loading loading(loading_);
+        const engine::ScopedFlag loading(loading_, true);
         load();
         failedLoad_.reset();
     } catch (const engine::Error& error) {

@@ -1,8 +1,8 @@
 // Initialisation, starting date and highlight counting of a calendar.
 #include "popups/calendar_operations.h"
 
+#include "engine/trapped.h"
 #include "popups/grid_dates.h"
-#include "popups/trap.h"
 
 namespace vela::popups {
 
@@ -15,11 +15,11 @@ CalendarOperations::CalendarOperations(platform::Environment& environment, platf
 // The model is filled before a widget can fail. After a failure, what the model holds is shown all the same.
 void CalendarOperations::load()
 {
-    auto error = trapped([&] {
+    auto error = engine::trapped([&] {
         grid.initialise(civilToday(environment_.clock.now()));
         grid.show();
     });
-    const auto unseen = trapped([&] { view.refresh(); });
+    const auto unseen = engine::trapped([&] { view.refresh(); });
     if (!error)
         error = unseen;
     if (error && error->number != 0)

@@ -1,6 +1,7 @@
 // Painting the grid onto a form's widgets and reading its combos.
 #include "popups/calendar_view.h"
 
+#include "engine/scoped_value.h"
 #include "popups/calendar_keys.h"
 #include "popups/calendar_layout.h"
 #include "popups/grid_dates.h"
@@ -47,18 +48,6 @@ void putBack(platform::Form& form, platform::WidgetId id, engine::Colour colour,
     form.putLook(id, look);
 }
 
-// True while the view itself chooses in the combos, whose Click is then ignored.
-class Refreshing {
-public:
-    explicit Refreshing(bool& flag) noexcept : flag_(flag) { flag_ = true; }
-    ~Refreshing() { flag_ = false; }
-    Refreshing(const Refreshing&) = delete;
-    Refreshing& operator=(const Refreshing&) = delete;
-
-private:
-    bool& flag_;
-};
-
 } // namespace
 
 CalendarView::CalendarView(platform::Form& form, CalendarGrid& grid, const SharedCalendarColours& colours)
@@ -90,7 +79,7 @@ void CalendarView::colourHeader()
 
 void CalendarView::refresh()
 {
-    const Refreshing refreshing(refreshing_);
+    const engine::ScopedFlag refreshing(refreshing_, true);
     colours_ = shared_.read();
     applyColours();
     colourHeader();

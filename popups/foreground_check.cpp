@@ -1,7 +1,7 @@
 // The foreground check of the calendar and the calculator.
 #include "popups/foreground_check.h"
 
-#include "popups/trap.h"
+#include "engine/trapped.h"
 
 namespace vela::popups {
 
@@ -26,7 +26,7 @@ bool mayStayOpen(platform::WindowId popup, Owner& owner, const platform::Environ
                  std::u16string_view label)
 {
     bool inFront = false;
-    const auto error = trapped([&] { inFront = isInFront(popup, owner, environment.desktop); });
+    const auto error = engine::trapped([&] { inFront = isInFront(popup, owner, environment.desktop); });
     if (error && error->number != 0 && error->number != clientSiteNotAvailable)
         environment.log.append(popupLogPath, {error->number, error->description, std::u16string(label)});
     return !error && inFront;

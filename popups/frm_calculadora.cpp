@@ -2,8 +2,8 @@
 #include "popups/frm_calculadora.h"
 
 #include "engine/conversions.h"
+#include "engine/trapped.h"
 #include "popups/calculator_layout.h"
-#include "popups/trap.h"
 
 namespace vela::popups {
 
@@ -53,7 +53,7 @@ void frmCalculadora::load()
     constexpr void (frmCalculadora::*steps[])() = {&frmCalculadora::nameButtons, &frmCalculadora::paintDisplay};
     model_.resetForLoad();
     for (const auto step : steps) {
-        const auto error = trapped([&] { (this->*step)(); });
+        const auto error = engine::trapped([&] { (this->*step)(); });
         if (!error || error->number == engine::error_number::invalidPropertyValue)
             continue;
         if (error->number == 0)

@@ -2,11 +2,11 @@
 #include "popups/launching.h"
 
 #include "engine/conversions.h"
+#include "engine/trapped.h"
 #include "popups/calendar_grid.h"
 #include "popups/calendario_sdi.h"
 #include "popups/frm_calculadora.h"
 #include "popups/grid_dates.h"
-#include "popups/trap.h"
 
 namespace vela::popups {
 
@@ -47,7 +47,7 @@ void launch(const platform::Environment& environment, const FailureTexts& texts,
             Steps&& steps)
 {
     int step = 0;
-    const auto error = trapped([&] { steps(step); });
+    const auto error = engine::trapped([&] { steps(step); });
     if (!error)
         return;
     discard();

@@ -1,10 +1,11 @@
 // The record of a thread's pop-ups: opening, closing, and letting go of closed ones at a safe moment.
 #include "popups/popups.h"
 
+#include "engine/scoped_value.h"
+#include "engine/trapped.h"
 #include "popups/calendario_sdi.h"
 #include "popups/frm_calculadora.h"
 #include "popups/launching.h"
-#include "popups/trap.h"
 
 #include <vector>
 
@@ -56,7 +57,7 @@ public:
 
     void discard()
     {
-        if (loaded_ && trapped([&] { loaded_->unload(); }) && loaded_)
+        if (loaded_ && engine::trapped([&] { loaded_->unload(); }) && loaded_)
             loaded_->closed(); // its window failed to close: the record lets go of it anyway
     }
 
@@ -72,17 +73,6 @@ private:
 
     std::unique_ptr<PopupForm> loaded_;
     std::vector<std::unique_ptr<PopupForm>> aside_;
-};
-
-class Opening {
-public:
-    explicit Opening(bool& flag) noexcept : flag_(flag) { flag_ = true; }
-    ~Opening() { flag_ = false; }
-    Opening(const Opening&) = delete;
-    Opening& operator=(const Opening&) = delete;
-
-private:
-    bool& flag_;
 };
 
 } // namespace
@@ -115,7 +105,7 @@ SharedCalendarColours& Popups::colours() const noexcept
 
 void Popups::openCalendar(Owner& owner)
 {
-    const Opening opening(state_->calendar.opening);
+    const engine::ScopedFlag opening(state_->calendar.opening, true);
     const auto load = [this]() -> CalendarioSDI& {
         state_->calculator.close();
         return state_->calendar.load([this](PopupRecord& record) {
@@ -127,7 +117,7 @@ void Popups::openCalendar(Owner& owner)
 
 void Popups::openCalculator(Owner& owner)
 {
-    const Opening opening(state_->calculator.opening);
+    const engine::ScopedFlag opening(state_->calculator.opening, true);
     const auto load = [this]() -> frmCalculadora& {
         state_->calendar.close();
         return state_->calculator.load([this](PopupRecord& record) {

@@ -3,7 +3,7 @@
 
 #include "activex/com/owners.h"
 #include "engine/error.h"
-#include "platform/win32/thread.h"
+#include "platform/win32/guard.h"
 
 #include <type_traits>
 
@@ -46,16 +46,6 @@ HRESULT guarded(Call&& call) noexcept
     }
 }
 
-// For notifications that have nobody to report to.
-template <class Call>
-void contained(Call&& call) noexcept
-{
-    const win32::LibraryCall inside;
-    try {
-        call();
-    } catch (...) {
-        return;
-    }
-}
+using win32::contained; // for notifications that have nobody to report to
 
 } // namespace vela::activex

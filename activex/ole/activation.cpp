@@ -4,6 +4,7 @@
 #include "activex/com/guard.h"
 #include "activex/ole/modal_frames.h"
 #include "activex/ole/shell.h"
+#include "engine/scoped_value.h"
 
 namespace vela::activex {
 
@@ -27,10 +28,7 @@ HRESULT Activation::activate()
     }
     if (entering_)
         return E_FAIL;
-    entering_ = true;
-    closed_ = false;
     const HRESULT entered = enter();
-    entering_ = false;
     if (SUCCEEDED(entered) && inPlace_)
         if (const auto client = ComPtr<IOleClientSite>::share(shell_.site().client()))
             client->ShowObject();
@@ -39,6 +37,8 @@ HRESULT Activation::activate()
 
 HRESULT Activation::enter()
 {
+    const engine::ScopedFlag entering(entering_, true);
+    closed_ = false;
     auto site = shell_.site().offers<IOleInPlaceSite>();
     if (!site)
         return shell_.site() ? E_FAIL : OLE_E_NOT_INPLACEACTIVE;
@@ -149,7 +149,7 @@ void Activation::deactivate() noexcept
     closed_ = true;
     if (!inPlace_ || leaving_)
         return;
-    leaving_ = true;
+    const engine::ScopedFlag leaving(leaving_, true);
     deactivateInterface();
     inPlace_ = false;
     if (Content* content = shell_.made())
@@ -159,7 +159,6 @@ void Activation::deactivate() noexcept
     document_.reset();
     if (const auto site = std::move(site_))
         site->OnInPlaceDeactivate();
-    leaving_ = false;
 }
 
 void Activation::putRects(const RECT& place, const RECT& bounds)

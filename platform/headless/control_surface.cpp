@@ -1,6 +1,8 @@
 // The control's window: its boxes, and what reaches them from the form.
 #include "platform/headless/control_surface.h"
 
+#include "engine/scoped_value.h"
+
 #include "platform/headless/tooltip_window.h"
 
 #include <utility>
@@ -120,9 +122,9 @@ void ControlSurface::clickButton()
 {
     if (!look_.button)
         return;
-    const LifeLine::Watch watch(life_);
+    const engine::Alive alive(life_);
     form().focus(*this);
-    if (!watch.gone() && form().focused() == this && surfaceEvents_ != nullptr)
+    if (alive && form().focused() == this && surfaceEvents_ != nullptr)
         surfaceEvents_->buttonClicked();
 }
 
@@ -139,19 +141,8 @@ void ControlSurface::enter()
 {
     if (surfaceEvents_ == nullptr)
         return;
-    const LifeLine::Watch watch(life_);
-    const auto done = [&] {
-        if (!watch.gone())
-            entering_ = false; // also when the box was not given the focus
-    };
-    entering_ = true;
-    try {
-        surfaceEvents_->surfaceGotFocus();
-    } catch (...) {
-        done();
-        throw;
-    }
-    done();
+    const engine::ScopedFlag entering(life_, entering_, true); // also when the box was not given the focus
+    surfaceEvents_->surfaceGotFocus();
 }
 
 void ControlSurface::askBoxFocus()
@@ -168,10 +159,10 @@ void ControlSurface::askBoxFocus()
 
 void ControlSurface::leave(platform::Leaving leaving)
 {
-    const LifeLine::Watch watch(life_);
+    const engine::Alive alive(life_);
     if (std::exchange(boxFocused_, false) && boxEvents_ != nullptr)
         boxEvents_->lostFocus(leaving);
-    if (!watch.gone() && surfaceEvents_ != nullptr)
+    if (alive && surfaceEvents_ != nullptr)
         surfaceEvents_->surfaceLostFocus();
 }
 

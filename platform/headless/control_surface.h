@@ -80,7 +80,7 @@ private:
     bool hoverTimer_ = false;
     bool boxFocused_ = false;
     bool entering_ = false;
-    LifeLine life_;
+    engine::Life life_;
 };
 
 } // namespace vela::headless

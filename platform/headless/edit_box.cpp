@@ -175,20 +175,20 @@ void EditBox::reportChange()
 // A handler may destroy the box: after that no member is used. A handler that disables the box ends the key.
 void EditBox::key(Key key)
 {
-    const LifeLine::Watch watch(life_);
+    const engine::Alive alive(life_);
     platform::EditBoxEvents* const events = surface_.boxEvents(*this);
     int code = key.code;
     int shift = 0;
     if (events != nullptr)
         events->keyDown(code, shift);
-    if (watch.gone() || !traits_->enabled)
+    if (!alive || !traits_->enabled)
         return;
     const bool swallowed = key.code != 0 && code == 0;
     if (!swallowed) {
         int character = key.pressed ? key.character : 0;
         if (key.pressed && events != nullptr)
             events->keyPress(character);
-        if (watch.gone() || !traits_->enabled)
+        if (!alive || !traits_->enabled)
             return;
         if (key.pressed)
             applyCharacter(character);
@@ -196,7 +196,7 @@ void EditBox::key(Key key)
             applyControlKey(code);
         else
             applyNamedKey(code);
-        if (watch.gone())
+        if (!alive)
             return;
     }
     if (events != nullptr)
@@ -286,9 +286,9 @@ void EditBox::clickAtEnd()
 
 void EditBox::doubleClick()
 {
-    const LifeLine::Watch watch(life_);
+    const engine::Alive alive(life_);
     clickAtEnd();
-    if (watch.gone())
+    if (!alive)
         return;
     if (platform::EditBoxEvents* events = surface_.boxEvents(*this))
         events->doubleClicked();

@@ -1,10 +1,10 @@
 // An edit box in memory: text, selection, colours and traits, and what a person's keys do to them.
 #pragma once
 
+#include "engine/alive.h"
 #include "platform/edit_box.h"
 #include "platform/headless/fault.h"
 #include "platform/headless/keys.h"
-#include "platform/headless/life_line.h"
 
 #include "engine/error.h"
 
@@ -90,7 +90,7 @@ private:
     std::u16string text_;
     std::shared_ptr<const platform::EditTraits> traits_; // shared by all boxes that keep the first ones
     mutable std::unique_ptr<Failures> failures_;
-    LifeLine life_;
+    engine::Life life_;
 };
 
 } // namespace vela::headless

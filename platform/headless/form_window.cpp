@@ -1,6 +1,8 @@
 // How the focus and the pointer move over the form, and how a person's acts reach the focused element.
 #include "platform/headless/form_window.h"
 
+#include "engine/scoped_value.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -143,7 +145,7 @@ void FormWindow::moveFocus(Element* target)
         wanted_ = target;
         return;
     }
-    moving_ = true;
+    const engine::ScopedFlag moving(moving_, true);
     for (int moves = 0; moves < longestChase; ++moves) {
         wanted_ = nullptr;
         leaveFocused();
@@ -156,7 +158,6 @@ void FormWindow::moveFocus(Element* target)
         if (!refused && (target == nullptr || target == focused_))
             break;
     }
-    moving_ = false;
     wanted_ = nullptr;
     rethrow(failure_);
 }

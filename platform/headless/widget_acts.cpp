@@ -62,15 +62,15 @@ bool WidgetForm::type(WidgetId widget, Key key)
 {
     if (!acts(widget))
         return false;
-    const LifeLine::Watch watch(life_);
+    const engine::Alive alive(life_);
     int code = key.code;
     int shift = 0;
     events_.keyDown(widget, code, shift);
     const bool swallowed = key.code != 0 && code == 0;
-    if (watch.gone() || swallowed || !key.pressed)
+    if (!alive || swallowed || !key.pressed)
         return true;
     const char16_t character = filter(widget, key.character);
-    if (!watch.gone() && character != 0 && isTyped(kindOf(widget)))
+    if (alive && character != 0 && isTyped(kindOf(widget)))
         typeCharacter(widget, character);
     return true;
 }
@@ -98,11 +98,11 @@ bool WidgetForm::enterText(WidgetId widget, std::u16string_view text)
 {
     if (!acts(widget))
         return false;
-    const LifeLine::Watch watch(life_);
+    const engine::Alive alive(life_);
     std::u16string accepted;
     for (const char16_t unit : text) {
         const char16_t key = filter(widget, unit);
-        if (watch.gone())
+        if (!alive)
             return true;
         if (key != 0)
             accepted += key;

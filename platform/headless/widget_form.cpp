@@ -204,10 +204,10 @@ void WidgetForm::raiseFocus(WidgetId widget)
 {
     if (widget == focused_)
         return;
-    const LifeLine::Watch watch(life_);
+    const engine::Alive alive(life_);
     if (const WidgetId left = std::exchange(focused_, widget))
         events_.lostFocus(left);
-    if (!watch.gone() && focused_ == widget)
+    if (alive && focused_ == widget)
         events_.gotFocus(widget);
 }
 
@@ -236,12 +236,12 @@ void WidgetForm::showPopup(engine::RectPixels place, platform::WindowId)
 void WidgetForm::showModal()
 {
     forms_.faults().pass();
-    const LifeLine::Watch watch(life_);
+    const engine::Alive alive(life_);
     shown_ = true;
     forms_.desktop().activate(this);
-    if (!watch.gone() && forms_.modalScript)
+    if (alive && forms_.modalScript)
         forms_.modalScript(*this);
-    if (!watch.gone())
+    if (alive)
         close();
 }
 

@@ -2,10 +2,10 @@
 // them.
 #pragma once
 
+#include "engine/alive.h"
 #include "platform/form.h"
 #include "platform/headless/desktop.h"
 #include "platform/headless/keys.h"
-#include "platform/headless/life_line.h"
 
 #include <functional>
 #include <memory>
@@ -98,7 +98,7 @@ private:
     bool shown_ = false;
     bool popup_ = false;
     bool closed_ = false;
-    LifeLine life_;
+    engine::Life life_;
 };
 
 // Makes the forms and knows those that live.

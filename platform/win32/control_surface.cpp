@@ -74,10 +74,10 @@ void ControlSurface::create(HWND parent, const RECT& place)
     const bool resized = !sameSize(place, place_) || dpi != dpi_;
     place_ = place;
     dpi_ = dpi;
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     if (resized && events_)
         events_->resized(); // the layout first, so that the parts are made in their places
-    if (!watch.alive() || window_ != made)
+    if (!alive || window_ != made)
         return;
     for (std::size_t i = 0; i < boxes_.size(); ++i)
         if (boxes_[i] && i == active_)
@@ -103,9 +103,9 @@ void ControlSurface::destroy()
     if (!window_ || destroying_)
         return;
     destroying_ = true;
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     edit().letGo();
-    if (!watch.alive())
+    if (!alive)
         return;
     for (auto& box : boxes_)
         if (box)
@@ -128,10 +128,10 @@ void ControlSurface::reparent(HWND parent, const RECT& place)
 void ControlSurface::place(const RECT& place)
 {
     if (window_) { // WM_SIZE compares with the former size, and reports
-        Watch watch(life_);
+        const engine::Alive alive(life_);
         SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                      SWP_NOZORDER | SWP_NOACTIVATE);
-        if (watch.alive())
+        if (alive)
             place_ = place;
         return;
     }
@@ -399,9 +399,9 @@ LRESULT ControlSurface::command(WPARAM first, LPARAM second)
 // The field has the focus before its pop-up opens, and the button gives it back.
 void ControlSurface::buttonPressed()
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     edit().takeFocus();
-    if (watch.alive() && edit().hasFocus() && events_)
+    if (alive && edit().hasFocus() && events_)
         events_->buttonClicked();
 }
 
@@ -463,10 +463,10 @@ void ControlSurface::sizeChanged()
         refreshDpi();
         return;
     }
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     if (events_)
         events_->resized();
-    if (watch.alive() && window_)
+    if (alive && window_)
         applyRegion();
 }
 
@@ -474,11 +474,8 @@ void ControlSurface::tick(WPARAM timer)
 {
     if (timer != hoverTimer || !events_ || ticking_)
         return;
-    Watch watch(life_);
-    ticking_ = true; // a handler may run a message loop
-    guarded([this] { events_->hoverTick(); });
-    if (watch.alive())
-        ticking_ = false;
+    const engine::ScopedFlag ticking(life_, ticking_, true); // a handler may run a message loop
+    contained([this] { events_->hoverTick(); });
 }
 
 // Gives the focus to the edit box; surfaceLostFocus() is reported when the focus leaves that box.

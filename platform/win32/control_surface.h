@@ -1,9 +1,10 @@
 // The control's own window: a child of the host's that carries the EDITs, the button, the border and the timer.
 #pragma once
 
+#include "engine/alive.h"
+#include "engine/scoped_value.h"
 #include "platform/control_surface.h"
 #include "platform/win32/edit_box.h"
-#include "platform/win32/life.h"
 #include "platform/win32/name_label.h"
 #include "platform/win32/window.h"
 
@@ -101,7 +102,7 @@ private:
     void repaint() const;
     EditBox& box(platform::EditBoxKind kind);
 
-    Life life_;
+    engine::Life life_;
     platform::SurfaceEvents* events_ = nullptr;
     platform::EditBoxEvents* editEvents_ = nullptr;
     SurfaceListener* listener_ = nullptr;

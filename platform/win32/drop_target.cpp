@@ -47,7 +47,7 @@ public:
     STDMETHODIMP DragLeave() noexcept override { return S_OK; }
     STDMETHODIMP Drop(IDataObject* data, DWORD, POINTL point, DWORD* effect) noexcept override
     {
-        return guarded(
+        return contained(
             [&]() -> HRESULT {
                 const HRESULT result = answer(effect);
                 if (acceptable_ && data)

@@ -359,9 +359,9 @@ bool EditBox::typeUnseen(int unit)
     text_.replace(at, static_cast<std::size_t>(replaced.length), 1, typed);
     kept_ = {replaced.start + 1, 0};
     behind_ = true;
-    Watch watch(life_);
-    guarded([this] { reportChange(); });
-    if (watch.alive())
+    const engine::Alive alive(life_);
+    contained([this] { reportChange(); });
+    if (alive)
         showText();
     return true;
 }
@@ -432,16 +432,16 @@ LRESULT EditBox::native(UINT message, WPARAM first, LPARAM second) const noexcep
 // The change is reported when the EDIT has returned, because a handler may destroy the window under it.
 LRESULT EditBox::pass(UINT message, WPARAM first, LPARAM second)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     ++passing_;
     const LRESULT result = native(message, first, second);
-    if (!watch.alive())
+    if (!alive)
         return result;
     --passing_;
     if (changed_ && passing_ == 0) {
         changed_ = false;
         if (becameAnother())
-            guarded([this] { reportChange(); });
+            contained([this] { reportChange(); });
     }
     return result;
 }

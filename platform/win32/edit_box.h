@@ -1,9 +1,9 @@
 // A real EDIT window as the inner box of a field; without a window it keeps text and selection itself.
 #pragma once
 
+#include "engine/alive.h"
 #include "platform/edit_box.h"
 #include "platform/win32/fonts.h"
-#include "platform/win32/life.h"
 
 #include <windows.h>
 
@@ -101,7 +101,7 @@ private:
     [[nodiscard]] platform::EditBoxEvents* events() const noexcept;
     [[nodiscard]] bool isSingle() const noexcept { return kind_ == platform::EditBoxKind::singleLine; }
 
-    Life life_;
+    engine::Life life_;
     ControlSurface& surface_;
     platform::EditBoxKind kind_;
     bool entered_ = false;     // gotFocus() reported, lostFocus() not yet

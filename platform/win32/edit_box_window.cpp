@@ -69,7 +69,7 @@ LRESULT CALLBACK EditBox::procedure(HWND window, UINT message, WPARAM first, LPA
     auto* box = static_cast<EditBox*>(boundObject(window));
     if (!box)
         return behindProcedure(window, message, first, second);
-    return guarded([&] { return box->handle(message, first, second); }, LRESULT{0});
+    return contained([&] { return box->handle(message, first, second); }, LRESULT{0});
 }
 
 LRESULT EditBox::handle(UINT message, WPARAM first, LPARAM second)
@@ -131,20 +131,20 @@ LRESULT EditBox::onSetText(WPARAM first, LPARAM second)
     refresh();
     const LRESULT result = native(WM_SETTEXT, first, second);
     // A multi-line EDIT sends no EN_CHANGE for WM_SETTEXT, so the texts are compared.
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     if (result && !sameText()) {
         changed_ = false;
         stale_ = true;
         reportChange();
     }
-    if (watch.alive())
+    if (alive)
         changed_ = false;
     return result;
 }
 
 LRESULT EditBox::onKeyDown(UINT message, WPARAM code, LPARAM data)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const HWND window = edit_;
     swallowChar_ = false;
     int key = static_cast<int>(code);
@@ -153,7 +153,7 @@ LRESULT EditBox::onKeyDown(UINT message, WPARAM code, LPARAM data)
         return onTab({window, message, code, data, static_cast<DWORD>(GetMessageTime()), {}}, (shift & shiftKey) != 0);
     if (platform::EditBoxEvents* listener = events(); listener && key != VK_PROCESSKEY)
         listener->keyDown(key, shift);
-    if (!watch.alive() || edit_ != window)
+    if (!alive || edit_ != window)
         return 0;
     swallowChar_ = key == 0;
     if (key == 0 || shortcut(key, shift))
@@ -167,13 +167,13 @@ LRESULT EditBox::onKeyDown(UINT message, WPARAM code, LPARAM data)
 
 LRESULT EditBox::onKeyUp(UINT message, WPARAM code, LPARAM data)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const HWND window = edit_;
     if (!shift_ || code == VK_SHIFT || code == VK_CONTROL || code == VK_MENU)
         shift_ = shiftState();
     if (platform::EditBoxEvents* listener = events(); listener && code != VK_PROCESSKEY && code != VK_TAB)
         listener->keyUp(static_cast<int>(code), *shift_);
-    return watch.alive() && edit_ == window ? pass(message, code, data) : 0;
+    return alive && edit_ == window ? pass(message, code, data) : 0;
 }
 
 LRESULT EditBox::onChar(WPARAM unit, LPARAM data)
@@ -182,12 +182,12 @@ LRESULT EditBox::onChar(WPARAM unit, LPARAM data)
         return 0;
     if (isControl(unit))
         return onControl(unit, data);
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const HWND window = edit_;
     int key = static_cast<int>(unit);
     if (platform::EditBoxEvents* listener = events())
         listener->keyPress(key);
-    if (!watch.alive() || edit_ != window || key == 0)
+    if (!alive || edit_ != window || key == 0)
         return 0;
     if (isSingle() && (key == VK_RETURN || key == '\n' || key == VK_ESCAPE))
         return 0; // the EDIT would only beep
@@ -197,7 +197,7 @@ LRESULT EditBox::onChar(WPARAM unit, LPARAM data)
     refresh();
     expectTyped(key, selected);
     const LRESULT result = pass(WM_CHAR, static_cast<WPARAM>(key), data);
-    if (watch.alive())
+    if (alive)
         typedAt_ = -1;
     return result;
 }
@@ -206,12 +206,12 @@ LRESULT EditBox::onChar(WPARAM unit, LPARAM data)
 // inserted.
 LRESULT EditBox::onControl(WPARAM unit, LPARAM data)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const HWND window = edit_;
     int key = static_cast<int>(unit);
     if (platform::EditBoxEvents* listener = events())
         listener->controlPress(key);
-    if (!watch.alive() || edit_ != window || key == 0)
+    if (!alive || edit_ != window || key == 0)
         return 0;
     switch (unit) {
     case controlA: command(editSelectAll); return 0;
@@ -235,10 +235,10 @@ LRESULT EditBox::onUnicode(WPARAM codePoint, LPARAM data)
         return TRUE;
     if (codePoint < 0x10000)
         return onChar(codePoint, data);
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const WPARAM beyond = codePoint - 0x10000;
     onChar(0xD800 + (beyond >> 10), data);
-    if (watch.alive() && edit_)
+    if (alive && edit_)
         onChar(0xDC00 + (beyond & 0x3FF), data);
     return FALSE;
 }
@@ -247,11 +247,11 @@ LRESULT EditBox::onUnicode(WPARAM codePoint, LPARAM data)
 // the composition.
 LRESULT EditBox::onComposition(WPARAM first, LPARAM flags)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     if (flags & GCS_RESULTSTR)
         for (const char16_t unit : composed(edit_)) {
             onChar(unit, 1);
-            if (!watch.alive() || !edit_)
+            if (!alive || !edit_)
                 return 0;
         }
     const LPARAM rest = flags & ~LPARAM{GCS_RESULTSTR};
@@ -261,18 +261,18 @@ LRESULT EditBox::onComposition(WPARAM first, LPARAM flags)
 LRESULT EditBox::onFocus(WPARAM first, LPARAM second)
 {
     shift_.reset();
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const LRESULT result = pass(WM_SETFOCUS, first, second);
-    if (watch.alive() && edit_ && !rebuilding_)
+    if (alive && edit_ && !rebuilding_)
         enter();
     return result;
 }
 
 LRESULT EditBox::onFocusLost(HWND next, LPARAM second)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const LRESULT result = pass(WM_KILLFOCUS, reinterpret_cast<WPARAM>(next), second);
-    if (!watch.alive() || !entered_ || rebuilding_)
+    if (!alive || !entered_ || rebuilding_)
         return result;
     if (arbiter_.borrows(next) || (next && ownsWindow(next)))
         arbiter_.lend(*this);
@@ -287,15 +287,15 @@ void EditBox::enter()
         arbiter_.regained(*this);
         return;
     }
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     arbiter_.entering(*this);
-    if (!watch.alive() || arbiter_.suppresses(*this))
+    if (!alive || arbiter_.suppresses(*this))
         return;
     entered_ = true;
     const FocusArbiter::Change change(arbiter_, nullptr, true);
     if (SurfaceListener* listener = surface_.listener_)
         listener->focusEntered();
-    if (!watch.alive())
+    if (!alive)
         return;
     if (platform::EditBoxEvents* listener = events())
         listener->gotFocus();
@@ -304,16 +304,16 @@ void EditBox::enter()
 // The focus returns only within the same form, so that closing or deactivating a form is never prevented.
 void EditBox::leave(HWND next)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     entered_ = false;
     const bool within = IsWindowEnabled(edit_) && sameForm(next, edit_);
     const FocusArbiter::Change change(arbiter_, this, within);
     const platform::Leaving leaving = within ? platform::Leaving::within : platform::Leaving::away;
     if (platform::EditBoxEvents* listener = events())
-        guarded([listener, leaving] { listener->lostFocus(leaving); });
-    if (platform::SurfaceEvents* listener = watch.alive() ? surface_.events_ : nullptr)
-        guarded([listener] { listener->surfaceLostFocus(); });
-    if (!watch.alive() || arbiter_.returnsTo(*this))
+        contained([listener, leaving] { listener->lostFocus(leaving); });
+    if (platform::SurfaceEvents* listener = alive ? surface_.events_ : nullptr)
+        contained([listener] { listener->surfaceLostFocus(); });
+    if (!alive || arbiter_.returnsTo(*this))
         return;
     if (SurfaceListener* listener = surface_.listener_)
         listener->focusLeft();
@@ -375,9 +375,9 @@ bool EditBox::ownsWindow(HWND window) const noexcept
 
 LRESULT EditBox::onMove(WPARAM first, LPARAM second)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const LRESULT result = pass(WM_MOUSEMOVE, first, second);
-    if (watch.alive())
+    if (alive)
         if (platform::EditBoxEvents* listener = events())
             listener->pointerMoved();
     return result;
@@ -385,11 +385,11 @@ LRESULT EditBox::onMove(WPARAM first, LPARAM second)
 
 LRESULT EditBox::onButtonUp(WPARAM first, LPARAM second)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const bool click = !std::exchange(skipClick_, false);
     const LRESULT result = pass(WM_LBUTTONUP, first, second);
     // Without the focus no click is reported.
-    if (watch.alive() && click && entered_)
+    if (alive && click && entered_)
         if (platform::EditBoxEvents* listener = events())
             listener->clicked();
     return result;
@@ -397,10 +397,10 @@ LRESULT EditBox::onButtonUp(WPARAM first, LPARAM second)
 
 LRESULT EditBox::onDoubleClick(WPARAM first, LPARAM second)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     skipClick_ = true;
     const LRESULT result = pass(WM_LBUTTONDBLCLK, first, second);
-    if (watch.alive() && entered_)
+    if (alive && entered_)
         if (platform::EditBoxEvents* listener = events())
             listener->doubleClicked();
     return result;
@@ -419,11 +419,11 @@ LRESULT EditBox::dialogCode(WPARAM first, LPARAM second)
 
 LRESULT EditBox::onMenu(LPARAM point)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const platform::Selection marked = selection();
     const EditMenuState state{marked.length > 0, traits_.passwordChar != 0, textLength() > 0};
     const UINT chosen = showEditMenu(edit_, point, state);
-    if (watch.alive() && chosen)
+    if (alive && chosen)
         command(chosen);
     return 0;
 }
@@ -490,10 +490,10 @@ void EditBox::cut(bool keep)
 
 void EditBox::dropped(std::u16string_view text, POINT point)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     ScreenToClient(edit_, &point);
     takeFocus();
-    if (!watch.alive() || !edit_)
+    if (!alive || !edit_)
         return;
     const LRESULT position = native(EM_CHARFROMPOS, 0, MAKELPARAM(point.x, point.y));
     native(EM_SETSEL, LOWORD(position), LOWORD(position));
@@ -504,10 +504,10 @@ void EditBox::dropped(std::u16string_view text, POINT point)
 // The host's message loop did not use the Tab: asks the container once more, then moves the focus from here.
 LRESULT EditBox::onTab(const MSG& key, bool back)
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     MSG unused = key;
     SurfaceListener* const listener = surface_.listener_;
-    if ((listener && listener->tabUnused(unused)) || !watch.alive() || edit_ != key.hwnd)
+    if ((listener && listener->tabUnused(unused)) || !alive || edit_ != key.hwnd)
         return 0;
     if (const HWND next = nextTabStop(edit_, back))
         SetFocus(next);

@@ -169,7 +169,7 @@ LRESULT FocusArbiter::handle(HWND window, UINT message, WPARAM first, LPARAM sec
     if (message != settleMessage)
         return DefWindowProcW(window, message, first, second);
     static_cast<void>(retain()); // entering a field may destroy the last one
-    guarded([this] { settle(); });
+    contained([this] { settle(); });
     release();
     return 0;
 }
@@ -209,7 +209,7 @@ void FocusArbiter::endLoan()
 void FocusArbiter::runLater()
 {
     for (auto& work : std::exchange(later_, {}))
-        guarded(work);
+        contained(work);
 }
 
 } // namespace vela::win32

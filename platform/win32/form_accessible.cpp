@@ -171,7 +171,7 @@ public:
         if (!spoken)
             return standard_.accDoDefaultAction(behind(child));
         const int widget = spoken->widget;
-        guarded([this, widget] { form_->clickLabel(widget); }); // may be the end of the form
+        contained([this, widget] { form_->clickLabel(widget); }); // may be the end of the form
         return S_OK;
     }
     STDMETHODIMP put_accName(VARIANT, BSTR) noexcept override { return E_NOTIMPL; }
@@ -180,7 +180,7 @@ public:
 private:
     const std::vector<SpokenLabel>& labels() noexcept
     {
-        guarded([this] { labels_ = form_ ? form_->spokenLabels() : std::vector<SpokenLabel>{}; });
+        contained([this] { labels_ = form_ ? form_->spokenLabels() : std::vector<SpokenLabel>{}; });
         return labels_;
     }
     // Child 1 is the first label. Null for the form itself and for its windows.

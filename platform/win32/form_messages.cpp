@@ -17,24 +17,6 @@ namespace {
 using platform::WidgetId;
 using platform::WidgetKind;
 
-// Counts the procedures under way of a form that may go meanwhile.
-class Running {
-public:
-    Running(int& count, Life& life) noexcept : count_(count), watch_(life) { ++count_; }
-    Running(const Running&) = delete;
-    Running& operator=(const Running&) = delete;
-    ~Running()
-    {
-        if (watch_.alive())
-            --count_;
-    }
-    [[nodiscard]] bool alive() const noexcept { return watch_.alive(); }
-
-private:
-    int& count_;
-    Watch watch_;
-};
-
 std::u16string textOf(HWND window)
 {
     std::u16string text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, u'\0');
@@ -59,11 +41,12 @@ wchar_t upper(wchar_t letter) noexcept
 
 LRESULT FormWindow::widgetMessage(Widget& widget, HWND window, UINT message, WPARAM first, LPARAM second)
 {
-    const Running running(running_, life_);
+    const engine::Alive alive(life_);
+    const engine::ScopedValue running(life_, running_, running_ + 1);
     const WNDPROC original = window == widget.inner ? widget.innerOriginal : widget.original;
     if (dead_ && isInput(message))
         return 0;
-    const auto gone = [&] { return !running.alive() || (widget.window != window && widget.inner != window); };
+    const auto gone = [&] { return !alive || (widget.window != window && widget.inner != window); };
     switch (message) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
@@ -128,7 +111,8 @@ LRESULT FormWindow::handle(HWND window, UINT message, WPARAM first, LPARAM secon
 {
     if (!window_) // still being made
         return DefWindowProcW(window, message, first, second);
-    const Running running(running_, life_);
+    const engine::Alive alive(life_);
+    const engine::ScopedValue running(life_, running_, running_ + 1);
     if (dead_ && (isInput(message) || message == WM_MOUSEACTIVATE))
         return message == WM_MOUSEACTIVATE ? MA_NOACTIVATEANDEAT : 0;
     switch (message) {
@@ -165,13 +149,13 @@ LRESULT FormWindow::handle(HWND window, UINT message, WPARAM first, LPARAM secon
         break;
     case WM_ACTIVATE: {
         const LRESULT result = DefWindowProcW(window, message, first, second); // gives the focus to the form
-        if (running.alive())
+        if (alive)
             activation(LOWORD(first) != WA_INACTIVE);
         return result;
     }
     case WM_SETFOCUS:
         focusCrossed(message, reinterpret_cast<HWND>(first));
-        if (running.alive() && window_)
+        if (alive && window_)
             focusFirst();
         return 0;
     case WM_GETDLGCODE:
@@ -188,7 +172,7 @@ LRESULT FormWindow::handle(HWND window, UINT message, WPARAM first, LPARAM secon
     case WM_CLOSE: close(); return 0;
     default: break;
     }
-    return running.alive() ? DefWindowProcW(window, message, first, second) : 0;
+    return alive ? DefWindowProcW(window, message, first, second) : 0;
 }
 
 bool FormWindow::isOwn(HWND window) const noexcept
@@ -284,9 +268,8 @@ void FormWindow::clickedWindow(Widget& widget)
     widget.list->readFromWindow();
     if (widget.kind() == WidgetKind::comboBox && widget.list->chosen() >= 0) {
         const std::u16string chosen = widget.list->at(widget.list->chosen());
-        const bool before = std::exchange(quiet_, true);
+        const engine::ScopedFlag quiet(quiet_, true);
         SetWindowTextW(widget.window, wide(chosen.c_str()));
-        quiet_ = before;
     }
     itemChosen(widget);
 }
@@ -389,7 +372,8 @@ std::vector<SpokenLabel> FormWindow::spokenLabels() const
 
 void FormWindow::clickLabel(int widget)
 {
-    const Running running(running_, life_);
+    const engine::Alive alive(life_);
+    const engine::ScopedValue running(life_, running_, running_ + 1);
     if (at({widget}).enabled)
         events_.clicked({widget});
 }
@@ -427,7 +411,8 @@ void FormWindow::timer()
 // True when the key shall go no further.
 bool FormWindow::keyDown(Widget* widget, WPARAM code)
 {
-    const Running running(running_, life_);
+    const engine::Alive alive(life_);
+    const engine::ScopedValue running(life_, running_, running_ + 1);
     swallowChar_ = false;
     if (code == VK_TAB)
         return role_ == Role::popup && navigate(code);
@@ -436,7 +421,7 @@ bool FormWindow::keyDown(Widget* widget, WPARAM code)
     int key = static_cast<int>(code);
     int shift = shiftState();
     events_.keyDown(widget ? widget->id : WidgetId{}, key, shift);
-    if (!running.alive())
+    if (!alive)
         return true;
     swallowChar_ = key == 0;
     return key == 0;
@@ -444,7 +429,8 @@ bool FormWindow::keyDown(Widget* widget, WPARAM code)
 
 bool FormWindow::keyPress(Widget* widget, WPARAM unit)
 {
-    const Running running(running_, life_);
+    const engine::Alive alive(life_);
+    const engine::ScopedValue running(life_, running_, running_ + 1);
     if (swallowChar_)
         return true;
     if (unit == VK_TAB)
@@ -453,7 +439,7 @@ bool FormWindow::keyPress(Widget* widget, WPARAM unit)
         return false; // they close the list
     int key = static_cast<int>(unit);
     events_.keyPress(widget ? widget->id : WidgetId{}, key);
-    if (!running.alive() || key == 0)
+    if (!alive || key == 0)
         return true;
     const bool single = widget && widget->kind() == WidgetKind::textBox &&
                         !(GetWindowLongPtrW(widget->window, GWL_STYLE) & ES_MULTILINE);
@@ -490,9 +476,10 @@ bool FormWindow::accessKey(wchar_t letter)
         Widget& target = takesFocus(widget.kind()) || i + 1 == widgets_.size() ? widget : *widgets_[i + 1];
         if (!target.window || !target.enabled || !showing(target))
             continue;
-        const Running running(running_, life_);
+        const engine::Alive alive(life_);
+        const engine::ScopedValue running(life_, running_, running_ + 1);
         SetFocus(target.window);
-        if (running.alive() && &target == &widget)
+        if (alive && &target == &widget)
             press(widget);
         return true;
     }

@@ -73,12 +73,12 @@ void FormWindow::showPopup(engine::RectPixels place, platform::WindowId owner)
         returnTo_ = GetFocus();
     }
     arbiter_.addBorrower(window_);
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const bool again = std::exchange(shown_, true);
     appear();
-    if (watch.alive() && window_ && GetActiveWindow() != window_)
+    if (alive && window_ && GetActiveWindow() != window_)
         SetForegroundWindow(window_);
-    else if (watch.alive() && window_ && again)
+    else if (alive && window_ && again)
         activation(true); // it was active already, so no WM_ACTIVATE comes
 }
 
@@ -86,11 +86,11 @@ void FormWindow::showPopup(engine::RectPixels place, platform::WindowId owner)
 // seen half drawn.
 void FormWindow::appear()
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const HWND window = window_;
     ShowWindow(window, SW_SHOWNA);
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    if (watch.alive() && window_ == window)
+    if (alive && window_ == window)
         SetActiveWindow(window);
 }
 
@@ -113,19 +113,19 @@ void FormWindow::showModal()
     if (owner)
         EnableWindow(owner, FALSE);
     shown_ = true;
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     ShowWindow(window_, SW_SHOW);
-    if (watch.alive() && shown_)
+    if (alive && shown_)
         SetForegroundWindow(window_);
-    if (watch.alive())
+    if (alive)
         runModalLoop();
 }
 
 void FormWindow::runModalLoop()
 {
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     MSG message{};
-    while (watch.alive() && shown_) {
+    while (alive && shown_) {
         if (GetMessageW(&message, nullptr, 0, 0) <= 0) {
             PostQuitMessage(static_cast<int>(message.wParam)); // the host's loop is to see it
             close();
@@ -193,10 +193,10 @@ void FormWindow::close()
 {
     if (std::exchange(closed_, true))
         return;
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     timer_ = 0;
     endShowing();
-    if (watch.alive())
+    if (alive)
         events_.closed();
 }
 
@@ -205,7 +205,7 @@ void FormWindow::endShowing()
 {
     if (!std::exchange(shown_, false))
         return;
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const HWND window = window_;
     if (role_ == Role::modal && owner_)
         EnableWindow(owner_, TRUE);
@@ -215,12 +215,12 @@ void FormWindow::endShowing()
         else if (owner_)
             SetActiveWindow(owner_);
     }
-    if (!watch.alive())
+    if (!alive)
         return;
     if (window)
         ShowWindow(window, SW_HIDE);
     arbiter_.removeBorrower(window);
-    if (watch.alive())
+    if (alive)
         dropWindows();
 }
 

@@ -106,12 +106,13 @@ void FormWindow::putTypedText(Widget& widget, std::u16string text)
     if (text == widget.text)
         return;
     widget.text = std::move(text);
-    const bool before = std::exchange(quiet_, true);
-    if (widget.list)
-        widget.list->forgetChoice();
-    if (widget.window)
-        SetWindowTextW(widget.window, wide(widget.text.c_str()));
-    quiet_ = before;
+    {
+        const engine::ScopedFlag quiet(quiet_, true);
+        if (widget.list)
+            widget.list->forgetChoice();
+        if (widget.window)
+            SetWindowTextW(widget.window, wide(widget.text.c_str()));
+    }
     events_.changed(widget.id);
 }
 
@@ -276,11 +277,11 @@ void FormWindow::focusArrived(Widget& widget)
 {
     if (focused_ == widget.id)
         return;
-    Watch watch(life_);
+    const engine::Alive alive(life_);
     const WidgetId left = std::exchange(focused_, widget.id);
     if (left)
         events_.lostFocus(left);
-    if (watch.alive() && focused_ == widget.id)
+    if (alive && focused_ == widget.id)
         events_.gotFocus(widget.id);
 }
 

@@ -1,12 +1,13 @@
 // A form: the values of its widgets, the windows that show them, and what a person does there.
 #pragma once
 
+#include "engine/alive.h"
+#include "engine/scoped_value.h"
 #include "platform/win32/fitted_text.h"
 #include "platform/win32/fonts.h"
 #include "platform/win32/form.h"
 #include "platform/win32/form_accessible.h"
 #include "platform/win32/form_widget.h"
-#include "platform/win32/life.h"
 #include "platform/win32/window.h"
 
 #include <memory>
@@ -168,7 +169,7 @@ private:
     int running_ = 0;      // procedures of its windows that are under way
     FittedHeights fitted_; // of the drawing that is under way
     FormSpeech speech_;
-    Life life_;
+    engine::Life life_;
 };
 
 } // namespace vela::win32

@@ -65,7 +65,7 @@ LRESULT CALLBACK widgetProcedure(HWND window, UINT message, WPARAM first, LPARAM
     auto* widget = static_cast<Widget*>(boundObject(window));
     if (!widget)
         return behindProcedure(window, message, first, second);
-    return guarded([&] { return widget->form->widgetMessage(*widget, window, message, first, second); }, LRESULT{0});
+    return contained([&] { return widget->form->widgetMessage(*widget, window, message, first, second); }, LRESULT{0});
 }
 
 void letGo(HWND& window) noexcept
@@ -194,10 +194,11 @@ SharedFont FormWindow::fittingFont(const Widget& widget, int dpi) const
 void FormWindow::makeWindows()
 {
     const ActivationContext controls;
-    const bool before = std::exchange(quiet_, true);
-    for (const auto& widget : widgets_)
-        makeWidget(*widget);
-    quiet_ = before;
+    {
+        const engine::ScopedFlag quiet(quiet_, true);
+        for (const auto& widget : widgets_)
+            makeWidget(*widget);
+    }
     layOut();
     applyVisibility();
 }

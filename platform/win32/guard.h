@@ -11,7 +11,7 @@ namespace vela::win32 {
 
 // Runs the work; an exception is contained and the fallback answered.
 template <class Work, class Result>
-Result guarded(Work&& work, Result fallback) noexcept
+Result contained(Work&& work, Result fallback) noexcept
 {
     const LibraryCall call;
     try {
@@ -22,7 +22,7 @@ Result guarded(Work&& work, Result fallback) noexcept
 }
 
 template <class Work>
-void guarded(Work&& work) noexcept
+void contained(Work&& work) noexcept
 {
     const LibraryCall call;
     try {

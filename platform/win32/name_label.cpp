@@ -85,7 +85,7 @@ LRESULT CALLBACK NameLabel::procedure(HWND window, UINT message, WPARAM first, L
     if (!label)
         return behindProcedure(window, message, first, second);
     if (message == WM_GETTEXT || message == WM_GETTEXTLENGTH)
-        guarded([label] { label->refresh(); });
+        contained([label] { label->refresh(); });
     if (message == WM_NCDESTROY) {
         unbindObject(window);
         label->window_ = nullptr;

@@ -121,7 +121,7 @@ void TooltipWindow::trackActivate(bool active)
 
 void TooltipWindow::timeIsUp(HWND, UINT, UINT_PTR timer, DWORD) noexcept
 {
-    guarded([timer] { reinterpret_cast<TooltipWindow*>(timer)->trackActivate(false); });
+    contained([timer] { reinterpret_cast<TooltipWindow*>(timer)->trackActivate(false); });
 }
 
 std::pair<int, int> TooltipWindow::clientToScreen(platform::WindowId window, int x, int y) const

@@ -29,7 +29,7 @@ LRESULT dispatch(HWND window, UINT message, WPARAM first, LPARAM second)
 
 LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
 {
-    return guarded([&] { return dispatch(window, message, first, second); }, LRESULT{0});
+    return contained([&] { return dispatch(window, message, first, second); }, LRESULT{0});
 }
 
 struct WindowClass {
