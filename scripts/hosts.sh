@@ -2,7 +2,7 @@
 # person would. Sourced by ./test; each host is one function that builds and one that runs.
 
 hosts=$build/hosts
-all_hosts=(ole lazarus)
+all_hosts=(ole lazarus wx ruby)
 mkdir -p "$hosts"
 
 chosen_hosts() { if [ "$1" = hosts ]; then echo "${all_hosts[@]}"; else echo "${1#hosts:}"; fi; }
@@ -127,4 +127,89 @@ run_host_lazarus() {
   local form
   for form in "$hosts"/lazarus/manual/*.pas; do once hosts-manual.log pascal -MObjFPC -Scghi "$form"; done
   drive lazarus "$top/scripts/wine-command" 64 "$hosts/lazarus/host.exe"
+}
+
+# --- Made from the distribution's sources, cross-compiled to 64 bit and kept.
+
+cross=x86_64-w64-mingw32
+
+# source_of PACKAGE FOLDER: unpacked there, by a list of sources of our own.
+source_of() {
+  local apt=$hosts/apt
+  need dpkg-dev
+  [ ! -d "$hosts/$2" ] || return 0
+  say "Fetching the source of $1 ..."
+  mkdir -p "$apt/lists/partial" "$apt/cache/archives/partial" "$apt/source"
+  echo "deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] http://deb.debian.org/debian bookworm main" >"$apt/sources.list"
+  local options=(-o "Dir::Etc::SourceList=$apt/sources.list" -o Dir::Etc::SourceParts=/dev/null -o "Dir::State::Lists=$apt/lists"
+    -o "Dir::Cache=$apt/cache" -o APT::Sandbox::User=root)
+  quietly hosts-source-list.log apt-get "${options[@]}" update
+  (cd "$apt/source" && quietly hosts-source.log apt-get "${options[@]}" --download-only source "$1")
+  rm -rf "$hosts/$2.part"
+  quietly hosts-unpack.log dpkg-source --no-check -x "$(ls -t "$apt/source/$1"_*.dsc | head -n 1)" "$hosts/$2.part"
+  mv "$hosts/$2.part" "$hosts/$2"
+}
+
+# configured NAME OPTION...: in a folder of its own beside the source; one that failed leaves nothing.
+configured() {
+  local name=$1; shift
+  [ ! -e "$hosts/$name/Makefile" ] || return 0
+  say "Configuring $name (some minutes) ..."
+  mkdir -p "$hosts/$name"
+  (cd "$hosts/$name" && quietly "hosts-$name-configure.log" "$hosts/$name-source/configure" --host=$cross \
+    --build="$(dpkg-architecture -qDEB_BUILD_GNU_TYPE)" "$@") || { rm -rf "$hosts/${name:?}"; return 1; }
+}
+
+# --- wxWidgets: base and core with what a form needs.
+
+wx_features=(exceptions ole dataobj clipboard variant any datetime timer stopwatch threads dynlib dynamicloader stdpaths file ffile
+  textfile textbuf streams geometry log longlong intl fontmap fontenum sysoptions regkey cmdline baseevtloop accel menus menubar
+  button textctrl stattext msgdlg commondlg image wxdib uxtheme autoidman palette tooltips caret display detect_sm pch)
+
+build_host_wx() {
+  need_windows
+  compile win64 velaocx keepalive
+  source_of wxwidgets3.2 wx-source
+  configured wx CC=$cross-gcc-posix CXX=$cross-g++-posix --disable-shared --with-msw --disable-optimise --disable-debug_info \
+    --without-{regex,libpng,libjpeg,libtiff,zlib,expat,nanosvg,opengl} --disable-all-features "${wx_features[@]/#/--enable-}"
+  local folder=$hosts/wx options
+  say "Compiling wxWidgets (some minutes at the first time) ..."
+  quietly hosts-wx-make.log make -C "$folder" -j2 "$folder/lib/libwx_baseu-3.2-$cross.a" "$folder/lib/libwx_mswu_core-3.2-$cross.a"
+  read -ra options < <("$folder/wx-config" --inplace --static --cxxflags --libs base,core | tr '\n' ' ') || true
+  quietly hosts-wx-host.log $cross-g++-posix -std=c++20 -static -o "$folder/host.exe" "$top/tests/hosts/wx/host.cpp" \
+    "${options[@]}" -Wl,--subsystem,console
+}
+
+run_host_wx() {
+  with_control 64
+  drive wx "$top/scripts/wine-command" 64 "$hosts/wx/host.exe"
+}
+
+# --- Ruby: the interpreter without its library, win32ole built into it.
+
+build_host_ruby() {
+  need_windows
+  need ruby
+  compile win64 velaocx keepalive
+  source_of ruby3.1 ruby-source
+  local folder=$hosts/ruby source=$hosts/ruby-source file object objects=
+  local options=(optflags=-O0 debugflags= warnflags=-w)
+  touch "$source/configure" # else it is made anew
+  configured ruby CC=$cross-gcc "${options[@]}" --with-baseruby="$(command -v ruby)" --disable-shared --with-static-linked-ext \
+    --with-ext=win32ole --disable-install-doc --disable-jit-support --disable-rubygems --without-gmp
+  say "Compiling Ruby (some minutes at the first time) ..."
+  mkdir -p "$folder/ole"
+  for file in "$source"/ext/win32ole/*.c "$top/tests/hosts/ruby/init.c"; do
+    object=$folder/ole/$(basename "$file" .c).o
+    [ "$object" -nt "$file" ] || quietly hosts-ruby-ole.log $cross-gcc -O0 -w -DRUBY_EXPORT -D_WIN32_WINNT=0x0600 \
+      -D__MINGW_USE_VC2005_COMPAT "-I$folder" "-I$folder/.ext/include/x64-mingw32" "-I$source/include" "-I$source" -c "$file" -o "$object"
+    objects+=" ole/${object##*/}"
+  done
+  quietly hosts-ruby-make.log make -C "$folder" -j2 "${options[@]}" MAINLIBS="-lole32 -loleaut32 -luuid" \
+    MINIOBJS="miniinit.o dmydln.o$objects" miniruby.exe
+}
+
+run_host_ruby() {
+  with_control 64
+  drive ruby "$top/scripts/wine-command" 64 "$hosts/ruby/miniruby.exe" -EUTF-8 "$top/tests/hosts/ruby/host.rb"
 }
