@@ -314,6 +314,29 @@ TEST(PageLooks, TheTabInFrontJoinsItsPane)
     EXPECT_GT(coloursBelow(1), 1u);
 }
 
+TEST(PageLooks, AFontSampleLargerThanItsSurfaceIsCutThere)
+{
+    const ComPtr<IUnknown> control = create();
+    Automation(control.get()).put(u"FontSize", number(255));
+    const Hands hands(activex::fontePage, control);
+    hands.settle();
+    const HWND button = hands.shown.find(L"BUTTON", u"T&este");
+    ASSERT_NE(button, nullptr);
+    hands.click(button, middleOf(button));
+    const HWND page = GetParent(button);
+    RedrawWindow(page, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW); // the whole page, as when it is uncovered
+    const RECT place = placeIn(button, page); // the surface begins 30 pixels below its top and is 118 high
+    const auto coloursIn = [&](LONG from, LONG to) {
+        std::set<COLORREF> seen;
+        for (LONG y = place.top + from; y < place.top + to; ++y)
+            for (LONG x = place.left + 10; x < place.left + 320; x += 2)
+                seen.insert(pixelOf(page, {x, y}));
+        return seen.size();
+    };
+    EXPECT_GT(coloursIn(60, 120), 1u) << "the sample";
+    EXPECT_EQ(coloursIn(150, 154), 1u) << "below its surface";
+}
+
 TEST(PageLooks, TheLettersStandInColumns)
 {
     const LeakCheck leaks;
