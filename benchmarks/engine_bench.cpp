@@ -1,8 +1,8 @@
 // Conversions and patterns of the engine, beside ICU doing the same and beside the standard library's floor.
 #include "benchmarks/allocations.h"
-#include "engine/calendar_date.h"
-#include "engine/conversions.h"
-#include "engine/pattern.h"
+#include "engine/text/calendar_date.h"
+#include "engine/text/conversions.h"
+#include "engine/text/pattern.h"
 
 #include <benchmark/benchmark.h>
 #include <unicode/udat.h>

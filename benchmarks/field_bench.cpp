@@ -1,10 +1,10 @@
 // What a field does for one key or one exit, beside ICU doing the nearest thing and beside the floor.
 #include "benchmarks/allocations.h"
-#include "engine/date_check.h"
-#include "engine/keystroke.h"
-#include "engine/letter_case.h"
-#include "engine/mask.h"
-#include "engine/number_display.h"
+#include "engine/field/date_check.h"
+#include "engine/field/keystroke.h"
+#include "engine/field/mask.h"
+#include "engine/field/number_display.h"
+#include "engine/text/letter_case.h"
 
 #include <benchmark/benchmark.h>
 #include <unicode/ubrk.h>

@@ -3,15 +3,18 @@ import pathlib
 import re
 import sys
 
+ENGINE = {"engine", "engine/text", "engine/field"}
 ROOMS = {
     "engine": {"engine"},
-    "platform": {"engine", "platform"},
-    "platform/headless": {"engine", "platform", "platform/headless"},
-    "platform/win32": {"engine", "platform", "platform/win32"},
-    "tooltip": {"engine", "platform", "tooltip"},
-    "popups": {"engine", "platform", "popups"},
-    "control": {"engine", "platform", "popups", "tooltip", "control"},
-    "pages": {"engine", "platform", "pages"},
+    "engine/text": {"engine", "engine/text"},
+    "engine/field": ENGINE,
+    "platform": ENGINE | {"platform"},
+    "platform/headless": ENGINE | {"platform", "platform/headless"},
+    "platform/win32": ENGINE | {"platform", "platform/win32"},
+    "tooltip": ENGINE | {"platform", "tooltip"},
+    "popups": ENGINE | {"platform", "popups"},
+    "control": ENGINE | {"platform", "popups", "tooltip", "control"},
+    "pages": ENGINE | {"platform", "pages"},
 }
 NEUTRAL = set(ROOMS) - {"platform/win32"}
 STANDARD = set("""algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono cinttypes

@@ -1,8 +1,8 @@
 // Conversion of a put value to the type of its property.
 #include "control/conversion.h"
 
-#include "engine/conversions.h"
 #include "engine/error.h"
+#include "engine/text/conversions.h"
 
 #include <limits>
 #include <variant>

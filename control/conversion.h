@@ -2,7 +2,7 @@
 #pragma once
 
 #include "control/property_table.h"
-#include "engine/locale.h"
+#include "engine/text/locale.h"
 #include "engine/value.h"
 
 #include <cstdint>

@@ -2,7 +2,7 @@
 #include "control/internal.h"
 
 #include "control/field_sink.h"
-#include "engine/keystroke.h"
+#include "engine/field/keystroke.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // Leaving the field: its look restored, its text checked and formatted, a wrong entry answered.
 #include "control/internal.h"
 
-#include "engine/conversions.h"
-#include "engine/letter_case.h"
+#include "engine/text/conversions.h"
+#include "engine/text/letter_case.h"
 #include "tooltip/balloon_tip.h"
 #include "tooltip/windows_version.h"
 

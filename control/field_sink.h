@@ -2,7 +2,7 @@
 #pragma once
 
 #include "control/internal.h"
-#include "engine/keystroke.h"
+#include "engine/field/keystroke.h"
 
 namespace vela::control {
 

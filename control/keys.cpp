@@ -2,8 +2,8 @@
 #include "control/internal.h"
 
 #include "control/field_sink.h"
-#include "engine/conversions.h"
-#include "engine/keystroke.h"
+#include "engine/field/keystroke.h"
+#include "engine/text/conversions.h"
 
 namespace vela::control {
 

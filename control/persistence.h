@@ -2,7 +2,7 @@
 #pragma once
 
 #include "control/settings.h"
-#include "engine/locale.h"
+#include "engine/text/locale.h"
 #include "platform/control_host.h"
 #include "platform/edit_box.h"
 #include "popups/calendar_colours.h"

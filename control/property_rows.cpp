@@ -4,7 +4,7 @@
 #include "control/conversion.h"
 #include "control/vela.h"
 #include "engine/error.h"
-#include "engine/property_types.h"
+#include "engine/field/property_types.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 // The one table of the control's members: automation, access by name, the type library and the manual read it.
 #pragma once
 
-#include "engine/property_types.h"
+#include "engine/field/property_types.h"
 #include "engine/value.h"
 
 #include <span>

@@ -1,7 +1,7 @@
 // The stored values of one control: what a property put keeps in the control itself, not in its edit box.
 #pragma once
 
-#include "engine/property_types.h"
+#include "engine/field/property_types.h"
 #include "engine/value.h"
 
 #include <array>

@@ -1,9 +1,9 @@
 // What the field takes from the application and hands back: Value, Text and the default value.
 #include "control/internal.h"
 
-#include "engine/conversions.h"
-#include "engine/letter_case.h"
-#include "engine/pattern.h"
+#include "engine/text/conversions.h"
+#include "engine/text/letter_case.h"
+#include "engine/text/pattern.h"
 
 #include <cmath>
 

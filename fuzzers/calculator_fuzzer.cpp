@@ -2,7 +2,7 @@
 #include "popups/calculator_model.h"
 
 #include "engine/error.h"
-#include "engine/locale.h"
+#include "engine/text/locale.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 // Any text as a date: a date read lies in the calendar, and is read back from what is written of it.
-#include "engine/calendar_date.h"
-#include "engine/conversions.h"
 #include "engine/error.h"
-#include "engine/pattern.h"
+#include "engine/text/calendar_date.h"
+#include "engine/text/conversions.h"
+#include "engine/text/pattern.h"
 #include "fuzzers/input.h"
 
 namespace {

@@ -1,9 +1,9 @@
 // Any text through what a field does with it: display, entry, live re-format, checks, `Value`, case and log.
-#include "engine/date_check.h"
-#include "engine/field_value.h"
-#include "engine/letter_case.h"
+#include "engine/field/date_check.h"
+#include "engine/field/field_value.h"
+#include "engine/field/number_display.h"
 #include "engine/log_record.h"
-#include "engine/number_display.h"
+#include "engine/text/letter_case.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,5 +1,5 @@
 // Types any keys into any mask: literals never change, the caret stays in the text, and every rule holds throughout.
-#include "engine/mask.h"
+#include "engine/field/mask.h"
 
 #include <cstddef>
 #include <cstdint>

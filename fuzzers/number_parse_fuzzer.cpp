@@ -1,7 +1,7 @@
 // Any text as a number: the readers agree with one another, and what is written is read back.
-#include "engine/conversions.h"
 #include "engine/error.h"
-#include "engine/pattern.h"
+#include "engine/text/conversions.h"
+#include "engine/text/pattern.h"
 #include "fuzzers/input.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 // Any pattern with any value: a kept pattern and its copy answer alike, and only the errors of patterns are raised.
-#include "engine/conversions.h"
 #include "engine/error.h"
-#include "engine/pattern.h"
+#include "engine/text/conversions.h"
+#include "engine/text/pattern.h"
 #include "fuzzers/input.h"
 
 #include <cmath>

@@ -1,8 +1,8 @@
 // The acts of the palette dialog.
 #include "pages/frm_paleta.h"
 
-#include "engine/conversions.h"
 #include "engine/error.h"
+#include "engine/text/conversions.h"
 #include "pages/key_filters.h"
 #include "pages/layouts.h"
 #include "pages/palette_colours.h"

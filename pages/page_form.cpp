@@ -1,9 +1,9 @@
 // Binds a page's controls to acts, moves values between controls and properties, and keeps the changed flag.
 #include "pages/page_form.h"
 
-#include "engine/conversions.h"
 #include "engine/error.h"
 #include "engine/scoped_value.h"
+#include "engine/text/conversions.h"
 #include "pages/spoken_names.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // Edits the six parts of the font; the preview is drawn only when asked for.
 #include "pages/pp_fonte.h"
 
-#include "engine/conversions.h"
+#include "engine/text/conversions.h"
 #include "pages/key_filters.h"
 #include "pages/layouts.h"
 

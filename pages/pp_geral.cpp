@@ -1,7 +1,7 @@
 // Edits the navigation and focus settings and the four delimiters; nothing is validated.
 #include "pages/pp_geral.h"
 
-#include "engine/conversions.h"
+#include "engine/text/conversions.h"
 #include "pages/layouts.h"
 
 #include <array>

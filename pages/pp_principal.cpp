@@ -1,8 +1,8 @@
 // Loads, checks and writes the main page.
 #include "pages/pp_principal.h"
 
-#include "engine/conversions.h"
 #include "engine/error.h"
+#include "engine/text/conversions.h"
 #include "pages/key_filters.h"
 #include "pages/layouts.h"
 #include "pages/letters.h"

@@ -1,7 +1,7 @@
 // What the buttons and the mask list of the main page do: help, the store of masks and profiles.
-#include "engine/conversions.h"
 #include "engine/error.h"
-#include "engine/pattern.h"
+#include "engine/text/conversions.h"
+#include "engine/text/pattern.h"
 #include "pages/letters.h"
 #include "pages/pp_principal.h"
 

@@ -1,7 +1,7 @@
 // Stores masks under generated keys and profiles under their names.
 #include "pages/store.h"
 
-#include "engine/pattern.h"
+#include "engine/text/pattern.h"
 
 namespace vela::pages {
 

@@ -1,8 +1,8 @@
 // The services of the machine that every control is given: one bundle of references, each narrow.
 #pragma once
 
-#include "engine/locale.h"
 #include "engine/log_record.h"
+#include "engine/text/locale.h"
 #include "engine/value.h"
 #include "platform/desktop.h"
 

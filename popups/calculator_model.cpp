@@ -1,8 +1,8 @@
 // The handlers of the calculator's buttons on its state.
 #include "popups/calculator_model.h"
 
-#include "engine/conversions.h"
 #include "engine/error.h"
+#include "engine/text/conversions.h"
 
 #include <cmath>
 

@@ -4,7 +4,7 @@
 // change.
 #pragma once
 
-#include "engine/locale.h"
+#include "engine/text/locale.h"
 
 #include <array>
 #include <string>

@@ -3,7 +3,7 @@
 // k % 7, column 0 is Sunday.
 #pragma once
 
-#include "engine/calendar_date.h"
+#include "engine/text/calendar_date.h"
 
 #include <array>
 #include <optional>

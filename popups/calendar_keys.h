@@ -1,7 +1,7 @@
 // What the keys do in a calendar that a person works without the mouse.
 #pragma once
 
-#include "engine/calendar_date.h"
+#include "engine/text/calendar_date.h"
 
 #include <optional>
 

@@ -1,7 +1,7 @@
 // The calculator's form: buttons and keys to the model, the model's answers to the display and the focus.
 #include "popups/frm_calculadora.h"
 
-#include "engine/conversions.h"
+#include "engine/text/conversions.h"
 #include "engine/trapped.h"
 #include "popups/calculator_layout.h"
 

@@ -1,7 +1,7 @@
 // Day-first date texts and date arithmetic of the calendar.
 #include "popups/grid_dates.h"
 
-#include "engine/conversions.h"
+#include "engine/text/conversions.h"
 
 #include <algorithm>
 

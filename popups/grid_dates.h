@@ -1,8 +1,8 @@
 // The calendar's own date texts, day first in every locale, and what counts as a date handed in from outside.
 #pragma once
 
-#include "engine/calendar_date.h"
-#include "engine/locale.h"
+#include "engine/text/calendar_date.h"
+#include "engine/text/locale.h"
 #include "engine/value.h"
 
 #include <optional>

@@ -1,7 +1,7 @@
 // The numbered steps of opening the calendar and the calculator.
 #include "popups/launching.h"
 
-#include "engine/conversions.h"
+#include "engine/text/conversions.h"
 #include "engine/trapped.h"
 #include "popups/calendar_grid.h"
 #include "popups/calendario_sdi.h"

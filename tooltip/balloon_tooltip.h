@@ -1,7 +1,7 @@
 // The balloon tooltip of a control: its settings, and the messages that make a tooltip window of them.
 #pragma once
 
-#include "engine/property_types.h"
+#include "engine/field/property_types.h"
 #include "engine/value.h"
 #include "platform/tooltip_window.h"
 #include "platform/window_id.h"

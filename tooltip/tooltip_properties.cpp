@@ -1,8 +1,8 @@
 // The table of the tooltip's properties, and puts and gets through it.
 #include "tooltip/tooltip_properties.h"
 
-#include "engine/conversions.h"
 #include "engine/error.h"
+#include "engine/text/conversions.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 // The tooltip's properties by name, for those who configure it in words.
 #pragma once
 
-#include "engine/locale.h"
-#include "engine/property_types.h"
+#include "engine/field/property_types.h"
+#include "engine/text/locale.h"
 #include "engine/value.h"
 #include "tooltip/balloon_tooltip.h"
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "activex/com/variants.h"
-#include "engine/property_types.h"
+#include "engine/field/property_types.h"
 #include "platform/control_host.h"
 
 #include <ocidl.h>
@@ -19,8 +19,8 @@ namespace vela::activex {
 struct Member {
     std::u16string_view name;
     DISPID id = DISPID_UNKNOWN;
-    WORD access = 0;    // DISPATCH_METHOD, DISPATCH_PROPERTYGET, ..PUT, ..PUTREF
-    int parameters = 0; // of a method
+    WORD access = 0;                    // DISPATCH_METHOD, DISPATCH_PROPERTYGET, ..PUT, ..PUTREF
+    int parameters = 0;                 // of a method
     std::u16string_view parameter = {}; // the name of its only one
     bool bindable = false;
     const engine::Enumeration* enumeration = nullptr; // of its values

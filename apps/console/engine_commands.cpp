@@ -2,9 +2,9 @@
 #include "apps/console/session.h"
 #include "apps/console/value_text.h"
 
-#include "engine/conversions.h"
-#include "engine/letter_case.h"
-#include "engine/pattern.h"
+#include "engine/text/conversions.h"
+#include "engine/text/letter_case.h"
+#include "engine/text/pattern.h"
 #include "tooltip/windows_version.h"
 
 namespace vela::console {

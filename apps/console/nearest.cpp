@@ -1,7 +1,7 @@
 // The distance between words, and the nearest of several.
 #include "apps/console/nearest.h"
 
-#include "engine/letter_case.h"
+#include "engine/text/letter_case.h"
 
 #include <algorithm>
 #include <array>

@@ -3,8 +3,8 @@
 
 #include "apps/console/key_text.h"
 #include "apps/console/value_text.h"
-#include "engine/conversions.h"
 #include "engine/error.h"
+#include "engine/text/conversions.h"
 
 #include <algorithm>
 #include <array>

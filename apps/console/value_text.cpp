@@ -3,7 +3,7 @@
 
 #include "control/property_table.h"
 
-#include "engine/calendar_date.h"
+#include "engine/text/calendar_date.h"
 
 #include <charconv>
 #include <cmath>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "apps/console/script_line.h"
-#include "engine/property_types.h"
+#include "engine/field/property_types.h"
 #include "engine/value.h"
 
 #include <optional>

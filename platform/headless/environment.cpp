@@ -1,8 +1,8 @@
 // The machine's services in memory.
 #include "platform/headless/environment.h"
 
-#include "engine/calendar_date.h"
 #include "engine/error.h"
+#include "engine/text/calendar_date.h"
 
 #include <algorithm>
 #include <ctime>

@@ -1,7 +1,7 @@
 // The key-down code of a typed character.
 #include "platform/headless/keys.h"
 
-#include "engine/letter_case.h"
+#include "engine/text/letter_case.h"
 
 namespace vela::headless {
 

@@ -1,9 +1,9 @@
 // Asking the engine, comparing answers, and making the engine's wrong.
 #include "tests/differential/cases.h"
 
-#include "engine/conversions.h"
 #include "engine/error.h"
-#include "engine/pattern.h"
+#include "engine/text/conversions.h"
+#include "engine/text/pattern.h"
 #include "platform/win32/environment.h"
 #include "tests/differential/system_library.h"
 

@@ -1,7 +1,7 @@
 // One comparison between the engine and a judge, and what either answers.
 #pragma once
 
-#include "engine/locale.h"
+#include "engine/text/locale.h"
 
 #include <array>
 #include <optional>

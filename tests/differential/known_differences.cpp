@@ -1,9 +1,9 @@
 // Where the engine answers otherwise than this version of the library, and what its fault makes of a request.
 #include "tests/differential/known_differences.h"
 
-#include "engine/compiled_pattern.h"
-#include "engine/conversions.h"
 #include "engine/error.h"
+#include "engine/text/compiled_pattern.h"
+#include "engine/text/conversions.h"
 #include "tests/differential/system_library.h"
 
 #include <algorithm>

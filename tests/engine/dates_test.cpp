@@ -1,6 +1,6 @@
 // Dates: the calendar, what is read as a date, and dates as texts.
-#include "engine/calendar_date.h"
-#include "engine/conversions.h"
+#include "engine/text/calendar_date.h"
+#include "engine/text/conversions.h"
 #include "tests/engine/error_of.h"
 
 #include <gtest/gtest.h>

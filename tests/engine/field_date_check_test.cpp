@@ -1,5 +1,5 @@
 // The verdicts of the date check and the time check, their messages and the prompts they put back.
-#include "engine/date_check.h"
+#include "engine/field/date_check.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The keystroke filter, watched through everything it asks of a control.
-#include "engine/keystroke.h"
+#include "engine/field/keystroke.h"
 #include "field_text.h"
 
 #include <functional>

@@ -1,5 +1,5 @@
 // The case mapping and the proper case of names.
-#include "engine/letter_case.h"
+#include "engine/text/letter_case.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Typing, erasing and moving in a mask, and values in and out of it.
-#include "engine/mask.h"
+#include "engine/field/mask.h"
 #include "field_text.h"
 #include "tests/engine/error_of.h"
 

@@ -1,6 +1,6 @@
 // The number field's display, symbol, sign, entry form and live re-format.
-#include "engine/conversions.h"
-#include "engine/number_display.h"
+#include "engine/field/number_display.h"
+#include "engine/text/conversions.h"
 #include "field_text.h"
 #include "tests/engine/error_of.h"
 

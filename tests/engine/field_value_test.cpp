@@ -1,7 +1,7 @@
 // What `Value` answers by type and scheme, its failures, and the texts that puts write.
-#include "engine/field_value.h"
+#include "engine/field/field_value.h"
 
-#include "engine/calendar_date.h"
+#include "engine/text/calendar_date.h"
 #include "field_text.h"
 
 #include <functional>

@@ -1,5 +1,5 @@
 // What is read as a number, and as which one.
-#include "engine/conversions.h"
+#include "engine/text/conversions.h"
 #include "tests/engine/error_of.h"
 
 #include <gtest/gtest.h>

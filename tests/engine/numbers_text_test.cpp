@@ -1,7 +1,7 @@
 // Numbers as texts: the general form and fixed decimals.
-#include "engine/conversions.h"
 #include "engine/error.h"
-#include "engine/pattern.h"
+#include "engine/text/conversions.h"
+#include "engine/text/pattern.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Numbers, dates and texts through patterns.
-#include "engine/calendar_date.h"
 #include "engine/error.h"
-#include "engine/pattern.h"
+#include "engine/text/calendar_date.h"
+#include "engine/text/pattern.h"
 #include "tests/engine/error_of.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // The bench of the page tests.
 #include "page_bench.h"
 
-#include "engine/calendar_date.h"
-#include "engine/conversions.h"
+#include "engine/text/calendar_date.h"
+#include "engine/text/conversions.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #include "popups/calendar_keys.h"
 #include "popups/grid_dates.h"
 
-#include "engine/locale.h"
+#include "engine/text/locale.h"
 
 #include <gtest/gtest.h>
 

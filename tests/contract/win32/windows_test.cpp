@@ -2,8 +2,8 @@
 // readers.
 #include "tests/contract/form_case.h"
 
-#include "engine/calendar_date.h"
-#include "engine/conversions.h"
+#include "engine/text/calendar_date.h"
+#include "engine/text/conversions.h"
 #include "platform/win32/control_surface.h"
 #include "platform/win32/environment.h"
 #include "platform/win32/owners.h"

@@ -1,0 +1,352 @@
+// The number field's texts: display on exit, symbol, sign, entry form and live re-format.
+#include "engine/field/number_display.h"
+
+#include "engine/text/characters.h"
+#include "engine/text/conversions.h"
+#include "engine/text/text_writer.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vela::engine {
+namespace {
+
+constexpr std::u16string_view wholePattern = u"###,###,###,###,###,###,###,###,###,###,###,###,###,###,##0";
+constexpr std::size_t npos = std::u16string_view::npos;
+
+void removeAll(std::u16string_view part, std::u16string_view text, std::u16string& into)
+{
+    into.clear();
+    while (!part.empty()) {
+        const auto found = text.find(part);
+        if (found == npos)
+            break;
+        into.append(text.substr(0, found));
+        text.remove_prefix(found + part.size());
+    }
+    into.append(text);
+}
+
+// A number in its plainest writing, which needs no arithmetic to be grouped: "-1234567,5".
+struct PlainNumber {
+    bool negative = false;
+    std::u16string_view whole;    // 0 to 15 digits
+    std::u16string_view fraction; // digits
+};
+
+constexpr std::size_t countedDigits = 15; // of a double
+
+std::size_t leadingDigits(std::u16string_view text) noexcept
+{
+    std::size_t count = 0;
+    while (count < text.size() && isDigit(text[count]))
+        ++count;
+    return count;
+}
+
+// Nothing for every other writing, numeric or not, and in locales with signs and symbols of another kind.
+std::optional<PlainNumber> plainNumber(std::u16string_view text, const Locale& locale) noexcept
+{
+    if (locale.decimal.size() != 1 || locale.grouping.size() != 1 || locale.negativeSign != u"-")
+        return {};
+    PlainNumber number;
+    number.negative = text.starts_with(u'-');
+    if (number.negative)
+        text.remove_prefix(1);
+    number.whole = text.substr(0, leadingDigits(text));
+    text.remove_prefix(number.whole.size());
+    if (!text.empty()) {
+        number.fraction = text.substr(1);
+        if (text.front() != locale.decimal.front() || number.fraction.empty() ||
+            leadingDigits(number.fraction) != number.fraction.size())
+            return {};
+    }
+    if (number.whole.size() > countedDigits || number.whole.size() + number.fraction.size() == 0)
+        return {};
+    return number;
+}
+
+bool isZero(std::u16string_view digits) noexcept
+{
+    return digits.find_first_not_of(u'0') == npos;
+}
+
+// "0012345" -> "12.345", "" -> "0"; `grouping` 0: no grouping.
+void putWhole(std::u16string_view digits, char16_t grouping, TextWriter& writer)
+{
+    digits.remove_prefix(std::min(digits.find_first_not_of(u'0'), digits.size()));
+    if (digits.empty())
+        writer.put(u'0');
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+        if (grouping != 0 && i != 0 && (digits.size() - i) % 3 == 0)
+            writer.put(grouping);
+        writer.put(digits[i]);
+    }
+}
+
+// "1.234.567", "-12.345": what the display, the live layout or the calculator's result has grouped already.
+bool isGrouped(std::u16string_view whole, char16_t symbol) noexcept
+{
+    if (whole.starts_with(u'-') || whole.starts_with(u'+'))
+        whole.remove_prefix(1);
+    std::size_t digits = leadingDigits(whole);
+    if (digits < 1 || digits > 3 || digits == whole.size())
+        return false;
+    for (whole.remove_prefix(digits); !whole.empty(); whole.remove_prefix(1 + digits)) {
+        digits = leadingDigits(whole.substr(1));
+        if (whole.front() != symbol || digits != 3)
+            return false;
+    }
+    return true;
+}
+
+// Oddity: a whole part that is not grouped in threes is read up to what follows its first "." as a fraction; "1234.5"
+// has to group as "1.234".
+void putGrouped(std::u16string_view whole, std::u16string_view fraction, const Locale& locale, TextWriter& writer,
+                std::u16string& into)
+{
+    const bool negative = whole.starts_with(u'-');
+    const bool fractionHolds = fraction.find_first_of(u"123456789") != npos;
+    const auto plain = plainNumber(whole, locale);
+    if (plain && plain->fraction.empty()) {
+        if (negative && (fractionHolds || !isZero(plain->whole)))
+            writer.put(u'-'); // of "-0,5" too
+        putWhole(plain->whole, locale.grouping.front(), writer);
+        return;
+    }
+    const double number = leadingNumber(whole);
+    if (negative && number == 0 && fractionHolds)
+        writer.put(u'-'); // "-,5": the sign would be lost with the zero
+    writer.flush();
+    static const Pattern pattern(wholePattern);
+    pattern.format(number, locale, into);
+}
+
+struct SymbolParts {
+    std::u16string_view before;
+    std::u16string_view after;
+    bool split = false; // there is a ";"
+};
+
+SymbolParts symbolParts(std::u16string_view symbol) noexcept
+{
+    const auto separator = symbol.find(u';');
+    if (separator == npos)
+        return {symbol, {}, false};
+    return {symbol.substr(0, separator), symbol.substr(separator + 1), true};
+}
+
+// Puts "," before the last two digits: "12345" -> "123,45".
+// Oddity: the live layout always keeps two characters behind its comma; fields with another number of places are set up
+// for it.
+void shiftPoint(std::u16string& digits, int decimals)
+{
+    const auto places = static_cast<std::size_t>(std::max(decimals, 0));
+    if (digits.size() < places)
+        digits.insert(0, places - digits.size(), u'0');
+    const std::size_t tail = std::min<std::size_t>(digits.size(), 2);
+    std::array<char16_t, 2> last{};
+    std::copy_n(digits.end() - static_cast<std::ptrdiff_t>(tail), tail, last.begin());
+    digits.resize(digits.size() - places);
+    digits.push_back(u',');
+    digits.append(last.data(), tail);
+}
+
+std::u16string livePatternText(char16_t decimal, char16_t grouping, int decimals)
+{
+    std::u16string text = grouping == 0      ? u"###################0"
+                          : grouping == u'.' ? u"###,###,###,###,###,##0"
+                                             : u"###.###.###.###.###.##0";
+    if (decimal != 0)
+        text.push_back(decimal == u',' ? u'.' : u',');
+    text.append(static_cast<std::size_t>(std::max(decimals, 0)), u'0');
+    return text;
+}
+
+// The character of a symbol, 0 for none; nothing for a text that is no symbol.
+std::optional<char16_t> symbolCharacter(std::u16string_view symbol) noexcept
+{
+    if (symbol.empty())
+        return char16_t{0};
+    if (symbol == u"." || symbol == u",")
+        return symbol.front();
+    return {};
+}
+
+// The digits of an amount as a person keys it into a fixed-point field, "1.234,567" or "-12345", where the digits
+// before the shifted point and behind it stand in their places whatever symbols are between them.
+struct KeyedAmount {
+    bool negative = false;
+    std::array<char16_t, countedDigits> digits{};
+    std::size_t count = 0;
+};
+
+// Nothing for every other writing, numeric or not, and for settings whose pattern does more than group two places.
+std::optional<KeyedAmount> keyedAmount(std::u16string_view text, const NumberSettings& settings) noexcept
+{
+    const Locale& locale = settings.locale;
+    if (settings.decimals != 2 || settings.decimal != u"," || settings.grouping == u"," || locale.decimal != u"," ||
+        locale.grouping != u"." || locale.negativeSign != u"-")
+        return {};
+    KeyedAmount amount;
+    amount.negative = text.starts_with(u'-');
+    if (amount.negative)
+        text.remove_prefix(1);
+    if (text.empty() || !isDigit(text.front()))
+        return {};
+    std::size_t sinceGrouping = 0;
+    bool decimal = false;
+    for (const char16_t unit : text) {
+        if (isDigit(unit) && amount.count < amount.digits.size()) {
+            amount.digits[amount.count++] = unit;
+            ++sinceGrouping;
+        } else if (unit == u'.') {
+            sinceGrouping = 0;
+        } else if (unit == u',' && !decimal) {
+            decimal = true;
+        } else {
+            return {};
+        }
+    }
+    if (sinceGrouping < 2 || amount.count < 3)
+        return {};
+    return amount;
+}
+
+void putAmount(const KeyedAmount& amount, const NumberSettings& settings, std::u16string& into)
+{
+    const std::u16string_view digits(amount.digits.data(), amount.count);
+    into.clear();
+    TextWriter writer(into);
+    if (amount.negative && !isZero(digits))
+        writer.put(u'-');
+    putWhole(digits.substr(0, digits.size() - 2), settings.grouping.empty() ? u'\0' : u'.', writer);
+    writer.put(u',');
+    writer.put(digits.substr(digits.size() - 2));
+    writer.flush();
+}
+
+// Writes the text of the live re-format; false when this text is not re-formatted.
+bool putLive(std::u16string_view text, const NumberSettings& settings, LivePattern& patterns, std::u16string& into)
+{
+    if (const auto amount = keyedAmount(text, settings)) {
+        putAmount(*amount, settings, into);
+        return true;
+    }
+    if (text.empty() || !isNumeric(text, settings.locale))
+        return false;
+    const Pattern* pattern = patterns.of(settings.decimal, settings.grouping, settings.decimals);
+    if (pattern == nullptr)
+        return false;
+    removeAll(settings.decimal, text, into);
+    shiftPoint(into, settings.decimals);
+    if (const auto number = tryParseDouble(into, settings.locale)) { // a text that is no number stays as it is
+        into.clear();
+        pattern->format(*number, settings.locale, into);
+    }
+    return true;
+}
+
+} // namespace
+
+void displayNumber(std::u16string_view text, const NumberSettings& settings, std::u16string& into)
+{
+    into.clear();
+    if (!plainNumber(text, settings.locale) && !isNumeric(text, settings.locale))
+        return;
+    if (settings.decimal.empty()) {
+        into.assign(text);
+        return;
+    }
+    const auto symbol = text.find(settings.decimal.front());
+    const auto whole = text.substr(0, symbol);
+    const auto typed = symbol == npos ? std::u16string_view() : text.substr(symbol + 1);
+    TextWriter writer(into);
+    if (settings.grouping.empty()) {
+        writer.put(whole);
+    } else if (isGrouped(whole, settings.grouping.front())) {
+        std::u16string plain;
+        removeAll(settings.grouping, whole, plain);
+        putGrouped(plain, typed, settings.locale, writer, into);
+    } else {
+        putGrouped(whole, typed, settings.locale, writer, into);
+    }
+    const auto places = static_cast<std::size_t>(std::max(settings.decimals, 0));
+    const bool padded = settings.insertZeros && places > typed.size();
+    if (symbol != npos || padded)
+        writer.put(settings.decimal.front());
+    writer.put(typed);
+    if (padded)
+        writer.repeat(u'0', places - typed.size());
+    writer.flush();
+    // Oddity: with "." for decimals and "," for grouping the decimal point turns into "," too; displays in use look
+    // like that.
+    if (settings.grouping == u",")
+        std::ranges::replace(into, u'.', u',');
+}
+
+NumberSign currencySign(std::u16string_view text, const Locale& locale)
+{
+    const auto amount = toCurrency(text, locale).tenThousandths;
+    return amount < 0 ? NumberSign::negative : amount > 0 ? NumberSign::positive : NumberSign::zero;
+}
+
+bool applySymbol(std::u16string_view text, std::u16string_view symbol, std::u16string& into)
+{
+    const auto parts = symbolParts(symbol);
+    if (!parts.split && text.empty())
+        return false;
+    into.assign(parts.before);
+    into.append(text);
+    into.append(parts.after);
+    return true;
+}
+
+// Oddity: with "." for decimals and for grouping the decimal point is lost; grouping is removed without looking at
+// decimals.
+void entryForm(std::u16string_view text, std::u16string_view symbol, std::u16string_view grouping, std::u16string& into)
+{
+    const auto parts = symbolParts(symbol);
+    if (text.starts_with(parts.before))
+        text.remove_prefix(parts.before.size());
+    if (text.ends_with(parts.after))
+        text.remove_suffix(parts.after.size());
+    removeAll(grouping, text, into);
+}
+
+std::u16string numericTemplate(std::u16string_view decimal, int decimals)
+{
+    std::u16string text(u"0");
+    text.append(decimal);
+    text.append(static_cast<std::size_t>(std::max(decimals, 0)), u'0');
+    return text;
+}
+
+const Pattern* LivePattern::of(std::u16string_view decimal, std::u16string_view grouping, int decimals)
+{
+    const auto decimalUnit = symbolCharacter(decimal);
+    const auto groupingUnit = symbolCharacter(grouping);
+    if (!decimalUnit || !groupingUnit)
+        return nullptr;
+    if (decimals_ != decimals || decimal_ != *decimalUnit || grouping_ != *groupingUnit) {
+        pattern_ = Pattern(livePatternText(*decimalUnit, *groupingUnit, decimals));
+        decimal_ = *decimalUnit;
+        grouping_ = *groupingUnit;
+        decimals_ = decimals;
+    }
+    return &pattern_;
+}
+
+std::optional<int> liveFormat(std::u16string_view text, int caret, const NumberSettings& settings,
+                              LivePattern& patterns, std::u16string& into)
+{
+    const int fromEnd = static_cast<int>(text.size()) - caret;
+    if (!putLive(text, settings, patterns, into))
+        return {};
+    if (into == text)
+        return {};
+    const int length = static_cast<int>(into.size());
+    return std::clamp(length - fromEnd, 0, length);
+}
+
+} // namespace vela::engine
