@@ -1,7 +1,7 @@
 // Paste, cut, undo and redo: the same rules as typing, and the field's own history.
 #include "control/internal.h"
 
-#include "control/field_sink.h"
+#include "control/draft.h"
 #include "engine/field/keystroke.h"
 
 #include <algorithm>
@@ -71,106 +71,75 @@ void measureErased(History::Expected& edit, const platform::EditBox& box)
 
 } // namespace
 
-void Vela::BoxSink::writeText(std::u16string_view text, int caret)
+Vela::Draft::Draft(Vela& field)
 {
-    Scratch before(field_);
-    *before = *text_;
-    field_.keepWritten(*before, text, field_.box().selection(), false);
-    field_.writeText(text, Writer::keys);
-    field_.box().select({caret, 0});
+    field.readText(before);
+    text = before;
+    const int length = static_cast<int>(text.size());
+    selectionBefore = field.box().selection();
+    selection.start = std::clamp(selectionBefore.start, 0, length);
+    selection.length = std::clamp(selectionBefore.length, 0, length - selection.start);
+    maxLength = field.box().traits().maxLength;
+    locked = field.box().traits().locked;
 }
 
-Vela::PasteSink::PasteSink(Vela& field) : field_(field), alive_(field.life_)
+engine::KeyBox Vela::Draft::seen() noexcept
 {
-    field_.readText(before_);
-    text_ = before_;
-    const int length = static_cast<int>(text_.size());
-    selectionBefore_ = field_.box().selection();
-    selection_.start = std::clamp(selectionBefore_.start, 0, length);
-    selection_.length = std::clamp(selectionBefore_.length, 0, length - selection_.start);
-    maxLength_ = field_.box().traits().maxLength;
-    locked_ = field_.box().traits().locked;
+    return {.text = &text,
+            .length = static_cast<int>(text.size()),
+            .caret = selection.start,
+            .selected = selection.length,
+            .maxLength = maxLength};
 }
 
-void Vela::PasteSink::writeText(std::u16string_view text, int caret)
+bool Vela::Draft::insert(std::u16string_view typed)
 {
-    text_ = std::u16string(text);
-    selection_ = {caret, 0};
-}
-
-// When a key replaces a selection in a full mask, no prompt draws the caret on, so a run of literals is skipped here.
-void Vela::PasteSink::crossLiterals(int key)
-{
-    if (selectionBefore_.length == 0 || key > u'z' || !isLetterOrDigit(static_cast<char16_t>(key)))
-        return;
-    const auto next = engine::nextInputPosition(selection_.start, field_.maskSettings());
-    if (next && *next > selection_.start + 1) // a single literal is skipped by the mask engine
-        selection_ = {*next, 0};
-}
-
-void Vela::PasteSink::validateMask(int& key)
-{
-    crossLiterals(key);
-    const engine::MaskStep step = engine::validateMask(key, selection_.start, field_.maskSettings(), text_);
-    key = step.key;
-    if (step.textWritten)
-        selection_ = {step.caret, 0};
-    if (step.promptCaret)
-        selection_ = {*step.promptCaret, 0};
-}
-
-bool Vela::PasteSink::type(char16_t unit)
-{
-    const int key = engine::filterKeystroke(field_.plainKey(unit), *this);
-    if (!alive_)
+    const auto start = static_cast<std::size_t>(selection.start);
+    const auto length = static_cast<std::size_t>(selection.length);
+    if (locked || start + length > text.size())
         return false;
-    if (key == carriageReturn)
-        insert(lineBreak);
-    else if (key != 0) {
-        const auto typed = static_cast<char16_t>(key);
-        insert({&typed, 1});
-    }
+    if (maxLength > 0 && text.size() - length + typed.size() > static_cast<std::size_t>(maxLength))
+        return false;
+    text.replace(start, length, typed);
+    placeCaret(static_cast<int>(start + typed.size()));
     return true;
 }
 
-// Inserts as the edit box does: nothing when it is locked or full.
-void Vela::PasteSink::insert(std::u16string_view typed)
+// When a key replaces a selection in a full mask, no prompt draws the caret on, so a run of literals is skipped here.
+engine::KeyPlan Vela::planKey(int key, engine::KeyTurn turn, Draft& draft)
 {
-    const auto start = static_cast<std::size_t>(selection_.start);
-    const auto length = static_cast<std::size_t>(selection_.length);
-    if (locked_ || start + length > text_.size())
-        return;
-    if (maxLength_ > 0 && text_.size() - length + typed.size() > static_cast<std::size_t>(maxLength_))
-        return;
-    text_.replace(start, length, typed);
-    selection_ = {static_cast<int>(start + typed.size()), 0};
-    if (!field_.liveNumber())
-        return;
-    if (!field_.livePattern_)
-        field_.livePattern_ = std::make_unique<engine::LivePattern>();
-    std::u16string shown;
-    if (const auto caret =
-            engine::liveFormat(text_, selection_.start, field_.numberSettings(), *field_.livePattern_, shown)) {
-        text_ = shown;
-        selection_ = {*caret, 0};
+    const engine::KeystrokeSettings settings = keystrokeSettings();
+    const bool inMask = masked() && engine::needsOf(key, settings, turn).text;
+    if (inMask && draft.selectionBefore.length > 0 && key <= u'z' && isLetterOrDigit(static_cast<char16_t>(key))) {
+        const auto next = engine::nextInputPosition(draft.selection.start, settings.mask);
+        if (next && *next > draft.selection.start + 1) // a single literal is skipped by the mask engine
+            draft.placeCaret(*next);
     }
+    const engine::KeyPlan plan = engine::planKey(key, settings, draft.seen(), turn);
+    if (const auto caret = plan.promptCaret ? plan.promptCaret : plan.writtenCaret)
+        draft.placeCaret(*caret);
+    return plan;
 }
 
-void Vela::PasteSink::finish()
-{
-    if (text_ != before_) {
-        field_.keepWritten(before_, text_, selectionBefore_, false);
-        field_.writeText(text_, Writer::keys);
-    }
-    if (text_ != before_ || selection_ != selectionBefore_)
-        field_.box().select(selection_);
-}
-
-bool Vela::raiseKeyPress(std::int16_t& key)
+// One character of a paste; false when the control did not survive it.
+bool Vela::typeInto(Draft& draft, char16_t unit)
 {
     const engine::Alive alive(life_);
-    host_.raiseKeyPress(key);
-    return static_cast<bool>(alive);
+    const int key = filterKey(plainKey(unit), &draft);
+    if (!alive)
+        return false;
+    const auto typed = static_cast<char16_t>(key);
+    if (key == 0 || !draft.insert(key == carriageReturn ? lineBreak : View(&typed, 1)) || !liveNumber())
+        return true;
+    if (!livePattern_)
+        livePattern_ = std::make_unique<engine::LivePattern>();
+    Text16 shown;
+    if (const auto caret =
+            engine::liveFormat(draft.text, draft.selection.start, numberSettings(), *livePattern_, shown)) {
+        draft.text = shown;
+        draft.placeCaret(*caret);
+    }
+    return true;
 }
 
 // Character by character through the filter; what is refused is left out. A line break is one Enter key.
@@ -179,9 +148,9 @@ void Vela::pasted(std::u16string_view text)
     if (deaf())
         return;
     whileAlive(life_, [&] {
-        PasteSink sink(*this);
+        Draft draft(*this);
         const engine::MaskSettings mask = maskSettings();
-        const std::size_t start = literalRunBefore(static_cast<std::size_t>(sink.caret()), mask);
+        const std::size_t start = literalRunBefore(static_cast<std::size_t>(draft.selection.start), mask);
         const bool aligned = masked() && liesOnMask(text, start, mask);
         for (std::size_t i = 0; i < text.size(); ++i) {
             char16_t unit = text[i];
@@ -196,12 +165,17 @@ void Vela::pasted(std::u16string_view text)
                 if (!input && isLetterOrDigit(unit))
                     continue;
                 if (input)
-                    sink.placeCaret(static_cast<int>(start + i));
+                    draft.placeCaret(static_cast<int>(start + i));
             }
-            if (!sink.type(unit))
+            if (!typeInto(draft, unit))
                 return;
         }
-        sink.finish();
+        if (draft.text != draft.before) {
+            keepWritten(draft.before, draft.text, draft.selectionBefore, false);
+            writeText(draft.text, Writer::keys);
+        }
+        if (draft.text != draft.before || draft.selection != draft.selectionBefore)
+            box().select(draft.selection);
     });
 }
 

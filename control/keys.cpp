@@ -1,7 +1,7 @@
 // Keys: navigation and erasing on the way down, the filter in between, the caret's next prompt on the way up.
 #include "control/internal.h"
 
-#include "control/field_sink.h"
+#include "control/draft.h"
 #include "engine/field/keystroke.h"
 #include "engine/text/conversions.h"
 
@@ -82,8 +82,7 @@ void Vela::keyPress(int& key)
         return;
     whileAlive(life_, [&] {
         const engine::Alive alive(life_);
-        BoxSink sink(*this);
-        key = engine::filterKeystroke(plainKey(key), sink);
+        key = filterKey(plainKey(key));
         if (alive && !deaf())
             expectTyping(key);
     });
@@ -95,7 +94,7 @@ void Vela::controlPress(int& key)
     if (deaf())
         return;
     whileAlive(life_, [&] {
-        auto told = static_cast<std::int16_t>(key);
+        int told = key;
         if (!raiseKeyPress(told) || told == 0)
             key = 0;
     });
@@ -114,31 +113,102 @@ int Vela::plainKey(int key) const noexcept
     return key;
 }
 
-void Vela::validateMask(int& key)
+// A key typed at the box, or pasted into the draft: its plan before KeyPress, the event, what comes after it.
+int Vela::filterKey(int key, Draft* draft)
 {
-    trap(
-        life_,
-        [&](int&) {
-            Scratch text(*this);
+    const engine::Alive alive(life_);
+    for (auto turn = engine::KeyTurn::first;; turn = engine::KeyTurn::second) {
+        const engine::KeyPlan plan = draft != nullptr ? planKey(key, turn, *draft) : planKey(key, turn);
+        key = plan.key;
+        if (!alive || (plan.press && !raiseKeyPress(key)))
+            return 0;
+        if (plan.after == engine::AfterPress::tab)
+            tabBehind(key, draft);
+        if (plan.after != engine::AfterPress::enter)
+            return key;
+        switch (engine::enterMeans(keystrokeSettings())) {
+        case engine::EnterMeans::tab: environment_.desktop.keyDown(keyTab); return 0;
+        case engine::EnterMeans::nothing: return 0;
+        case engine::EnterMeans::line: break;
+        }
+    }
+}
+
+// Reads of the box what the key's rule needs and writes what the rule says. A failing box refuses the key of a number
+// and lets that of a mask pass.
+engine::KeyPlan Vela::planKey(int key, engine::KeyTurn turn)
+{
+    const engine::KeystrokeSettings settings = keystrokeSettings();
+    const engine::KeyNeeds needs = engine::needsOf(key, settings, turn);
+    const bool mask = masked();
+    Scratch text(*this);
+    platform::Selection selection;
+    engine::KeyBox seen{.maxLength = box().traits().maxLength};
+    if (needs.room || needs.text) {
+        selection = box().selection();
+        seen.caret = selection.start;
+        seen.selected = selection.length;
+    }
+    if (needs.room && seen.maxLength >= 1 && seen.selected == 0)
+        seen.length = box().textLength();
+    if (needs.text) {
+        if (const auto failure = engine::trapped([&] { readText(*text); }))
+            logKeyFailure(*failure, mask);
+        else
+            seen.text = &*text;
+    }
+    Scratch before(*this);
+    *before = *text;
+    const engine::KeyPlan plan = engine::planKey(key, settings, seen, turn);
+    const engine::Alive alive(life_);
+    const auto failure = engine::trapped([&] {
+        if (plan.writtenCaret) {
+            keepWritten(*before, *text, selection, false);
+            writeText(*text, Writer::keys);
+            box().select({*plan.writtenCaret, 0});
+        }
+        if (plan.promptCaret)
+            box().select({*plan.promptCaret, 0});
+    });
+    if (failure && alive)
+        logKeyFailure(*failure, mask);
+    return plan;
+}
+
+void Vela::logKeyFailure(const engine::Error& failure, bool mask)
+{
+    if (!mask)
+        log(failure, label::number);
+    else if (failure.number != 0 && failure.number != engine::error_number::invalidPropertyValue)
+        log(failure, label::mask);
+}
+
+void Vela::tabBehind(int key, Draft* draft)
+{
+    if (!settings_.autoTab)
+        return;
+    Scratch text(*this);
+    engine::KeyBox seen{.text = &*text};
+    if (draft != nullptr) {
+        seen = draft->seen();
+    } else {
+        if (masked())
             readText(*text);
-            const platform::Selection selection = box().selection();
-            const engine::MaskStep step = engine::validateMask(key, selection.start, maskSettings(), *text);
-            key = step.key;
-            if (step.textWritten) {
-                const auto at = std::min(text->size(), static_cast<std::size_t>(step.caret)) - 1;
-                const View before = step.replaced ? View(&*step.replaced, 1) : View();
-                if (before != View(*text).substr(at, 1))
-                    history().add(static_cast<int>(at), before, View(*text).substr(at, 1), selection, false);
-                writeText(*text, Writer::keys);
-                box().select({step.caret, 0});
-            }
-            if (step.promptCaret)
-                box().select({*step.promptCaret, 0});
-        },
-        [&](const engine::Error& failure) {
-            if (failure.number != engine::error_number::invalidPropertyValue)
-                log(failure, label::mask);
-        });
+        seen.caret = box().selection().start;
+        seen.maxLength = box().traits().maxLength;
+    }
+    if (engine::tabFollows(key, keystrokeSettings(), seen))
+        environment_.desktop.sendKeys(u"{TAB}");
+}
+
+// The host's handler may change the key and the settings, and may destroy the control.
+bool Vela::raiseKeyPress(int& key)
+{
+    const engine::Alive alive(life_);
+    auto told = static_cast<std::int16_t>(key);
+    host_.raiseKeyPress(told);
+    key = static_cast<std::uint16_t>(told);
+    return static_cast<bool>(alive);
 }
 
 void Vela::keyUp(int code, int shift)
@@ -223,7 +293,7 @@ engine::KeystrokeSettings Vela::keystrokeSettings() const
             .autoTab = settings_.autoTab,
             .negatives = settings_.aceitaNegativos,
             .allowed = settings_.caractLiberados,
-            .promptChar = settings_.promptChar};
+            .mask = maskSettings()};
 }
 
 } // namespace vela::control

@@ -183,8 +183,7 @@ private:
     // edits and is cleared when a host, loading, entry or exit writes.
     enum class Writer { person, host, life, keys, history };
     class Scratch;
-    class BoxSink;   // the keystroke filter's view of the field
-    class PasteSink; // the same over a text that is not yet in the box
+    struct Draft; // the text that a paste is making (draft.h)
 
     [[nodiscard]] platform::EditBox& box() const; // the active one; 91 after LimparMemoria and after the end
     [[nodiscard]] bool deaf() const noexcept { return released_ || life_.ended(); } // the box's events are not heard
@@ -242,8 +241,12 @@ private:
     void sKeyDown(int code);
     [[nodiscard]] engine::KeystrokeSettings keystrokeSettings() const;
     [[nodiscard]] int plainKey(int key) const noexcept;
-    void validateMask(int& key);
-    [[nodiscard]] bool raiseKeyPress(std::int16_t& key); // false: the control is gone
+    [[nodiscard]] int filterKey(int key, Draft* draft = nullptr); // what is left for the box; 0: nothing
+    [[nodiscard]] engine::KeyPlan planKey(int key, engine::KeyTurn turn);
+    [[nodiscard]] engine::KeyPlan planKey(int key, engine::KeyTurn turn, Draft& draft);
+    void logKeyFailure(const engine::Error& failure, bool mask);
+    void tabBehind(int key, Draft* draft);
+    [[nodiscard]] bool raiseKeyPress(int& key); // false: the control is gone
 
     // Exit (exit.cpp)
     struct Wrong {
@@ -269,6 +272,7 @@ private:
     template <class Describe>
     void expectEdit(Describe describe);
     void keepTyped();
+    [[nodiscard]] bool typeInto(Draft& draft, char16_t unit);
     void keepWritten(View before, View after, platform::Selection selection, bool joined);
     void restore(bool backwards);
 

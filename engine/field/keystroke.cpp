@@ -1,4 +1,4 @@
-// The keystroke filter, step by step: Backspace in templates, Enter, the rules of each type, automatic tabbing.
+// The keystroke filter, rule by rule: Backspace in templates, Enter, the rules of each type, automatic tabbing.
 #include "engine/field/keystroke.h"
 
 #include "engine/text/letter_case.h"
@@ -11,201 +11,9 @@ constexpr bool isDigit(int key) noexcept
     return key >= u'0' && key <= u'9';
 }
 
-// One key on its way through the steps.
-class Filter {
-public:
-    Filter(int key, KeystrokeSink& sink) : key_(key), sink_(sink), settings_(sink.settings()) {}
-
-    int run()
-    {
-        const bool templated = settings_.textType == TipoText::Data || settings_.textType == TipoText::Mascara;
-        if (templated && key_ == key_code::backspace)
-            return backspaceInTemplate();
-        if (key_ == key_code::enter && !passEnter())
-            return key_;
-        if (byType())
-            automaticTab();
-        return key_;
-    }
-
-private:
-    int backspaceInTemplate()
-    {
-        sink_.validateMask(key_);
-        if (!raiseKeyPress())
-            return 0;
-        return key_;
-    }
-
-    // Raises KeyPress for Enter and answers whether the key is handled further.
-    // Oddity: Enter in a multi-line box raises KeyPress twice; handlers in use count on the second event.
-    bool passEnter()
-    {
-        if (!raiseKeyPress())
-            return false;
-        if (settings_.enterAsTab) {
-            sink_.tabKeyDown();
-            key_ = 0;
-            return false;
-        }
-        if (!settings_.multiLine) {
-            key_ = 0;
-            return false;
-        }
-        return true;
-    }
-
-    // The rules of the type; false when they end the handling of this key.
-    bool byType()
-    {
-        switch (settings_.textType) {
-        case TipoText::TextoNormal: return inFreeText();
-        case TipoText::Numerico: return settings_.maskToNumeric ? inFixedPoint() : inNumber();
-        case TipoText::Data: return inDate();
-        case TipoText::Mascara: sink_.validateMask(key_); return raiseKeyPress();
-        }
-        return true; // a type beyond the enumeration: no rule, no event
-    }
-
-    bool inFreeText()
-    {
-        if (key_ == key_code::backspace) {
-            static_cast<void>(raiseKeyPress());
-            return false;
-        }
-        refuseWhenFull();
-        if (settings_.letterCase == tipoTamanhoLetra::Maisculo)
-            key_ = upperCase(static_cast<char16_t>(key_));
-        else if (settings_.letterCase == tipoTamanhoLetra::Minusculo)
-            key_ = lowerCase(static_cast<char16_t>(key_));
-        if (!settings_.freeText)
-            key_ = allowedKey(key_, settings_);
-        return raiseKeyPress();
-    }
-
-    // Oddity: Backspace takes nothing away from a live amount; handlers expect no KeyPress for it.
-    bool inFixedPoint()
-    {
-        if (!isDigit(key_)) {
-            key_ = 0;
-            return false;
-        }
-        return raiseKeyPress();
-    }
-
-    bool inNumber()
-    {
-        if (key_ == key_code::backspace)
-            return false;
-        refuseWhenFull();
-        try {
-            key_ = numericKey(key_, settings_, sink_);
-        } catch (const Error& error) {
-            key_ = 0;
-            sink_.logNumericFailure(error);
-        }
-        return raiseKeyPress();
-    }
-
-    bool inDate()
-    {
-        if (!isDigit(key_))
-            return false; // the box is locked: the key has no effect
-        sink_.validateMask(key_);
-        return raiseKeyPress();
-    }
-
-    void refuseWhenFull()
-    {
-        const int limit = sink_.maxLength();
-        if (limit >= 1 && sink_.selectionLength() == 0 && sink_.textLength() == limit)
-            key_ = 0;
-    }
-
-    // The host's handler may change the key and the settings. False when it destroyed the control: then nothing may be
-    // used any more.
-    bool raiseKeyPress()
-    {
-        auto key = static_cast<std::int16_t>(key_);
-        if (!sink_.raiseKeyPress(key)) {
-            key_ = 0;
-            return false;
-        }
-        key_ = static_cast<std::uint16_t>(key);
-        settings_ = sink_.settings();
-        return true;
-    }
-
-    // Oddity: a refused key in the last place still moves on with AutoTAB; forms are filled in without the Tab key.
-    void automaticTab()
-    {
-        if (!settings_.autoTab || key_ == key_code::backspace)
-            return;
-        switch (settings_.textType) {
-        case TipoText::TextoNormal:
-        case TipoText::Numerico: // the key being typed fills the last place
-            if (sink_.caret() == sink_.maxLength() - 1)
-                sink_.sendTab();
-            return;
-        case TipoText::Data:
-        case TipoText::Mascara:
-            if (!containsIgnoringCase(sink_.text(), settings_.promptChar) && sink_.caret() == sink_.maxLength())
-                sink_.sendTab();
-            return;
-        }
-    }
-
-    int key_;
-    KeystrokeSink& sink_;
-    KeystrokeSettings settings_;
-};
-
-// Oddity: without AutoSelect a field that shows "0,00" refuses the comma that is typed; a second symbol would make the
-// text no number.
-int decimalKey(int key, std::u16string_view text, KeystrokeSink& sink)
+int unlessFull(int key, const KeyBox& box) noexcept
 {
-    const auto symbol = static_cast<char16_t>(key);
-    if (sink.selectionLength() == static_cast<int>(text.size())) {
-        sink.writeText({&symbol, 1}, 1);
-        return 0; // written already
-    }
-    return text.find(symbol) == std::u16string_view::npos ? key : 0;
-}
-
-// The caret has to stand behind the first decimal before a digit is refused.
-// Oddity: a third decimal can be typed right behind the decimal symbol; people correct the first decimal that way.
-int digitKey(int key, const KeystrokeSettings& settings, std::u16string_view text, const KeystrokeSink& sink)
-{
-    if (settings.decimal.empty())
-        return key;
-    const auto symbol = text.find(settings.decimal);
-    if (symbol == std::u16string_view::npos)
-        return key;
-    const bool full = static_cast<int>(text.size() - symbol - 1) >= settings.decimals;
-    return full && sink.caret() > static_cast<int>(symbol) + 1 ? 0 : key;
-}
-
-} // namespace
-
-int filterKeystroke(int key, KeystrokeSink& sink)
-{
-    return Filter(key, sink).run();
-}
-
-// The text is read for every key, so that a box whose text cannot be read refuses every key.
-int numericKey(int key, const KeystrokeSettings& settings, KeystrokeSink& sink)
-{
-    const auto text = sink.text();
-    if (isDigit(key))
-        return digitKey(key, settings, text, sink);
-    switch (key) {
-    case key_code::backspace: return key;
-    case key_code::comma: return settings.displayDecimal == Simbolos::Virgula ? decimalKey(key, text, sink) : 0;
-    case key_code::point: return settings.displayDecimal == Simbolos::Ponto ? decimalKey(key, text, sink) : 0;
-    case key_code::minus:
-        return settings.negatives && sink.caret() == 0 && text.find(u'-') == std::u16string_view::npos ? key : 0;
-    default: return 0;
-    }
+    return box.maxLength >= 1 && box.selected == 0 && box.length == box.maxLength ? 0 : key;
 }
 
 int allowedKey(int key, const KeystrokeSettings& settings) noexcept
@@ -213,6 +21,152 @@ int allowedKey(int key, const KeystrokeSettings& settings) noexcept
     if (key == key_code::enter && !settings.enterAsTab && settings.multiLine)
         return key;
     return settings.allowed.find(static_cast<char16_t>(key)) != std::u16string_view::npos ? key : 0;
+}
+
+KeyPlan inFreeText(int key, const KeystrokeSettings& settings, const KeyBox& box)
+{
+    if (key == key_code::backspace)
+        return {.key = key, .press = true};
+    key = unlessFull(key, box);
+    if (settings.letterCase == tipoTamanhoLetra::Maisculo)
+        key = upperCase(static_cast<char16_t>(key));
+    else if (settings.letterCase == tipoTamanhoLetra::Minusculo)
+        key = lowerCase(static_cast<char16_t>(key));
+    if (!settings.freeText)
+        key = allowedKey(key, settings);
+    return {.key = key, .press = true, .after = AfterPress::tab};
+}
+
+// Oddity: without AutoSelect a field that shows "0,00" refuses the comma that is typed; a second symbol would make the
+// text no number.
+KeyPlan decimalKey(int key, const KeyBox& box)
+{
+    const auto symbol = static_cast<char16_t>(key);
+    KeyPlan plan{.key = 0, .press = true, .after = AfterPress::tab};
+    if (box.selected == static_cast<int>(box.text->size())) {
+        box.text->assign(1, symbol);
+        plan.writtenCaret = 1;
+    } else if (box.text->find(symbol) == std::u16string::npos) {
+        plan.key = key;
+    }
+    return plan;
+}
+
+// The caret has to stand behind the first decimal before a digit is refused.
+// Oddity: a third decimal can be typed right behind the decimal symbol; people correct the first decimal that way.
+bool takesDigit(const KeystrokeSettings& settings, const KeyBox& box)
+{
+    const auto symbol = settings.decimal.empty() ? std::u16string::npos : box.text->find(settings.decimal);
+    if (symbol == std::u16string::npos)
+        return true;
+    const bool full = static_cast<int>(box.text->size() - symbol - 1) >= settings.decimals;
+    return !full || box.caret <= static_cast<int>(symbol) + 1;
+}
+
+bool takesMinus(const KeystrokeSettings& settings, const KeyBox& box)
+{
+    return settings.negatives && box.caret == 0 && box.text->find(u'-') == std::u16string::npos;
+}
+
+// The text is read for every key, so that a box whose text cannot be read refuses every key.
+KeyPlan inNumber(int key, const KeystrokeSettings& settings, const KeyBox& box)
+{
+    if (key == key_code::backspace)
+        return {.key = key};
+    KeyPlan plan{.key = 0, .press = true, .after = AfterPress::tab};
+    key = unlessFull(key, box);
+    if (box.text == nullptr)
+        return plan;
+    const bool comma = key == key_code::comma && settings.displayDecimal == Simbolos::Virgula;
+    const bool point = key == key_code::point && settings.displayDecimal == Simbolos::Ponto;
+    if (comma || point)
+        return decimalKey(key, box);
+    if (isDigit(key) ? takesDigit(settings, box) : key == key_code::minus && takesMinus(settings, box))
+        plan.key = key;
+    return plan;
+}
+
+// Oddity: Backspace takes nothing away from a live amount; handlers expect no KeyPress for it.
+KeyPlan inLiveAmount(int key)
+{
+    if (!isDigit(key))
+        return {};
+    return {.key = key, .press = true, .after = AfterPress::tab};
+}
+
+// No automatic tab behind a Backspace.
+KeyPlan inMask(int key, const KeystrokeSettings& settings, const KeyBox& box, KeyTurn turn)
+{
+    const bool erases = key == key_code::backspace && turn == KeyTurn::first;
+    KeyPlan plan{.key = key, .press = true, .after = erases ? AfterPress::nothing : AfterPress::tab};
+    if (box.text == nullptr)
+        return plan;
+    const MaskStep step = validateMask(key, box.caret, settings.mask, *box.text);
+    plan.key = step.key;
+    if (step.textWritten)
+        plan.writtenCaret = step.caret;
+    plan.promptCaret = step.promptCaret;
+    return plan;
+}
+
+// The box of a date is locked: keys without a rule have no effect.
+bool dateHears(int key, KeyTurn turn) noexcept
+{
+    return isDigit(key) || (key == key_code::backspace && turn == KeyTurn::first);
+}
+
+} // namespace
+
+KeyNeeds needsOf(int key, const KeystrokeSettings& settings, KeyTurn turn) noexcept
+{
+    if (key == key_code::enter && turn == KeyTurn::first)
+        return {};
+    switch (settings.textType) {
+    case TipoText::TextoNormal: return {.room = key != key_code::backspace, .text = false};
+    case TipoText::Numerico: {
+        const bool judged = key != key_code::backspace && !settings.maskToNumeric;
+        return {.room = judged, .text = judged};
+    }
+    case TipoText::Data: return {.room = false, .text = dateHears(key, turn)};
+    case TipoText::Mascara: return {.room = false, .text = true};
+    }
+    return {};
+}
+
+// Oddity: Enter in a multi-line box raises KeyPress twice; handlers in use count on the second event.
+KeyPlan planKey(int key, const KeystrokeSettings& settings, const KeyBox& box, KeyTurn turn)
+{
+    if (key == key_code::enter && turn == KeyTurn::first)
+        return {.key = key, .press = true, .after = AfterPress::enter};
+    switch (settings.textType) {
+    case TipoText::TextoNormal: return inFreeText(key, settings, box);
+    case TipoText::Numerico: return settings.maskToNumeric ? inLiveAmount(key) : inNumber(key, settings, box);
+    case TipoText::Data: return dateHears(key, turn) ? inMask(key, settings, box, turn) : KeyPlan{.key = key};
+    case TipoText::Mascara: return inMask(key, settings, box, turn);
+    }
+    return {.key = key}; // a type beyond the enumeration: no rule, no event
+}
+
+EnterMeans enterMeans(const KeystrokeSettings& settings) noexcept
+{
+    if (settings.enterAsTab)
+        return EnterMeans::tab;
+    return settings.multiLine ? EnterMeans::line : EnterMeans::nothing;
+}
+
+// Oddity: a refused key in the last place still moves on with AutoTAB; forms are filled in without the Tab key.
+bool tabFollows(int key, const KeystrokeSettings& settings, const KeyBox& box)
+{
+    if (!settings.autoTab || key == key_code::backspace)
+        return false;
+    switch (settings.textType) {
+    case TipoText::TextoNormal:
+    case TipoText::Numerico: return box.caret == box.maxLength - 1; // the key being typed fills the last place
+    case TipoText::Data:
+    case TipoText::Mascara:
+        return box.caret == box.maxLength && !containsIgnoringCase(*box.text, settings.mask.promptChar);
+    }
+    return false;
 }
 
 } // namespace vela::engine

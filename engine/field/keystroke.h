@@ -1,11 +1,13 @@
 // The keystroke filter: what becomes of a character key before the edit box inserts it.
-// The order of reading, deciding, raising KeyPress and tabbing stands here and nowhere else.
+// A key goes needsOf(), planKey(), the host's KeyPress, then what the plan says comes after it. The control does all
+// that is done; here is decided what. The order of the rules stands here and nowhere else.
 #pragma once
 
-#include "engine/error.h"
+#include "engine/field/mask.h"
 #include "engine/field/property_types.h"
 
-#include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace vela::engine {
@@ -31,44 +33,50 @@ struct KeystrokeSettings {
     bool autoTab = false;
     bool negatives = false;      // AceitaNegativos
     std::u16string_view allowed; // CaractLiberados
-    std::u16string_view promptChar = u"_";
+    MaskSettings mask{.mask = {}, .rules = {}, .promptChar = u"_"};
 };
 
-// What the filter needs of the control. Each reader is asked only where a rule needs it, so that a field whose
-// text cannot be read still takes the keys that need no text. Any call may raise; the error reaches the caller.
-class KeystrokeSink {
-public:
-    // As they are now: asked again after an event, whose handler may have changed them. The views stay good until
-    // the next call that raises an event or writes.
-    [[nodiscard]] virtual KeystrokeSettings settings() const = 0;
-    [[nodiscard]] virtual std::u16string_view text() = 0; // good until the next call
-    [[nodiscard]] virtual int textLength() const = 0;
-    [[nodiscard]] virtual int caret() const = 0;
-    [[nodiscard]] virtual int selectionLength() const = 0;
-    [[nodiscard]] virtual int maxLength() const = 0;
+// `second`: Enter in a box of several lines, after its first KeyPress.
+enum class KeyTurn { first, second };
 
-    virtual void writeText(std::u16string_view text, int caret) = 0;
-    // The mask engine's whole step on the box, its own failures logged; the key is 0 when refused.
-    virtual void validateMask(int& key) = 0;
-    // The host's event; false when the control did not survive it: nothing of it is touched any more.
-    [[nodiscard]] virtual bool raiseKeyPress(std::int16_t& key) = 0;
-    virtual void sendTab() = 0;    // "{TAB}" to the focused window
-    virtual void tabKeyDown() = 0; // one synthetic key-down of Tab, no key-up
-    // A failure of the numeric rule: label "Procedimento: ValidaNumero".
-    virtual void logNumericFailure(const Error& error) = 0;
+// What a rule has to know of the box. The control reads no more than that, so that a field whose text cannot be read
+// still takes the keys that need no text.
+struct KeyNeeds {
+    bool room = false; // the length of the text, where a limit binds and nothing is selected
+    bool text = false;
+};
+[[nodiscard]] KeyNeeds needsOf(int key, const KeystrokeSettings& settings, KeyTurn turn) noexcept;
 
-protected:
-    ~KeystrokeSink() = default;
+// The box as it stands, as far as it was asked for.
+struct KeyBox {
+    std::u16string* text = nullptr; // null: could not be read. A plan edits it in place
+    int length = 0;
+    int caret = 0;
+    int selected = 0;
+    int maxLength = 0;
 };
 
-// The key the box is to handle, a UTF-16 unit; 0: nothing is inserted. Mask and date fields get their key back:
-// their box is locked and inserts nothing anyway.
-[[nodiscard]] int filterKeystroke(int key, KeystrokeSink& sink);
+enum class AfterPress { nothing, enter, tab };
 
-// A number field's key: the key itself or 0. Raises what the sink's readers raise. With the whole text selected
-// the decimal symbol is written here and its key refused.
-[[nodiscard]] int numericKey(int key, const KeystrokeSettings& settings, KeystrokeSink& sink);
-// The allowed-characters rule: the key itself or 0.
-[[nodiscard]] int allowedKey(int key, const KeystrokeSettings& settings) noexcept;
+// In this order: write the edited text and put the caret, put the caret past the literals, raise KeyPress, go on as
+// `after` says.
+struct KeyPlan {
+    int key = 0; // for KeyPress and then for the box, a UTF-16 unit; 0: refused, nothing is inserted
+    bool press = false;
+    AfterPress after = AfterPress::nothing;
+    std::optional<int> writtenCaret; // the text was edited: the caret behind what was written
+    std::optional<int> promptCaret;
+};
+
+// Mask and date fields get their key back: their box is locked and inserts nothing anyway. With the whole text selected
+// a number's decimal symbol is written and its key refused.
+[[nodiscard]] KeyPlan planKey(int key, const KeystrokeSettings& settings, const KeyBox& box, KeyTurn turn);
+
+// What Enter is once KeyPress has been heard: a synthetic key-down of Tab (no key-up), nothing, or a key to plan again.
+enum class EnterMeans { tab, nothing, line };
+[[nodiscard]] EnterMeans enterMeans(const KeystrokeSettings& settings) noexcept;
+
+// Whether "{TAB}" goes to the focused window behind `key`. A mask's text is looked at.
+[[nodiscard]] bool tabFollows(int key, const KeystrokeSettings& settings, const KeyBox& box);
 
 } // namespace vela::engine

@@ -4,7 +4,6 @@
 #include "engine/error.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace vela::engine {
 namespace {
@@ -61,14 +60,14 @@ std::optional<int> pastLiterals(int caret, const MaskSettings& settings, std::u1
     return static_cast<int>(found);
 }
 
-std::optional<char16_t> replaceOrAppend(std::u16string& text, int position, int key)
+void replaceOrAppend(std::u16string& text, int position, int key)
 {
     const auto index = static_cast<std::size_t>(position);
     const auto unit = static_cast<char16_t>(key);
     if (index < text.size())
-        return std::exchange(text[index], unit);
-    text.push_back(unit);
-    return {};
+        text[index] = unit;
+    else
+        text.push_back(unit);
 }
 
 bool isErasable(int position, const MaskSettings& settings, const std::u16string& text) noexcept
@@ -120,7 +119,7 @@ MaskStep validateMask(int key, int caret, const MaskSettings& settings, std::u16
         step.key = 0;
         return step;
     }
-    step.replaced = replaceOrAppend(text, position, step.key);
+    replaceOrAppend(text, position, step.key);
     step.textWritten = true;
     step.caret = position + 1;
     step.promptCaret = pastLiterals(step.caret, settings, text);

@@ -24,7 +24,6 @@ struct MaskSettings {
 struct MaskStep {
     int key = 0; // 0: refused. Letters come back as capitals
     bool textWritten = false;
-    std::optional<char16_t> replaced; // what stood where the key was written; nothing where the text grew
     int caret = 0;
     std::optional<int> promptCaret;
     friend bool operator==(const MaskStep&, const MaskStep&) = default;

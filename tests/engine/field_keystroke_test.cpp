@@ -1,4 +1,4 @@
-// The keystroke filter, watched through everything it asks of a control.
+// The keystroke filter: what its plans make of a key.
 #include "engine/field/keystroke.h"
 #include "field_text.h"
 
@@ -9,60 +9,75 @@
 namespace vela::engine {
 namespace {
 
-// Writes down what the filter does: "press 65", "mask 49", "tab", "tab-down", "write ,", "log 13".
-class Recorder final : public KeystrokeSink {
+// A control reduced to its box. It writes down what it does for a key: "press 65", "tab", "tab-down", "write ,".
+class Control {
 public:
     KeystrokeSettings set;
     test::Box content;
     int limit = 0;
-    int maskAnswer = -1;            // the key that the mask engine makes of its key; -1: the same
-    std::optional<Error> textFails; // once
-    bool dies = false;              // in the event
-    std::function<void(std::int16_t&)> handler;
+    bool readable = true;
+    std::function<void(int&)> handler; // of KeyPress
     std::string log;
 
-    KeystrokeSettings settings() const override { return set; }
-    std::u16string_view text() override
+    int type(int key)
     {
-        if (textFails)
-            throw *std::exchange(textFails, std::nullopt);
-        return content.text;
+        for (KeyTurn turn = KeyTurn::first;; turn = KeyTurn::second) {
+            const KeyPlan plan = planned(key, turn);
+            key = plan.key;
+            if (plan.press)
+                press(key);
+            if (plan.after == AfterPress::tab && tabFollows(key, set, seen(content.text)))
+                note("tab");
+            if (plan.after != AfterPress::enter)
+                return key;
+            const EnterMeans enter = enterMeans(set);
+            if (enter == EnterMeans::tab)
+                note("tab-down");
+            if (enter != EnterMeans::line)
+                return 0;
+        }
     }
-    int textLength() const override { return static_cast<int>(content.text.size()); }
-    int caret() const override { return content.caret; }
-    int selectionLength() const override { return content.selected; }
-    int maxLength() const override { return limit; }
-    void writeText(std::u16string_view text, int caret) override
-    {
-        note("write", text.front());
-        content = {std::u16string(text), caret, 0};
-    }
-    void validateMask(int& key) override
-    {
-        note("mask", key);
-        if (maskAnswer >= 0)
-            key = maskAnswer;
-    }
-    bool raiseKeyPress(std::int16_t& key) override
-    {
-        note("press", key);
-        if (handler)
-            handler(key);
-        return !dies;
-    }
-    void sendTab() override { note("tab"); }
-    void tabKeyDown() override { note("tab-down"); }
-    void logNumericFailure(const Error& error) override { note("log", error.number); }
 
 private:
-    void note(const char* what) { log += (log.empty() ? "" : ", ") + std::string(what); }
-    void note(const char* what, int number) { note((std::string(what) + " " + std::to_string(number)).c_str()); }
+    KeyPlan planned(int key, KeyTurn turn)
+    {
+        const KeyNeeds needs = needsOf(key, set, turn);
+        KeyBox box = seen(content.text);
+        if (!needs.room)
+            box.length = -1;
+        if (!needs.text || !readable)
+            box.text = nullptr;
+        const KeyPlan plan = planKey(key, set, box, turn);
+        if (plan.writtenCaret) {
+            log += log.empty() ? "write " : ", write ";
+            for (const char16_t unit : content.text)
+                log += static_cast<char>(unit);
+        }
+        content.caret = plan.promptCaret.value_or(plan.writtenCaret.value_or(content.caret));
+        return plan;
+    }
+    KeyBox seen(std::u16string& text)
+    {
+        return {.text = &text,
+                .length = static_cast<int>(text.size()),
+                .caret = content.caret,
+                .selected = content.selected,
+                .maxLength = limit};
+    }
+    void press(int& key)
+    {
+        note("press " + std::to_string(key));
+        if (handler)
+            handler(key);
+    }
+    void note(const std::string& what) { log += (log.empty() ? "" : ", ") + what; }
 };
 
 KeystrokeSettings of(TipoText type)
 {
     KeystrokeSettings settings;
     settings.textType = type;
+    settings.mask.mask = u"__/__";
     return settings;
 }
 
@@ -94,11 +109,11 @@ struct Row {
 void check(std::span<const Row> rows)
 {
     for (const Row& row : rows) {
-        Recorder control;
+        Control control;
         control.set = row.settings;
         control.content = test::box(row.box);
         control.limit = row.limit;
-        EXPECT_EQ(filterKeystroke(row.key, control), row.keyAfter) << row.rule;
+        EXPECT_EQ(control.type(row.key), row.keyAfter) << row.rule;
         EXPECT_EQ(control.log, row.log) << row.rule;
     }
 }
@@ -161,8 +176,8 @@ TEST(Keystroke, Numbers)
         {"the other symbol", number(), u"12|", 0, u'.', 0, "press 0"},
         {"the point where it is the symbol", number(Simbolos::Ponto), u"12|", 0, u'.', u'.', "press 46"},
         {"no symbol: neither", number(Simbolos::Vazio), u"12|", 0, u',', 0, "press 0"},
-        {"the whole text selected: written at once", number(), u"[12,5]", 0, u',', 0, "write 44, press 0"},
-        {"an empty text is wholly selected", number(), u"|", 0, u',', 0, "write 44, press 0"},
+        {"the whole text selected: written at once", number(), u"[12,5]", 0, u',', 0, "write ,, press 0"},
+        {"an empty text is wholly selected", number(), u"|", 0, u',', 0, "write ,, press 0"},
         {"a minus where none is taken", number(), u"|12", 0, u'-', 0, "press 0"},
         {"a minus in front", with(number(), signs), u"|12", 0, u'-', u'-', "press 45"},
         {"a minus inside", with(number(), signs), u"1|2", 0, u'-', 0, "press 0"},
@@ -193,90 +208,74 @@ TEST(Keystroke, FixedPointTakesDigitsOnly)
 TEST(Keystroke, Templates)
 {
     const auto tabs = [](KeystrokeSettings& s) { s.autoTab = true; };
-    const auto letterPrompt = [](KeystrokeSettings& s) { s.autoTab = true, s.promptChar = u"x"; };
-    const auto noPrompt = [](KeystrokeSettings& s) { s.autoTab = true, s.promptChar = u""; };
+    const auto letterPrompt = [](KeystrokeSettings& s) { s.autoTab = true, s.mask.promptChar = u"x"; };
+    const auto noPrompt = [](KeystrokeSettings& s) { s.autoTab = true, s.mask.promptChar = u""; };
     const Row rows[] = {
-        {"a date takes digits", of(TipoText::Data), u"|__/__", 5, u'1', u'1', "mask 49, press 49"},
+        {"a date takes digits", of(TipoText::Data), u"|__/__", 5, u'1', u'1', "write 1_/__, press 49"},
         {"a date lets other keys fall", of(TipoText::Data), u"|__/__", 5, u'a', u'a', ""},
-        {"a mask hears every key", of(TipoText::Mascara), u"|__/__", 5, u'/', u'/', "mask 47, press 47"},
-        {"Backspace", with(of(TipoText::Data), tabs), u"12/34|", 5, 8, 8, "mask 8, press 8"},
-        {"complete, caret at the end", with(of(TipoText::Data), tabs), u"12/34|", 5, u'4', u'4',
-         "mask 52, press 52, tab"},
-        {"complete, caret inside", with(of(TipoText::Data), tabs), u"12/|34", 5, u'4', u'4', "mask 52, press 52"},
-        {"incomplete", with(of(TipoText::Mascara), tabs), u"_2/34|", 5, u'4', u'4', "mask 52, press 52"},
+        {"a mask hears every key", of(TipoText::Mascara), u"|__/__", 5, u'/', u'/', "press 47"},
+        {"Backspace", with(of(TipoText::Data), tabs), u"12/34|", 5, 8, 8, "press 8"},
+        {"complete, caret at the end", with(of(TipoText::Data), tabs), u"12/34|", 5, u'4', u'4', "press 52, tab"},
+        {"complete, caret inside", with(of(TipoText::Data), tabs), u"12/|34", 5, u'4', u'4', "write 12/44, press 52"},
+        {"the key fills the last place", with(of(TipoText::Mascara), tabs), u"12/3|_", 5, u'4', u'4',
+         "write 12/34, press 52, tab"},
+        {"incomplete", with(of(TipoText::Mascara), tabs), u"_2/34|", 5, u'4', u'4', "press 52"},
         {"prompts are sought in either case", with(of(TipoText::Mascara), letterPrompt), u"X2|", 2, u'2', u'2',
-         "mask 50, press 50"},
+         "press 50"},
         {"a type beyond the enumeration", with(of(static_cast<TipoText>(9)), tabs), u"1|", 2, u'x', u'x', ""},
-        {"every text holds the empty prompt", with(of(TipoText::Mascara), noPrompt), u"12|", 2, u'2', u'2',
-         "mask 50, press 50"},
+        {"every text holds the empty prompt", with(of(TipoText::Mascara), noPrompt), u"12|", 2, u'2', u'2', "press 50"},
     };
     check(rows);
 }
 
 TEST(Keystroke, ARefusedMaskKeyIsToldAsZero)
 {
-    Recorder control;
-    control.set = of(TipoText::Mascara);
-    control.maskAnswer = 0;
-    EXPECT_EQ(filterKeystroke(u'a', control), 0);
-    EXPECT_EQ(control.log, "mask 97, press 0");
+    Control control;
+    control.set = with(of(TipoText::Mascara), [](KeystrokeSettings& s) { s.mask.rules = u"##/##"; });
+    control.content = test::box(u"|__/__");
+    EXPECT_EQ(control.type(u'a'), 0);
+    EXPECT_EQ(control.log, "press 0");
 }
 
 TEST(Keystroke, WhatTheHandlerChangesCounts)
 {
-    Recorder control;
+    Control control;
     control.set = of(TipoText::TextoNormal);
     control.content = test::box(u"1234|");
     control.limit = 5;
-    control.handler = [&](std::int16_t& key) {
-        key = static_cast<std::int16_t>(0xFF01); // a unit beyond the signed range
+    control.handler = [&](int& key) {
+        key = 0xFF01;
         control.set.autoTab = true;
     };
-    EXPECT_EQ(filterKeystroke(u'x', control), 0xFF01);
+    EXPECT_EQ(control.type(u'x'), 0xFF01);
     EXPECT_EQ(control.log, "press 120, tab");
 
-    Recorder lines; // Enter turned into another character is filtered on as that character
+    Control lines; // Enter turned into another character is filtered on as that character
     lines.set = with(of(TipoText::TextoNormal),
                      [](KeystrokeSettings& s) { s.multiLine = true, s.letterCase = tipoTamanhoLetra::Maisculo; });
-    lines.handler = [](std::int16_t& key) { key = key == 13 ? u'b' : key; };
-    EXPECT_EQ(filterKeystroke(13, lines), u'B');
+    lines.handler = [](int& key) { key = key == 13 ? u'b' : key; };
+    EXPECT_EQ(lines.type(13), u'B');
     EXPECT_EQ(lines.log, "press 13, press 66");
 
-    Recorder erased; // a key turned into Backspace sends no Tab
+    Control erased; // a key turned into Backspace sends no Tab
     erased.set = with(of(TipoText::TextoNormal), [](KeystrokeSettings& s) { s.autoTab = true; });
     erased.content = test::box(u"1|");
     erased.limit = 2;
-    erased.handler = [](std::int16_t& key) { key = 8; };
-    EXPECT_EQ(filterKeystroke(u'x', erased), 8);
+    erased.handler = [](int& key) { key = 8; };
+    EXPECT_EQ(erased.type(u'x'), 8);
     EXPECT_EQ(erased.log, "press 120");
 }
 
-TEST(Keystroke, NothingIsTouchedAfterTheControlDied)
+TEST(Keystroke, ATextThatCannotBeReadRefusesANumbersKeyOnly)
 {
-    for (const TipoText type : {TipoText::TextoNormal, TipoText::Numerico, TipoText::Data, TipoText::Mascara})
-        for (const int key : {8, 13, int{u'1'}}) {
-            Recorder control;
-            control.set = with(of(type), [](KeystrokeSettings& s) { s.enterAsTab = s.autoTab = true; });
-            control.content = test::box(u"1|");
-            control.limit = 2;
-            control.dies = true;
-            const int after = filterKeystroke(key, control);
-            const auto press = control.log.find("press");
-            if (press == std::string::npos)
-                continue; // Backspace in a number raises nothing
-            EXPECT_EQ(after, 0);
-            EXPECT_EQ(control.log.find(',', press), std::string::npos) << control.log;
-        }
-}
-
-TEST(Keystroke, AFailingNumericRuleIsLoggedAndRefuses)
-{
-    Recorder control;
-    control.set = number();
-    control.content = test::box(u"12|");
-    control.textFails = Error{13, u"Type mismatch"};
-    EXPECT_EQ(filterKeystroke(u'3', control), 0);
-    EXPECT_EQ(control.log, "log 13, press 0");
+    for (const auto& [settings, after] : {std::pair{number(), 0}, std::pair{of(TipoText::Mascara), int{u'3'}}}) {
+        Control control;
+        control.set = settings;
+        control.content = test::box(u"|__/__");
+        control.readable = false;
+        EXPECT_EQ(control.type(u'3'), after);
+        EXPECT_EQ(control.log, "press " + std::to_string(after));
+    }
 }
 
 } // namespace
