@@ -22,9 +22,8 @@ constexpr std::u16string_view amount = u"1.234.567,89";
 
 void require(UErrorCode status)
 {
-    if (U_FAILURE(status)) {
+    if (U_FAILURE(status))
         std::abort();
-    }
 }
 
 void numberRead(benchmark::State& state)

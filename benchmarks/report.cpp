@@ -40,17 +40,15 @@ void printRow(const Row& row, const Measured& own, const Measured& beside, std::
 {
     out << std::left << std::setw(38) << row.title << std::right << std::fixed << std::setprecision(1) << std::setw(10)
         << own.nanoseconds << std::setw(8);
-    if (own.allocations < 0) {
+    if (own.allocations < 0)
         out << '-';
-    } else {
+    else
         out << own.allocations;
-    }
     const double ratio = beside.nanoseconds / own.nanoseconds;
     out << "  " << std::left << std::setw(26) << row.beside << std::right << std::setw(10) << beside.nanoseconds
         << std::setw(8) << std::setprecision(ratio < 1 ? 2 : 1) << ratio;
-    if (row.goal > 0) {
+    if (row.goal > 0)
         out << std::setw(7) << row.goal << (ratio >= row.goal ? "  reached" : "  NOT REACHED");
-    }
     out << '\n';
 }
 
@@ -69,9 +67,8 @@ void printCreating(const Measured& creating, std::ostream& out)
 void CollectingReporter::ReportRuns(const std::vector<Run>& runs)
 {
     for (const Run& run : runs) {
-        if (run.error_occurred || run.run_type == Run::RT_Aggregate) {
+        if (run.error_occurred || run.run_type == Run::RT_Aggregate)
             continue;
-        }
         double nanoseconds = run.GetAdjustedCPUTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
         const auto counter = run.counters.find("allocs");
         const auto turns = run.counters.find("turns"); // in one iteration, where it is not one
@@ -95,9 +92,8 @@ void printTable(const std::map<std::string, Measured>& measured, std::ostream& o
     for (const Row& row : rows) {
         const auto own = measured.find(std::string(row.benchmark));
         const auto beside = measured.find(std::string(row.beside));
-        if (own != measured.end() && beside != measured.end()) {
+        if (own != measured.end() && beside != measured.end())
             printRow(row, own->second, beside->second, out);
-        }
     }
     if (const auto creating = measured.find("createControl"); creating != measured.end())
         printCreating(creating->second, out);

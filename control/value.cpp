@@ -121,14 +121,13 @@ void Vela::ValorPadrao(View value)
 {
     settings_.valorPadrao = value;
     const bool date = settings_.textType == TipoText::Data;
-    if (!settings_.valorPadrao.starts_with(formulaMarker)) {
-        if (date && settings_.valorPadrao.size() != settings_.mask.size())
-            settings_.valorPadrao.clear();
-        else
-            Text(Text16(settings_.valorPadrao));
-    } else if (date) {
+    const bool formula = settings_.valorPadrao.starts_with(formulaMarker);
+    if (formula && date)
         applyFormula();
-    }
+    else if (!formula && date && settings_.valorPadrao.size() != settings_.mask.size())
+        settings_.valorPadrao.clear();
+    else if (!formula)
+        Text(Text16(settings_.valorPadrao));
     markChanged(u"ValorPadrao");
 }
 

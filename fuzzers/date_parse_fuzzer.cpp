@@ -39,8 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } catch (const Error& error) {
         require(!date && (error.number == error_number::typeMismatch || error.number == error_number::overflow));
     }
-    if (date) {
+    if (date)
         checkWritten(*date, locale, today);
-    }
     return 0;
 }

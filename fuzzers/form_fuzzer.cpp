@@ -231,12 +231,11 @@ private:
         target.box().placeCaret(selection.start, selection.length);
         const int edits = bytes_.below(24);
         arrivals_ = 0; // a wrong entry that keeps the focus was left all the same, and what leaving wrote stays
-        for (int i = 0; i < edits && form_.focused() == focused; ++i) {
+        for (int i = 0; i < edits && form_.focused() == focused; ++i)
             if (bytes_.below(4) == 0)
                 form_.key(headless::namedKey(namedKeys[bytes_.next() % namedKeys.size()]));
             else
                 form_.key(headless::keyOf(typable[bytes_.next() % typable.size()]));
-        }
         if (form_.focused() != focused || arrivals_ > 0)
             return;
         for (int i = 0; i < 100; ++i)

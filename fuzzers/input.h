@@ -11,9 +11,8 @@ namespace vela::fuzz {
 
 inline void require(bool holds)
 {
-    if (!holds) {
+    if (!holds)
         std::abort();
-    }
 }
 
 class Input {
@@ -25,9 +24,8 @@ public:
     {
         double value = 0;
         std::uint64_t bits = 0;
-        for (int i = 0; i < 8; ++i) {
+        for (int i = 0; i < 8; ++i)
             bits = bits << 8 | byte();
-        }
         std::memcpy(&value, &bits, sizeof value);
         return value;
     }
@@ -47,9 +45,8 @@ public:
         std::u16string text;
         while (at_ < size_) {
             const std::uint8_t first = byte();
-            if (first == 0xFE) {
+            if (first == 0xFE)
                 break;
-            }
             text.push_back(first == 0xFF ? static_cast<char16_t>(byte() << 8 | byte()) : first);
         }
         return text;

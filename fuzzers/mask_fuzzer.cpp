@@ -22,12 +22,11 @@ struct Script {
     Script(const std::uint8_t* data, std::size_t size)
     {
         std::size_t line = 0;
-        for (std::size_t i = 0; i < size; ++i) {
+        for (std::size_t i = 0; i < size; ++i)
             if (data[i] == '\n' && line < 3)
                 ++line;
             else
                 lines[line].push_back(data[i]);
-        }
     }
 };
 
@@ -52,12 +51,11 @@ struct Field {
     {
         require(text.size() == settings.mask.size());
         require(caret >= 0 && static_cast<std::size_t>(caret) <= text.size());
-        for (std::size_t i = 0; i < text.size(); ++i) {
+        for (std::size_t i = 0; i < text.size(); ++i)
             if (!isInput(i))
                 require(text[i] == settings.mask[i]);
             else if (text[i] != settings.promptChar.front() && !settings.rules.empty())
                 require(i < settings.rules.size() && satisfies(text[i], settings.rules[i]));
-        }
     }
 
     void type(int key)

@@ -52,9 +52,8 @@ void checkKept(const Pattern& pattern, Value value, const Locale& locale)
 // "#,##0.00" and the like: the digits shown are the number's, so reading them back gives it to the places shown.
 void checkReadBack(double number, const Locale& locale)
 {
-    if (!(std::fabs(number) < 1e14)) {
+    if (!(std::fabs(number) < 1e14))
         return;
-    }
     std::u16string text;
     Pattern(u"#,##0.0000").format(number, locale, text);
     const auto again = tryParseDouble(text, locale);

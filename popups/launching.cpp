@@ -116,8 +116,8 @@ void launchCalculator(const platform::Environment& environment, Owner& owner, co
         if (loader.loaded() != &calculator || calculator.owner() != &owner)
             return; // one of the events took the calculator or its owner away
         const std::u16string text = owner.popupText();
-        // Oddity: on an empty field the first digits stand behind the "0." of the calculator; people type decimals that
-        // way.
+        // Oddity: on an empty field the first digits stand behind the "0." of the calculator; people type decimals
+        // that way.
         if (engine::isNumeric(std::u16string_view(text), environment.locales.locale()))
             calculator.putDisplay(text);
         step = 5;

@@ -59,8 +59,8 @@ HRESULT Dispatch::GetTypeInfo(UINT index, LCID, ITypeInfo** info) noexcept
     return index == 0 ? loadTypeInfo(shell_.facts().members, info) : DISP_E_BADINDEX;
 }
 
-// A method's parameter is named after it, and its DISPID is its number. The interface named is reserved and is not looked
-// at: some callers name the one that they hold.
+// A method's parameter is named after it, and its DISPID is its number. The interface named is reserved and is not
+// looked at: some callers name the one that they hold.
 HRESULT Dispatch::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) noexcept
 {
     if (!names || !ids || count == 0)

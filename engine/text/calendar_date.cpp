@@ -73,9 +73,8 @@ Date makeDate(CivilDate date, TimeOfDay time) noexcept
 
 std::optional<Moment> momentOf(Date date) noexcept
 {
-    if (!(date.serial > firstSerialExcluded && date.serial < lastSerialExcluded)) {
+    if (!(date.serial > firstSerialExcluded && date.serial < lastSerialExcluded))
         return std::nullopt;
-    }
     int serial = static_cast<int>(date.serial);
     const double fraction = std::fabs(date.serial - serial);
     int seconds = static_cast<int>((fraction + slack) * secondsPerDay + 0.5);

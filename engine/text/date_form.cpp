@@ -21,17 +21,15 @@ public:
             const auto rest = picture.substr(at);
             if (rest.front() == u'\'') {
                 const std::size_t length = quotedLength(rest);
-                if (!takeQuoted(rest.substr(0, length))) {
+                if (!takeQuoted(rest.substr(0, length)))
                     return false;
-                }
                 at += length;
                 continue;
             }
             const bool half = rest.starts_with(halfMark);
             const std::size_t length = half ? halfMark.size() : std::min(rest.find_first_not_of(rest[0]), rest.size());
-            if (!(half || rest[0] == u't' ? takeHalf() : takeLetters(rest.substr(0, length)))) {
+            if (!(half || rest[0] == u't' ? takeHalf() : takeLetters(rest.substr(0, length))))
                 return false;
-            }
             at += length;
         }
         return true;
@@ -49,9 +47,8 @@ public:
     [[nodiscard]] Moment moment() const noexcept
     {
         Moment moment = moment_;
-        if (half_ != Half::none) {
+        if (half_ != Half::none)
             moment.time.hour = moment.time.hour % 12 + (half_ == Half::afternoon ? 12 : 0);
-        }
         return moment;
     }
 
@@ -69,9 +66,8 @@ private:
     {
         std::size_t at = 1;
         for (; at < picture.size(); ++at) {
-            if (picture[at] == u'\'' && picture.substr(at + 1, 1) != u"'") {
+            if (picture[at] == u'\'' && picture.substr(at + 1, 1) != u"'")
                 return at + 1;
-            }
             at += picture[at] == u'\'' ? 1 : 0;
         }
         return at;
@@ -80,12 +76,10 @@ private:
     [[nodiscard]] bool takeQuoted(std::u16string_view quoted) noexcept
     {
         for (std::size_t at = 1; at < quoted.size(); ++at) {
-            if (quoted[at] == u'\'' && ++at == quoted.size()) {
+            if (quoted[at] == u'\'' && ++at == quoted.size())
                 return true;
-            }
-            if (!take(quoted.substr(at, 1))) {
+            if (!take(quoted.substr(at, 1)))
                 return false;
-            }
         }
         return true;
     }
@@ -94,9 +88,8 @@ private:
     {
         const bool longerFirst = locale_.am.size() > locale_.pm.size();
         const bool morning = longerFirst ? take(locale_.am) : !takesAfternoon() && take(locale_.am);
-        if (!morning && !take(locale_.pm)) {
+        if (!morning && !take(locale_.pm))
             return false;
-        }
         half_ = locale_.am == locale_.pm ? Half::none : morning ? Half::morning : Half::afternoon;
         return true;
     }
@@ -128,9 +121,8 @@ private:
     [[nodiscard]] bool takeNumber(int least, int most, int& value) noexcept
     {
         int digits = 0;
-        for (value = 0; digits < most && at_ < text_.size() && isDigit(text_[at_]); ++digits, ++at_) {
+        for (value = 0; digits < most && at_ < text_.size() && isDigit(text_[at_]); ++digits, ++at_)
             value = value * 10 + (text_[at_] - u'0');
-        }
         return digits >= least;
     }
 
@@ -162,13 +154,11 @@ std::optional<Moment> readOwnForm(std::u16string_view text, const Locale& locale
 {
     PictureReader date(text, locale);
     if (date.read(locale.shortDate) &&
-        (date.atEnd() || (date.take(u" ") && date.read(locale.longTime) && date.atEnd()))) {
+        (date.atEnd() || (date.take(u" ") && date.read(locale.longTime) && date.atEnd())))
         return date.moment();
-    }
     PictureReader time(text, locale);
-    if (time.read(locale.longTime) && time.atEnd()) {
+    if (time.read(locale.longTime) && time.atEnd())
         return time.moment();
-    }
     return std::nullopt;
 }
 

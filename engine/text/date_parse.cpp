@@ -40,15 +40,12 @@ enum Order : unsigned { mdy = 1, ymd = 2, ydm = 4, dmy = 8, myd = 16 };
 unsigned possibleOrders(std::span<const DateField> fields) noexcept
 {
     const bool three = fields.size() > 2;
-    if (fields[0].month) {
+    if (fields[0].month)
         return mdy;
-    }
-    if (fields[1].month) {
+    if (fields[1].month)
         return three ? dmy | ymd : dmy;
-    }
-    if (three && fields[2].month) {
+    if (three && fields[2].month)
         return ydm;
-    }
     return three ? mdy | dmy | ymd | ydm : mdy | dmy;
 }
 
@@ -82,9 +79,8 @@ bool arrange(unsigned orders, DateOrder preferred, std::array<std::uint32_t, 3> 
         for (const Order order : {mdy, ymd, ydm, dmy, myd}) {
             if ((orders & wanted & order) != 0) {
                 date = arranged(order, numbers[0], numbers[1], numbers[2]);
-                if (isDayOfMonth(date.day, date.month, date.year)) {
+                if (isDayOfMonth(date.day, date.month, date.year))
                     return true;
-                }
             }
         }
     }
@@ -93,9 +89,8 @@ bool arrange(unsigned orders, DateOrder preferred, std::array<std::uint32_t, 3> 
 
 std::uint32_t fullYear(std::uint32_t year, const Locale& locale) noexcept
 {
-    if (year > 99) {
+    if (year > 99)
         return year;
-    }
     const auto last = static_cast<std::uint32_t>(locale.twoDigitYearMax);
     const std::uint32_t century = last / 100 * 100;
     return year <= last % 100 ? century + year : century - 100 + year;
@@ -104,16 +99,13 @@ std::uint32_t fullYear(std::uint32_t year, const Locale& locale) noexcept
 // Two numbers are a day and a month of this year, or else a month and a year.
 bool dateOf(std::span<const DateField> fields, const Locale& locale, Date today, RawDate& date) noexcept
 {
-    if (fields.empty()) {
+    if (fields.empty())
         return true;
-    }
-    if (fields.size() == 1) {
+    if (fields.size() == 1)
         return false;
-    }
     const std::uint32_t first = fields[0].value, second = fields[1].value;
-    if (fields.size() == 3) {
+    if (fields.size() == 3)
         return arrange(possibleOrders(fields), locale.dateOrder, {first, second, fields[2].value}, date);
-    }
     const auto now = civilDate(today);
     const auto thisYear = static_cast<std::uint32_t>(now ? now->year : CivilDate{}.year);
     return arrange(possibleOrders(fields), locale.dateOrder, {first, second, thisYear}, date) ||
@@ -122,11 +114,9 @@ bool dateOf(std::span<const DateField> fields, const Locale& locale, Date today,
 
 bool anyHalf(const DateFields& fields, std::size_t first, std::size_t last) noexcept
 {
-    for (; first < last; ++first) {
-        if (fields.field[first].hasHalf()) {
+    for (; first < last; ++first)
+        if (fields.field[first].hasHalf())
             return true;
-        }
-    }
     return false;
 }
 
@@ -137,14 +127,12 @@ bool divideUnmarked(const DateFields& fields, Division& division) noexcept
         division.dateFields = fields.count;
         return fields.count == 2 || fields.count == 3;
     }
-    if (fields.count == 2 || fields.count > 4) {
+    if (fields.count == 2 || fields.count > 4)
         return false;
-    }
     division.dateFields = fields.count - 1;
     const bool inFront = fields.field[0].hasHalf();
-    if (!inFront && !fields.field[fields.count - 1].hasHalf()) {
+    if (!inFront && !fields.field[fields.count - 1].hasHalf())
         return false;
-    }
     division.firstOfDate = inFront && fields.count > 1 ? 1 : 0;
     division.time.hour = fields.field[inFront ? 0 : fields.count - 1].value;
     return true;
@@ -166,9 +154,8 @@ bool divideAt(const DateFields& fields, std::size_t first, std::size_t length, D
 unsigned timeMarks(const DateFields& fields) noexcept
 {
     unsigned marks = 0;
-    for (std::size_t i = 0; i + 1 < DateFields::most; ++i) {
+    for (std::size_t i = 0; i + 1 < DateFields::most; ++i)
         marks |= fields.field[i].timeSeparator ? 1U << i : 0;
-    }
     return marks;
 }
 
@@ -223,9 +210,8 @@ bool isPointedZero(const DateFields& fields) noexcept
 
 bool divideFields(const DateFields& fields, Division& division) noexcept
 {
-    if (fields.count == 0 || (fields.count == 1 && !fields.hasHalf()) || isPointedZero(fields)) {
+    if (fields.count == 0 || (fields.count == 1 && !fields.hasHalf()) || isPointedZero(fields))
         return false;
-    }
     return divide(fields, division);
 }
 
@@ -233,9 +219,8 @@ DateVerdict completed(RawDate raw, TimeOfDay time, const Locale& locale, Date& r
 {
     const CivilDate date{static_cast<int>(fullYear(raw.year, locale)), static_cast<int>(raw.month),
                          static_cast<int>(raw.day)};
-    if (!isValid(date)) {
+    if (!isValid(date))
         return DateVerdict::outOfRange;
-    }
     result = makeDate(date, time);
     return DateVerdict::date;
 }
@@ -244,34 +229,29 @@ DateVerdict readFields(std::u16string_view text, const Locale& locale, Date toda
 {
     DateFields fields;
     Division division;
-    if (!scanDateFields(text, locale, fields)) {
+    if (!scanDateFields(text, locale, fields))
         return DateVerdict::notDate;
-    }
     separatePointedDate(fields, locale);
-    if (!divideFields(fields, division)) {
+    if (!divideFields(fields, division))
         return DateVerdict::notDate;
-    }
     RawDate raw;
     const std::span dateFields(fields.field.data() + division.firstOfDate, division.dateFields);
-    if (division.dateFields > 3 || !dateOf(dateFields, locale, today, raw) || !isTime(division.time)) {
+    if (division.dateFields > 3 || !dateOf(dateFields, locale, today, raw) || !isTime(division.time))
         return DateVerdict::notDate;
-    }
     TimeOfDay time{static_cast<int>(division.time.hour), static_cast<int>(division.time.minute),
                    static_cast<int>(division.time.second)};
-    if (time.hour < 12 && fields.afternoon) {
+    if (time.hour < 12 && fields.afternoon)
         time.hour += 12;
-    } else if (time.hour == 12 && fields.morning) {
+    else if (time.hour == 12 && fields.morning)
         time.hour = 0;
-    }
     return completed(raw, time, locale, result);
 }
 
 DateVerdict readOwn(std::u16string_view text, const Locale& locale, Date& result) noexcept
 {
     const auto own = readOwnForm(untilNul(text), locale);
-    if (!own) {
+    if (!own)
         return DateVerdict::notDate;
-    }
     const RawDate raw{static_cast<std::uint32_t>(own->date.day), static_cast<std::uint32_t>(own->date.month),
                       static_cast<std::uint32_t>(own->date.year)};
     const RawTime time{static_cast<std::uint32_t>(own->time.hour), static_cast<std::uint32_t>(own->time.minute),

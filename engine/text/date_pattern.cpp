@@ -21,17 +21,15 @@ public:
 
     void write()
     {
-        for (const Token& token : pattern_.tokensOf(section_)) {
-            if (token.mark == Mark::literal) {
+        for (const Token& token : pattern_.tokensOf(section_))
+            if (token.mark == Mark::literal)
                 writer_.put(pattern_.literal(token));
-            } else if (token.mark >= Mark::hour) {
+            else if (token.mark >= Mark::hour)
                 putTime(token.mark);
-            } else if (token.mark >= Mark::day) {
+            else if (token.mark >= Mark::day)
                 putDay(token.mark);
-            } else {
+            else
                 putWhole(token.mark);
-            }
-        }
     }
 
 private:

@@ -13,14 +13,11 @@ constexpr std::uint32_t mostValue = 100'000'000;
 
 bool startsWithIgnoringCase(std::u16string_view text, std::u16string_view start) noexcept
 {
-    if (start.empty() || text.size() < start.size()) {
+    if (start.empty() || text.size() < start.size())
         return false;
-    }
-    for (std::size_t i = 0; i < start.size(); ++i) {
-        if (text[i] != start[i] && lowerCase(text[i]) != lowerCase(start[i])) {
+    for (std::size_t i = 0; i < start.size(); ++i)
+        if (text[i] != start[i] && lowerCase(text[i]) != lowerCase(start[i]))
             return false;
-        }
-    }
     return true;
 }
 
@@ -35,9 +32,8 @@ public:
     {
         while (at_ < text_.size()) {
             const char16_t unit = text_[at_];
-            if (!(isDigit(unit) ? takeNumber() : canBeginName(unit) ? takeName() : takeSeparator(unit))) {
+            if (!(isDigit(unit) ? takeNumber() : canBeginName(unit) ? takeName() : takeSeparator(unit)))
                 return false;
-            }
         }
         return true;
     }
@@ -59,40 +55,32 @@ private:
     [[nodiscard]] bool takeNumber() noexcept
     {
         DateField* const field = add();
-        if (field == nullptr) {
+        if (field == nullptr)
             return false;
-        }
-        for (; at_ < text_.size() && isDigit(text_[at_]); ++at_) {
-            if (field->value < mostValue) {
+        for (; at_ < text_.size() && isDigit(text_[at_]); ++at_)
+            if (field->value < mostValue)
                 field->value = field->value * 10 + static_cast<std::uint32_t>(text_[at_] - u'0');
-            }
-        }
         return true;
     }
 
     [[nodiscard]] bool takeName() noexcept
     {
-        if (takeMonth(locale_.months) || takeMonth(locale_.shortMonths)) {
+        if (takeMonth(locale_.months) || takeMonth(locale_.shortMonths))
             return !tooMany_;
-        }
-        if (takeDay(locale_.days) || takeDay(locale_.shortDays)) {
+        if (takeDay(locale_.days) || takeDay(locale_.shortDays))
             return true;
-        }
-        if (take(locale_.am) || take(u"am")) {
+        if (take(locale_.am) || take(u"am"))
             return markHalf(true);
-        }
-        if (take(locale_.pm) || take(u"pm")) {
+        if (take(locale_.pm) || take(u"pm"))
             return markHalf(false);
-        }
         const char16_t letter = lowerLetter(text_[at_++]);
         return (letter == u'a' || letter == u'p') && markHalf(letter == u'a');
     }
 
     [[nodiscard]] bool take(std::u16string_view name) noexcept
     {
-        if (!startsWithIgnoringCase(text_.substr(at_), name)) {
+        if (!startsWithIgnoringCase(text_.substr(at_), name))
             return false;
-        }
         at_ += name.size();
         return true;
     }
@@ -117,11 +105,9 @@ private:
     // Skips the name of a day of the week: it is not compared with the date.
     [[nodiscard]] bool takeDay(std::span<const std::u16string, 7> names) noexcept
     {
-        for (const auto& name : names) {
-            if (take(name)) {
+        for (const auto& name : names)
+            if (take(name))
                 return true;
-            }
-        }
         return false;
     }
 
@@ -129,9 +115,8 @@ private:
     [[nodiscard]] bool markHalf(bool morning) noexcept
     {
         DateField* const field = last();
-        if (field == nullptr || fields_.hasHalf()) {
+        if (field == nullptr || fields_.hasHalf())
             return false;
-        }
         (morning ? field->morning : field->afternoon) = true;
         (morning ? fields_.morning : fields_.afternoon) = true;
         return true;
@@ -140,9 +125,8 @@ private:
     [[nodiscard]] bool takeSeparator(char16_t unit) noexcept
     {
         const bool atEnd = ++at_ == text_.size();
-        if (DateField* const field = last()) {
+        if (DateField* const field = last())
             field->point = unit == u'.' && ++field->separators == 1;
-        }
         switch (unit) {
         case u'.': return locale_.dateSeparator.starts_with(u'.') ? markDate(atEnd) : markTime(atEnd);
         case u':': return markTime(atEnd);
@@ -156,9 +140,8 @@ private:
     [[nodiscard]] bool markTime(bool atEnd) noexcept
     {
         DateField* const field = last();
-        if (field == nullptr || atEnd) {
+        if (field == nullptr || atEnd)
             return false;
-        }
         field->timeSeparator = true;
         return true;
     }
@@ -166,9 +149,8 @@ private:
     [[nodiscard]] bool markDate(bool atEnd) noexcept
     {
         DateField* const field = last();
-        if (field == nullptr || atEnd || ++dateSeparators_ > 2) {
+        if (field == nullptr || atEnd || ++dateSeparators_ > 2)
             return false;
-        }
         field->dateSeparator = true;
         return true;
     }

@@ -37,9 +37,8 @@ private:
     [[nodiscard]] int runOf(char16_t letter) noexcept
     {
         int length = 0;
-        for (; at_ < picture_.size() && picture_[at_] == letter; ++at_) {
+        for (; at_ < picture_.size() && picture_[at_] == letter; ++at_)
             ++length;
-        }
         return length;
     }
 
@@ -47,9 +46,8 @@ private:
     void quoted()
     {
         for (++at_; at_ < picture_.size(); ++at_) {
-            if (picture_[at_] == u'\'' && (++at_ == picture_.size() || picture_[at_] != u'\'')) {
+            if (picture_[at_] == u'\'' && (++at_ == picture_.size() || picture_[at_] != u'\''))
                 return;
-            }
             writer_.put(picture_[at_]);
         }
     }
@@ -59,21 +57,19 @@ private:
     void day(int length)
     {
         const auto name = static_cast<std::size_t>(weekday(moment_.date) - 1);
-        if (length <= 2) {
+        if (length <= 2)
             writer_.number(moment_.date.day, length);
-        } else {
+        else
             writer_.put(length == 3 ? locale_.shortDays[name] : locale_.days[name]);
-        }
     }
 
     void month(int length)
     {
         const auto name = static_cast<std::size_t>(moment_.date.month - 1);
-        if (length <= 2) {
+        if (length <= 2)
             writer_.number(moment_.date.month, length);
-        } else {
+        else
             writer_.put(length == 3 ? locale_.shortMonths[name] : locale_.months[name]);
-        }
     }
 
     void letters(char16_t letter, int length)
@@ -113,13 +109,11 @@ void putPicture(const Moment& moment, std::u16string_view picture, const Locale&
 void putDate(const Moment& moment, const Locale& locale, TextWriter& writer)
 {
     const bool timeOnly = moment.date == CivilDate{};
-    if (!timeOnly) {
+    if (!timeOnly)
         putPicture(moment, locale.shortDate, locale, writer);
-    }
     if (timeOnly || moment.time != TimeOfDay{}) {
-        if (!timeOnly) {
+        if (!timeOnly)
             writer.put(u' ');
-        }
         putPicture(moment, locale.longTime, locale, writer);
     }
 }
@@ -127,9 +121,8 @@ void putDate(const Moment& moment, const Locale& locale, TextWriter& writer)
 std::u16string dateToText(Date date, const Locale& locale)
 {
     const auto moment = momentOf(date);
-    if (!moment) {
+    if (!moment)
         raise(error_number::overflow);
-    }
     std::u16string text;
     TextWriter writer(text);
     putDate(*moment, locale, writer);

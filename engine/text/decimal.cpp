@@ -16,12 +16,10 @@ constexpr std::uint64_t tenToTheFifteenth = 1'000'000'000'000'000;
 
 void trimZeros(Decimal& decimal) noexcept
 {
-    while (decimal.count > 0 && decimal.digits[static_cast<std::size_t>(decimal.count - 1)] == '0') {
+    while (decimal.count > 0 && decimal.digits[static_cast<std::size_t>(decimal.count - 1)] == '0')
         --decimal.count;
-    }
-    if (decimal.count == 0) {
+    if (decimal.count == 0)
         decimal.point = 0;
-    }
 }
 
 void takeWhole(Decimal& decimal, std::uint64_t whole, int fractionDigits) noexcept
@@ -39,9 +37,8 @@ bool takeAmount(Decimal& decimal, double magnitude) noexcept
     static constexpr std::array<double, 3> scales{1.0, 100.0, 10000.0};
     for (std::size_t i = 0; i < scales.size(); ++i) {
         const double scaled = magnitude * scales[i];
-        if (!(scaled < 1e15)) {
+        if (!(scaled < 1e15))
             return false;
-        }
         const auto whole = static_cast<std::uint64_t>(scaled + 0.5);
         if (static_cast<double>(whole) / scales[i] == magnitude) {
             takeWhole(decimal, whole, static_cast<int>(i) * 2);
@@ -72,27 +69,23 @@ void takeRounded(Decimal& decimal, double magnitude) noexcept
 
 Decimal decimalOf(double number)
 {
-    if (!std::isfinite(number)) {
+    if (!std::isfinite(number))
         raise(error_number::overflow);
-    }
     Decimal decimal;
     const double magnitude = std::fabs(number);
-    if (magnitude == 0.0) {
+    if (magnitude == 0.0)
         return decimal;
-    }
     decimal.negative = number < 0;
-    if (magnitude >= 1e-4 && takeAmount(decimal, magnitude)) {
+    if (magnitude >= 1e-4 && takeAmount(decimal, magnitude))
         return decimal;
-    }
     takeRounded(decimal, magnitude);
     return decimal;
 }
 
 void roundTo(Decimal& decimal, int kept) noexcept
 {
-    if (kept >= decimal.count) {
+    if (kept >= decimal.count)
         return;
-    }
     if (kept < 0) {
         decimal.count = 0;
         trimZeros(decimal);
@@ -101,9 +94,8 @@ void roundTo(Decimal& decimal, int kept) noexcept
     const bool up = decimal.digits[static_cast<std::size_t>(kept)] >= '5';
     decimal.count = kept;
     if (up) {
-        while (decimal.count > 0 && decimal.digits[static_cast<std::size_t>(decimal.count - 1)] == '9') {
+        while (decimal.count > 0 && decimal.digits[static_cast<std::size_t>(decimal.count - 1)] == '9')
             --decimal.count;
-        }
         if (decimal.count == 0) {
             decimal.digits[0] = '1';
             decimal.count = 1;

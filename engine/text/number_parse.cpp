@@ -12,9 +12,8 @@ constexpr std::int64_t mostExponent = 1'000'000;
 // Raises what a verdict other than "number" means to the caller.
 void require(ScanVerdict verdict)
 {
-    if (verdict != ScanVerdict::number) {
+    if (verdict != ScanVerdict::number)
         raise(verdict == ScanVerdict::overflow ? error_number::overflow : error_number::typeMismatch);
-    }
 }
 
 // What is typed most, without the scanner: a sign, at most 15 digits, single grouping and decimal symbols. False says
@@ -24,15 +23,13 @@ bool readPlain(std::u16string_view text, const Locale& locale, double& value) no
     constexpr std::size_t mostUnits = 30;
     constexpr std::uint64_t mostMantissa = 1'000'000'000'000'000;
     if (text.empty() || text.size() > mostUnits || locale.decimal.size() != 1 || locale.grouping.size() != 1 ||
-        locale.negativeSign.size() != 1) {
+        locale.negativeSign.size() != 1)
         return false;
-    }
     const char16_t decimal = locale.decimal[0], grouping = locale.grouping[0];
     const bool negative = text[0] == locale.negativeSign[0];
     std::size_t at = negative ? 1 : 0;
-    if (at == text.size() || !isDigit(text[at])) {
+    if (at == text.size() || !isDigit(text[at]))
         return false;
-    }
     std::uint64_t mantissa = 0;
     std::size_t decimals = 0, step = 0;
     for (; at < text.size(); ++at) {
@@ -45,13 +42,11 @@ bool readPlain(std::u16string_view text, const Locale& locale, double& value) no
         } else if (unit != grouping) {
             return false;
         }
-        if (mantissa >= mostMantissa) {
+        if (mantissa >= mostMantissa)
             return false;
-        }
     }
-    if (decimals >= exactPowersOfTen.size() || decimal == grouping) {
+    if (decimals >= exactPowersOfTen.size() || decimal == grouping)
         return false;
-    }
     const double magnitude = static_cast<double>(mantissa) / exactPowersOfTen[decimals];
     value = negative ? -magnitude : magnitude;
     return true;
@@ -59,9 +54,8 @@ bool readPlain(std::u16string_view text, const Locale& locale, double& value) no
 
 ScanVerdict scanDouble(std::u16string_view text, const Locale& locale, double& value) noexcept
 {
-    if (readPlain(text, locale, value)) {
+    if (readPlain(text, locale, value))
         return ScanVerdict::number;
-    }
     NumberScanner scanner(text, locale);
     return scanner.scan() ? scanner.toDouble(value) : ScanVerdict::notNumber;
 }
@@ -73,9 +67,8 @@ public:
 
     [[nodiscard]] double read()
     {
-        if (peek() == u'&') {
+        if (peek() == u'&')
             return readRadix();
-        }
         const bool negative = takeSign();
         for (bool fraction = false;; ++at_) {
             const char16_t unit = peek();
@@ -93,18 +86,16 @@ public:
             readExponent();
         }
         const auto value = digits_.toDouble(negative && !digits_.isZero());
-        if (!value) {
+        if (!value)
             raise(error_number::overflow);
-        }
         return *value;
     }
 
 private:
     [[nodiscard]] char16_t peek() noexcept
     {
-        while (at_ < text_.size() && (text_[at_] == u' ' || text_[at_] == u'\t' || text_[at_] == u'\n')) {
+        while (at_ < text_.size() && (text_[at_] == u' ' || text_[at_] == u'\t' || text_[at_] == u'\n'))
             ++at_;
-        }
         return at_ < text_.size() ? text_[at_] : u'\0';
     }
     [[nodiscard]] bool takeSign() noexcept
@@ -118,17 +109,14 @@ private:
     {
         ++at_;
         const int bits = radixBits(peek());
-        if (bits == 0) {
+        if (bits == 0)
             return 0;
-        }
         ++at_;
         RadixCollector digits(bits);
-        while (digits.add(peek())) {
+        while (digits.add(peek()))
             ++at_;
-        }
-        if (digits.overflows()) {
+        if (digits.overflows())
             raise(error_number::overflow);
-        }
         return digits.fitsShort() && peek() != u'&' ? digits.toShort() : digits.toLong();
     }
     // A letter without digits is no exponent: "1e" -> 1.
@@ -136,9 +124,8 @@ private:
     {
         const bool negative = takeSign();
         std::int64_t exponent = 0;
-        for (; isDigit(peek()); ++at_) {
+        for (; isDigit(peek()); ++at_)
             exponent = exponent < mostExponent ? exponent * 10 + (text_[at_] - u'0') : exponent;
-        }
         digits_.scale(negative ? -exponent : exponent);
     }
 

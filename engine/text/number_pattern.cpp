@@ -45,9 +45,8 @@ public:
 private:
     void scale() noexcept
     {
-        if (number_.isZero()) {
+        if (number_.isZero())
             return;
-        }
         number_.point += (section_.percent ? percentPower : 0) - section_.thousands * thousandPower;
         const int whole = static_cast<int>(section_.whole), fraction = static_cast<int>(section_.fraction);
         if (!section_.exponent) {
@@ -79,17 +78,15 @@ private:
         const int leastWhole = static_cast<int>(section_.whole - section_.skipped);
         for (int place = std::min(highest, std::max(wholeDigits_, leastWhole) - 1); place >= lowest; --place) {
             writer_.put(static_cast<char16_t>(number_.at(place)));
-            if (section_.grouping && place > 0 && place % 3 == 0) {
+            if (section_.grouping && place > 0 && place % 3 == 0)
                 writer_.put(locale_.grouping);
-            }
         }
     }
 
     void putDecimal()
     {
-        if (section_.whole == 0) {
+        if (section_.whole == 0)
             putWhole(wholeDigits_ - 1, 0);
-        }
         writer_.put(locale_.decimal);
         afterDecimal_ = true;
     }
@@ -98,9 +95,8 @@ private:
     void putFraction(int length, bool zero)
     {
         const int count = std::min(length, fractionDigits_ - written_);
-        for (int i = 0; i < count; ++i) {
+        for (int i = 0; i < count; ++i)
             writer_.put(static_cast<char16_t>(number_.at(-1 - written_ - i)));
-        }
         written_ += std::max(count, 0);
         heldBack_ += static_cast<std::size_t>(length - std::max(count, 0));
         if (zero) {
@@ -112,16 +108,14 @@ private:
     void putExponent(const Token& token)
     {
         writer_.put(token.smallLetter ? u'e' : u'E');
-        if (exponent_ < 0) {
+        if (exponent_ < 0)
             writer_.put(u'-');
-        } else if (token.plusSign) {
+        else if (token.plusSign)
             writer_.put(u'+');
-        }
         const int magnitude = std::abs(exponent_);
         const int digits = magnitude < 10 ? 1 : magnitude < 100 ? 2 : 3;
-        if (static_cast<int>(token.length) > digits) {
+        if (static_cast<int>(token.length) > digits)
             writer_.repeat(u'0', token.length - static_cast<std::uint32_t>(digits));
-        }
         writer_.number(magnitude, 1);
     }
 
@@ -186,9 +180,8 @@ void putNumberPattern(const Pattern::Compiled& pattern, Decimal number, NumberCa
         return;
     }
     const Section& section = sectionFor(pattern, chosen);
-    if (number.negative && !pattern.sections[1].written) {
+    if (number.negative && !pattern.sections[1].written)
         writer.put(locale.negativeSign);
-    }
     NumberPatternWriter(pattern, section, number, locale, writer).write();
 }
 

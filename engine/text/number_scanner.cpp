@@ -16,9 +16,8 @@ constexpr std::uint64_t exactInDouble = std::uint64_t{1} << 53;
 
 int hexadecimalDigit(char16_t unit) noexcept
 {
-    if (isDigit(unit)) {
+    if (isDigit(unit))
         return unit - u'0';
-    }
     const char16_t lower = lowerLetter(unit);
     return lower >= u'a' && lower <= u'f' ? lower - u'a' + 10 : -1;
 }
@@ -28,12 +27,10 @@ int hexadecimalDigit(char16_t unit) noexcept
 bool RadixCollector::add(char16_t unit) noexcept
 {
     const int digit = hexadecimalDigit(unit);
-    if (digit < 0 || digit >= 1 << bitsADigit_) {
+    if (digit < 0 || digit >= 1 << bitsADigit_)
         return false;
-    }
-    if (!overflows()) {
+    if (!overflows())
         value_ = (value_ << bitsADigit_) + static_cast<std::uint64_t>(digit);
-    }
     return true;
 }
 
@@ -51,9 +48,8 @@ void DigitCollector::add(char16_t digit, int dropped) noexcept
     }
     if (count_ < capacity) {
         digits_[static_cast<std::size_t>(count_++)] = static_cast<char>(digit);
-        if (count_ <= leadingDigits) {
+        if (count_ <= leadingDigits)
             leading_ = leading_ * 10 + (digit - u'0');
-        }
         exponent_ -= dropped == 0 ? 1 : 0;
     } else {
         sticky_ = sticky_ || digit != u'0';
@@ -80,9 +76,8 @@ std::optional<double> DigitCollector::toDoubleSlowly() const noexcept
 {
     std::array<char, capacity + 32> text;
     char* last = text.data();
-    for (int i = 0; i < count_; ++i) {
+    for (int i = 0; i < count_; ++i)
         *last++ = digits_[static_cast<std::size_t>(i)];
-    }
     std::int64_t exponent = exponent_;
     if (sticky_) {
         *last++ = '1';
@@ -91,42 +86,35 @@ std::optional<double> DigitCollector::toDoubleSlowly() const noexcept
     *last++ = 'e';
     last = std::to_chars(last, text.data() + text.size(), exponent).ptr;
     double value = 0;
-    if (std::from_chars(text.data(), last, value).ec == std::errc::result_out_of_range) {
+    if (std::from_chars(text.data(), last, value).ec == std::errc::result_out_of_range)
         return count_ + exponent_ > 0 ? std::nullopt : std::optional(0.0);
-    }
     return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
 std::optional<std::int64_t> DigitCollector::toTenThousandths(bool negative) const noexcept
 {
     const std::int64_t kept = count_ + exponent_ + 4;
-    if (count_ == 0 || kept < 0) {
+    if (count_ == 0 || kept < 0)
         return 0;
-    }
-    if (kept > 19) {
+    if (kept > 19)
         return std::nullopt;
-    }
     std::uint64_t value = 0;
-    for (int i = 0; i < kept; ++i) {
+    for (int i = 0; i < kept; ++i)
         value = value * 10 + static_cast<std::uint64_t>(i < count_ ? digits_[static_cast<std::size_t>(i)] - '0' : 0);
-    }
     if (kept < count_) {
         const char next = digits_[static_cast<std::size_t>(kept)];
         const bool beyondHalf = kept + 1 < count_ && (sticky_ || [&] {
-                                    for (auto i = kept + 1; i < count_; ++i) {
-                                        if (digits_[static_cast<std::size_t>(i)] != '0') {
+                                    for (auto i = kept + 1; i < count_; ++i)
+                                        if (digits_[static_cast<std::size_t>(i)] != '0')
                                             return true;
-                                        }
-                                    }
                                     return false;
                                 }());
         value += next > '5' || (next == '5' && (beyondHalf || value % 2 == 1)) ? 1 : 0;
     }
     const std::uint64_t limit =
         static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()) + (negative ? 1 : 0);
-    if (value > limit) {
+    if (value > limit)
         return std::nullopt;
-    }
     return static_cast<std::int64_t>(negative ? 0 - value : value);
 }
 
@@ -140,9 +128,8 @@ bool NumberScanner::scan() noexcept
 {
     while (takeLeading()) {
     }
-    if (!(takeRadix() ? radix_ : scanDecimalDigits())) {
+    if (!(takeRadix() ? radix_ : scanDecimalDigits()))
         return false;
-    }
     while (takeTrailing()) {
     }
     return at_ == text_.size() && opened_ == closed_;
@@ -172,9 +159,8 @@ ScanVerdict NumberScanner::toTenThousandths(std::int64_t& value) const noexcept
 
 bool NumberScanner::take(std::u16string_view symbol) noexcept
 {
-    if (symbol.empty() || !text_.substr(at_).starts_with(symbol)) {
+    if (symbol.empty() || !text_.substr(at_).starts_with(symbol))
         return false;
-    }
     at_ += symbol.size();
     return true;
 }
@@ -182,52 +168,44 @@ bool NumberScanner::take(std::u16string_view symbol) noexcept
 bool NumberScanner::takeBlanks() noexcept
 {
     const std::size_t start = at_;
-    while (at_ < text_.size() && isBlank(text_[at_])) {
+    while (at_ < text_.size() && isBlank(text_[at_]))
         ++at_;
-    }
     return at_ > start;
 }
 
 // One sign a text, in front or behind.
 bool NumberScanner::takeSign() noexcept
 {
-    if (signed_) {
+    if (signed_)
         return false;
-    }
-    if (take(locale_.negativeSign)) {
+    if (take(locale_.negativeSign))
         return signed_ = negative_ = true;
-    }
     return signed_ = take(u"+");
 }
 
 bool NumberScanner::takeLeading() noexcept
 {
-    if (takeBlanks() || takeSign()) {
+    if (takeBlanks() || takeSign())
         return true;
-    }
-    if (!opened_ && take(u"(")) {
+    if (!opened_ && take(u"("))
         return opened_ = true;
-    }
     return !currency_ && take(locale_.currencySymbol) && (currency_ = true);
 }
 
 bool NumberScanner::takeTrailing() noexcept
 {
-    if (takeBlanks() || takeSign() || (!radix_ && take(locale_.grouping))) {
+    if (takeBlanks() || takeSign() || (!radix_ && take(locale_.grouping)))
         return true;
-    }
-    if (opened_ && !closed_ && take(u")")) {
+    if (opened_ && !closed_ && take(u")"))
         return closed_ = negative_ = true;
-    }
     return take(locale_.currencySymbol);
 }
 
 // "&H" and "&O": true when one stands here, `radix_` when digits of it follow.
 bool NumberScanner::takeRadix() noexcept
 {
-    if (at_ + 1 >= text_.size() || text_[at_] != u'&' || radixBits(text_[at_ + 1]) == 0) {
+    if (at_ + 1 >= text_.size() || text_[at_] != u'&' || radixBits(text_[at_ + 1]) == 0)
         return false;
-    }
     radixDigits_ = RadixCollector(radixBits(text_[at_ + 1]));
     at_ += 2;
     radix_ = scanRadixDigits();
@@ -237,9 +215,8 @@ bool NumberScanner::takeRadix() noexcept
 bool NumberScanner::scanRadixDigits() noexcept
 {
     const std::size_t start = at_;
-    while (at_ < text_.size() && radixDigits_.add(text_[at_])) {
+    while (at_ < text_.size() && radixDigits_.add(text_[at_]))
         ++at_;
-    }
     return at_ > start;
 }
 
@@ -270,14 +247,12 @@ bool NumberScanner::scanDecimalDigits() noexcept
 bool NumberScanner::scanExponent() noexcept
 {
     const bool negative = take(locale_.negativeSign);
-    if (!negative) {
+    if (!negative)
         static_cast<void>(take(u"+"));
-    }
     const std::size_t start = at_;
     std::int64_t exponent = 0;
-    for (; at_ < text_.size() && isDigit(text_[at_]); ++at_) {
+    for (; at_ < text_.size() && isDigit(text_[at_]); ++at_)
         exponent = exponent < mostExponent ? exponent * 10 + (text_[at_] - u'0') : exponent;
-    }
     digits_.scale(negative ? -exponent : exponent);
     return at_ > start;
 }

@@ -17,12 +17,10 @@ constexpr int mostDecimals = 255;
 void putScientific(const Decimal& decimal, const Locale& locale, TextWriter& writer)
 {
     writer.put(static_cast<char16_t>(decimal.digits[0]));
-    if (decimal.count > 1) {
+    if (decimal.count > 1)
         writer.put(locale.decimal);
-    }
-    for (int i = 1; i < decimal.count; ++i) {
+    for (int i = 1; i < decimal.count; ++i)
         writer.put(static_cast<char16_t>(decimal.digits[static_cast<std::size_t>(i)]));
-    }
     const int exponent = decimal.point - 1;
     writer.put(u'E');
     writer.put(exponent < 0 ? u'-' : u'+');
@@ -31,24 +29,21 @@ void putScientific(const Decimal& decimal, const Locale& locale, TextWriter& wri
 
 void putWhole(const Decimal& decimal, TextWriter& writer)
 {
-    for (int place = decimal.point - 1; place >= 0; --place) {
+    for (int place = decimal.point - 1; place >= 0; --place)
         writer.put(static_cast<char16_t>(decimal.at(place)));
-    }
 }
 
 void putPlain(const Decimal& decimal, const Locale& locale, TextWriter& writer)
 {
-    if (decimal.point > 0) {
+    if (decimal.point > 0)
         putWhole(decimal, writer);
-    } else {
+    else
         writer.put(u'0');
-    }
     const int decimals = decimal.count - decimal.point;
     if (decimals > 0 && !decimal.isZero()) {
         writer.put(locale.decimal);
-        for (int place = -1; place >= -decimals; --place) {
+        for (int place = -1; place >= -decimals; --place)
             writer.put(static_cast<char16_t>(decimal.at(place)));
-        }
     }
 }
 
@@ -60,37 +55,30 @@ void putSignBefore(const Locale& locale, TextWriter& writer)
     case 4: return;
     default: writer.put(locale.negativeSign);
     }
-    if (locale.numberNegative == 2) {
+    if (locale.numberNegative == 2)
         writer.put(u' ');
-    }
 }
 
 void putSignAfter(const Locale& locale, TextWriter& writer)
 {
-    if (locale.numberNegative == 0) {
+    if (locale.numberNegative == 0)
         return writer.put(u')');
-    }
-    if (locale.numberNegative == 4) {
+    if (locale.numberNegative == 4)
         writer.put(u' ');
-    }
-    if (locale.numberNegative >= 3) {
+    if (locale.numberNegative >= 3)
         writer.put(locale.negativeSign);
-    }
 }
 
 void putFixed(const Decimal& decimal, int decimals, const Locale& locale, TextWriter& writer)
 {
-    if (decimal.point > 0) {
+    if (decimal.point > 0)
         putWhole(decimal, writer);
-    } else if (locale.leadingZero || decimals == 0) {
+    else if (locale.leadingZero || decimals == 0)
         writer.put(u'0');
-    }
-    if (decimals > 0) {
+    if (decimals > 0)
         writer.put(locale.decimal);
-    }
-    for (int place = -1; place >= -decimals; --place) {
+    for (int place = -1; place >= -decimals; --place)
         writer.put(static_cast<char16_t>(decimal.at(place)));
-    }
 }
 
 } // namespace
@@ -98,9 +86,8 @@ void putFixed(const Decimal& decimal, int decimals, const Locale& locale, TextWr
 void putNumber(double number, const Locale& locale, TextWriter& writer)
 {
     const Decimal decimal = decimalOf(number);
-    if (decimal.negative) {
+    if (decimal.negative)
         writer.put(locale.negativeSign);
-    }
     const bool plain = decimal.point <= significantDigits && decimal.count - decimal.point <= mostPlainDecimals;
     plain ? putPlain(decimal, locale, writer) : putScientific(decimal, locale, writer);
 }
@@ -116,20 +103,17 @@ std::u16string numberToText(double number, const Locale& locale)
 
 std::u16string formatNumber(double number, int decimals, const Locale& locale)
 {
-    if (decimals < 0 || decimals > mostDecimals) {
+    if (decimals < 0 || decimals > mostDecimals)
         raise(error_number::invalidCall);
-    }
     Decimal decimal = decimalOf(number);
     roundTo(decimal, decimal.point + decimals);
     std::u16string text;
     TextWriter writer(text);
-    if (decimal.negative) {
+    if (decimal.negative)
         putSignBefore(locale, writer);
-    }
     putFixed(decimal, decimals, locale, writer);
-    if (decimal.negative) {
+    if (decimal.negative)
         putSignAfter(locale, writer);
-    }
     writer.flush();
     return text;
 }

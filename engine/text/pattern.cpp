@@ -24,17 +24,15 @@ void putWithMarks(const Compiled& pattern, double number, const Locale& locale, 
 
 void requireSections(const Compiled& pattern)
 {
-    if (pattern.tooManySections) {
+    if (pattern.tooManySections)
         raise(error_number::invalidCall);
-    }
 }
 
 Moment requireMoment(Date date)
 {
     const auto moment = momentOf(date);
-    if (!moment) {
+    if (!moment)
         raise(error_number::overflow);
-    }
     return *moment;
 }
 
@@ -67,18 +65,16 @@ void putValue(const Compiled& pattern, Date date, const Locale& locale, TextWrit
 std::optional<double> readText(PatternKind kind, std::u16string_view text, const Locale& locale, Date today) noexcept
 {
     const auto number = tryParseDouble(text, locale);
-    if (number && kind != PatternKind::date) {
+    if (number && kind != PatternKind::date)
         return number;
-    }
     const auto date = tryParseDate(text, locale, today);
     return date ? date->serial : number;
 }
 
 void putValue(const Compiled& pattern, std::u16string_view text, const Locale& locale, Date today, TextWriter& writer)
 {
-    if (pattern.kind == PatternKind::text) {
+    if (pattern.kind == PatternKind::text)
         return putTextPattern(pattern, text, writer);
-    }
     const bool asItStands = pattern.kind == PatternKind::general && pattern.named == NamedNumber::none;
     const auto number = asItStands ? std::nullopt : readText(pattern.kind, text, locale, today);
     number ? putValue(pattern, *number, locale, writer) : writer.put(text);
@@ -137,9 +133,8 @@ Pattern::Pattern(const Pattern& other) : compiled_(std::make_unique<Compiled>(*o
 Pattern::Pattern(Pattern&&) noexcept = default;
 Pattern& Pattern::operator=(const Pattern& other)
 {
-    if (this != &other) {
+    if (this != &other)
         compiled_ = std::make_unique<Compiled>(*other.compiled_);
-    }
     return *this;
 }
 Pattern& Pattern::operator=(Pattern&&) noexcept = default;

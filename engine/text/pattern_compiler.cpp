@@ -54,9 +54,8 @@ public:
     {
         pattern_.kind = PatternKind::unknown;
         beginSection();
-        while (at_ < text_.size() && !pattern_.tooManySections) {
+        while (at_ < text_.size() && !pattern_.tooManySections)
             takeOne();
-        }
         endSection();
     }
 
@@ -69,9 +68,8 @@ private:
         case u'"': return takeQuoted();
         default: break;
         }
-        if (!takeNumberMark() && !takeDateMark() && !takeTextMark()) {
+        if (!takeNumberMark() && !takeDateMark() && !takeTextMark())
             takeLiteral();
-        }
     }
 
     // The first mark of the first section settles what the pattern formats; marks of another kind are literals. Behind
@@ -90,17 +88,15 @@ private:
     [[nodiscard]] std::uint32_t takeRun(char16_t smallLetter, std::uint32_t most) noexcept
     {
         std::uint32_t length = 0;
-        for (; length < most && lowerLetter(peek()) == smallLetter && at_ < text_.size(); ++at_) {
+        for (; length < most && lowerLetter(peek()) == smallLetter && at_ < text_.size(); ++at_)
             ++length;
-        }
         return length;
     }
     void add(Mark mark, std::uint32_t length = 0)
     {
         pattern_.tokens.push_back({.mark = mark, .length = length});
-        if (mark != Mark::dateSeparator && mark != Mark::timeSeparator) {
+        if (mark != Mark::dateSeparator && mark != Mark::timeSeparator)
             hoursBefore_ = mark == Mark::hour || mark == Mark::hourZero;
-        }
     }
 
     void beginSection()
@@ -128,25 +124,22 @@ private:
                 return;
             }
         }
-        if (at_ < text_.size()) {
+        if (at_ < text_.size())
             beginSection();
-        }
     }
 
     void takeEscape()
     {
-        if (++at_ < text_.size()) {
+        if (++at_ < text_.size())
             addLiteral(at_++, 1);
-        }
     }
 
     void takeQuoted()
     {
         const std::size_t start = at_ + 1;
         const std::size_t end = std::min(text_.find(u'"', start), text_.size());
-        if (end > start) {
+        if (end > start)
             addLiteral(start, end - start);
-        }
         at_ = std::min(end + 1, text_.size());
     }
 
@@ -172,9 +165,8 @@ private:
 
     [[nodiscard]] bool takeNumberMark()
     {
-        if (!couldBe(PatternKind::number)) {
+        if (!couldBe(PatternKind::number))
             return false;
-        }
         const char16_t unit = peek();
         if (unit == u'0' || unit == u'#') {
             takeDigits(unit);
@@ -213,9 +205,8 @@ private:
     [[nodiscard]] bool takeExponent()
     {
         const char16_t letter = peek(), sign = peek(1);
-        if (lowerLetter(letter) != u'e' || (sign != u'+' && sign != u'-')) {
+        if (lowerLetter(letter) != u'e' || (sign != u'+' && sign != u'-'))
             return false;
-        }
         at_ += 2;
         section_->exponent = true;
         pattern_.tokens.push_back({.mark = Mark::exponent,
@@ -229,17 +220,15 @@ private:
     [[nodiscard]] std::uint32_t takeExponentPlaces() noexcept
     {
         std::uint32_t zeros = 0;
-        for (; peek() == u'0' || peek() == u'#'; ++at_) {
+        for (; peek() == u'0' || peek() == u'#'; ++at_)
             zeros += peek() == u'0' ? 1 : 0;
-        }
         return zeros;
     }
 
     [[nodiscard]] bool takeDateMark()
     {
-        if (!couldBe(PatternKind::date) || !(takeHalf() || takeDateLetters())) {
+        if (!couldBe(PatternKind::date) || !(takeHalf() || takeDateLetters()))
             return false;
-        }
         settle(PatternKind::date);
         return true;
     }
@@ -318,11 +307,10 @@ private:
     {
         static constexpr std::array marks{Mark::month, Mark::monthZero, Mark::monthShort, Mark::monthLong};
         const std::uint32_t length = takeRun(u'm', marks.size());
-        if (length <= 2 && hoursBefore_) {
+        if (length <= 2 && hoursBefore_)
             add(length == 1 ? Mark::minute : Mark::minuteZero);
-        } else {
+        else
             add(marks[length - 1]);
-        }
         return true;
     }
 
@@ -337,9 +325,8 @@ private:
 
     [[nodiscard]] bool takeLongTime()
     {
-        if (!equalIgnoringCase(text_.substr(at_, 5), u"ttttt")) {
+        if (!equalIgnoringCase(text_.substr(at_, 5), u"ttttt"))
             return false;
-        }
         at_ += 5;
         add(Mark::longTime);
         return true;
@@ -347,9 +334,8 @@ private:
 
     [[nodiscard]] bool takeTextMark()
     {
-        if (!couldBe(PatternKind::text)) {
+        if (!couldBe(PatternKind::text))
             return false;
-        }
         const char16_t unit = peek();
         switch (unit) {
         case u'@':
@@ -398,9 +384,8 @@ Pattern::Compiled compilePattern(std::u16string_view text)
         pattern.text = named->pattern;
         pattern.named = named->number;
     }
-    if (!pattern.text.empty()) {
+    if (!pattern.text.empty())
         PatternCompiler(pattern).compile();
-    }
     return pattern;
 }
 

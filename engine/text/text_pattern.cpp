@@ -11,20 +11,17 @@ public:
                       TextWriter& writer) noexcept
         : pattern_(pattern), section_(section), text_(text), writer_(writer)
     {
-        if (!section.fromLeft && section.characters > text.size()) {
+        if (!section.fromLeft && section.characters > text.size())
             missing_ = section.characters - text.size();
-        }
     }
 
     void write()
     {
-        for (const Token& token : pattern_.tokensOf(section_)) {
-            if (token.mark == Mark::literal) {
+        for (const Token& token : pattern_.tokensOf(section_))
+            if (token.mark == Mark::literal)
                 writer_.put(pattern_.literal(token));
-            } else {
+            else
                 putMarks(token.length, token.mark == Mark::at);
-            }
-        }
         putCharacters(text_.size() - at_);
     }
 
@@ -40,9 +37,8 @@ private:
         }
         const std::size_t count = std::min(length, text_.size() - at_);
         putCharacters(count);
-        if (blanks) {
+        if (blanks)
             writer_.repeat(u' ', length - count);
-        }
     }
 
     void putCharacters(std::size_t count)

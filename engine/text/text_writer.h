@@ -17,9 +17,8 @@ public:
 
     void put(char16_t unit)
     {
-        if (used_ == buffer_.size()) {
+        if (used_ == buffer_.size())
             flush();
-        }
         buffer_[used_++] = unit;
     }
     void put(std::u16string_view text)
@@ -31,24 +30,21 @@ public:
                 return;
             }
         }
-        for (const char16_t unit : text) {
+        for (const char16_t unit : text)
             buffer_[used_++] = unit;
-        }
     }
     void repeat(char16_t unit, std::size_t count)
     {
-        for (; count > 0; --count) {
+        for (; count > 0; --count)
             put(unit);
-        }
     }
     // A whole number of at least `width` digits: 7, 2 -> "07".
     void number(int value, int width)
     {
         std::array<char16_t, 12> digits{};
         std::size_t first = digits.size();
-        for (int place = 0; first > 0 && (value > 0 || place < width); ++place, value /= 10) {
+        for (int place = 0; first > 0 && (value > 0 || place < width); ++place, value /= 10)
             digits[--first] = static_cast<char16_t>(u'0' + value % 10);
-        }
         put(std::u16string_view(digits.data() + first, digits.size() - first));
     }
     void flush()

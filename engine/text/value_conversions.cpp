@@ -20,23 +20,19 @@ Overloaded(Cases...) -> Overloaded<Cases...>;
 // The word in small letters.
 bool isWord(std::u16string_view text, std::u16string_view word) noexcept
 {
-    if (text.size() != word.size()) {
+    if (text.size() != word.size())
         return false;
-    }
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (lowerLetter(text[i]) != word[i]) {
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if (lowerLetter(text[i]) != word[i])
             return false;
-        }
-    }
     return true;
 }
 
 std::u16string wholeToText(std::int32_t whole)
 {
     std::u16string text;
-    for (const char digit : std::to_string(whole)) {
+    for (const char digit : std::to_string(whole))
         text.push_back(static_cast<char16_t>(digit));
-    }
     return text;
 }
 
@@ -44,17 +40,15 @@ double roundHalfToEven(double number) noexcept
 {
     const double below = std::floor(number);
     const double rest = number - below;
-    if (rest == 0.5) {
+    if (rest == 0.5)
         return std::fmod(below, 2.0) == 0.0 ? below : below + 1;
-    }
     return rest < 0.5 ? below : below + 1;
 }
 
 Date checkedDate(double serial)
 {
-    if (!momentOf({serial})) {
+    if (!momentOf({serial}))
         raise(error_number::overflow);
-    }
     return {serial};
 }
 
@@ -62,9 +56,8 @@ Date checkedDate(double serial)
 
 bool isNumeric(const Value& value, const Locale& locale) noexcept
 {
-    if (const auto* text = std::get_if<std::u16string>(&value)) {
+    if (const auto* text = std::get_if<std::u16string>(&value))
         return isNumeric(std::u16string_view(*text), locale);
-    }
     return !std::holds_alternative<Date>(value);
 }
 
@@ -82,9 +75,8 @@ std::u16string toText(const Value& value, const Locale& locale)
 bool toBoolean(const Value& value, const Locale& locale)
 {
     if (const auto* text = std::get_if<std::u16string>(&value)) {
-        if (isWord(*text, u"true") || isWord(*text, u"false")) {
+        if (isWord(*text, u"true") || isWord(*text, u"false"))
             return isWord(*text, u"true");
-        }
     }
     return toDouble(value, locale) != 0.0;
 }
@@ -92,9 +84,8 @@ bool toBoolean(const Value& value, const Locale& locale)
 std::int32_t toLong(const Value& value, const Locale& locale)
 {
     const double rounded = roundHalfToEven(toDouble(value, locale));
-    if (!(rounded >= std::numeric_limits<std::int32_t>::min() && rounded <= std::numeric_limits<std::int32_t>::max())) {
+    if (!(rounded >= std::numeric_limits<std::int32_t>::min() && rounded <= std::numeric_limits<std::int32_t>::max()))
         raise(error_number::overflow);
-    }
     return static_cast<std::int32_t>(rounded);
 }
 
@@ -110,9 +101,8 @@ double toDouble(const Value& value, const Locale& locale)
 
 Date toDate(const Value& value, const Locale& locale, Date today)
 {
-    if (const auto* text = std::get_if<std::u16string>(&value)) {
+    if (const auto* text = std::get_if<std::u16string>(&value))
         return toDate(std::u16string_view(*text), locale, today);
-    }
     return checkedDate(toDouble(value, locale));
 }
 

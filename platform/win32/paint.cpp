@@ -306,13 +306,12 @@ void paintGround(HDC dc, const RECT& place, const FieldPicture& field, int radiu
 
 void paintBorder(HDC dc, const RECT& place, const BorderPen& pen)
 {
-    if (pen.line == line3d) {
+    if (pen.line == line3d)
         paintSunken(dc, place, pen);
-    } else if (pen.line == lineXp) {
+    else if (pen.line == lineXp)
         paintRounded(dc, place, pen);
-    } else {
+    else
         paintSides(dc, place, pen);
-    }
 }
 
 void paintMark(HDC dc, const RECT& place, COLORREF colour, int line)

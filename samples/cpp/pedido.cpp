@@ -3,11 +3,12 @@
 // MSVC:               cl /std:c++17 /EHsc pedido.cpp ole32.lib oleaut32.lib user32.lib
 // `pedido` shows the form; `pedido --values` sets a value, prints what the field makes of it, and ends.
 #include <windows.h>
-#include <oleauto.h>
-#include <ocidl.h>
-#include <olectl.h>
+
 #include <cstdio>
 #include <cwchar>
+#include <ocidl.h>
+#include <oleauto.h>
+#include <olectl.h>
 
 // The site: what a control must find in its host, and nothing more.
 class Site : public IOleClientSite, public IOleInPlaceSite, public IOleInPlaceFrame {
@@ -15,7 +16,7 @@ public:
     explicit Site(HWND window) : window_(window) {}
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override
     {
-        *object = id == IID_IUnknown || id == IID_IOleClientSite ? static_cast<IOleClientSite*>(this)
+        *object = id == IID_IUnknown || id == IID_IOleClientSite      ? static_cast<IOleClientSite*>(this)
                   : id == IID_IOleWindow || id == IID_IOleInPlaceSite ? static_cast<IOleInPlaceSite*>(this)
                                                                       : static_cast<void*>(nullptr);
         return *object ? S_OK : E_NOINTERFACE;
@@ -26,12 +27,20 @@ public:
     // IOleClientSite
     HRESULT STDMETHODCALLTYPE SaveObject() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE GetMoniker(DWORD, DWORD, IMoniker**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetContainer(IOleContainer** container) override { *container = nullptr; return E_NOINTERFACE; }
+    HRESULT STDMETHODCALLTYPE GetContainer(IOleContainer** container) override
+    {
+        *container = nullptr;
+        return E_NOINTERFACE;
+    }
     HRESULT STDMETHODCALLTYPE ShowObject() override { return S_OK; }
     HRESULT STDMETHODCALLTYPE OnShowWindow(BOOL) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE RequestNewObjectLayout() override { return E_NOTIMPL; }
     // IOleWindow, for the site and the frame
-    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override { *window = window_; return S_OK; }
+    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override
+    {
+        *window = window_;
+        return S_OK;
+    }
     HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return S_OK; }
     // IOleInPlaceSite
     HRESULT STDMETHODCALLTYPE CanInPlaceActivate() override { return S_OK; }
@@ -61,8 +70,10 @@ public:
     HRESULT STDMETHODCALLTYPE SetBorderSpace(LPCBORDERWIDTHS) override { return S_OK; }
     HRESULT STDMETHODCALLTYPE SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR) override
     {
-        if (object) object->AddRef();
-        if (active_) active_->Release();
+        if (object)
+            object->AddRef();
+        if (active_)
+            active_->Release();
         active_ = object;
         return S_OK;
     }
@@ -90,7 +101,8 @@ static HRESULT put(IDispatch* object, const wchar_t* name, VARIANT value)
     wchar_t* text = const_cast<wchar_t*>(name);
     HRESULT result = object->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id);
     DISPPARAMS arguments{&value, &named, 1, 1};
-    return SUCCEEDED(result) ? object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &arguments, nullptr, nullptr, nullptr)
+    return SUCCEEDED(result) ? object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &arguments,
+                                              nullptr, nullptr, nullptr)
                              : result;
 }
 
@@ -100,13 +112,35 @@ static HRESULT get(IDispatch* object, const wchar_t* name, VARIANT* value)
     wchar_t* text = const_cast<wchar_t*>(name);
     HRESULT result = object->GetIDsOfNames(IID_NULL, &text, 1, LOCALE_USER_DEFAULT, &id);
     DISPPARAMS none{};
-    return SUCCEEDED(result) ? object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, value, nullptr, nullptr)
-                             : result;
+    return SUCCEEDED(result)
+               ? object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, value, nullptr, nullptr)
+               : result;
 }
 
-static VARIANT number(long value) { VARIANT v; VariantInit(&v); v.vt = VT_I4; v.lVal = value; return v; }
-static VARIANT truth(bool on) { VARIANT v; VariantInit(&v); v.vt = VT_BOOL; v.boolVal = on ? VARIANT_TRUE : VARIANT_FALSE; return v; }
-static VARIANT real(double value) { VARIANT v; VariantInit(&v); v.vt = VT_R8; v.dblVal = value; return v; }
+static VARIANT number(long value)
+{
+    VARIANT v;
+    VariantInit(&v);
+    v.vt = VT_I4;
+    v.lVal = value;
+    return v;
+}
+static VARIANT truth(bool on)
+{
+    VARIANT v;
+    VariantInit(&v);
+    v.vt = VT_BOOL;
+    v.boolVal = on ? VARIANT_TRUE : VARIANT_FALSE;
+    return v;
+}
+static VARIANT real(double value)
+{
+    VARIANT v;
+    VariantInit(&v);
+    v.vt = VT_R8;
+    v.dblVal = value;
+    return v;
+}
 
 static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
@@ -123,14 +157,16 @@ static int run(bool valuesOnly)
     windowClass.lpszClassName = L"Pedido";
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     RegisterClassW(&windowClass);
-    HWND window = CreateWindowExW(WS_EX_CONTROLPARENT, L"Pedido", L"Pedido", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
-                                  CW_USEDEFAULT, 260, 140, nullptr, nullptr, windowClass.hInstance, nullptr);
+    HWND window =
+        CreateWindowExW(WS_EX_CONTROLPARENT, L"Pedido", L"Pedido", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
+                        CW_USEDEFAULT, 260, 140, nullptr, nullptr, windowClass.hInstance, nullptr);
     Site site(window);
     CLSID id;
     IOleObject* control = nullptr;
     IDispatch* field = nullptr;
     if (FAILED(CLSIDFromProgID(L"Vela.Vela", &id)) ||
-        FAILED(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IOleObject, reinterpret_cast<void**>(&control))) ||
+        FAILED(
+            CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IOleObject, reinterpret_cast<void**>(&control))) ||
         FAILED(control->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(&field)))) {
         std::puts("Vela.ocx is not registered for this bitness.");
         return 1;
@@ -143,8 +179,8 @@ static int run(bool valuesOnly)
         settings->Release();
     }
     control->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, &site, 0, window, &place);
-    put(field, L"TextType", number(1));          // Numerico
-    put(field, L"SimbolDecExib", number(2));     // Virgula
+    put(field, L"TextType", number(1));      // Numerico
+    put(field, L"SimbolDecExib", number(2)); // Virgula
     put(field, L"SimbolDecRet", number(2));
     put(field, L"SimbolAgrupMilhar", number(1)); // Ponto
     put(field, L"QtdCasasDec", number(2));

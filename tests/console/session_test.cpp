@@ -31,7 +31,8 @@ TEST(Session, aHugeLineThatIsNoCommandIsOneComplaint)
 {
     const Transcript run(std::string(3'000'000, 'x') + "\n" + std::string(100'000, '"') + "\nprint \"on\"");
     EXPECT_EQ(run.output, "on\n");
-    EXPECT_EQ(run.complaints, "line 1: no such command: \"" + std::string(40, 'x') + "...\"\nline 2: no blank behind a closing quote\n");
+    EXPECT_EQ(run.complaints, "line 1: no such command: \"" + std::string(40, 'x') +
+                                  "...\"\nline 2: no blank behind a closing quote\n");
     EXPECT_EQ(run.session.exitStatus(), 2);
 }
 

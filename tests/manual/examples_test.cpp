@@ -64,7 +64,8 @@ TEST(Manual, EveryExamplePrintsWhatItSays)
         }
     };
     check(root / "README.md");
-    for (const auto& entry : std::filesystem::directory_iterator(root / "docs" / "en")) // the other language has the same
+    for (const auto& entry :
+         std::filesystem::directory_iterator(root / "docs" / "en")) // the other language has the same
         check(entry.path());
     EXPECT_GE(count, 10) << "the manual has lost its examples";
 }

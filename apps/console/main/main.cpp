@@ -39,9 +39,8 @@ int run(const Options& options, NextLine&& nextLine)
 {
     Session session([](std::string_view bytes) { writeTo(stdout, bytes); },
                     [](std::string_view bytes) { writeTo(stderr, bytes); }, options.run);
-    for (std::string line; !session.ended() && nextLine(line);) {
+    for (std::string line; !session.ended() && nextLine(line);)
         session.runLine(options.ansi ? vela::console::utf8FromAnsi(line) : line);
-    }
     session.finish();
     std::fflush(stdout);
     return session.exitStatus();

@@ -37,7 +37,7 @@ Options readOptions(std::span<char* const> words)
 {
     Options options;
     bool onlyFiles = false;
-    for (const std::string_view word : words) {
+    for (const std::string_view word : words)
         if (!onlyFiles && word == "--")
             onlyFiles = true;
         else if (!onlyFiles && word == "--strict")
@@ -56,7 +56,6 @@ Options readOptions(std::span<char* const> words)
             options.complaint = "one FILE at the most";
         else
             options.file = word;
-    }
     options.run.fileName = options.file;
     return options;
 }
