@@ -1,13 +1,22 @@
-"""Runs the real vela-console over every script, from a file and from standard input, and compares bytes and exit status."""
+"""Runs the real vela-console over every transcript (scripts_test.cpp tells what one is), from a file and from standard input, and compares bytes and exit status."""
 import pathlib
 import subprocess
 import sys
 
 
 def expected(script):
-    complaints = script.with_suffix(".err")
-    lines = complaints.read_bytes().split(b"\n", 1) if complaints.exists() else [b"exit 0", b""]
-    return script.with_suffix(".txt").read_bytes(), lines[1], int(lines[0].split()[1])
+    """What a transcript says it prints, what it says on standard error, and its exit status."""
+    output, complaints, status, command = b"", b"", 0, 0
+    for number, line in enumerate(script.read_bytes().split(b"\n"), 1):
+        if line.startswith(b"#> "):
+            output += line[3:] + b"\n"
+        elif line.startswith(b"#! exit "):
+            status = int(line[8:])
+        elif line.startswith(b"#! "):
+            complaints += b"line %d: %s\n" % (command, line[3:])
+        else:
+            command = number
+    return output, complaints, status
 
 
 def faults_of(program, script):
