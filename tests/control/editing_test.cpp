@@ -1,34 +1,29 @@
 // Paste, cut, undo and redo: what typing would have done, in one change.
-#include "field_bench.h"
+#include "control/history.h"
+#include "tests/support/bench.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
 
-namespace vela::control {
+namespace vela::test {
 namespace {
 
-using Field = FieldBench::Field;
+constexpr std::string_view none = "";
+constexpr std::string_view telephone = "set f Mask \"+55 (__) ____\"\nset f TextType Mascara\n";
+constexpr std::string_view capitals = "set f tipoLetra Maisculo\nset f MaxLength 4\n";
+constexpr std::string_view abc = "set f Text \"abc\"\n";
+constexpr std::string_view lines = "set f MultLine True\nset f Text \"abc\"\n";
 
-void none(Field&) {}
-void telephone(Field& f)
+void type(Bench& bench, std::u16string_view characters)
 {
-    f.put(u"Mask", u"+55 (__) ____");
-    f.put(u"TextType", 3);
-}
-void capitals(Field& f)
-{
-    f.put(u"tipoLetra", 1);
-    f.put(u"MaxLength", 4);
-}
-void lines(Field& f)
-{
-    f.put(u"MultLine", 1);
+    for (const char16_t character : characters)
+        bench.form().key(headless::keyOf(character));
 }
 
 struct Paste {
     const char* rule;
-    void (*prepare)(Field&);
+    std::string_view prepare;
     int caret;
     int selected;
     const char16_t* text;
@@ -39,8 +34,8 @@ TEST(Paste, GoesThroughTheFilterCharacterByCharacter)
 {
     const Paste rows[] = {
         {"cut to fit, in capitals", capitals, 0, 0, u"abcdef", "ABCD|"},
-        {"replaces the selection", none, 1, 1, u"xy", "axy|c"},
-        {"a line break is refused in one line", none, 3, 0, u"x\r\ny", "abcxy|"},
+        {"replaces the selection", abc, 1, 1, u"xy", "axy|c"},
+        {"a line break is refused in one line", abc, 3, 0, u"x\r\ny", "abcxy|"},
         {"a mask takes the text with its literals", plate, 0, 0, u"abc-1234", "ABC-1234|"},
         {"and without", plate, 0, 0, u"ABC1234", "ABC-1234|"},
         {"what a rule refuses is left out", plate, 0, 0, u"a1b2c3", "ABC-3|___"},
@@ -54,183 +49,106 @@ TEST(Paste, GoesThroughTheFilterCharacterByCharacter)
     };
     for (const Paste& row : rows) {
         SCOPED_TRACE(row.rule);
-        FieldBench bench;
-        Field& f = bench.make(u"f", row.prepare != lines);
-        f->initNew();
-        row.prepare(f);
-        if (f.box().shownText().empty() && row.prepare != capitals && row.prepare != number)
-            f.put(u"Text", u"abc");
-        bench.focus(f);
-        bench.form.placeCaret(row.caret, row.selected);
+        Bench bench(row.prepare == lines ? "new f design\nfocus f\n" : "new f\nfocus f\n");
+        bench.run(row.prepare);
+        bench.form().placeCaret(row.caret, row.selected);
         int changes = 0;
-        f.on().change = [&] { ++changes; };
-        bench.form.paste(row.text);
-        EXPECT_EQ(f.shows(), row.shows);
+        bench.on().change = [&] { ++changes; };
+        bench.form().paste(row.text);
+        EXPECT_EQ(bench.shows(), row.shows);
         EXPECT_EQ(changes, 1);
     }
 }
 
-TEST(Paste, RaisesKeyPressForEachAndObeysItsHandler)
+TEST(Paste, ObeysTheHandlerOfEachKeyPress)
 {
-    FieldBench bench;
-    Field& f = bench.add();
-    bench.focus(f);
-    static_cast<void>(bench.seen());
-    f.on().keyPress = [](std::int16_t& key) { key = key == u'b' ? std::int16_t{0} : key; };
-    bench.form.paste(u"abc");
-    EXPECT_EQ(bench.seen(), "KeyPress 97; KeyPress 98; KeyPress 99; Change");
-    EXPECT_EQ(f.shows(), "ac|");
-    f.put(u"Locked", 1);
-    bench.form.paste(u"x");
-    EXPECT_EQ(f.shows(), "ac|");
+    Bench bench("new f\nfocus f\ntrace events\n");
+    bench.on().keyPress = [](std::int16_t& key) { key = key == u'b' ? std::int16_t{0} : key; };
+    EXPECT_EQ(bench.run("paste-rules \"abc\"\n"),
+              "event f KeyPress 97\nevent f KeyPress 98\nevent f KeyPress 99\nevent f Change\n");
+    EXPECT_EQ(bench.shows(), "ac|");
 }
 
 // Pasted whole, digits give what they give typed one by one, wherever the caret stands.
 TEST(Paste, EqualsTyping)
 {
     std::mt19937 random(20240301); // the same texts every time
-    constexpr void (*kinds[])(Field&) = {none, plate, telephone, date, number, amount};
+    constexpr std::string_view kinds[] = {none, plate, telephone, date, number, amount};
     for (int round = 0; round < 300; ++round) {
         std::u16string digits;
         for (unsigned i = random() % 8; i > 0; --i)
             digits += static_cast<char16_t>(u'0' + random() % 10);
-        const int places = static_cast<int>(random() % 5);
+        const auto places = random() % 5;
         const int caret = static_cast<int>(random() % 6);
-        const auto kind = kinds[random() % std::size(kinds)];
+        const std::string_view kind = kinds[random() % std::size(kinds)];
         const auto shown = [&](bool pasted) {
-            FieldBench bench;
-            Field& f = bench.add();
-            kind(f);
-            f.put(u"MaskRules", u"");
+            Bench bench("new f\nfocus f\n");
+            bench.run(kind);
+            bench.run("set f MaskRules \"\"\n");
             if (kind == number || kind == amount)
-                f.put(u"QtdCasasDec", places);
-            bench.focus(f);
-            bench.form.placeCaret(caret, 0);
+                bench.run("set f QtdCasasDec " + std::to_string(places) + "\n");
+            bench.form().placeCaret(caret, 0);
             if (pasted)
-                bench.form.paste(digits);
+                bench.form().paste(digits);
             else
-                bench.type(digits);
-            return f.shows();
+                type(bench, digits);
+            return bench.shows();
         };
-        EXPECT_EQ(shown(false), shown(true)) << narrow(digits) << " at " << caret << ", places " << places;
+        EXPECT_EQ(shown(false), shown(true)) << toUtf8(digits) << " at " << caret << ", places " << places;
     }
-}
-
-TEST(Cut, TakesTheSelectionOutAsTypingWould)
-{
-    FieldBench bench;
-    Field& f = bench.add();
-    f.put(u"Text", u"abcd");
-    bench.focus(f);
-    bench.form.placeCaret(1, 2);
-    bench.form.cut();
-    EXPECT_EQ(f.shows(), "a|d");
-    bench.form.undo();
-    EXPECT_EQ(f.shows(), "a[bc]d");
-
-    Field& p = bench.add(u"p");
-    plate(p);
-    bench.typeInto(p, u"abc12");
-    bench.form.placeCaret(2, 3);
-    bench.form.cut();
-    EXPECT_EQ(p.shows(), "AB|_-_2__");
-    p.put(u"Locked", 1);
-    bench.form.placeCaret(0, 2);
-    bench.form.cut();
-    EXPECT_EQ(p.shows(), "[AB]_-_2__");
 }
 
 TEST(Undo, TakesBackKeysWhateverTheyWrote)
 {
     const struct {
-        const char* rule;
-        void (*prepare)(Field&);
-        const char16_t* keys; // \b Backspace, \x7F Delete
+        std::string_view prepare;
+        const char* keys;
         const char* typed;
     } rows[] = {
-        {"free text", none, u"ab\bc", "ac|"},         {"deleted forwards", none, u"ab\x7F", "ab|"},
-        {"a mask", plate, u"ab1c\b4", "AB|_-____"},   {"a number's symbol", number, u"12,345", "12,34|"},
-        {"a live amount", amount, u"1234", "12,34|"},
+        {none, "ab{BACKSPACE}c", "ac|"}, {none, "ab{DELETE}", "ab|"}, {plate, "ab1c{BACKSPACE}4", "AB|_-____"},
+        {number, "12,345", "12,34|"},    {amount, "1234", "12,34|"},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.rule);
-        FieldBench bench;
-        Field& f = bench.add();
-        row.prepare(f);
-        bench.focus(f);
-        const std::u16string start = f.box().shownText();
-        for (const char16_t* key = row.keys; *key != 0; ++key) {
-            if (*key == u'\b')
-                bench.key(headless::virtual_key::backspace);
-            else if (*key == u'\x7F')
-                bench.key(headless::virtual_key::del);
-            else
-                bench.type({key, 1});
-        }
-        EXPECT_EQ(f.shows(), row.typed);
-        const std::u16string end = f.box().shownText();
-        for (int i = 0; i < 10; ++i)
-            bench.form.undo();
-        EXPECT_EQ(narrow(f.box().shownText()), narrow(start));
-        for (int i = 0; i < 10; ++i)
-            bench.form.redo();
-        EXPECT_EQ(narrow(f.box().shownText()), narrow(end));
+        SCOPED_TRACE(row.keys);
+        Bench bench;
+        bench.run(row.prepare);
+        bench.run("focus f\n");
+        headless::EditBox& box = bench.field().surface.activeBox();
+        const std::u16string start = box.shownText();
+        bench.run("keys \"" + std::string(row.keys) + "\"\n");
+        EXPECT_EQ(bench.shows(), row.typed);
+        const std::u16string end = box.shownText();
+        bench.run("keys \"{^Z}{^Z}{^Z}{^Z}{^Z}{^Z}{^Z}{^Z}{^Z}{^Z}\"\n");
+        EXPECT_EQ(toUtf8(box.shownText()), toUtf8(start));
+        bench.run("keys \"{^Y}{^Y}{^Y}{^Y}{^Y}{^Y}{^Y}{^Y}{^Y}{^Y}\"\n");
+        EXPECT_EQ(toUtf8(box.shownText()), toUtf8(end));
     }
-}
-
-TEST(Undo, EndsWhereTheHostWrites)
-{
-    FieldBench bench;
-    Field& f = bench.add();
-    bench.typeInto(f, u"ab");
-    f.put(u"Text", u"host");
-    bench.form.undo();
-    EXPECT_EQ(f.shows(), "|host");
-    bench.type(u"x");
-    bench.form.undo();
-    EXPECT_EQ(f.shows(), "|host");
-    bench.type(u"y");
-    bench.form.redo(); // a new key ends what could be redone
-    EXPECT_EQ(f.shows(), "y|host");
-}
-
-TEST(Undo, OneChangeEachAndNoNewFormat)
-{
-    FieldBench bench;
-    Field& f = bench.add();
-    amount(f);
-    bench.typeInto(f, u"123");
-    static_cast<void>(bench.seen());
-    bench.form.undo();
-    EXPECT_EQ(f.shows(), "0,12|");
-    EXPECT_EQ(bench.seen(), "Change");
 }
 
 // Many random edits, more than the history keeps: undone and redone they meet the same texts again.
 TEST(Undo, SurvivesALongSession)
 {
     std::mt19937 random(20240229); // the same session every time
-    FieldBench bench;
-    Field& f = bench.add();
-    bench.focus(f);
+    Bench bench("new f\nfocus f\ntrace none\n");
+    headless::EditBox& box = bench.field().surface.activeBox();
     for (int i = 0; i < 3000; ++i) {
-        const auto length = static_cast<int>(f.box().shownText().size());
+        const auto length = static_cast<int>(box.shownText().size());
         const auto caret = static_cast<int>(random() % static_cast<unsigned>(length + 1));
-        bench.form.placeCaret(caret, static_cast<int>(random() % 3));
+        bench.form().placeCaret(caret, static_cast<int>(random() % 3));
         switch (random() % 6) {
-        case 0: bench.key(headless::virtual_key::backspace); break;
-        case 1: bench.key(headless::virtual_key::del); break;
-        case 2: bench.form.paste(u"pasted"); break;
-        default: bench.type({&u"abcdefgh"[random() % 8], 1}); break;
+        case 0: bench.form().key(headless::namedKey(headless::virtual_key::backspace)); break;
+        case 1: bench.form().key(headless::namedKey(headless::virtual_key::del)); break;
+        case 2: bench.form().paste(u"pasted"); break;
+        default: type(bench, {&u"abcdefgh"[random() % 8], 1}); break;
         }
         if (random() % 50 == 0) {
-            const std::u16string before = f.box().shownText();
+            const std::u16string before = box.shownText();
             const auto steps = random() % 40;
             for (unsigned step = 0; step < steps; ++step)
-                bench.form.undo();
+                bench.form().undo();
             for (unsigned step = 0; step < steps; ++step)
-                bench.form.redo();
-            ASSERT_EQ(narrow(f.box().shownText()), narrow(before));
+                bench.form().redo();
+            ASSERT_EQ(toUtf8(box.shownText()), toUtf8(before));
         }
     }
 }
@@ -239,7 +157,7 @@ TEST(Undo, SurvivesALongSession)
 TEST(Undo, NeverPartsJoinedSteps)
 {
     for (const int single : {0, 1}) { // the middle of a full history falls on either side of a pair
-        History history;
+        control::History history;
         std::u16string text;
         const auto put = [&](int at, std::u16string_view removed, std::u16string_view inserted, bool joined) {
             text.replace(static_cast<std::size_t>(at), removed.size(), inserted);
@@ -264,16 +182,13 @@ TEST(Undo, NeverPartsJoinedSteps)
 
 TEST(KeypadDecimal, GivesTheFieldsSymbol)
 {
-    FieldBench bench;
-    Field& f = bench.add();
-    number(f);
-    bench.typeInto(f, u"12");
-    bench.form.key({110, u'.', true});
-    bench.type(u"5");
-    EXPECT_EQ(f.shows(), "12,5|");
-    bench.type(u".");
-    EXPECT_EQ(f.shows(), "12,5|"); // the main keyboard's point stays one
+    Bench bench("new f\nfocus f\n");
+    bench.run(number);
+    bench.run("set f Text \"\"\nkeys \"12\"\n");
+    bench.form().key({110, u'.', true});
+    bench.run("keys \"5.\"\n"); // the main keyboard's point stays one
+    EXPECT_EQ(bench.shows(), "12,5|");
 }
 
 } // namespace
-} // namespace vela::control
+} // namespace vela::test

@@ -1,5 +1,5 @@
-// Entering, typing, leaving: what transcripts cannot show.
-#include "field_bench.h"
+// What transcripts cannot show of a field's life: handlers that act, log records that fail, allocations, the layout.
+#include "tests/support/bench.h"
 
 #include "control/layout.h"
 
@@ -35,148 +35,87 @@ void operator delete(void* memory, std::size_t) noexcept
     std::free(memory);
 }
 
-namespace vela::control {
+namespace vela::test {
 namespace {
 
-using Field = FieldBench::Field;
-
-TEST(Amount, IsFormattedForPersonsAndPutsNotForLoadingAndLeaving)
-{
-    FieldBench bench;
-    Field& f = bench.add();
-    amount(f);
-    f.put(u"SimboloMonetario", u";%");
-    f.put(u"Text", u"1234");
-    EXPECT_EQ(f.shows(), "1|2,34"); // as far from the end as the caret was: at the start of four characters
-    bench.typeInto(f, u"5");
-    EXPECT_EQ(f.shows(), "123,45|");
-    static_cast<void>(bench.seen());
-    bench.leave();
-    EXPECT_EQ(bench.seen(), "Change; focus none"); // the symbol: one change, no new format
-    EXPECT_EQ(f.shows(), "|123,45%");
-
-    headless::PropertyBag bag;
-    bag.put(u"TextType", 1);
-    bag.put(u"MaskToNumeric", true);
-    bag.put(u"QtdCasasDec", 2);
-    bag.put(u"Text", std::u16string(u"1234"));
-    Field& loaded = bench.make(u"loaded");
-    loaded->load(bag);
-    EXPECT_EQ(loaded.shows(), "|1234");
-}
+using engine::Value;
 
 // A handler that puts a text while the control is writing one of its own.
 TEST(Amount, PutByAHandlerIsFormattedInsideAWriteOfTheControl)
 {
-    FieldBench bench;
-    Field& f = bench.add();
-    amount(f);
-    f.put(u"SimboloMonetario", u";%");
-    bench.typeInto(f, u"1");
+    Bench bench;
+    bench.run(amount);
+    bench.run("set f SimboloMonetario \";%\"\nfocus f\nkeys \"1\"\n");
     bool once = true;
-    f.on().change = [&] {
+    bench.on().change = [&] {
         if (std::exchange(once, false))
-            f.put(u"Text", u"999");
+            control::putProperty(bench.field().control, u"Text", Value(std::u16string(u"999")));
     };
-    bench.leave(); // writes the symbol
-    EXPECT_EQ(narrow(f.box().shownText()), "9,99");
+    bench.run("focus none\n"); // writes the symbol
+    EXPECT_EQ(toUtf8(bench.field().surface.activeBox().shownText()), "9,99");
 }
 
 // When a key's text cannot be written, and the log record of that cannot either, nothing more of the key happens.
 TEST(Log, ThatCannotBeWrittenReachesTheCaller)
 {
-    FieldBench bench;
-    Field& f = bench.add();
-    f.put(u"Mask", u"____");
-    f.put(u"TextType", 3);
-    bench.focus(f);
+    Bench bench;
+    bench.run("set f Mask \"____\"\nset f TextType Mascara\ntrace events log\nfocus f\n");
     int reached = 0;
     for (long nth = 1; nth <= 20; ++nth) {
-        f.box().failNext(headless::BoxOperation::putText, {5, u"first"});
-        bench.machine.faults.failAt(nth, {70, u"Permission denied"});
-        static_cast<void>(bench.seen());
-        const int error = errorOf([&] { bench.type(u"1"); });
-        bench.machine.faults.disarm();
-        reached += error == 70 && bench.seen() == "KeyDown 49 0" ? 1 : 0;
+        bench.field().surface.activeBox().failNext(headless::BoxOperation::putText, {5, u"first"});
+        bench.session.machine().faults.failAt(nth, {70, u"Permission denied"});
+        const std::string said = bench.run("keys \"1\"\n");
+        bench.session.machine().faults.disarm();
+        reached += said.starts_with("event f KeyDown 49 0\nerror 70 ") ? 1 : 0;
     }
     EXPECT_EQ(reached, 1);
-    EXPECT_EQ(f.shows(), "|____");
+    EXPECT_EQ(bench.shows(), "|____");
 }
 
 TEST(Disabled, InsideAnEventIsLeftAtOnceAndTypesNoMore)
 {
     const auto shownAfter = [](auto arrange) {
-        FieldBench bench;
-        Field& f = bench.add();
-        bench.focus(f);
-        arrange(f, [&f] { f.put(u"Enabled", engine::Value(false)); });
-        bench.type(u"ab");
-        EXPECT_EQ(bench.form.focused(), nullptr);
-        bench.focus(f);
-        EXPECT_EQ(bench.form.focused(), nullptr);
-        return f.shows();
+        Bench bench("new f\nfocus f\n");
+        arrange(bench.on(), [&bench] { control::putProperty(bench.field().control, u"Enabled", Value(false)); });
+        bench.run("keys \"ab\"\n");
+        EXPECT_EQ(bench.form().focused(), nullptr);
+        bench.run("focus f\n");
+        EXPECT_EQ(bench.form().focused(), nullptr);
+        return bench.shows();
     };
-    EXPECT_EQ(shownAfter([](Field& f, auto off) { f.on().keyDown = [off](auto&, auto&) { off(); }; }), "|");
-    EXPECT_EQ(shownAfter([](Field& f, auto off) { f.on().keyPress = [off](auto&) { off(); }; }), "|");
-    EXPECT_EQ(shownAfter([](Field& f, auto off) { f.on().change = [off] { off(); }; }), "a|");
-    EXPECT_EQ(shownAfter([](Field& f, auto off) { f.on().keyUp = [off](auto&, auto&) { off(); }; }), "a|");
-}
-
-TEST(Click, AfterTheFirstOneSelectsNothing)
-{
-    FieldBench bench;
-    Field& f = bench.add();
-    f.put(u"Text", u"abc");
-    f.put(u"AutoSelect", 0);
-    bench.form.click(*f.surface);
-    f.put(u"AutoSelect", 1);
-    bench.form.click(*f.surface);
-    EXPECT_EQ(f.shows(), "abc|"); // the first click after entering is over
+    EXPECT_EQ(shownAfter([](auto& on, auto off) { on.keyDown = [off](auto&, auto&) { off(); }; }), "|");
+    EXPECT_EQ(shownAfter([](auto& on, auto off) { on.keyPress = [off](auto&) { off(); }; }), "|");
+    EXPECT_EQ(shownAfter([](auto& on, auto off) { on.change = [off] { off(); }; }), "a|");
+    EXPECT_EQ(shownAfter([](auto& on, auto off) { on.keyUp = [off](auto&, auto&) { off(); }; }), "a|");
 }
 
 TEST(Keys, AllocateNothingOnceWarm)
 {
     const struct {
-        const char* field;
-        void (*prepare)(Field&);
+        std::string_view prepare;
         const char16_t* keys;
+        int caret;
     } rows[] = {
-        {"a mask",
-         [](Field& f) {
-             f.put(u"Mask", u"___.___.___-__");
-             f.put(u"TextType", 3);
-         },
-         u"12345678901"},
-        {"a date", date, u"29022024"},
-        {"a number", number, u"12345678,90"},
-        {"an amount",
-         [](Field& f) {
-             amount(f);
-             f.put(u"SimbolAgrupMilhar", 1);
-         },
-         u"123456789"},
+        {"set f Mask \"___.___.___-__\"\nset f TextType Mascara\n", u"12345678901", 0},
+        {date, u"29022024", 0},
+        {number, u"12345678,90", 0},
+        {amount, u"123456789", 4},
     };
     for (const auto& row : rows) {
-        FieldBench bench;
-        Field& f = bench.add();
-        row.prepare(f);
-        const std::u16string start = f.box().shownText();
-        bench.focus(f);
-        const auto session = [&] {
-            f->Text(u"");
-            f.surface->placeCaret(static_cast<int>(f.box().shownText().size()) * (f->MaskToNumeric() ? 1 : 0), 0);
+        Bench bench("new f\ntrace none\nfocus f\n");
+        bench.run(row.prepare);
+        const auto typed = [&] {
+            control::putProperty(bench.field().control, u"Text", Value(std::u16string()));
+            bench.form().placeCaret(row.caret, 0);
             const long before = allocations;
-            bench.type(row.keys);
-            bench.type(u"x");
-            bench.key(headless::virtual_key::backspace);
+            for (const char16_t* key = row.keys; *key != 0; ++key)
+                bench.form().key(headless::keyOf(*key));
+            bench.form().key(headless::keyOf(u'x'));
+            bench.form().key(headless::namedKey(headless::virtual_key::backspace));
             return allocations - before;
         };
-        static_cast<void>(bench.seen());
-        static_cast<void>(session());
-        const long recorded = session();
-        bench.listening = false; // the bench's own notes allocate
-        static_cast<void>(session());
-        EXPECT_EQ(session(), 0) << row.field << ", with notes " << recorded;
+        static_cast<void>(typed());
+        EXPECT_EQ(typed(), 0) << row.prepare;
     }
 }
 
@@ -185,7 +124,7 @@ TEST(Layout, KeepsItsPartsInside)
     using engine::RectPixels;
     const struct {
         const char* rule;
-        LayoutRequest request;
+        control::LayoutRequest request;
         RectPixels edit;
         RectPixels button;
         int radius;
@@ -215,7 +154,7 @@ TEST(Layout, KeepsItsPartsInside)
         {"nothing at all", {.client = {0, 0, 0, 0}, .dpi = 96, .button = true}, {0, 0, 0, 0}, {0, 0, 0, 0}, 0},
     };
     for (const auto& row : rows) {
-        const platform::SurfaceLayout layout = arrangeField(row.request);
+        const platform::SurfaceLayout layout = control::arrangeField(row.request);
         EXPECT_EQ(layout.edit, row.edit) << row.rule;
         EXPECT_EQ(layout.button, row.button) << row.rule;
         EXPECT_EQ(layout.cornerRadius, row.radius) << row.rule;
@@ -224,27 +163,44 @@ TEST(Layout, KeepsItsPartsInside)
 
 TEST(Look, FollowsAppearanceStyleAndHover)
 {
-    FieldBench bench;
-    Field& f = bench.add();
-    EXPECT_TRUE(f.box().traits().sunken);
-    EXPECT_FALSE(f.surface->look().ownBorder);
-    f.put(u"Appearance", 0);
-    EXPECT_FALSE(f.box().traits().sunken);
-    EXPECT_TRUE(f.surface->look().ownBorder);
-    f.put(u"Appearance", 5);
-    EXPECT_TRUE(f.surface->look().ownBorder); // shown as it was
-    f.put(u"Appearance", 1);
-    f.put(u"BorderStyle", 5);
-    EXPECT_TRUE(f.surface->look().ownBorder);
-    EXPECT_GT(f.surface->layout().cornerRadius, 0);
-    bench.form.pointTo(*f.surface);
-    EXPECT_EQ(f.surface->look().border, f->BorderColor_MouseMove());
-    EXPECT_EQ(f.box().colours().back, f->BackColor_MouseMove());
-    bench.form.pointAway();
-    bench.form.tick();
-    EXPECT_EQ(f.surface->look().border, f->BorderColorLostfocus());
-    EXPECT_FALSE(f.surface->hoverTimerEnabled());
+    Bench bench;
+    const Field& f = bench.field();
+    const auto ownBorder = [&](const char* put) {
+        bench.run(put);
+        return f.surface.look().ownBorder;
+    };
+    EXPECT_FALSE(ownBorder(""));
+    EXPECT_TRUE(ownBorder("set f Appearance 0\n"));
+    EXPECT_TRUE(ownBorder("set f Appearance 5\n")); // shown as it was
+    EXPECT_TRUE(ownBorder("set f Appearance 1\nset f BorderStyle XP\n"));
+    EXPECT_GT(f.surface.layout().cornerRadius, 0);
+    bench.run("set f BorderColor_MouseMove &H00000001\nset f BorderColorLostfocus &H00000002\nmouse f\n");
+    EXPECT_EQ(f.surface.look().border.value, 1U);
+    bench.run("mouse none\ntick\n");
+    EXPECT_EQ(f.surface.look().border.value, 2U);
+    EXPECT_FALSE(f.surface.hoverTimerEnabled());
+}
+
+// At run time the colour is first seen when the field is left.
+TEST(Look, TheBorderOfAFieldThatIsNotEntered)
+{
+    for (const bool run : {false, true}) {
+        Bench bench(run ? "new f\n" : "new f design\n");
+        bench.run("set f Appearance 0\nset f BorderColorLostfocus &H000000FF\n");
+        EXPECT_EQ(bench.field().surface.look().border.value, run ? 0x00FFFFFFU : 0xFFU);
+        bench.run("focus f\nfocus none\n");
+        EXPECT_EQ(bench.field().surface.look().border.value, 0xFFU);
+    }
+}
+
+TEST(Property, TableIsComplete)
+{
+    for (const control::Property& row : control::properties()) {
+        EXPECT_EQ(control::findProperty(row.name), &row);
+        EXPECT_EQ(control::findProperty(row.dispid), &row);
+        EXPECT_EQ(row.put == nullptr, row.access == control::Access::read) << toUtf8(row.name);
+    }
 }
 
 } // namespace
-} // namespace vela::control
+} // namespace vela::test

@@ -1,7 +1,7 @@
 // Dates: the calendar, what is read as a date, and dates as texts.
 #include "engine/text/calendar_date.h"
 #include "engine/text/conversions.h"
-#include "tests/engine/error_of.h"
+#include "tests/support/error_of.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Typing, erasing and moving in a mask, and values in and out of it.
 #include "engine/field/mask.h"
 #include "field_text.h"
-#include "tests/engine/error_of.h"
+#include "tests/support/error_of.h"
 
 #include <gtest/gtest.h>
 

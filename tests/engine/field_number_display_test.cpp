@@ -2,7 +2,7 @@
 #include "engine/field/number_display.h"
 #include "engine/text/conversions.h"
 #include "field_text.h"
-#include "tests/engine/error_of.h"
+#include "tests/support/error_of.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // What is read as a number, and as which one.
 #include "engine/text/conversions.h"
-#include "tests/engine/error_of.h"
+#include "tests/support/error_of.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "engine/error.h"
 #include "engine/text/calendar_date.h"
 #include "engine/text/pattern.h"
-#include "tests/engine/error_of.h"
+#include "tests/support/error_of.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 
 #include "pages/page.h"
 #include "platform/headless/environment.h"
-#include "tests/engine/error_of.h"
+#include "tests/support/error_of.h"
 
 #include <map>
 #include <optional>

@@ -1,6 +1,9 @@
-// The pop-ups on the headless machine: opening, picking, closing themselves, owners that go or fail.
+// The pop-ups where transcripts do not reach: owners that go, fail or open another one, keys of the calendar, colours;
+// and the calendar that stands alone.
 #include "tests/popups/scripted_owner.h"
 
+#include "platform/headless/property_bag.h"
+#include "popups/c_calendar.h"
 #include "popups/calculator_layout.h"
 #include "popups/calendar_layout.h"
 #include "popups/calendario_sdi.h"
@@ -8,12 +11,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace vela::popups {
 namespace {
 
-using Lines = std::vector<std::u16string>;
+using test::Recorder;
+using Lines = std::vector<std::string>;
 
 class PopupsTest : public testing::Test {
 protected:
@@ -33,106 +35,33 @@ protected:
     Popups popups{machine.environment, machine.forms};
 };
 
-TEST_F(PopupsTest, TheCalendarHangsUnderItsControlOnTheTextsDate)
-{
-    owner.text = u"29/02/2024 14:05";
-    popups.openCalendar(owner);
-    EXPECT_EQ(recorder.lines, Lines{u"open CalendarioSDI 100 221 184 167"});
-    EXPECT_EQ(popups.calendar()->grid().selectedText(), u"29/02/2024");
-    EXPECT_EQ(popups.calendar()->grid().frameCell(), 32);
-    EXPECT_EQ(calendarForm().text(calendar_widget::months), u"Fevereiro");
-    EXPECT_EQ(calendarForm().text(calendar_widget::years), u"2024");
-    EXPECT_EQ(calendarForm().text(calendar_widget::day(32)), u"29");
-    EXPECT_EQ(calendarForm().look(calendar_widget::day(32)).spokenName, u"29 de fevereiro de 2024, selecionado");
-    EXPECT_EQ(calendarForm().focused(), calendar_widget::months);
-}
-
-TEST_F(PopupsTest, ATextThatIsNoDateOpensOnToday)
-{
-    for (const char16_t* text : {u"", u"__/__/____", u"31/02/2024", u"45000"}) {
-        owner.text = text;
-        popups.openCalendar(owner);
-        EXPECT_EQ(popups.calendar()->grid().selectedText(), u"15/03/2024");
-        popups.closeAll();
-    }
-}
-
-std::u16string failure(const char16_t* heading, int step, int number, const char16_t* description, const char16_t* hint)
-{
-    return std::u16string(u"information|Vela|") + heading + u"\r\nLinha do Erro: " + decimal(step) +
-           u"\r\nN° do Erro: " + decimal(number) + u"\r\nDescrição: ( " + description +
-           u" )\r\nInfo Técnicas: Não é possível exibir " + hint + u" em forms modais";
-}
-
+// What a form of the console never is: without a window, and modal.
 TEST_F(PopupsTest, AFailingOpeningTellsItsStep)
 {
-    struct Row {
-        const char* name;
-        std::function<void(ScriptedOwner&)> arrange;
-        int step;
-        int number;
-        const char16_t* description;
-        bool calculatorToo;
+    const struct {
+        void (*arrange)(ScriptedOwner&);
+        std::string lines; // of the box, behind its heading
+    } rows[] = {
+        {[](ScriptedOwner& o) { o.failingAnchor = 5; },
+         "Linha do Erro: 1\\r\\nN° do Erro: 5\\r\\nDescrição: ( Invalid procedure call or argument )"},
+        {[](ScriptedOwner& o) { o.parent.modal = true; }, "Linha do Erro: 6\\r\\nN° do Erro: 401\\r\\nDescrição: ( "
+                                                          "Can't show non-modal form when modal form is displayed )"},
     };
-    const Row rows[] = {
-        {"no window", [](ScriptedOwner& o) { o.failingAnchor = 5; }, 1, 5, u"Invalid procedure call or argument", true},
-        {"no text", [](ScriptedOwner& o) { o.failingText = 91; }, 3, 91,
-         u"Object variable or With block variable not set", true},
-        {"year beyond the list", [](ScriptedOwner& o) { o.text = u"01/01/2051"; }, 4, 380, u"Invalid property value",
-         false},
-        {"year before the list", [](ScriptedOwner& o) { o.text = u"31/12/1949"; }, 4, 380, u"Invalid property value",
-         false},
-        {"only a time", [](ScriptedOwner& o) { o.text = u"14:05"; }, 4, 380, u"Invalid property value", false},
-        {"modal form", [](ScriptedOwner& o) { o.parent.modal = true; }, 6, 401,
-         u"Can't show non-modal form when modal form is displayed", true},
-    };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         ScriptedOwner failing;
         row.arrange(failing);
         recorder.lines.clear();
         popups.openCalendar(failing);
-        EXPECT_EQ(recorder.lines, Lines{failure(u"Erro ao Exibir o Calendário !", row.step, row.number, row.description,
-                                                u"o calendário")})
-            << row.name;
-        EXPECT_EQ(popups.calendar(), nullptr) << row.name;
-        if (!row.calculatorToo)
-            continue;
-        recorder.lines.clear();
         popups.openCalculator(failing);
-        EXPECT_EQ(recorder.lines, Lines{failure(u"Erro ao Exibir a Calculadora !", row.step, row.number,
-                                                row.description, u"a calculadora")})
-            << row.name;
-        EXPECT_EQ(popups.calculator(), nullptr) << row.name;
-        EXPECT_EQ(failing.tipsHidden, 0) << row.name;
+        EXPECT_EQ(recorder.lines,
+                  (Lines{"msgbox information \"Vela\" \"Erro ao Exibir o Calendário !\\r\\n" + row.lines +
+                             "\\r\\nInfo Técnicas: Não é possível exibir o calendário em forms modais\" -> ok",
+                         "msgbox information \"Vela\" \"Erro ao Exibir a Calculadora !\\r\\n" + row.lines +
+                             "\\r\\nInfo Técnicas: Não é possível exibir a calculadora em forms modais\" -> ok"}));
+        EXPECT_EQ(popups.calendar(), nullptr);
+        EXPECT_EQ(popups.calculator(), nullptr);
+        EXPECT_EQ(failing.tipsHidden, 0);
     }
-}
-
-TEST_F(PopupsTest, AnOpeningThatFailsTakesAwayWhatWasOpen)
-{
-    popups.openCalculator(owner);
-    popups.openCalendar(owner);
-    EXPECT_EQ(owner.tipsHidden, 2);
-    recorder.lines.clear();
-    owner.failingText = 91;
-    popups.openCalendar(owner);
-    ASSERT_EQ(recorder.lines.size(), 2U);
-    EXPECT_EQ(recorder.lines[0], u"close CalendarioSDI");
-    EXPECT_TRUE(recorder.lines[1].starts_with(u"information|Vela|Erro ao Exibir o Calend"));
-    EXPECT_EQ(popups.calendar(), nullptr);
-    EXPECT_EQ(owner.tipsHidden, 2);
-}
-
-TEST_F(PopupsTest, AClickOnADayWritesItsTextAndCloses)
-{
-    owner.duringPut = [this] { recorder.lines.push_back(u"put"); };
-    popups.openCalendar(owner);
-    calendarForm().choose(calendar_widget::months, 11); // December: writes nothing
-    calendarForm().doubleClick(calendar_widget::day(40));
-    EXPECT_TRUE(owner.puts.empty());
-    calendarForm().click(calendar_widget::day(40));
-    EXPECT_EQ(owner.puts, (std::vector<engine::Value>{std::u16string(u"10/01/2025")}));
-    EXPECT_EQ(recorder.lines, (Lines{u"open CalendarioSDI 100 221 184 167", u"put", u"close CalendarioSDI"}));
-    EXPECT_EQ(popups.calendar(), nullptr);
 }
 
 TEST_F(PopupsTest, AFailingPutReachesTheCallerAndLeavesThePopupAsTheClickLeftIt)
@@ -199,24 +128,8 @@ TEST_F(PopupsTest, OneInstanceOfEachAndOnlyOneOpen)
     popups.calculator()->typeCharacter(u'5');
     popups.openCalculator(owner); // its text is no number: the display stays
     EXPECT_EQ(popups.calculator()->display(), u"75");
-    EXPECT_EQ(recorder.lines, (Lines{u"open CalendarioSDI 100 221 184 167", u"open CalendarioSDI 100 221 184 167",
-                                     u"close CalendarioSDI", u"open frmCalculadora 100 221 110 109",
-                                     u"open frmCalculadora 100 221 110 109"}));
-}
-
-TEST_F(PopupsTest, F2OnlyWhileAnOperatorHasTheFocus)
-{
-    openCalculatorWith(u"12,5");
-    popups.calculator()->clickWithMouse(calculator_widget::decimal);
-    popups.calculator()->typeCharacter(u'7'); // its button is no digit or operator: ignored
-    popups.calculator()->pressF2();
-    popups.calculator()->clickWithMouse(calculator_widget::cancelEntry);
-    popups.calculator()->pressF2();
-    EXPECT_TRUE(owner.puts.empty());
-    popups.calculator()->typeCharacter(u'8');
-    popups.calculator()->pressF2();
-    EXPECT_EQ(owner.puts, (std::vector<engine::Value>{8.0}));
-    EXPECT_EQ(popups.calculator(), nullptr);
+    EXPECT_EQ(recorder.lines, (Lines{"open calendar 100 221 184 167", "open calendar 100 221 184 167", "close calendar",
+                                     "open calculator 100 221 110 109", "open calculator 100 221 110 109"}));
 }
 
 TEST_F(PopupsTest, ADivisionByZeroIsToldAndTheCalculatorOutlivesItsBox)
@@ -229,7 +142,7 @@ TEST_F(PopupsTest, ADivisionByZeroIsToldAndTheCalculatorOutlivesItsBox)
     };
     for (const char16_t key : std::u16string_view(u"/0="))
         popups.calculator()->typeCharacter(key);
-    EXPECT_EQ(recorder.lines, Lines{u"exclamation|Tamber Calc|Erro, Divisão por zero impossível"});
+    EXPECT_EQ(recorder.lines, Lines{"msgbox exclamation \"Tamber Calc\" \"Erro, Divisão por zero impossível\" -> ok"});
     ASSERT_NE(popups.calculator(), nullptr);
     EXPECT_EQ(popups.calculator()->display(), u"9");
     popups.calculator()->deactivated();
@@ -311,15 +224,15 @@ TEST_F(PopupsTest, AFailingForegroundCheckIsLoggedUnlessTheSiteIsGone)
         owner.failingParent = row.number;
         recorder.lines.clear();
         machine.forms.tick();
-        EXPECT_EQ(recorder.lines.front() == u"C:\\Log_Vela.txt|91|Procedimento: CJA", row.logged);
-        EXPECT_EQ(recorder.lines.back(), u"close CalendarioSDI");
+        EXPECT_EQ(recorder.lines.front().ends_with("91 \"parent gone\" \"Procedimento: CJA\""), row.logged);
+        EXPECT_EQ(recorder.lines.back(), "close calendar");
         owner.failingParent = 0;
         popups.openCalculator(owner);
         owner.failingParent = row.number;
         recorder.lines.clear();
         machine.forms.tick();
-        EXPECT_EQ(recorder.lines.front() == u"C:\\Log_Vela.txt|91|Procedimento: Calculadora", row.logged);
-        EXPECT_EQ(recorder.lines.back(), u"close frmCalculadora");
+        EXPECT_EQ(recorder.lines.front().ends_with("91 \"parent gone\" \"Procedimento: Calculadora\""), row.logged);
+        EXPECT_EQ(recorder.lines.back(), "close calculator");
     }
 }
 
@@ -331,7 +244,7 @@ TEST_F(PopupsTest, HighlightsAreCountedToTheirLimit)
         popups.calendar()->IncluiDataRealcada(engine::Date{45000});
     EXPECT_TRUE(recorder.lines.empty());
     popups.calendar()->IncluiDataRealcada(engine::Date{45000});
-    EXPECT_EQ(recorder.lines, Lines{u"exclamation|Vela.IDR|Acesso Negado!"});
+    EXPECT_EQ(recorder.lines, Lines{"msgbox exclamation \"Vela.IDR\" \"Acesso Negado!\" -> ok"});
     EXPECT_EQ(popups.calendar()->grid().highlightCount(), 10000);
 }
 
@@ -342,6 +255,8 @@ TEST_F(PopupsTest, TheColoursAreThoseOfTheProcess)
     colours.dayInactive = engine::Colour{0x00040506};
     popups.colours().put(colours);
     popups.openCalendar(owner);
+    EXPECT_EQ(calendarForm().focused(), calendar_widget::months);
+    EXPECT_EQ(calendarForm().look(calendar_widget::day(19)).spokenName, u"15 de março de 2024, selecionado");
     EXPECT_EQ(calendarForm().look(calendar_widget::frame).back, colours.selected);
     EXPECT_TRUE(calendarForm().look(calendar_widget::frame).round);
     EXPECT_EQ(calendarForm().look(calendar_widget::day(0)).fore, colours.dayInactive);
@@ -350,6 +265,85 @@ TEST_F(PopupsTest, TheColoursAreThoseOfTheProcess)
         calendarPopupLayout().rows[static_cast<std::size_t>(calendar_widget::day(19).value)];
     EXPECT_EQ(calendarForm().look(calendar_widget::frame).left, day.place.left - 90);
     EXPECT_EQ(calendarForm().look(calendar_widget::frame).top, day.place.top - 30);
+}
+
+TEST(PopupFaults, AFailingLoadIsToldAndTheCalendarWorks)
+{
+    Recorder recorder;
+    headless::Machine machine{recorder};
+    machine.clock.freeze(engine::makeDate({2024, 3, 15}));
+    ScriptedOwner owner;
+    Popups popups(machine.environment, machine.forms);
+    machine.faults.failAt(4, engine::Error{7, u"Out of memory"}); // past making and hiding: a colour
+    popups.openCalendar(owner);
+    ASSERT_FALSE(recorder.lines.empty());
+    EXPECT_EQ(recorder.lines.front(), "msgbox information \"Vela.Load\" \"Out of memory\" -> ok");
+    popups.calendar()->pickDay(19);
+    EXPECT_EQ(owner.puts, (std::vector<engine::Value>{std::u16string(u"15/03/2024")}));
+}
+
+TEST(PopupFaults, TheCalculatorPassesOverARefusedValueAndTellsOtherFailures)
+{
+    for (const int number : {380, 5}) {
+        Recorder recorder;
+        headless::Machine machine{recorder};
+        ScriptedOwner owner;
+        Popups popups(machine.environment, machine.forms);
+        machine.faults.failAt(2, engine::Error{number, u"refused"});
+        popups.openCalculator(owner);
+        EXPECT_EQ(recorder.lines.front() == "msgbox information \"Vela.Load\" \"5-refused\" -> ok", number == 5);
+        EXPECT_EQ(recorder.lines.back(), "open calculator 100 221 110 109");
+    }
+}
+
+TEST(CCalendar, KeepsItsSelectedDate)
+{
+    const struct {
+        const char* name;
+        const char16_t* dateInitial;
+        const char16_t* selected;
+        std::size_t boxes;
+    } rows[] = {
+        {"kept", u"29/02/2024", u"29/02/2024", 0},
+        {"none: today", u"", u"15/03/2024", 0},
+        {"no date: told, and it stays usable", u"2024-02-29", u"2024-02-29", 1},
+    };
+    for (const auto& row : rows) {
+        Recorder recorder;
+        headless::Machine machine{recorder};
+        machine.clock.freeze(engine::makeDate({2024, 3, 15}));
+        const SharedCalendarColours colours;
+        cCalendar calendar(machine.environment, machine.forms, colours);
+        headless::PropertyBag bag;
+        if (*row.dateInitial != 0)
+            bag.put(u"DateInitial", std::u16string(row.dateInitial));
+        calendar.load(bag);
+        EXPECT_EQ(calendar.grid().selectedText(), row.selected) << row.name;
+        EXPECT_EQ(recorder.lines.size(), row.boxes) << row.name;
+        EXPECT_EQ(calendar.form().items(calendar_widget::years).count(), 101) << row.name;
+        EXPECT_EQ(calendar.form().look(calendar_widget::weekday(0)).fore, engine::Colour{0x00800000}) << row.name;
+        headless::PropertyBag saved;
+        calendar.save(saved);
+        ASSERT_EQ(saved.entries().size(), 1U);
+        EXPECT_EQ(saved.entries()[0].second, engine::Value(std::u16string(row.selected))) << row.name;
+        calendar.chooseYear(74);
+        calendar.chooseMonth(1);
+        calendar.clickDay(4);
+        EXPECT_EQ(calendar.selectedDate(), engine::makeDate({2024, 2, 1})) << row.name;
+    }
+}
+
+TEST(CCalendar, ItsLimitIsAThousand)
+{
+    Recorder recorder;
+    headless::Machine machine{recorder};
+    const SharedCalendarColours colours;
+    cCalendar calendar(machine.environment, machine.forms, colours);
+    calendar.initNew();
+    for (int i = 0; i < 1001; ++i)
+        EXPECT_EQ(calendar.IncluiDataRealcada(engine::Empty{}), engine::Value(engine::Empty{}));
+    EXPECT_EQ(recorder.lines,
+              Lines{"msgbox exclamation \"Vela\" \"Não é possível inserir mais de 1000 datas!\" -> ok"});
 }
 
 } // namespace

@@ -3,7 +3,8 @@
 
 #include "platform/headless/environment.h"
 #include "popups/popups.h"
-#include "tests/engine/error_of.h"
+#include "tests/support/error_of.h"
+#include "tests/support/recorder.h"
 
 #include <functional>
 #include <string>
@@ -55,16 +56,5 @@ public:
     int focusTaken = 0;
     int tipsHidden = 0;
 };
-
-// What happened to boxes, log and windows, a line each.
-class Recorder final : public headless::TraceSink {
-public:
-    void trace(const headless::TraceEntry& entry) override;
-
-    std::vector<std::u16string> lines;
-    std::function<void()> duringBox;
-};
-
-[[nodiscard]] std::u16string decimal(int number);
 
 } // namespace vela::popups
