@@ -117,9 +117,10 @@ TEST(Orders, WithoutAnObject)
         PageBench bench(order.page);
         if (order.page == PageKind::ppPrincipal) {
             bench.open(std::vector<PropertyObject*>{});
-            EXPECT_EQ(bench.takeBoxes(),
-                      "exclamation||Rotina: PropertyPage_SelectionChanged\r\nLinha: 1\r\nErro: 91\r\n"
-                      "Object variable or With block variable not set\n");
+            EXPECT_EQ(
+                bench.takeBoxes(),
+                "msgbox exclamation \"\" \"Rotina: PropertyPage_SelectionChanged\\r\\nLinha: 1\\r\\nErro: 91\\r\\n"
+                "Object variable or With block variable not set\" -> ok");
             EXPECT_FALSE(bench.page->apply());
         } else {
             EXPECT_EQ(errorOf([&] { bench.open(std::vector<PropertyObject*>{}); }), 91);

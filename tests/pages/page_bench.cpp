@@ -12,23 +12,6 @@ using engine::Value;
 using platform::WidgetId;
 using platform::WidgetKind;
 
-std::string utf8(std::u16string_view text)
-{
-    std::string out;
-    for (const char16_t unit : text)
-        if (unit < 0x80) {
-            out += static_cast<char>(unit);
-        } else if (unit < 0x800) {
-            out += static_cast<char>(0xC0 | unit >> 6);
-            out += static_cast<char>(0x80 | (unit & 0x3F));
-        } else {
-            out += static_cast<char>(0xE0 | unit >> 12);
-            out += static_cast<char>(0x80 | (unit >> 6 & 0x3F));
-            out += static_cast<char>(0x80 | (unit & 0x3F));
-        }
-    return out;
-}
-
 std::u16string utf16(std::string_view ascii)
 {
     return {ascii.begin(), ascii.end()};
@@ -186,14 +169,6 @@ WidgetId PageBench::id(std::u16string_view control, int index)
     if (!found)
         throw std::out_of_range("no control " + utf8(control));
     return found;
-}
-
-void PageBench::trace(const headless::TraceEntry& entry)
-{
-    constexpr const char* icons[] = {"none", "information", "exclamation", "question"};
-    if (const auto* box = std::get_if<headless::trace::MessageBox>(&entry))
-        boxes_ +=
-            std::string(icons[static_cast<int>(box->icon)]) + "|" + utf8(box->title) + "|" + utf8(box->text) + "\n";
 }
 
 // --- the store

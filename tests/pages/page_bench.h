@@ -1,9 +1,11 @@
 // A page on a headless machine with an object that records how it is read and written.
 #pragma once
 
+#include "apps/console/script_line.h"
 #include "pages/page.h"
 #include "platform/headless/environment.h"
 #include "tests/support/error_of.h"
+#include "tests/support/recorder.h"
 
 #include <map>
 #include <optional>
@@ -13,8 +15,8 @@
 namespace vela::pages {
 
 using engine::errorOf;
+constexpr auto utf8 = console::toUtf8;
 
-[[nodiscard]] std::string utf8(std::u16string_view text);
 [[nodiscard]] std::u16string utf16(std::string_view ascii);
 [[nodiscard]] std::string joined(const std::vector<std::u16string>& names);   // by blanks
 [[nodiscard]] bool sameValue(const engine::Value& a, const engine::Value& b); // 2 and 2.0 are the same
@@ -35,7 +37,7 @@ public:
     std::optional<std::size_t> failWriteAt; // the write with this place in `written` raises 380
 };
 
-class PageBench final : private headless::TraceSink, private PageSite, private ColourChooser {
+class PageBench final : private PageSite, private ColourChooser {
 public:
     explicit PageBench(PageKind kind);
     PageBench(const PageBench&) = delete;
@@ -62,8 +64,14 @@ public:
 
     void answerText(std::u16string text) { machine_.desktop.queueAnswer(std::move(text)); }
     void failStore(int number) { storeFailure_ = number; }
-    // "ICON|TITLE|TEXT\n" of every message box since the last call.
-    std::string takeBoxes() { return std::exchange(boxes_, {}); }
+    // Those since the last call, as transcripts tell them.
+    std::string takeBoxes()
+    {
+        std::string boxes;
+        for (const std::string& line : std::exchange(recorder_.lines, {}))
+            boxes += line;
+        return boxes;
+    }
 
     [[nodiscard]] platform::Form& form() { return page->form(); }
     [[nodiscard]] headless::WidgetForm& headlessForm() { return static_cast<headless::WidgetForm&>(page->form()); }
@@ -94,15 +102,14 @@ private:
         PageBench& bench_;
     };
 
-    void trace(const headless::TraceEntry& entry) override;
     void changed(bool dirty) override { marked = dirty; }
     void runAct(const std::function<void()>& act) override { act(); }
     [[nodiscard]] std::optional<engine::Colour> choose() override { return colour; }
 
     PageKind kind_;
-    std::string boxes_;
+    test::Recorder recorder_;
     int storeFailure_ = 0;
-    headless::Machine machine_{*this};
+    headless::Machine machine_{recorder_};
     Store store_{*this};
 
 public:

@@ -1,4 +1,4 @@
-// The general, errors, font and calendar pages, and what marks a page changed.
+// What marks a page changed, and swatches by key.
 #include "page_bench.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +7,6 @@ namespace vela::pages {
 namespace {
 
 using engine::Colour;
-using engine::Value;
 
 struct Mark {
     PageKind page;
@@ -84,79 +83,14 @@ TEST(Swatches, SpaceAndEnterOpenThePalette)
     EXPECT_NE(bench.back(u"PicCor"), *bench.colour);
 }
 
-TEST(Geral, ShowsOneGroupAtATime)
+TEST(Erros, AMessageThatIsNotUsedIsGrey)
 {
-    PageBench bench(PageKind::ppGeral);
-    for (const bool entered : {false, true}) {
-        bench.click(entered ? u"optGotfocus" : u"optLost");
-        EXPECT_EQ(bench.form().visible(bench.id(u"chkAutoSelect")), entered);
-        EXPECT_EQ(bench.form().visible(bench.id(u"txtISEmpty")), !entered);
-    }
-}
-
-class Erros : public testing::Test {
-protected:
-    void load(bool alert, bool custom, bool clears, bool focus)
-    {
-        bench.object.properties[u"ErrorAlert"] = alert;
-        bench.object.properties[u"ErrorMsgCustom"] = custom;
-        bench.object.properties[u"ErrorTextClear"] = clears;
-        bench.object.properties[u"ErrorFocus"] = focus;
-        bench.object.properties[u"ErrorTextMessage"] = std::u16string(u"texto");
-        bench.open();
-    }
-    // alert, custom (+), message (+), clear, focus (+); "+" behind what is enabled
-    [[nodiscard]] std::string state()
-    {
-        const auto box = [&](std::u16string_view name) {
-            return std::string(bench.checked(name) ? "1" : "0") + (bench.enabled(name) ? "+" : "-");
-        };
-        return box(u"chkExibirAlertaPadrao") + " " + box(u"chkPersonalizarMsgErro") + " '" +
-               utf8(bench.text(u"txtMsgCustom")) + "'" + (bench.enabled(u"txtMsgCustom") ? "+" : "-") +
-               (bench.enabled(u"LBLTextCustom") ? "+" : "-") +
-               (bench.back(u"txtMsgCustom") == Colour{0x00FFFFFF} ? "white" : "grey") + " " + box(u"chkLimpaCampo") +
-               " " + box(u"chkErrorFocus");
-    }
-
-    PageBench bench{PageKind::ppErros};
-};
-
-TEST_F(Erros, DependentControlsAfterLoading)
-{
-    struct Row {
-        bool alert, custom, clears, focus;
-        std::string state;
-    };
-    const Row rows[] = {
-        {true, true, false, true, "1+ 1+ 'texto'++white 0+ 1+"},
-        {true, false, false, false, "1+ 0+ ''--grey 0+ 0+"},
-        {false, true, false, true, "0+ 0- ''--grey 0+ 1+"}, // the alert rule comes first
-        {true, true, true, true, "1+ 1+ 'texto'++white 1+ 0-"},
-    };
-    for (const Row& row : rows) {
-        load(row.alert, row.custom, row.clears, row.focus);
-        EXPECT_EQ(state(), row.state);
-        EXPECT_FALSE(bench.page->changed());
-    }
-}
-
-TEST(Fonte, ChoosingTheFontThatStandsChangesNothing)
-{
-    PageBench bench(PageKind::ppFonte);
-    bench.object.properties[u"FontName"] = std::u16string(u"Tahoma");
+    PageBench bench(PageKind::ppErros);
+    bench.object.properties[u"ErrorAlert"] = true;
     bench.open();
-    bench.choose(u"CboFontName", 3);
-    EXPECT_FALSE(bench.page->changed());
-}
-
-TEST(Fonte, ThePreviewIsDrawnWhenAskedFor)
-{
-    PageBench bench(PageKind::ppFonte);
-    bench.open();
-    bench.check(u"Italico", true);
-    EXPECT_EQ(bench.text(u"picTeste"), u"");
-    bench.click(u"cmdTeste");
-    EXPECT_EQ(bench.text(u"picTeste"), u"Texto de Teste");
+    EXPECT_EQ(bench.back(u"txtMsgCustom"), Colour{0x00DFDFDF});
+    bench.click(u"chkPersonalizarMsgErro");
+    EXPECT_EQ(bench.back(u"txtMsgCustom"), Colour{0x00FFFFFF});
 }
 
 } // namespace

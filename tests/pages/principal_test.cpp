@@ -1,4 +1,4 @@
-// The main page: load failures, checks before writing, masks and profiles, help.
+// The main page: load failures, a refused format, and a store that changes or fails.
 #include "page_bench.h"
 
 #include "pages/letters.h"
@@ -8,8 +8,6 @@
 
 namespace vela::pages {
 namespace {
-
-using engine::Value;
 
 class Principal : public testing::Test {
 protected:
@@ -28,8 +26,8 @@ TEST_F(Principal, LoadFailureNamesThePositionInTheReadingOrder)
         page.object.properties.erase(row.property);
         page.open();
         const std::string box =
-            "exclamation||Rotina: PropertyPage_SelectionChanged\r\nLinha: " + std::to_string(row.line) +
-            "\r\nErro: 438\r\nObject doesn't support this property or method\n";
+            "msgbox exclamation \"\" \"Rotina: PropertyPage_SelectionChanged\\r\\nLinha: " + std::to_string(row.line) +
+            "\\r\\nErro: 438\\r\\nObject doesn't support this property or method\" -> ok";
         EXPECT_EQ(page.takeBoxes(), box);
         EXPECT_FALSE(page.page->changed());
         page.edit();
@@ -40,95 +38,20 @@ TEST_F(Principal, LoadFailureNamesThePositionInTheReadingOrder)
     }
     bench.object.properties[u"tipoLetra"] = 9; // no such item
     bench.open();
-    EXPECT_EQ(
-        bench.takeBoxes(),
-        "exclamation||Rotina: PropertyPage_SelectionChanged\r\nLinha: 21\r\nErro: 380\r\nInvalid property value\n");
+    EXPECT_EQ(bench.takeBoxes(), "msgbox exclamation \"\" \"Rotina: PropertyPage_SelectionChanged\\r\\nLinha: "
+                                 "21\\r\\nErro: 380\\r\\nInvalid property value\" -> ok");
 }
 
-TEST_F(Principal, ASymbolThatIsOnlyASemicolonIsClearedForNumbers)
+TEST_F(Principal, ARefusedDateFormatShowsItsBox)
 {
-    for (const int type : {0, 1, 2, 3}) {
-        bench.open();
-        bench.choose(u"cboTextType", type);
-        bench.put(u"cboFormatoData", u"dd/mm/yyyy");
-        bench.put(u"txtSimboloMonetario", u";");
-        EXPECT_TRUE(bench.page->apply());
-        EXPECT_EQ(bench.takeBoxes(), type == 1 ? "information||Simbolo Agregado não pode ser ;\n" : "");
-        EXPECT_EQ(bench.object.properties[u"SimboloMonetario"], Value(std::u16string(type == 1 ? u"" : u";")));
-    }
-}
-
-TEST_F(Principal, ARefusedDateFormatWritesNothingAndResetsItsBox)
-{
-    struct Row {
-        std::u16string format;
-        std::string boxes;
-    };
-    const std::string character = "information|Vela|Caractere do formato de data inválido\n";
-    const std::string refused = "information||Formato da Data inválido\n";
-    for (const Row& row : {Row{u"dd/xx/yyyy", character + refused}, Row{u"//", refused}, Row{u"", refused}}) {
-        bench.open();
-        bench.choose(u"cboTextType", 2);
-        bench.put(u"cboFormatoData", row.format);
-        bench.object.written.clear();
-        EXPECT_FALSE(bench.page->apply());
-        EXPECT_EQ(bench.takeBoxes(), row.boxes);
-        EXPECT_TRUE(bench.object.written.empty());
-        EXPECT_TRUE(bench.page->changed());
-        EXPECT_EQ(bench.text(u"cboFormatoData"), u"dd/MM/yy");
-        EXPECT_EQ(bench.form().focused(), bench.id(u"cboFormatoData"));
-        EXPECT_EQ(bench.form().items(bench.id(u"tabPrincipal")).chosen(), 1);
-    }
-    EXPECT_TRUE(bench.page->apply());
-    EXPECT_FALSE(bench.page->changed());
-}
-
-TEST_F(Principal, TheMaskIsPreparedForMaskedTextOnly)
-{
-    for (const int type : {0, 3}) {
-        bench.open();
-        bench.choose(u"cboTextType", type);
-        bench.put(u"txtMascara", u"@@@-####");
-        bench.put(u"txtPromptChar", u"*");
-        EXPECT_TRUE(bench.page->apply());
-        EXPECT_EQ(bench.object.properties[u"Mask"], Value(std::u16string(type == 3 ? u"***-****" : u"@@@-####")));
-    }
-}
-
-TEST_F(Principal, LettersFollowFreeTyping)
-{
-    platform::ItemList& letters = bench.form().items(bench.id(u"lstLetrasPermitidas"));
-    bench.object.properties[u"TextoLivre"] = true;
-    bench.object.properties[u"CaractLiberados"] = std::u16string(u"abc");
     bench.open();
-    EXPECT_FALSE(bench.enabled(u"lstLetrasPermitidas"));
-    EXPECT_EQ(selectedLetters(letters), u"");
-
-    bench.object.properties[u"TextoLivre"] = false;
-    bench.object.properties[u"CaractLiberados"] = std::u16string(u"c€aÖA");
-    bench.open();
-    EXPECT_TRUE(bench.enabled(u"lstLetrasPermitidas"));
-    EXPECT_EQ(selectedLetters(letters), u"Aac");
-
-    bench.check(u"chkTextoLivre", true);
-    EXPECT_FALSE(bench.enabled(u"lstLetrasPermitidas"));
-    EXPECT_EQ(selectedLetters(letters), u"Aac");
-    EXPECT_TRUE(bench.page->apply());
-    EXPECT_EQ(bench.object.properties[u"CaractLiberados"], Value(std::u16string()));
-    bench.check(u"chkTextoLivre", false);
-    EXPECT_TRUE(bench.page->apply());
-    EXPECT_EQ(bench.object.properties[u"CaractLiberados"], Value(std::u16string(u"Aac")));
-}
-
-TEST_F(Principal, TheListOfLetters)
-{
-    const platform::ItemList& letters = bench.form().items(bench.id(u"lstLetrasPermitidas"));
-    ASSERT_EQ(letters.count(), 133);
-    std::u16string all;
-    for (int i = 0; i < letters.count(); ++i)
-        all += letters.at(i);
-    EXPECT_EQ(all.substr(0, 3), u" !\"");
-    EXPECT_EQ(all.substr(95), u"ÀÁÂÃÄÅÇÈÉÊÌÍÑÒÓÔÕ×Ùàáâãçèéêìíñòóôõ÷ùúû");
+    bench.choose(u"cboTextType", 2);
+    bench.put(u"cboFormatoData", u"dd/xx/yyyy");
+    EXPECT_FALSE(bench.page->apply());
+    EXPECT_TRUE(bench.object.written.empty());
+    EXPECT_TRUE(bench.page->changed());
+    EXPECT_EQ(bench.form().focused(), bench.id(u"cboFormatoData"));
+    EXPECT_EQ(bench.form().items(bench.id(u"tabPrincipal")).chosen(), 1);
 }
 
 TEST_F(Principal, ProfilesOfTheStoreAreListedOnceAndTheFirstIsChosen)

@@ -1,13 +1,10 @@
-// The rules of the pages that stand alone: key filters, date format check, mask preparation, letters, mask keys.
-#include "pages/key_filters.h"
+// The check of a date format, and what a reader calls the controls.
 #include "pages/layouts.h"
-#include "pages/palette_colours.h"
 #include "pages/principal_rules.h"
 #include "pages/spoken_names.h"
 
 #include <gtest/gtest.h>
 
-#include <set>
 #include <string>
 
 namespace vela::pages {
@@ -28,33 +25,6 @@ TEST(DateFormat, Check)
     };
     for (const Row& row : rows)
         EXPECT_EQ(checkDateFormat(row.format), row.fault) << std::string(row.format.begin(), row.format.end());
-}
-
-TEST(Mask, Preparation)
-{
-    EXPECT_EQ(prepareMask(u"@@@-####", u"_"), u"___-____");
-    EXPECT_EQ(prepareMask(u"?#@", u"*"), u"***");
-    EXPECT_EQ(prepareMask(u"#@?", u"@"), u"@@@");
-    EXPECT_EQ(prepareMask(u"##/##", u""), u"##/##");
-    EXPECT_EQ(prepareMask(u"__.__", u"_"), u"__.__");
-}
-
-TEST(Palette, TableHoldsThirtyTwoDifferentColoursOnTheirGrid)
-{
-    std::set<std::uint32_t> colours;
-    std::set<std::pair<int, int>> places;
-    std::set<int> indexes;
-    for (const PaletteColour& entry : paletteColours) {
-        colours.insert(entry.colour.value);
-        places.insert({entry.left, entry.top});
-        indexes.insert(entry.index);
-        EXPECT_EQ((entry.left - 120) % 270, 0);
-        EXPECT_EQ((entry.top - 300) % 255, 0);
-    }
-    EXPECT_EQ(colours.size(), 32U);
-    EXPECT_EQ(places.size(), 32U);
-    EXPECT_EQ(indexes.size(), 32U);
-    EXPECT_EQ(rgb(255, 192, 128).value, 0x0080C0FFU);
 }
 
 TEST(SpokenNames, ComeFromTheWordsBefore)
