@@ -6,7 +6,6 @@
 #include "activex/guids.h"
 #include "activex/ole/browsing.h"
 #include "platform/win32/dpi.h"
-#include "popups/calendar_layout.h"
 
 #include <olectl.h>
 
@@ -213,7 +212,7 @@ int CalendarContent::dpi()
 void CalendarContent::draw(HDC dc, const RECT& bounds)
 {
     calendar_.refresh();
-    drawForm(dc, bounds, popups::calendarControlLayout(), form(), session_->popups.colours().read().form);
+    drawForm(dc, bounds, form().widgets());
 }
 
 std::u16string CalendarContent::plainText()

@@ -44,11 +44,6 @@ void outline(HDC dc, const RECT& place, COLORREF colour)
     Rectangle(dc, place.left, place.top, place.right, place.bottom);
 }
 
-bool isCombo(platform::WidgetKind kind) noexcept
-{
-    return kind == platform::WidgetKind::dropDownList || kind == platform::WidgetKind::comboBox;
-}
-
 UINT alignmentOf(const platform::WidgetRow& row)
 {
     switch (row.alignment) {
@@ -62,92 +57,82 @@ UINT alignmentOf(const platform::WidgetRow& row)
 // One drawing of a form.
 class Picture {
 public:
-    Picture(HDC dc, const Scale& scale, const platform::Form& form) : dc_(dc), scale_(scale), form_(form) {}
+    Picture(HDC dc, const Scale& scale, const platform::Widgets& widgets) : dc_(dc), scale_(scale), widgets_(widgets) {}
 
-    void drawWidget(const platform::WidgetRow& row, platform::WidgetId id)
+    void drawWidget(const platform::Widget& widget)
     {
-        const platform::WidgetLook& look = form_.look(id);
-        const RECT place = placeOf(row, id);
-        const bool label = row.kind == platform::WidgetKind::label;
+        const platform::WidgetLook& look = widget.look;
+        const RECT place = placeOf(widget);
+        const bool label = widget.kind() == platform::WidgetKind::label;
         if (label && look.opaque && look.round)
             win32::paintMark(dc_, place, win32::resolve(look.back), scale_.x(markLine) - scale_.x(0));
         else if (label && look.opaque)
             fill(dc_, place, win32::resolve(look.back, win32::ColourRole::back));
-        else if (isCombo(row.kind))
+        else if (platform::isCombo(widget.kind()))
             win32::paintCombo(dc_, place, win32::resolve(look.back, win32::ColourRole::back),
                               scale_.x(arrowTwips) - scale_.x(0));
         else if (!label)
             fill(dc_, place, win32::resolve(look.back, win32::ColourRole::back));
         if (look.border)
             outline(dc_, place, win32::resolve(look.fore, win32::ColourRole::fore));
-        drawText(place, row, id, win32::resolve(look.fore, win32::ColourRole::fore));
+        drawText(place, widget, win32::resolve(look.fore, win32::ColourRole::fore));
     }
 
 private:
     static constexpr int markLine = 30; // twips
 
-    [[nodiscard]] RECT placeOf(const platform::WidgetRow& row, platform::WidgetId id) const
+    [[nodiscard]] RECT placeOf(const platform::Widget& widget) const
     {
-        const platform::WidgetLook& look = form_.look(id);
-        return {scale_.x(look.left), scale_.y(look.top), scale_.x(look.left + row.place.width),
-                scale_.y(look.top + row.place.height)};
+        const platform::WidgetLook& look = widget.look;
+        return {scale_.x(look.left), scale_.y(look.top), scale_.x(look.left + widget.row->place.width),
+                scale_.y(look.top + widget.row->place.height)};
     }
 
-    [[nodiscard]] int heightOf(const platform::WidgetRow& row, const platform::FontDescription& font)
+    [[nodiscard]] int heightOf(const platform::Widget& widget)
     {
-        const int height = scale_.y(static_cast<int>(font.size * twipsPerPoint)) - scale_.y(0);
-        if (!row.fits)
+        const int height = scale_.y(static_cast<int>(widget.font.size * twipsPerPoint)) - scale_.y(0);
+        if (!widget.row->fits)
             return height;
-        return fitted_.of(row.name, dc_, font, height, [&] {
-            texts_.clear();
+        return fitted_.of(widget.row->name, dc_, widget.font, height, [&] {
             std::vector<win32::FittingText> fitting;
-            for (std::size_t i = 0; i < scale_.layout.rows.size(); ++i)
-                if (scale_.layout.rows[i].name == row.name)
-                    texts_.push_back(form_.text({static_cast<int>(i)}));
-            for (const std::u16string& text : texts_)
-                fitting.push_back({text, scale_.x(row.place.width) - scale_.x(0)});
+            for (const platform::Widget& one : widgets_.all())
+                if (one.row->name == widget.row->name)
+                    fitting.push_back({one.text, scale_.x(widget.row->place.width) - scale_.x(0)});
             return fitting;
         });
     }
 
-    void drawText(RECT place, const platform::WidgetRow& row, platform::WidgetId id, COLORREF colour)
+    void drawText(RECT place, const platform::Widget& widget, COLORREF colour)
     {
-        platform::FontDescription description;
-        description.name = scale_.layout.fontName;
-        description.size = row.fontSize > 0 ? row.fontSize : scale_.layout.fontSize;
-        description.bold = row.bold;
-        const win32::UniqueGdi<HFONT> font(win32::makeFont(description, heightOf(row, description)));
+        const win32::UniqueGdi<HFONT> font(win32::makeFont(widget.font, heightOf(widget)));
         const win32::SelectedObject selected(dc_, font.get());
-        const std::u16string text = form_.text(id);
-        if (isCombo(row.kind))
+        const std::u16string text = widgets_.text(widget.id);
+        if (platform::isCombo(widget.kind()))
             place.left += scale_.x(comboMargin) - scale_.x(0);
         SetBkMode(dc_, TRANSPARENT);
         SetTextColor(dc_, colour);
         DrawTextW(dc_, win32::wide(text.data()), static_cast<int>(text.size()), &place,
-                  alignmentOf(row) | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+                  alignmentOf(*widget.row) | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
     }
 
     HDC dc_;
     const Scale& scale_;
-    const platform::Form& form_;
+    const platform::Widgets& widgets_;
     win32::FittedHeights fitted_;
-    std::vector<std::u16string> texts_;
 };
 
 } // namespace
 
-void drawForm(HDC dc, const RECT& bounds, const platform::FormLayout& layout, const platform::Form& form,
-              engine::Colour back)
+void drawForm(HDC dc, const RECT& bounds, const platform::Widgets& widgets)
 {
     const win32::SavedDc saved(dc);
-    const Scale scale{bounds, layout};
-    Picture picture(dc, scale, form);
-    fill(dc, bounds, win32::resolve(back, win32::ColourRole::back));
-    for (std::size_t i = 0; i < layout.rows.size(); ++i) {
-        const platform::WidgetId id{static_cast<int>(i)};
-        if (form.visible(id))
-            picture.drawWidget(layout.rows[i], id);
-    }
+    const Scale scale{bounds, widgets.layout()};
+    Picture picture(dc, scale, widgets);
+    if (widgets.backColour())
+        fill(dc, bounds, win32::resolve(*widgets.backColour(), win32::ColourRole::back));
+    for (const platform::Widget& widget : widgets.all())
+        if (widgets.visible(widget.id))
+            picture.drawWidget(widget);
 }
 
 } // namespace vela::activex

@@ -49,7 +49,8 @@ std::u16string spokenColour(Colour colour)
 } // namespace
 
 frmPaleta::frmPaleta(platform::FormFactory& forms, platform::Desktop* desktop)
-    : desktop_(desktop), form_(forms.make(paletaLayout(), *this))
+    : desktop_(desktop),
+      form_(forms.make(paletaLayout(), {.clicks = this, .entries = this, .keysDown = this, .keys = this}))
 {
     putSpokenNames(paletaLayout(), *form_);
     for (const PaletteColour& entry : paletteColours) {

@@ -13,7 +13,10 @@ namespace vela::pages {
 
 // One object for each use. The chosen colour is whichever was set last: by the swatch that took the focus or by a
 // change of the three boxes.
-class frmPaleta final : private platform::FormEvents {
+class frmPaleta final : private platform::ClickEvents,
+                        private platform::EntryEvents,
+                        private platform::KeyDownEvents,
+                        private platform::KeyPressEvents {
 public:
     // An amount beyond 16 bits is an error: told in a box of the desktop, or, without one, raised to who typed it.
     explicit frmPaleta(platform::FormFactory& forms, platform::Desktop* desktop = nullptr);
@@ -24,23 +27,17 @@ public:
     // Oddity: closing the palette by its close command counts as OK; developers close it that way and expect their
     // colour.
     [[nodiscard]] bool cancelled() const noexcept { return cancelled_; }
-    [[nodiscard]] bool isClosed() const noexcept { return closed_; }
     [[nodiscard]] engine::Colour preview() const;
     [[nodiscard]] platform::Form& form() noexcept { return *form_; }
     [[nodiscard]] const platform::FormLayout& layout() const noexcept;
 
 private:
     void clicked(platform::WidgetId widget) override;
-    void doubleClicked(platform::WidgetId) override {}
     void changed(platform::WidgetId widget) override;
     void gotFocus(platform::WidgetId widget) override;
     void lostFocus(platform::WidgetId widget) override;
     void keyDown(platform::WidgetId widget, int& code, int& shift) override;
     void keyPress(platform::WidgetId widget, int& key) override;
-    void activated() override {}
-    void deactivated() override {}
-    void tick() override {}
-    void closed() override { closed_ = true; }
 
     [[nodiscard]] platform::WidgetId id(std::u16string_view name, int index = -1) const;
     [[nodiscard]] bool isAmount(platform::WidgetId widget) const;
@@ -53,7 +50,6 @@ private:
     platform::Desktop* desktop_;
     engine::Colour colour_{0};
     bool cancelled_ = false;
-    bool closed_ = false;
     std::uint8_t selected_ = 0; // index of the swatch that last took the focus
     std::unique_ptr<platform::Form> form_;
 };

@@ -33,7 +33,9 @@ Colour toColour(const Value& value, const engine::Locale& locale)
 } // namespace
 
 PageForm::PageForm(const platform::FormLayout& layout, const PageServices& services, PageSite& site)
-    : layout_(layout), services_(services), site_(site), form_(services.forms.make(layout, *this))
+    : layout_(layout), services_(services), site_(site),
+      form_(services.forms.make(
+          layout, {.clicks = this, .doubleClicks = this, .entries = this, .keysDown = this, .keys = this}))
 {
     putSpokenNames(layout, *form_);
     for (std::size_t i = 0; i < layout.rows.size(); ++i)

@@ -15,7 +15,11 @@ namespace vela::pages {
 
 // While a page loads, the acts that its own writing would start are left out. A double click on a swatch, or
 // Space or Enter there, opens the palette on every page.
-class PageForm final : private platform::FormEvents {
+class PageForm final : private platform::ClickEvents,
+                       private platform::DoubleClickEvents,
+                       private platform::EntryEvents,
+                       private platform::KeyDownEvents,
+                       private platform::KeyPressEvents {
 public:
     using Action = std::function<void()>;
     using KeyFilter = bool (*)(int key); // true lets the key through
@@ -88,10 +92,6 @@ private:
     void lostFocus(platform::WidgetId widget) override;
     void keyDown(platform::WidgetId widget, int& code, int& shift) override;
     void keyPress(platform::WidgetId widget, int& key) override;
-    void activated() override {}
-    void deactivated() override {}
-    void tick() override {}
-    void closed() override {}
 
     const platform::FormLayout& layout_;
     PageServices services_;

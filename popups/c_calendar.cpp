@@ -17,7 +17,8 @@ constexpr HighlightRule highlightRule{1000, u"Vela", u"Não é possível inserir
 
 cCalendar::cCalendar(platform::Environment& environment, platform::FormFactory& forms,
                      const SharedCalendarColours& colours)
-    : form_(forms.make(calendarControlLayout(), *this)), calendar_(environment, *form_, colours, highlightRule)
+    : form_(forms.make(calendarControlLayout(), {.clicks = this, .keysDown = this})),
+      calendar_(environment, *form_, colours, highlightRule, boxes_)
 {
 }
 

@@ -9,7 +9,7 @@
 
 namespace vela::popups {
 
-class cCalendar final : public platform::FormEvents {
+class cCalendar final : private platform::ClickEvents, private platform::KeyDownEvents {
 public:
     // Selects nothing and draws nothing before initNew() or load(). All outlive the object.
     cCalendar(platform::Environment& environment, platform::FormFactory& forms, const SharedCalendarColours& colours);
@@ -34,23 +34,14 @@ public:
 
     std::function<void()> picked; // a day has been picked with the mouse or the Enter key, or a key has moved it
 
-    void clicked(platform::WidgetId widget) override;
-    void doubleClicked(platform::WidgetId) override {}
-    void changed(platform::WidgetId) override {}
-    void gotFocus(platform::WidgetId) override {}
-    void lostFocus(platform::WidgetId) override {}
-    void keyDown(platform::WidgetId widget, int& code, int& shift) override;
-    void keyPress(platform::WidgetId, int&) override {}
-    void activated() override {}
-    void deactivated() override {}
-    void tick() override {}
-    void closed() override {}
-
 private:
+    void clicked(platform::WidgetId widget) override;
+    void keyDown(platform::WidgetId widget, int& code, int& shift) override;
     void pick(int cell);
     void tellPicked() const;
 
     std::unique_ptr<platform::Form> form_;
+    OwnBoxes boxes_;
     CalendarOperations calendar_;
 };
 

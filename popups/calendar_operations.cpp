@@ -7,8 +7,8 @@
 namespace vela::popups {
 
 CalendarOperations::CalendarOperations(platform::Environment& environment, platform::Form& form,
-                                       const SharedCalendarColours& colours, const HighlightRule& rule)
-    : grid(rule.limit), view(form, grid, colours), environment_(environment), rule_(rule)
+                                       const SharedCalendarColours& colours, const HighlightRule& rule, OwnBoxes& boxes)
+    : grid(rule.limit), view(form, grid, colours), environment_(environment), rule_(rule), boxes_(boxes)
 {
 }
 
@@ -23,7 +23,7 @@ void CalendarOperations::load()
     if (!error)
         error = unseen;
     if (error && error->number != 0)
-        boxes.show(environment_.desktop, platform::BoxIcon::information, u"Vela.Load", error->description);
+        boxes_.show(environment_.desktop, platform::BoxIcon::information, u"Vela.Load", error->description);
 }
 
 void CalendarOperations::start(const engine::Value& date)
@@ -37,7 +37,7 @@ void CalendarOperations::start(const engine::Value& date)
 void CalendarOperations::countHighlight()
 {
     if (!grid.countHighlight())
-        boxes.show(environment_.desktop, platform::BoxIcon::exclamation, rule_.title, rule_.text);
+        boxes_.show(environment_.desktop, platform::BoxIcon::exclamation, rule_.title, rule_.text);
 }
 
 } // namespace vela::popups

@@ -20,7 +20,7 @@ class CalendarOperations {
 public:
     // All outlive the object.
     CalendarOperations(platform::Environment& environment, platform::Form& form, const SharedCalendarColours& colours,
-                       const HighlightRule& rule);
+                       const HighlightRule& rule, OwnBoxes& boxes);
 
     // Initialisation and show step; a failure is shown in a box titled "Vela.Load", and what was filled stays.
     void load();
@@ -31,11 +31,11 @@ public:
 
     CalendarGrid grid;
     CalendarView view;
-    OwnBoxes boxes;
 
 private:
     platform::Environment& environment_;
     const HighlightRule& rule_;
+    OwnBoxes& boxes_;
 };
 
 } // namespace vela::popups

@@ -31,17 +31,9 @@ engine::RectTwips placeOf(platform::WidgetId id)
     return calendarPopupLayout().rows[static_cast<std::size_t>(id.value)].place;
 }
 
-platform::WidgetLook lookOf(const platform::Form& form, platform::WidgetId id)
-{
-    platform::WidgetLook look = form.look(id);
-    look.left = placeOf(id).left;
-    look.top = placeOf(id).top;
-    return look;
-}
-
 void putBack(platform::Form& form, platform::WidgetId id, engine::Colour colour, bool round = false)
 {
-    platform::WidgetLook look = lookOf(form, id);
+    platform::WidgetLook look = form.look(id);
     look.back = colour;
     look.opaque = true;
     look.round = round;
@@ -70,7 +62,7 @@ void CalendarView::applyColours()
 void CalendarView::colourHeader()
 {
     for (int column = 0; column < 7; ++column) {
-        platform::WidgetLook look = lookOf(form_, widget::weekday(column));
+        platform::WidgetLook look = form_.look(widget::weekday(column));
         look.fore = colours_.weekDay;
         look.opaque = false;
         form_.putLook(widget::weekday(column), look);
@@ -114,7 +106,7 @@ void CalendarView::refreshCell(int cell)
                           grid_.frameCell() == cell};
     if (painted_[at] == painted)
         return;
-    platform::WidgetLook look = lookOf(form_, widget::day(cell));
+    platform::WidgetLook look = form_.look(widget::day(cell));
     look.fore = painted.fore;
     look.opaque = false;
     look.border = false;

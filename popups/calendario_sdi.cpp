@@ -14,8 +14,9 @@ constexpr HighlightRule highlightRule{10000, u"Vela.IDR", u"Acesso Negado!"};
 
 CalendarioSDI::CalendarioSDI(platform::Environment& environment, platform::FormFactory& forms,
                              const SharedCalendarColours& colours, PopupRecord& record)
-    : record_(record), life_(environment, forms, calendarPopupLayout(), *this, record, u"Procedimento: CJA"),
-      calendar_(std::make_unique<CalendarOperations>(environment, life_.form(), colours, highlightRule))
+    : record_(record), life_(environment, forms, calendarPopupLayout(), {.clicks = this, .keysDown = this}, record,
+                             calendar_widget::months, u"Procedimento: CJA"),
+      calendar_(std::make_unique<CalendarOperations>(environment, life_.form(), colours, highlightRule, life_.boxes))
 {
     calendar_->load();
 }
@@ -95,13 +96,6 @@ void CalendarioSDI::keyDown(platform::WidgetId, int& code, int& shift)
     } else if (calendar_->view.moveByKey(key, shift)) {
         code = 0;
     }
-}
-
-void CalendarioSDI::activated()
-{
-    const HandlerScope running(record_);
-    if (life_.activated() && life_.form().visible(calendar_widget::months))
-        life_.form().focus(calendar_widget::months);
 }
 
 } // namespace vela::popups

@@ -8,7 +8,7 @@
 
 namespace vela::popups {
 
-class CalendarioSDI final : public platform::FormEvents {
+class CalendarioSDI final : private platform::ClickEvents, private platform::KeyDownEvents {
 public:
     // Loads: today is selected and drawn. All outlive the object.
     CalendarioSDI(platform::Environment& environment, platform::FormFactory& forms,
@@ -31,21 +31,11 @@ public:
 
     void show(engine::RectPixels place, platform::WindowId parent);
     void unload() { life_.unload(); }
-
-    void clicked(platform::WidgetId widget) override;
-    void doubleClicked(platform::WidgetId) override {}
-    void changed(platform::WidgetId) override {}
-    void gotFocus(platform::WidgetId) override {}
-    void lostFocus(platform::WidgetId) override {}
-    void keyDown(platform::WidgetId widget, int& code, int& shift) override;
-    void keyPress(platform::WidgetId, int&) override {}
-    void activated() override;
-    void deactivated() override { life_.deactivated(boxUp()); }
-    void tick() override { life_.tick(boxUp()); }
-    void closed() override { life_.closed(); }
+    void closed() { life_.closed(); }
 
 private:
-    [[nodiscard]] bool boxUp() const { return life_.isLoaded() && calendar_->boxes.anyUp(); }
+    void clicked(platform::WidgetId widget) override;
+    void keyDown(platform::WidgetId widget, int& code, int& shift) override;
 
     PopupRecord& record_;
     PopupLife life_;

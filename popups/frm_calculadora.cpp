@@ -42,7 +42,8 @@ platform::WidgetId buttonOf(int character) noexcept
 
 frmCalculadora::frmCalculadora(platform::Environment& environment, platform::FormFactory& forms, PopupRecord& record)
     : environment_(environment), record_(record),
-      life_(environment, forms, calculatorLayout(), *this, record, u"Procedimento: Calculadora")
+      life_(environment, forms, calculatorLayout(), {.clicks = this, .keysDown = this, .keys = this}, record,
+            widget::equals, u"Procedimento: Calculadora")
 {
     load();
 }
@@ -59,19 +60,10 @@ void frmCalculadora::load()
         if (error->number == 0)
             return;
         const std::string number = std::to_string(error->number);
-        boxes_.show(environment_.desktop, platform::BoxIcon::information, u"Vela.Load",
-                    std::u16string(number.begin(), number.end()) + u"-" + error->description);
+        life_.boxes.show(environment_.desktop, platform::BoxIcon::information, u"Vela.Load",
+                         std::u16string(number.begin(), number.end()) + u"-" + error->description);
         return;
     }
-}
-
-platform::WidgetLook frmCalculadora::lookOf(platform::WidgetId id) const
-{
-    platform::WidgetLook look = life_.form().look(id);
-    const engine::RectTwips place = calculatorLayout().rows[static_cast<std::size_t>(id.value)].place;
-    look.left = place.left;
-    look.top = place.top;
-    return look;
 }
 
 void frmCalculadora::nameButtons()
@@ -79,7 +71,7 @@ void frmCalculadora::nameButtons()
     for (int at = 0; at < static_cast<int>(calculatorLayout().rows.size()); ++at) {
         if (spokenName({at}).empty())
             continue;
-        platform::WidgetLook look = lookOf({at});
+        platform::WidgetLook look = life_.form().look({at});
         look.spokenName = spokenName({at});
         life_.form().putLook({at}, look);
     }
@@ -87,7 +79,7 @@ void frmCalculadora::nameButtons()
 
 void frmCalculadora::paintDisplay()
 {
-    platform::WidgetLook look = lookOf(widget::display);
+    platform::WidgetLook look = life_.form().look(widget::display);
     look.fore = engine::Colour{0x80000008}; // window text
     look.back = engine::Colour{0x80000005}; // window
     look.opaque = true;
@@ -160,8 +152,8 @@ void frmCalculadora::operation(int index)
     life_.form().focus(widget::equals);
     const CalculatorAnswer answer = model_.operation(display(), index, locale());
     if (answer.dividedByZero)
-        boxes_.show(environment_.desktop, platform::BoxIcon::exclamation, u"Tamber Calc",
-                    u"Erro, Divisão por zero impossível");
+        life_.boxes.show(environment_.desktop, platform::BoxIcon::exclamation, u"Tamber Calc",
+                         u"Erro, Divisão por zero impossível");
     if (life_.isLoaded())
         putDisplay(answer.display);
 }
@@ -222,13 +214,6 @@ void frmCalculadora::valueToOwner()
     if (owner() != nullptr)
         owner()->putPopupText(value);
     unload();
-}
-
-void frmCalculadora::activated()
-{
-    const HandlerScope running(record_);
-    if (life_.activated())
-        life_.form().focus(widget::equals);
 }
 
 } // namespace vela::popups

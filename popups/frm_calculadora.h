@@ -2,12 +2,13 @@
 #pragma once
 
 #include "popups/calculator_model.h"
-#include "popups/own_box.h"
 #include "popups/popup_life.h"
 
 namespace vela::popups {
 
-class frmCalculadora final : public platform::FormEvents {
+class frmCalculadora final : private platform::ClickEvents,
+                             private platform::KeyDownEvents,
+                             private platform::KeyPressEvents {
 public:
     // Loads with the display "0.". All outlive the object.
     frmCalculadora(platform::Environment& environment, platform::FormFactory& forms, PopupRecord& record);
@@ -31,23 +32,13 @@ public:
 
     void show(engine::RectPixels place, platform::WindowId parent);
     void unload() { life_.unload(); }
-
-    void clicked(platform::WidgetId widget) override;
-    void doubleClicked(platform::WidgetId) override {}
-    void changed(platform::WidgetId) override {}
-    void gotFocus(platform::WidgetId) override {}
-    void lostFocus(platform::WidgetId) override {}
-    void keyDown(platform::WidgetId widget, int& code, int& shift) override;
-    void keyPress(platform::WidgetId widget, int& key) override;
-    void activated() override;
-    void deactivated() override { life_.deactivated(boxUp()); }
-    void tick() override { life_.tick(boxUp()); }
-    void closed() override { life_.closed(); }
+    void closed() { life_.closed(); }
 
 private:
-    [[nodiscard]] bool boxUp() const { return life_.isLoaded() && boxes_.anyUp(); }
+    void clicked(platform::WidgetId widget) override;
+    void keyDown(platform::WidgetId widget, int& code, int& shift) override;
+    void keyPress(platform::WidgetId widget, int& key) override;
     void load();
-    [[nodiscard]] platform::WidgetLook lookOf(platform::WidgetId id) const;
     void nameButtons();
     void paintDisplay();
     void digit(int digit);
@@ -62,7 +53,6 @@ private:
     PopupRecord& record_;
     PopupLife life_;
     CalculatorModel model_;
-    OwnBoxes boxes_;
 };
 
 } // namespace vela::popups

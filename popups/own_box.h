@@ -1,6 +1,7 @@
 // A message box that a pop-up shows itself: while it is up, the pop-up is not the active window and yet stays.
 #pragma once
 
+#include "engine/scoped_value.h"
 #include "platform/desktop.h"
 
 #include <string_view>
@@ -14,14 +15,7 @@ public:
 
     void show(platform::Desktop& desktop, platform::BoxIcon icon, std::u16string_view title, std::u16string_view text)
     {
-        struct Up {
-            int& count;
-            explicit Up(int& of) noexcept : count(of) { ++count; }
-            ~Up() { --count; }
-            Up(const Up&) = delete;
-            Up& operator=(const Up&) = delete;
-        };
-        const Up up(up_);
+        const engine::ScopedValue up(up_, up_ + 1);
         desktop.messageBox(icon, platform::BoxButtons::ok, title, text);
     }
 

@@ -12,10 +12,12 @@ constexpr int timerInterval = 100; // milliseconds
 } // namespace
 
 PopupLife::PopupLife(platform::Environment& environment, platform::FormFactory& forms,
-                     const platform::FormLayout& layout, platform::FormEvents& events, PopupRecord& record,
-                     std::u16string_view label)
-    : environment_(environment), record_(record), label_(label), form_(forms.make(layout, events))
+                     const platform::FormLayout& layout, platform::FormEvents events, PopupRecord& record,
+                     platform::WidgetId first, std::u16string_view label)
+    : environment_(environment), record_(record), first_(first), label_(label)
 {
+    events.popup = this;
+    form_ = forms.make(layout, events);
     loaded_ = true;
 }
 
@@ -25,25 +27,27 @@ void PopupLife::unload()
         form_->close();
 }
 
-bool PopupLife::activated()
-{
-    environment_.desktop.processPendingEvents();
-    if (loaded_)
-        form_->startTimer(timerInterval);
-    return loaded_;
-}
-
-void PopupLife::deactivated(bool boxUp)
+void PopupLife::activated()
 {
     const HandlerScope running(record_);
-    if (!boxUp)
+    environment_.desktop.processPendingEvents();
+    if (!loaded_)
+        return;
+    form_->startTimer(timerInterval);
+    form_->focus(first_);
+}
+
+void PopupLife::deactivated()
+{
+    const HandlerScope running(record_);
+    if (!boxes.anyUp())
         unload();
 }
 
-void PopupLife::tick(bool boxUp)
+void PopupLife::tick()
 {
     const HandlerScope running(record_);
-    if (!loaded_ || boxUp)
+    if (!loaded_ || boxes.anyUp())
         return;
     const platform::WindowId active = environment_.desktop.activeWindow();
     if (active && active != form_->window()) { // another form of the program

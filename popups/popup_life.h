@@ -3,6 +3,7 @@
 
 #include "platform/environment.h"
 #include "platform/form.h"
+#include "popups/own_box.h"
 #include "popups/owner.h"
 #include "popups/popup_record.h"
 
@@ -11,12 +12,12 @@
 
 namespace vela::popups {
 
-// The pop-up hands on what the form reports of its activation, its timer and its closing.
-class PopupLife {
+class PopupLife final : public platform::PopupEvents {
 public:
-    // All outlive the object; the label heads what the timer writes to the log.
+    // All outlive the object; `events` are those of the widgets, `first` gets the focus when the pop-up becomes active,
+    // the label heads what the timer writes to the log.
     PopupLife(platform::Environment& environment, platform::FormFactory& forms, const platform::FormLayout& layout,
-              platform::FormEvents& events, PopupRecord& record, std::u16string_view label);
+              platform::FormEvents events, PopupRecord& record, platform::WidgetId first, std::u16string_view label);
     ~PopupLife() { loaded_ = false; } // destroying the window is not reported as closing
     PopupLife(const PopupLife&) = delete;
     PopupLife& operator=(const PopupLife&) = delete;
@@ -25,19 +26,18 @@ public:
     void unload(); // once; the pop-up stays until its record lets go of it
     [[nodiscard]] bool isLoaded() const noexcept { return loaded_; }
 
-    // The form became active. Runs pending events; false when one of them has closed the pop-up. Called while a handler
-    // runs.
-    [[nodiscard]] bool activated();
-    // `boxUp`: a message box of the pop-up itself is up, so the pop-up stays open.
-    void deactivated(bool boxUp);
-    void tick(bool boxUp);
-    void closed();
+    void activated() override; // runs pending events; one of them may close the pop-up
+    void deactivated() override;
+    void tick() override;
+    void closed() override;
 
     Owner* owner = nullptr;
+    OwnBoxes boxes; // while one is up, the pop-up stays open
 
 private:
     platform::Environment& environment_;
     PopupRecord& record_;
+    platform::WidgetId first_;
     std::u16string_view label_;
     bool loaded_ = false;
     std::unique_ptr<platform::Form> form_;

@@ -12,11 +12,11 @@ using platform::WidgetKind;
 using platform::WidgetRow;
 
 // A dialog that ends with OK or Cancel. `accepted` when it was OK.
-class Dialog final : public platform::FormEvents {
+class Dialog final : private platform::ClickEvents {
 public:
     explicit Dialog(const platform::FormLayout& layout)
         : ok_(platform::findWidget(layout, u"cmdOK")), cancel_(platform::findWidget(layout, u"cmdCancelar")),
-          form_(FormFactory().make(layout, *this))
+          form_(FormFactory().make(layout, {.clicks = this}))
     {
     }
     [[nodiscard]] platform::Form& form() noexcept { return *form_; }
@@ -33,16 +33,6 @@ private:
         if (widget == ok_ || widget == cancel_)
             form_->close();
     }
-    void keyPress(platform::WidgetId, int&) override {}
-    void doubleClicked(platform::WidgetId) override {}
-    void changed(platform::WidgetId) override {}
-    void gotFocus(platform::WidgetId) override {}
-    void lostFocus(platform::WidgetId) override {}
-    void keyDown(platform::WidgetId, int&, int&) override {}
-    void activated() override {}
-    void deactivated() override {}
-    void tick() override {}
-    void closed() override {}
 
     platform::WidgetId ok_;
     platform::WidgetId cancel_;

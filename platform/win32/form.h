@@ -43,7 +43,7 @@ class FormFactory final : public platform::FormFactory {
 public:
     // Always a win32::Form.
     [[nodiscard]] std::unique_ptr<platform::Form> make(const platform::FormLayout& layout,
-                                                       platform::FormEvents& events) override;
+                                                       const platform::FormEvents& events) override;
 };
 
 } // namespace vela::win32

@@ -1,4 +1,5 @@
 // Paints what has no window: labels, frames, the pane of the tabs; and the swatches.
+#include "platform/win32/access_key.h"
 #include "platform/win32/colours.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/owners.h"
@@ -16,7 +17,10 @@
 namespace vela::win32 {
 namespace {
 
+using platform::Widget;
 using platform::WidgetKind;
+
+constexpr engine::Colour buttonFace{0x8000000F}; // of a form without a colour of its own
 
 void fill(HDC dc, const RECT& place, COLORREF colour) noexcept
 {
@@ -53,14 +57,9 @@ int lineHeight(HDC dc) noexcept
 
 } // namespace
 
-void FormWindow::repaint(const Widget& widget)
+bool FormWindow::hasGround() const noexcept
 {
-    if (!window_)
-        return;
-    if (widget.window)
-        InvalidateRect(widget.window, nullptr, TRUE);
-    const RECT place = rectOf(widget);
-    InvalidateRect(window_, &place, FALSE);
+    return role_ == Role::child && !widgets_.backColour();
 }
 
 void FormWindow::paint()
@@ -79,9 +78,9 @@ void FormWindow::paintAll(HDC dc, const RECT& client)
 {
     fitted_ = {};
     paintGround(dc, client);
-    for (const auto& widget : widgets_)
-        if (showing(*widget))
-            paintWidget(dc, *widget);
+    for (const Widget& widget : widgets_.all())
+        if (showing(widget))
+            paintWidget(dc, widget);
     if (role_ == Role::popup) {
         const UniqueGdi<HBRUSH> edge(CreateSolidBrush(GetSysColor(COLOR_WINDOWFRAME)));
         FrameRect(dc, &client, edge.get());
@@ -90,10 +89,10 @@ void FormWindow::paintAll(HDC dc, const RECT& client)
 
 void FormWindow::paintGround(HDC dc, const RECT& client)
 {
-    fill(dc, client, hasGround() ? ground_ : resolve(back_, ColourRole::back));
-    for (const auto& widget : widgets_)
-        if (widget->kind() == WidgetKind::tabStrip)
-            paintPane(dc, *widget, rectOf(*widget));
+    fill(dc, client, hasGround() ? ground_ : resolve(widgets_.backColour().value_or(buttonFace), ColourRole::back));
+    for (const WidgetWindow& widget : windows_)
+        if (widget.kind() == WidgetKind::tabStrip)
+            paintPane(dc, widget);
 }
 
 // Behind a page shows what its frame paints there, the tabs' body or a colour; behind the widgets on the page's own
@@ -111,9 +110,9 @@ void FormWindow::learnGround()
     fill(memory.get(), sample, GetSysColor(COLOR_BTNFACE));
     DrawThemeParentBackground(window_, memory.get(), &sample);
     ground_ = pane_ = GetPixel(memory.get(), middle, middle);
-    for (const auto& widget : widgets_)
-        if (const HTHEME theme = widget->kind() == WidgetKind::tabStrip && widget->window
-                                     ? OpenThemeData(widget->window, L"TAB")
+    for (const WidgetWindow& widget : windows_)
+        if (const HTHEME theme = widget.kind() == WidgetKind::tabStrip && widget.window
+                                     ? OpenThemeData(widget.window, L"TAB")
                                      : nullptr) {
             constexpr RECT pane{-20, -20, 40, 40}; // its sides lie outside the sample
             DrawThemeBackground(theme, memory.get(), TABP_PANE, 0, &pane, &sample);
@@ -128,10 +127,10 @@ COLORREF FormWindow::groundOf(const Widget& widget) const noexcept
     return widget.row->tab >= 0 ? pane_ : ground_;
 }
 
-void FormWindow::paintWidget(HDC dc, Widget& widget)
+void FormWindow::paintWidget(HDC dc, const Widget& widget)
 {
-    if (!widget.shared)
-        applyFont(widget);
+    if (!of(widget).font)
+        applyFont(of(widget));
     const RECT place = rectOf(widget);
     switch (widget.kind()) {
     case WidgetKind::label:
@@ -153,29 +152,28 @@ void FormWindow::paintWidget(HDC dc, Widget& widget)
 int FormWindow::labelHeight(HDC dc, const Widget& widget, int border)
 {
     constexpr double twipsPerPoint = 20;
-    const platform::FontDescription font = fontOf(widget);
+    const platform::FontDescription& font = widget.font;
     const int height = std::max(static_cast<int>(std::lround(font.size * twipsPerPoint * scale_)), 1);
     return fitted_.of(widget.row->name, dc, font, height, [&] {
         std::vector<FittingText> texts;
-        for (const auto& one : widgets_) {
-            const RECT place = rectOf(*one);
-            if (one->row->name == widget.row->name && showing(*one))
-                texts.push_back({one->text, static_cast<int>(place.right - place.left) - 2 * border});
+        for (const Widget& one : widgets_.all()) {
+            const RECT place = rectOf(one);
+            if (one.row->name == widget.row->name && showing(one))
+                texts.push_back({one.text, static_cast<int>(place.right - place.left) - 2 * border});
         }
         return texts;
     });
 }
 
-void FormWindow::paintLabel(HDC dc, Widget& widget, RECT place)
+void FormWindow::paintLabel(HDC dc, const Widget& widget, RECT place)
 {
     const platform::WidgetLook& look = widget.look;
     const RECT outer = place;
     const bool preview = widget.kind() == WidgetKind::preview;
     if (look.opaque && look.round)
         paintMark(dc, place, resolve(look.back), pixels(30));
-    else if (look.opaque && !(hasGround() && look.back == engine::Colour{0x8000000F}))
-        fill(dc, place,
-             resolve(look.back, look.back == engine::Colour{0x8000000F} ? ColourRole::face : ColourRole::back));
+    else if (look.opaque && !(hasGround() && look.back == buttonFace))
+        fill(dc, place, resolve(look.back, look.back == buttonFace ? ColourRole::face : ColourRole::back));
     if (preview) {
         paintLine(dc, place, COLOR_BTNSHADOW);
         InflateRect(&place, -1, -1);
@@ -187,8 +185,8 @@ void FormWindow::paintLabel(HDC dc, Widget& widget, RECT place)
         return;
     const bool fits = widget.row->fits;
     const UniqueGdi<HFONT> fitted(
-        fits ? makeFont(fontOf(widget), labelHeight(dc, widget, static_cast<int>(place.left - outer.left))) : nullptr);
-    const SelectedObject font(dc, fits ? fitted.get() : widget.shared->get());
+        fits ? makeFont(widget.font, labelHeight(dc, widget, static_cast<int>(place.left - outer.left))) : nullptr);
+    const SelectedObject font(dc, fits ? fitted.get() : of(widget).font->get());
     SetBkMode(dc, TRANSPARENT);
     SetTextColor(dc, widget.enabled ? resolve(look.fore, ColourRole::fore) : GetSysColor(COLOR_GRAYTEXT));
     const bool oneLine = fits || place.bottom - place.top < 2 * lineHeight(dc);
@@ -199,9 +197,9 @@ void FormWindow::paintLabel(HDC dc, Widget& widget, RECT place)
 }
 
 // An etched frame with its caption in the upper side.
-void FormWindow::paintFrame(HDC dc, Widget& widget, RECT place)
+void FormWindow::paintFrame(HDC dc, const Widget& widget, RECT place)
 {
-    const SelectedObject font(dc, widget.shared->get());
+    const SelectedObject font(dc, of(widget).font->get());
     RECT line = place;
     line.top += lineHeight(dc) / 2;
     RECT caption = place;
@@ -221,10 +219,11 @@ void FormWindow::paintFrame(HDC dc, Widget& widget, RECT place)
 }
 
 // What the tabs' captions stand on. Its upper side, where the tab in front joins it, is painted by their window.
-void FormWindow::paintPane(HDC dc, const Widget& widget, RECT place)
+void FormWindow::paintPane(HDC dc, const WidgetWindow& widget)
 {
     if (!widget.window)
         return;
+    RECT place = rectOf(widget.values);
     RECT caption{};
     SendMessageW(widget.window, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&caption));
     place.top += caption.bottom;
@@ -239,13 +238,14 @@ void FormWindow::paintPane(HDC dc, const Widget& widget, RECT place)
 
 void FormWindow::drawItem(const DRAWITEMSTRUCT& item)
 {
-    Widget* widget = ofWindow(item.hwndItem);
+    const WidgetWindow* widget = ofWindow(item.hwndItem);
     if (!widget)
         return;
     RECT place = item.rcItem;
-    const COLORREF colour = widget->enabled ? resolve(widget->look.back) : GetSysColor(COLOR_BTNFACE);
+    const platform::WidgetLook& look = widget->values.look;
+    const COLORREF colour = widget->values.enabled ? resolve(look.back) : GetSysColor(COLOR_BTNFACE);
     fill(item.hDC, place, colour);
-    if (widget->look.border)
+    if (look.border)
         paintLine(item.hDC, place,
                   role_ == Role::child ? COLOR_BTNSHADOW
                   : isDark(colour)     ? COLOR_BTNHIGHLIGHT
@@ -258,16 +258,16 @@ void FormWindow::drawItem(const DRAWITEMSTRUCT& item)
 
 LRESULT FormWindow::colourOf(UINT message, HDC dc, HWND child)
 {
-    Widget* widget = ofWindow(child);
+    const WidgetWindow* widget = ofWindow(child);
     if (!widget)
         widget = ofWindow(GetParent(child)); // a combo's list
     const bool typed = message == WM_CTLCOLOREDIT || message == WM_CTLCOLORLISTBOX;
     const platform::WidgetLook fallback;
-    const platform::WidgetLook& look = widget ? widget->look : fallback;
-    const bool plain = !typed && look.back == engine::Colour{0x8000000F};
-    const COLORREF back = plain && widget && hasGround() ? groundOf(*widget)
-                          : plain                        ? resolve(back_, ColourRole::face)
-                                                         : resolve(look.back, ColourRole::back);
+    const platform::WidgetLook& look = widget ? widget->values.look : fallback;
+    const bool plain = !typed && look.back == buttonFace;
+    const COLORREF back = plain && widget && hasGround() ? groundOf(widget->values)
+                          : plain ? resolve(widgets_.backColour().value_or(buttonFace), ColourRole::face)
+                                  : resolve(look.back, ColourRole::back);
     SetTextColor(dc, resolve(look.fore, ColourRole::fore));
     SetBkColor(dc, back);
     SetDCBrushColor(dc, back);

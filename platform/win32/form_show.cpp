@@ -35,7 +35,7 @@ POINT centred(SIZE size, HWND owner)
 
 SIZE FormWindow::naturalSize(int dpi) const
 {
-    return {engine::twipsToPixels(layout_.width, dpi), engine::twipsToPixels(layout_.height, dpi)};
+    return {engine::twipsToPixels(widgets_.layout().width, dpi), engine::twipsToPixels(widgets_.layout().height, dpi)};
 }
 
 void FormWindow::makeTopLevel(Role role, HWND owner, RECT place, DWORD style, DWORD extendedStyle)
@@ -47,7 +47,7 @@ void FormWindow::makeTopLevel(Role role, HWND owner, RECT place, DWORD style, DW
     if (!made)
         engine::raise(engine::error_number::outOfMemory);
     window_ = made;
-    SetWindowTextW(window_, std::wstring(wide(layout_.caption)).c_str());
+    SetWindowTextW(window_, std::wstring(wide(widgets_.layout().caption)).c_str());
     makeWindows();
     if (timer_ > 0)
         SetTimer(window_, formTimer, static_cast<UINT>(timer_), nullptr);
@@ -60,7 +60,8 @@ void FormWindow::showPopup(engine::RectPixels place, platform::WindowId owner)
     const int dpi = dpiOf(top);
     const int width = scaled(place.width, dpi);
     const int height = scaled(place.height, dpi);
-    scale_ = std::min(static_cast<double>(width) / layout_.width, static_cast<double>(height) / layout_.height);
+    scale_ = std::min(static_cast<double>(width) / widgets_.layout().width,
+                      static_cast<double>(height) / widgets_.layout().height);
     if (role_ == Role::popup && window_ && owner_ == top) {
         RECT before{};
         GetWindowRect(window_, &before);
@@ -170,11 +171,10 @@ void FormWindow::leaveParent()
 
 void FormWindow::focusFirst()
 {
-    if (focused_ && at(focused_).window) {
-        SetFocus(at(focused_).window);
-        return;
-    }
-    if (role_ != Role::popup)
+    const platform::WidgetId focused = widgets_.focused();
+    if (const HWND window = focused ? of(widgets_.at(focused)).window : nullptr)
+        SetFocus(window);
+    else if (role_ != Role::popup)
         nextWidget(false);
 }
 
@@ -196,8 +196,8 @@ void FormWindow::close()
     const engine::Alive alive(life_);
     timer_ = 0;
     endShowing();
-    if (alive)
-        events_.closed();
+    if (alive && events_.popup)
+        events_.popup->closed();
 }
 
 // Gives the focus back to the window that had it, unless it went elsewhere meanwhile.

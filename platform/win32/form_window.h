@@ -1,4 +1,4 @@
-// A form: the values of its widgets, the windows that show them, and what a person does there.
+// A form: the windows that show its widgets, and what a person does there.
 #pragma once
 
 #include "engine/alive.h"
@@ -7,7 +7,6 @@
 #include "platform/win32/fonts.h"
 #include "platform/win32/form.h"
 #include "platform/win32/form_accessible.h"
-#include "platform/win32/form_widget.h"
 #include "platform/win32/window.h"
 
 #include <memory>
@@ -17,29 +16,36 @@
 namespace vela::win32 {
 
 class FocusArbiter;
+class FormWindow;
 
-class FormWindow final : public Form, private WindowHandler, private SpokenForm {
+// What shows one widget: its window and, of an editable combo, the EDIT in it. Labels and frames have none: they are
+// painted.
+struct WidgetWindow {
+    WidgetWindow(FormWindow& of, const platform::Widget& widget) noexcept : form(of), values(widget) {}
+
+    FormWindow& form;
+    const platform::Widget& values;
+    HWND window = nullptr;
+    HWND inner = nullptr;
+    WNDPROC original = nullptr;
+    WNDPROC innerOriginal = nullptr;
+    SharedFont font;          // at the form's scale
+    bool saysItsName = false; // its windows are asked, because the system keeps no names
+
+    [[nodiscard]] platform::WidgetId id() const noexcept { return values.id; }
+    [[nodiscard]] platform::WidgetKind kind() const noexcept { return values.kind(); }
+};
+
+class FormWindow final : public Form, private WindowHandler, private SpokenForm, private platform::WidgetDisplay {
 public:
-    FormWindow(const platform::FormLayout& layout, platform::FormEvents& events);
+    FormWindow(const platform::FormLayout& layout, const platform::FormEvents& events);
     FormWindow(const FormWindow&) = delete;
     FormWindow& operator=(const FormWindow&) = delete;
     ~FormWindow() override;
 
-    [[nodiscard]] std::u16string text(platform::WidgetId widget) const override;
-    void putText(platform::WidgetId widget, std::u16string_view text) override;
-    [[nodiscard]] bool checked(platform::WidgetId widget) const override;
-    void check(platform::WidgetId widget, bool on) override;
-    [[nodiscard]] platform::ItemList& items(platform::WidgetId widget) override;
-    [[nodiscard]] bool enabled(platform::WidgetId widget) const override;
-    void enable(platform::WidgetId widget, bool on) override;
-    [[nodiscard]] bool visible(platform::WidgetId widget) const override;
-    void show(platform::WidgetId widget, bool on) override;
-    [[nodiscard]] const platform::WidgetLook& look(platform::WidgetId widget) const override;
-    void putLook(platform::WidgetId widget, const platform::WidgetLook& look) override;
-    void putFont(platform::WidgetId widget, const platform::FontDescription& font) override;
+    [[nodiscard]] platform::Widgets& widgets() override { return widgets_; }
+    [[nodiscard]] const platform::Widgets& widgets() const override { return widgets_; }
     void focus(platform::WidgetId widget) override;
-    [[nodiscard]] platform::WidgetId focused() const override { return focused_; }
-    void putBackColour(engine::Colour colour) override;
     void startTimer(int milliseconds) override;
     void showPopup(engine::RectPixels place, platform::WindowId owner) override;
     void showModal() override;
@@ -57,66 +63,73 @@ public:
     [[nodiscard]] SIZE naturalSize(int dpi) const override;
     [[nodiscard]] HWND handle() const noexcept override { return window_; }
 
-    // For its widgets' windows and lists.
-    LRESULT widgetMessage(Widget& widget, HWND window, UINT message, WPARAM first, LPARAM second);
-    void itemChosen(Widget& widget);
-    void listCleared(Widget& widget);
-    void tabChosen();
-    void rememberSpokenName(Widget& widget);
+    // For its widgets' windows.
+    LRESULT widgetMessage(WidgetWindow& widget, HWND window, UINT message, WPARAM first, LPARAM second);
 
 private:
     enum class Role { none, popup, modal, child };
 
-    [[nodiscard]] Widget& at(platform::WidgetId widget) const; // 9 for no row of the table
-    [[nodiscard]] Widget* ofWindow(HWND window) const noexcept;
-    [[nodiscard]] bool showing(const Widget& widget) const; // visible, and on the tab in front
-    void putTypedText(Widget& widget, std::u16string text);
-    void chooseOption(Widget& widget);
-    void setCheck(Widget& widget, bool on);
+    [[nodiscard]] WidgetWindow& of(const platform::Widget& widget);
+    [[nodiscard]] WidgetWindow* ofWindow(HWND window) noexcept;
+    [[nodiscard]] bool showing(const platform::Widget& widget) const; // visible, and on the tab in front
 
-    // Windows (form_windows.cpp).
+    // The display of its widgets (form_values.cpp, form_lists.cpp).
+    void showText(const platform::Widget& widget) override;
+    void showCheck(const platform::Widget& widget) override;
+    void showEnabled(const platform::Widget& widget) override;
+    void showVisibility() override;
+    void showLook(const platform::Widget& widget, const platform::WidgetLook& before) override;
+    void showFont(const platform::Widget& widget) override;
+    void showBackColour() override;
+    void itemAdded(const platform::Widget& widget) override;
+    void itemRemoved(const platform::Widget& widget, int index) override;
+    void itemsCleared(const platform::Widget& widget) override;
+    void showChoice(const platform::Widget& widget) override;
+    void showSelected(const platform::Widget& widget, int index) override;
+    void showItem(const WidgetWindow& widget, int index);
+    void adoptList(const WidgetWindow& widget); // as its window has it, after an act of the person
+    void rememberSpokenName(WidgetWindow& widget);
+    void repaint(const platform::Widget& widget);
+
+    // Windows (form_creation.cpp).
     void makeWindows();
-    void makeWidget(Widget& widget);
+    void makeWidget(WidgetWindow& widget);
     void dropWindows();
     void layOut();
-    void placeWidget(Widget& widget);
-    [[nodiscard]] int columnWidth(const Widget& widget) const;
-    void applyFont(Widget& widget);
-    [[nodiscard]] SharedFont fittingFont(const Widget& widget, int dpi) const;
-    void applyVisibility();
-    [[nodiscard]] RECT rectOf(const Widget& widget) const;
+    void placeWidget(const WidgetWindow& widget);
+    [[nodiscard]] int columnWidth(const WidgetWindow& widget) const;
+    void applyFont(WidgetWindow& widget);
+    [[nodiscard]] SharedFont fittingFont(const platform::Widget& widget) const;
+    [[nodiscard]] RECT rectOf(const platform::Widget& widget) const;
     [[nodiscard]] POINT offsetOf(std::u16string_view frame) const; // twips
     [[nodiscard]] int pixels(int twips) const noexcept;
-    [[nodiscard]] platform::FontDescription fontOf(const Widget& widget) const;
+    [[nodiscard]] int dpi() const noexcept;
 
-    // Messages (form_messages.cpp).
+    // Messages (form_events.cpp).
     LRESULT handle(HWND window, UINT message, WPARAM first, LPARAM second) override;
     void unbound() override;
     LRESULT command(WPARAM first, LPARAM second);
     LRESULT notify(const NMHDR& header);
-    LRESULT colourOf(UINT message, HDC dc, HWND child);
     LRESULT pointer(UINT message, LPARAM where);
     void activation(bool active);
     void timer();
-    bool keyDown(Widget* widget, WPARAM code);
-    bool keyPress(Widget* widget, WPARAM unit);
-    bool navigate(WPARAM code);
+    bool keyDown(const WidgetWindow* widget, WPARAM code);
+    bool keyPress(const WidgetWindow* widget, WPARAM unit);
     bool accessKey(wchar_t letter);
-    [[nodiscard]] bool leavesPage(bool back) const;
-    void press(Widget& widget);
+    [[nodiscard]] bool leavesPage(bool back);
+    void press(const platform::Widget& widget);
     void pressButton(std::u16string_view caption);
     void nextWidget(bool back);
-    void focusArrived(Widget& widget);
     [[nodiscard]] bool isOwn(HWND window) const noexcept;
     [[nodiscard]] LRESULT keysWanted(const MSG* key) const noexcept;
     void focusCrossed(UINT message, HWND other);
-    void clickedWindow(Widget& widget);
-    void typedInto(Widget& widget);
-    void tellShown(Widget& widget);
-    [[nodiscard]] LRESULT keysWanted(const Widget& widget, LRESULT usual, const MSG* message) const;
-    [[nodiscard]] bool wantsKey(const Widget& widget, WPARAM code) const; // Enter or Esc that a frame would take
-    [[nodiscard]] bool isFrameOf(HWND window) const;                      // of this page in front
-    [[nodiscard]] Widget* labelAt(POINT point);
+    void clickedWindow(const WidgetWindow& widget);
+    void typedInto(const WidgetWindow& widget);
+    void tellShown(const WidgetWindow& widget);
+    [[nodiscard]] LRESULT keysWanted(const WidgetWindow& widget, LRESULT usual, const MSG* message) const;
+    [[nodiscard]] bool wantsKey(const WidgetWindow& widget, WPARAM code) const; // Enter or Esc that a frame would take
+    [[nodiscard]] bool isFrameOf(HWND window) const;                            // of this page in front
+    [[nodiscard]] const platform::Widget* labelAt(POINT point) const;
 
     // Showing (form_show.cpp).
     void makeTopLevel(Role role, HWND owner, RECT place, DWORD style, DWORD extendedStyle);
@@ -130,35 +143,32 @@ private:
     void paintAll(HDC dc, const RECT& client);
     void paintGround(HDC dc, const RECT& client);
     void learnGround();
-    [[nodiscard]] bool hasGround() const noexcept { return role_ == Role::child && !ownBack_; } // its parent's
-    [[nodiscard]] COLORREF groundOf(const Widget& widget) const noexcept;
-    void paintWidget(HDC dc, Widget& widget);
-    void paintLabel(HDC dc, Widget& widget, RECT place);
-    [[nodiscard]] int labelHeight(HDC dc, const Widget& widget, int border);
-    void paintFrame(HDC dc, Widget& widget, RECT place);
-    void paintPane(HDC dc, const Widget& widget, RECT place);
-    // For screen readers (form_messages.cpp).
+    [[nodiscard]] bool hasGround() const noexcept; // its parent's
+    [[nodiscard]] COLORREF groundOf(const platform::Widget& widget) const noexcept;
+    void paintWidget(HDC dc, const platform::Widget& widget);
+    void paintLabel(HDC dc, const platform::Widget& widget, RECT place);
+    [[nodiscard]] int labelHeight(HDC dc, const platform::Widget& widget, int border);
+    void paintFrame(HDC dc, const platform::Widget& widget, RECT place);
+    void paintPane(HDC dc, const WidgetWindow& widget);
+    void drawItem(const DRAWITEMSTRUCT& item);
+    LRESULT colourOf(UINT message, HDC dc, HWND child);
+
+    // For screen readers (form_events.cpp).
     [[nodiscard]] std::vector<SpokenLabel> spokenLabels() const override;
     void clickLabel(int widget) override;
 
-    void drawItem(const DRAWITEMSTRUCT& item);
-    void repaint(const Widget& widget);
-
-    platform::FormLayout layout_;
-    platform::FormEvents& events_;
+    platform::Widgets widgets_;
+    const platform::FormEvents& events_{widgets_.events()};
     FormListener* listener_ = nullptr;
     FocusArbiter& arbiter_;
-    std::vector<std::unique_ptr<Widget>> widgets_;
+    std::vector<WidgetWindow> windows_; // one for each row of the table
     HWND window_ = nullptr;
     HWND owner_ = nullptr;
-    HWND returnTo_ = nullptr;   // had the focus before the pop-up
-    Widget* pressed_ = nullptr; // a label under the held button
-    platform::WidgetId focused_;
-    engine::Colour back_{0x8000000F};
-    bool ownBack_ = false; // else a child form stands on its parent's ground
-    COLORREF ground_ = 0;  // of such a form
-    COLORREF pane_ = 0;    // of its tabs
-    double scale_ = 0;     // pixels a twip
+    HWND returnTo_ = nullptr;                   // had the focus before the pop-up
+    const platform::Widget* pressed_ = nullptr; // a label under the held button
+    COLORREF ground_ = 0;                       // of a child form without a colour of its own
+    COLORREF pane_ = 0;                         // of its tabs
+    double scale_ = 0;                          // pixels a twip
     int timer_ = 0;
     Role role_ = Role::none;
     bool shown_ = false;

@@ -44,7 +44,12 @@ constexpr WidgetId name = id(u"txtNome"), combo = id(u"cboCor"), list = id(u"lst
                    yes = id(u"chkSim"), frame = id(u"fra"), one = id(u"optUm"), two = id(u"optDois"), ok = id(u"cmdOK"),
                    label = id(u"lblTexto");
 
-class FormContract : public testing::TestWithParam<bool>, protected platform::FormEvents {
+class FormContract : public testing::TestWithParam<bool>,
+                     protected platform::ClickEvents,
+                     protected platform::DoubleClickEvents,
+                     protected platform::EntryEvents,
+                     protected platform::KeyPressEvents,
+                     protected platform::PopupEvents {
 protected:
     // The same rules hold of a form on show and of one that is not shown.
     void SetUp() override
@@ -59,7 +64,6 @@ protected:
     void changed(WidgetId widget) override { tell("changed", widget); }
     void gotFocus(WidgetId widget) override { focusLog.push_back("got " + nameOf(widget)); }
     void lostFocus(WidgetId widget) override { focusLog.push_back("lost " + nameOf(widget)); }
-    void keyDown(WidgetId, int&, int&) override {}
     void keyPress(WidgetId, int& key) override { key = key == 'x' ? 0 : key; }
     void activated() override { log.push_back("activated"); }
     void deactivated() override { log.push_back("deactivated"); }
@@ -89,9 +93,10 @@ protected:
 
     Log log;
     Log focusLog;
+    platform::FormEvents events{.clicks = this, .doubleClicks = this, .entries = this, .keys = this, .popup = this};
     std::function<void()> onReport;
     std::unique_ptr<Stage> stage = Stage::make();
-    std::unique_ptr<platform::Form> form = stage->forms().make(layout, *this);
+    std::unique_ptr<platform::Form> form = stage->forms().make(layout, events);
 };
 
 INSTANTIATE_TEST_SUITE_P(Forms, FormContract, testing::Bool(),
@@ -232,7 +237,7 @@ TEST_P(ShownForm, MayBeClosedAndReleasedInsideAReport)
     onReport = [this] { form->close(); };
     stage->clickWidget(*form, ok);
     EXPECT_EQ(log, (Log{"clicked cmdOK", "closed"}));
-    form = stage->forms().make(layout, *this);
+    form = stage->forms().make(layout, events);
     onReport = [this] { form.reset(); };
     form->showPopup({40, 300, 240, 180}, stage->field(0).window());
     stage->settle();

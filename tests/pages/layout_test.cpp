@@ -36,11 +36,6 @@ const WidgetRow* find(const FormLayout& layout, std::u16string_view name)
     return found == layout.rows.end() ? nullptr : &*found;
 }
 
-bool takesFocus(WidgetKind kind)
-{
-    return kind != WidgetKind::label && kind != WidgetKind::frame && kind != WidgetKind::preview;
-}
-
 bool standTogether(const WidgetRow& a, const WidgetRow& b)
 {
     return a.parent == b.parent && (a.tab == b.tab || a.tab < 0 || b.tab < 0);

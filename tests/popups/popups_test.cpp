@@ -137,15 +137,15 @@ TEST_F(PopupsTest, ADivisionByZeroIsToldAndTheCalculatorOutlivesItsBox)
     openCalculatorWith(u"9");
     recorder.lines.clear();
     recorder.duringBox = [this] { // as a real box does: another window is active while it is up
-        popups.calculator()->deactivated();
-        popups.calculator()->tick();
+        calculatorForm().becameInactive();
+        calculatorForm().tick();
     };
     for (const char16_t key : std::u16string_view(u"/0="))
         popups.calculator()->typeCharacter(key);
     EXPECT_EQ(recorder.lines, Lines{"msgbox exclamation \"Tamber Calc\" \"Erro, Divisão por zero impossível\" -> ok"});
     ASSERT_NE(popups.calculator(), nullptr);
     EXPECT_EQ(popups.calculator()->display(), u"9");
-    popups.calculator()->deactivated();
+    calculatorForm().becameInactive();
     EXPECT_EQ(popups.calculator(), nullptr);
 }
 
@@ -154,7 +154,7 @@ TEST_F(PopupsTest, ConventionalKeysOfTheCalculator)
     openCalculatorWith(u"2");
     const auto press = [this](int code) {
         int shift = 0;
-        popups.calculator()->keyDown(calculatorForm().focused(), code, shift);
+        calculatorForm().widgets().events().keyDown(calculatorForm().focused(), code, shift);
         return code;
     };
     popups.calculator()->typeCharacter(u'X');
@@ -179,7 +179,7 @@ TEST_F(PopupsTest, KeysOfTheCalendar)
     owner.text = u"31/01/2050";
     popups.openCalendar(owner);
     const auto press = [this](int code, int shift = 0) {
-        popups.calendar()->keyDown(calendar_widget::months, code, shift);
+        calendarForm().widgets().events().keyDown(calendar_widget::months, code, shift);
         return code;
     };
     EXPECT_EQ(press(34), 0);
@@ -260,7 +260,7 @@ TEST_F(PopupsTest, TheColoursAreThoseOfTheProcess)
     EXPECT_EQ(calendarForm().look(calendar_widget::frame).back, colours.selected);
     EXPECT_TRUE(calendarForm().look(calendar_widget::frame).round);
     EXPECT_EQ(calendarForm().look(calendar_widget::day(0)).fore, colours.dayInactive);
-    EXPECT_EQ(calendarForm().backColour(), colours.form);
+    EXPECT_EQ(calendarForm().widgets().backColour(), colours.form);
     const platform::WidgetRow& day =
         calendarPopupLayout().rows[static_cast<std::size_t>(calendar_widget::day(19).value)];
     EXPECT_EQ(calendarForm().look(calendar_widget::frame).left, day.place.left - 90);

@@ -27,22 +27,12 @@ HWND windowOf(platform::WindowId id)
 }
 
 // Of a form's events only the clicks are kept.
-struct Clicks final : platform::FormEvents {
+struct Clicks final : platform::ClickEvents {
     void clicked(platform::WidgetId widget) override
     {
         last = widget;
         ++count;
     }
-    void doubleClicked(platform::WidgetId) override {}
-    void changed(platform::WidgetId) override {}
-    void gotFocus(platform::WidgetId) override {}
-    void lostFocus(platform::WidgetId) override {}
-    void keyDown(platform::WidgetId, int&, int&) override {}
-    void keyPress(platform::WidgetId, int&) override {}
-    void activated() override {}
-    void deactivated() override {}
-    void tick() override {}
-    void closed() override {}
     platform::WidgetId last;
     int count = 0;
 };
@@ -262,7 +252,7 @@ TEST_F(Windows, LabelsThatFitAreWrittenSmallerAndNeverTouch)
     };
     static constexpr std::array<platform::WidgetRow, 2> rows{row(0, u"0,333333333333"), row(1, u"1E+15")};
     static constexpr platform::FormLayout layout{u"frm", u"", 2400, 900, rows};
-    const auto form = stage->forms().make(layout, events);
+    const auto form = stage->forms().make(layout, {.clicks = &events});
     form->showPopup({200, 200, 160, 60}, stage->field(0).window());
     stage->settle();
     const HWND window = windowOf(form->window());
@@ -283,7 +273,7 @@ TEST_F(Windows, AButtonTakesEachOfSeveralQuickClicks)
     static constexpr platform::FormLayout layout{u"frm", u"", 2400, 900, rows};
     for (const int widget : {0, 1}) {
         Clicks events;
-        const auto form = stage->forms().make(layout, events);
+        const auto form = stage->forms().make(layout, {.clicks = &events});
         form->showPopup({200, 200, 160, 60}, stage->field(0).window());
         stage->settle();
         const HWND item = GetDlgItem(windowOf(form->window()), 100 + widget);
@@ -321,7 +311,7 @@ TEST_F(Windows, AProcedurePutInFrontStaysToTheEnd)
     static constexpr std::array<platform::WidgetRow, 1> rows{
         {{.kind = platform::WidgetKind::textBox, .name = u"a", .place = {0, 0, 600, 300}}}};
     static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
-    const auto form = stage->forms().make(layout, events);
+    const auto form = stage->forms().make(layout, {.clicks = &events});
     form->showPopup({200, 200, 110, 109}, stage->field(0).window());
     const HWND box = FindWindowExW(windowOf(form->window()), nullptr, L"Edit", nullptr);
     ASSERT_NE(box, nullptr);
@@ -340,7 +330,7 @@ TEST_F(Windows, AReaderHearsThePaintedLabels)
         {{.kind = platform::WidgetKind::label, .name = u"a", .caption = u"&Nome", .place = {0, 0, 600, 300}},
          {.kind = platform::WidgetKind::label, .name = u"b", .caption = u"31", .place = {0, 600, 600, 300}}}};
     static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
-    const auto form = stage->forms().make(layout, events);
+    const auto form = stage->forms().make(layout, {.clicks = &events});
     platform::WidgetLook look = form->look({1});
     look.spokenName = u"31 de dezembro de 2024, selecionado";
     form->putLook({1}, look);
@@ -377,7 +367,7 @@ TEST_F(Windows, ACaptionThatIsTooWideIsWrittenSmaller)
                                                                .place = {60, 400, 1500, 255}}}};
     static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
     Clicks events;
-    const auto form = stage->forms().make(layout, events);
+    const auto form = stage->forms().make(layout, {.clicks = &events});
     form->showPopup({200, 200, 110, 109}, stage->field(0).window());
     stage->settle();
     const HWND window = windowOf(form->window());
@@ -400,7 +390,7 @@ TEST_F(Windows, AReaderHearsTheNamesOfBoxesAndLists)
     static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
     Clicks events;
     CoInitialize(nullptr);
-    const auto form = stage->forms().make(layout, events);
+    const auto form = stage->forms().make(layout, {.clicks = &events});
     for (int i = 0; i < 4; ++i) {
         platform::WidgetLook look = form->look({i});
         look.spokenName = u"Nome " + std::u16string(1, static_cast<char16_t>(u'0' + i));

@@ -1,4 +1,5 @@
 // The windows of a form's widgets: made from the table, placed by its scale, dropped when the form goes.
+#include "platform/win32/access_key.h"
 #include "platform/win32/activation_context.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/guard.h"
@@ -15,6 +16,7 @@
 namespace vela::win32 {
 namespace {
 
+using platform::Widget;
 using platform::WidgetKind;
 
 constexpr int tallBox = 600;       // twips; a text box of this height has several lines
@@ -55,17 +57,12 @@ Recipe recipeOf(const platform::WidgetRow& row) noexcept
     return {};
 }
 
-bool isCombo(WidgetKind kind) noexcept
-{
-    return kind == WidgetKind::comboBox || kind == WidgetKind::dropDownList;
-}
-
 LRESULT CALLBACK widgetProcedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
 {
-    auto* widget = static_cast<Widget*>(boundObject(window));
+    auto* widget = static_cast<WidgetWindow*>(boundObject(window));
     if (!widget)
         return behindProcedure(window, message, first, second);
-    return contained([&] { return widget->form->widgetMessage(*widget, window, message, first, second); }, LRESULT{0});
+    return contained([&] { return widget->form.widgetMessage(*widget, window, message, first, second); }, LRESULT{0});
 }
 
 void letGo(HWND& window) noexcept
@@ -134,12 +131,17 @@ int FormWindow::pixels(int twips) const noexcept
     return static_cast<int>(std::lround(twips * scale_));
 }
 
+int FormWindow::dpi() const noexcept
+{
+    return std::max(1, static_cast<int>(std::lround(scale_ * engine::twipsPerInch)));
+}
+
 POINT FormWindow::offsetOf(std::u16string_view frame) const
 {
-    const platform::WidgetId id = frame.empty() ? platform::WidgetId{} : platform::findWidget(layout_, frame);
+    const platform::WidgetId id = frame.empty() ? platform::WidgetId{} : findWidget(widgets_.layout(), frame);
     if (!id)
         return {0, 0};
-    const Widget& found = at(id);
+    const Widget& found = widgets_.at(id);
     const POINT outer = offsetOf(found.row->parent);
     return {outer.x + found.look.left, outer.y + found.look.top};
 }
@@ -152,41 +154,29 @@ RECT FormWindow::rectOf(const Widget& widget) const
     return {pixels(left), pixels(top), pixels(left + widget.row->place.width), pixels(top + widget.row->place.height)};
 }
 
-platform::FontDescription FormWindow::fontOf(const Widget& widget) const
+void FormWindow::applyFont(WidgetWindow& widget)
 {
-    if (widget.font)
-        return *widget.font;
-    platform::FontDescription font;
-    font.name = layout_.fontName;
-    font.size = widget.row->fontSize > 0 ? widget.row->fontSize : layout_.fontSize;
-    font.bold = widget.row->bold;
-    return font;
-}
-
-void FormWindow::applyFont(Widget& widget)
-{
-    const int dpi = std::max(1, static_cast<int>(std::lround(scale_ * engine::twipsPerInch)));
-    SharedFont font = fittingFont(widget, dpi);
+    SharedFont font = fittingFont(widget.values);
     if (widget.window)
         SendMessageW(widget.window, WM_SETFONT, reinterpret_cast<WPARAM>(font->get()), TRUE);
-    widget.shared = std::move(font);
+    widget.font = std::move(font);
 }
 
 // A caption that the machine's font makes too wide is written smaller, and those like it in its frame as small.
-SharedFont FormWindow::fittingFont(const Widget& widget, int dpi) const
+SharedFont FormWindow::fittingFont(const Widget& widget) const
 {
     constexpr double smallest = 4; // points
     constexpr double step = 0.5;
-    platform::FontDescription description = fontOf(widget);
-    SharedFont font = sharedFont(description, dpi);
-    const auto fits = [&](const auto& other) {
-        const bool alike = other->kind() == widget.kind() && other->row->parent == widget.row->parent;
-        const int space = alike ? captionSpace(*other->row) : 0;
-        return space == 0 || textWidth(font->get(), other->text) <= pixels(space);
+    platform::FontDescription description = widget.font;
+    SharedFont font = sharedFont(description, dpi());
+    const auto fits = [&](const Widget& other) {
+        const bool alike = other.kind() == widget.kind() && other.row->parent == widget.row->parent;
+        const int space = alike ? captionSpace(*other.row) : 0;
+        return space == 0 || textWidth(font->get(), other.text) <= pixels(space);
     };
-    while (captionSpace(*widget.row) > 0 && description.size > smallest && !std::ranges::all_of(widgets_, fits)) {
+    while (captionSpace(*widget.row) > 0 && description.size > smallest && !std::ranges::all_of(widgets_.all(), fits)) {
         description.size -= step;
-        font = sharedFont(description, dpi);
+        font = sharedFont(description, dpi());
     }
     return font;
 }
@@ -196,28 +186,27 @@ void FormWindow::makeWindows()
     const ActivationContext controls;
     {
         const engine::ScopedFlag quiet(quiet_, true);
-        for (const auto& widget : widgets_)
-            makeWidget(*widget);
+        for (WidgetWindow& widget : windows_)
+            makeWidget(widget);
     }
     layOut();
-    applyVisibility();
+    showVisibility();
 }
 
-void FormWindow::makeWidget(Widget& widget)
+void FormWindow::makeWidget(WidgetWindow& widget)
 {
-    const Recipe recipe = recipeOf(*widget.row);
+    const Widget& values = widget.values;
+    const Recipe recipe = recipeOf(*values.row);
     if (!recipe.windowClass || widget.window)
         return;
-    const bool firstOption = widget.kind() == WidgetKind::optionButton &&
-                             (widget.id.value == 0 || widgets_[static_cast<std::size_t>(widget.id.value - 1)]->kind() !=
-                                                          WidgetKind::optionButton);
-    const bool groups = firstOption || widget.kind() != WidgetKind::optionButton;
+    const int id = values.id.value;
+    const bool groups = widget.kind() != WidgetKind::optionButton || id == 0 ||
+                        widgets_.at({id - 1}).kind() != WidgetKind::optionButton; // the first of several options
     const DWORD style = WS_CHILD | WS_TABSTOP | WS_CLIPSIBLINGS | recipe.style | (groups ? WS_GROUP : 0U) |
-                        (widget.enabled ? 0U : WS_DISABLED);
-    const std::u16string caption = markedCaption(widget);
-    widget.window =
-        CreateWindowExW(recipe.extendedStyle, recipe.windowClass, wide(caption.c_str()), style, 0, 0, 0, 0, window_,
-                        reinterpret_cast<HMENU>(INT_PTR{100} + widget.id.value), thisModule(), nullptr);
+                        (values.enabled ? 0U : WS_DISABLED);
+    const std::u16string caption = markedCaption(values);
+    widget.window = CreateWindowExW(recipe.extendedStyle, recipe.windowClass, wide(caption.c_str()), style, 0, 0, 0, 0,
+                                    window_, reinterpret_cast<HMENU>(INT_PTR{100} + id), thisModule(), nullptr);
     if (!widget.window)
         return;
     widget.original = subclass(widget.window, &widget, widgetProcedure);
@@ -226,37 +215,39 @@ void FormWindow::makeWidget(Widget& widget)
         if (widget.inner)
             widget.innerOriginal = subclass(widget.inner, &widget, widgetProcedure);
     }
-    if (widget.list)
-        widget.list->fill();
+    for (int i = 0; values.list && i < values.list->count(); ++i)
+        showItem(widget, i);
+    if (values.list)
+        showChoice(values);
     if (widget.kind() == WidgetKind::comboBox)
-        SetWindowTextW(widget.window, wide(widget.text.c_str()));
+        SetWindowTextW(widget.window, wide(values.text.c_str()));
     if (widget.kind() == WidgetKind::optionButton)
         SendMessageW(widget.window, dontClick, TRUE, 0);
-    if (widget.checked)
-        SendMessageW(widget.window, BM_SETCHECK, BST_CHECKED, 0);
+    if (values.checked)
+        showCheck(values);
     rememberSpokenName(widget);
 }
 
 void FormWindow::layOut()
 {
-    for (const auto& widget : widgets_) {
-        applyFont(*widget);
-        placeWidget(*widget);
+    for (WidgetWindow& widget : windows_) {
+        applyFont(widget);
+        placeWidget(widget);
     }
 }
 
 // Combos are given the height of their list too. A tab strip is as large as its pane, so that it paints the tab in
 // front into the pane's upper side, and is cut to that: the form paints what lies on the tabs.
-void FormWindow::placeWidget(Widget& widget)
+void FormWindow::placeWidget(const WidgetWindow& widget)
 {
     if (!widget.window)
         return;
-    const RECT place = rectOf(widget);
+    const RECT place = rectOf(widget.values);
     int height = place.bottom - place.top;
-    if (isCombo(widget.kind())) {
+    if (platform::isCombo(widget.kind())) {
         const int edges = pixels(90); // the closed combo is its item and this much
         SendMessageW(widget.window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), std::max(height - edges, 1));
-        height += MulDiv(dropHeight, static_cast<int>(std::lround(scale_ * engine::twipsPerInch)), 96);
+        height += MulDiv(dropHeight, dpi(), 96);
     } else if (widget.kind() == WidgetKind::tabStrip) {
         RECT caption{};
         SendMessageW(widget.window, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&caption));
@@ -270,30 +261,21 @@ void FormWindow::placeWidget(Widget& widget)
 }
 
 // Of a list's columns: its widest item and a gap.
-int FormWindow::columnWidth(const Widget& widget) const
+int FormWindow::columnWidth(const WidgetWindow& widget) const
 {
+    const platform::ItemList& list = *widget.values.list;
     int widest = 0;
-    for (int i = 0; widget.shared && i < widget.list->count(); ++i)
-        widest = std::max(widest, textWidth(widget.shared->get(), widget.list->at(i)));
+    for (int i = 0; widget.font && i < list.count(); ++i)
+        widest = std::max(widest, textWidth(widget.font->get(), list.at(i)));
     return widest + pixels(150);
-}
-
-void FormWindow::applyVisibility()
-{
-    if (!window_)
-        return;
-    for (const auto& widget : widgets_)
-        if (widget->window)
-            ShowWindow(widget->window, showing(*widget) ? SW_SHOWNA : SW_HIDE);
-    InvalidateRect(window_, nullptr, FALSE);
 }
 
 // A window may be dropped by what its own procedure called: then it is destroyed when that has returned.
 void FormWindow::dropWindows()
 {
-    for (const auto& widget : widgets_) {
-        letGo(widget->inner);
-        letGo(widget->window);
+    for (WidgetWindow& widget : windows_) {
+        letGo(widget.inner);
+        letGo(widget.window);
     }
     pressed_ = nullptr;
     speech_.forget();

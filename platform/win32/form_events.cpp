@@ -1,4 +1,5 @@
 // What a person does at a form's windows, as the form's events.
+#include "platform/win32/access_key.h"
 #include "platform/win32/accessible_name.h"
 #include "platform/win32/focus_arbiter.h"
 #include "platform/win32/form_window.h"
@@ -9,11 +10,13 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include <ranges>
 #include <utility>
 
 namespace vela::win32 {
 namespace {
 
+using platform::Widget;
 using platform::WidgetId;
 using platform::WidgetKind;
 
@@ -25,10 +28,10 @@ std::u16string textOf(HWND window)
     return text;
 }
 
-bool listIsDown(const Widget& widget) noexcept
+bool listIsDown(const WidgetWindow& widget) noexcept
 {
-    const bool combo = widget.kind() == WidgetKind::comboBox || widget.kind() == WidgetKind::dropDownList;
-    return combo && widget.window && SendMessageW(widget.window, CB_GETDROPPEDSTATE, 0, 0) != 0;
+    return platform::isCombo(widget.kind()) && widget.window &&
+           SendMessageW(widget.window, CB_GETDROPPEDSTATE, 0, 0) != 0;
 }
 
 wchar_t upper(wchar_t letter) noexcept
@@ -39,7 +42,7 @@ wchar_t upper(wchar_t letter) noexcept
 
 } // namespace
 
-LRESULT FormWindow::widgetMessage(Widget& widget, HWND window, UINT message, WPARAM first, LPARAM second)
+LRESULT FormWindow::widgetMessage(WidgetWindow& widget, HWND window, UINT message, WPARAM first, LPARAM second)
 {
     const engine::Alive alive(life_);
     const engine::ScopedValue running(life_, running_, running_ + 1);
@@ -70,12 +73,12 @@ LRESULT FormWindow::widgetMessage(Widget& widget, HWND window, UINT message, WPA
         if (!gone())
             focusCrossed(message, reinterpret_cast<HWND>(first));
         if (!gone() && message == WM_SETFOCUS)
-            focusArrived(widget);
+            widgets_.focusArrived(widget.id());
         return result;
     }
     case WM_GETOBJECT:
         if (widget.saysItsName)
-            if (const LRESULT answer = namedAnswer(window, first, second, widget.look.spokenName))
+            if (const LRESULT answer = namedAnswer(window, first, second, widget.values.look.spokenName))
                 return answer;
         break;
     case WM_NCDESTROY:
@@ -92,7 +95,7 @@ LRESULT FormWindow::widgetMessage(Widget& widget, HWND window, UINT message, WPA
 }
 
 // A swatch is moved from by arrows in a dialog; on a page Enter opens its palette.
-LRESULT FormWindow::keysWanted(const Widget& widget, LRESULT usual, const MSG* message) const
+LRESULT FormWindow::keysWanted(const WidgetWindow& widget, LRESULT usual, const MSG* message) const
 {
     if (widget.kind() != WidgetKind::swatch)
         return usual;
@@ -102,7 +105,7 @@ LRESULT FormWindow::keysWanted(const Widget& widget, LRESULT usual, const MSG* m
     return usual | (wanted ? DLGC_WANTMESSAGE : 0);
 }
 
-bool FormWindow::wantsKey(const Widget& widget, WPARAM code) const
+bool FormWindow::wantsKey(const WidgetWindow& widget, WPARAM code) const
 {
     return listIsDown(widget) || (code == VK_RETURN && widget.kind() == WidgetKind::swatch);
 }
@@ -204,12 +207,14 @@ void FormWindow::unbound()
     speech_.forget();
     arbiter_.removeBorrower(std::exchange(window_, nullptr));
     shown_ = false;
-    for (const auto& widget : widgets_)
-        widget->window = widget->inner = nullptr;
-    if (role_ != Role::child && !std::exchange(closed_, true))
-        events_.closed();
-    else if (listener_)
+    for (WidgetWindow& widget : windows_)
+        widget.window = widget.inner = nullptr;
+    if (role_ != Role::child) {
+        if (!std::exchange(closed_, true) && events_.popup)
+            events_.popup->closed();
+    } else if (listener_) {
         listener_->windowDestroyed();
+    }
 }
 
 LRESULT FormWindow::command(WPARAM first, LPARAM second)
@@ -222,7 +227,7 @@ LRESULT FormWindow::command(WPARAM first, LPARAM second)
             pressButton(u"Cancelar");
         return 0;
     }
-    Widget* widget = quiet_ ? nullptr : ofWindow(reinterpret_cast<HWND>(second));
+    const WidgetWindow* widget = quiet_ ? nullptr : ofWindow(reinterpret_cast<HWND>(second));
     if (!widget)
         return 0;
     switch (widget->kind()) {
@@ -231,9 +236,9 @@ LRESULT FormWindow::command(WPARAM first, LPARAM second)
     case WidgetKind::optionButton:
     case WidgetKind::swatch:
         if (code == BN_CLICKED)
-            press(*widget);
+            press(widget->values);
         else if (code == BN_DBLCLK)
-            events_.doubleClicked(widget->id);
+            events_.doubleClicked(widget->id());
         break;
     case WidgetKind::comboBox:
     case WidgetKind::dropDownList:
@@ -248,7 +253,7 @@ LRESULT FormWindow::command(WPARAM first, LPARAM second)
         if (code == LBN_SELCHANGE)
             clickedWindow(*widget);
         else if (code == LBN_DBLCLK)
-            events_.doubleClicked(widget->id);
+            events_.doubleClicked(widget->id());
         break;
     case WidgetKind::textBox:
         if (code == EN_CHANGE)
@@ -263,78 +268,63 @@ LRESULT FormWindow::command(WPARAM first, LPARAM second)
 }
 
 // The combo puts the chosen text into its box only after this notification.
-void FormWindow::clickedWindow(Widget& widget)
+void FormWindow::clickedWindow(const WidgetWindow& widget)
 {
-    widget.list->readFromWindow();
-    if (widget.kind() == WidgetKind::comboBox && widget.list->chosen() >= 0) {
-        const std::u16string chosen = widget.list->at(widget.list->chosen());
+    adoptList(widget);
+    if (widget.kind() == WidgetKind::comboBox && widget.values.list->chosen() >= 0) {
+        const std::u16string chosen = widget.values.list->chosenText();
         const engine::ScopedFlag quiet(quiet_, true);
         SetWindowTextW(widget.window, wide(chosen.c_str()));
     }
-    itemChosen(widget);
+    widgets_.chose(widget.id());
 }
 
-void FormWindow::typedInto(Widget& widget)
+// The combo has let go of its choice, or completed the text to an item.
+void FormWindow::typedInto(const WidgetWindow& widget)
 {
-    std::u16string text = textOf(widget.window);
-    if (text == widget.text)
-        return;
-    widget.text = std::move(text);
-    if (widget.list)
-        widget.list->readFromWindow(); // the combo has let go of its choice, or completed the text to an item
-    events_.changed(widget.id);
+    const bool combo = widget.kind() == WidgetKind::comboBox;
+    widgets_.typed(widget.id(), textOf(widget.window),
+                   combo ? static_cast<int>(SendMessageW(widget.window, CB_GETCURSEL, 0, 0)) : -1);
 }
 
 // A list that opens completes the text in its box, one that is left with Esc goes back to the former choice: the combo
 // says nothing of either.
-void FormWindow::tellShown(Widget& widget)
+void FormWindow::tellShown(const WidgetWindow& widget)
 {
     if (widget.kind() == WidgetKind::comboBox)
         typedInto(widget);
-    else if (SendMessageW(widget.window, CB_GETCURSEL, 0, 0) != widget.list->chosen())
+    else if (SendMessageW(widget.window, CB_GETCURSEL, 0, 0) != widget.values.list->chosen())
         clickedWindow(widget);
 }
 
 LRESULT FormWindow::notify(const NMHDR& header)
 {
-    Widget* widget = ofWindow(header.hwndFrom);
-    if (!quiet_ && widget && widget->kind() == WidgetKind::tabStrip &&
-        header.code == static_cast<UINT>(TCN_SELCHANGE)) {
-        widget->list->readFromWindow();
-        itemChosen(*widget);
-    }
+    const WidgetWindow* widget = quiet_ ? nullptr : ofWindow(header.hwndFrom);
+    if (widget && widget->kind() == WidgetKind::tabStrip && header.code == static_cast<UINT>(TCN_SELCHANGE))
+        clickedWindow(*widget);
     return 0;
 }
 
 // Acts as a person's click does.
-void FormWindow::press(Widget& widget)
+void FormWindow::press(const Widget& widget)
 {
-    if (!widget.enabled || !showing(widget))
-        return;
-    if (widget.kind() == WidgetKind::checkBox) {
-        setCheck(widget, !widget.checked);
-    } else if (widget.kind() == WidgetKind::optionButton) {
-        chooseOption(widget);
-        setCheck(widget, true);
-    }
-    events_.clicked(widget.id);
+    if (widget.enabled && showing(widget))
+        widgets_.press(widget.id);
 }
 
 // The form's button of this caption; without one for Esc the form is closed.
 void FormWindow::pressButton(std::u16string_view caption)
 {
-    for (const auto& widget : widgets_)
-        if (widget->kind() == WidgetKind::button && withoutAccessKey(widget->text) == caption) {
-            press(*widget);
-            return;
-        }
+    for (const Widget& widget : widgets_.all())
+        if (widget.kind() == WidgetKind::button && withoutAccessKey(widget.text) == caption)
+            return press(widget);
     if (caption == u"Cancelar")
         close();
 }
 
 LRESULT FormWindow::pointer(UINT message, LPARAM where)
 {
-    Widget* label = labelAt({GET_X_LPARAM(where), GET_Y_LPARAM(where)});
+    const Widget* label = labelAt({GET_X_LPARAM(where), GET_Y_LPARAM(where)});
     if (message == WM_LBUTTONDOWN) {
         pressed_ = label;
         if (label)
@@ -348,7 +338,7 @@ LRESULT FormWindow::pointer(UINT message, LPARAM where)
             events_.doubleClicked(label->id);
         return 0;
     }
-    Widget* pressed = std::exchange(pressed_, nullptr);
+    const Widget* pressed = std::exchange(pressed_, nullptr);
     ReleaseCapture();
     if (label && label == pressed)
         events_.clicked(label->id);
@@ -358,14 +348,14 @@ LRESULT FormWindow::pointer(UINT message, LPARAM where)
 std::vector<SpokenLabel> FormWindow::spokenLabels() const
 {
     std::vector<SpokenLabel> labels;
-    for (const auto& widget : widgets_) {
-        const bool named = !widget->look.spokenName.empty();
-        if (isWindow(widget->kind()) || !showing(*widget) || (!named && widget->text.empty()))
+    for (const Widget& widget : widgets_.all()) {
+        const bool named = !widget.look.spokenName.empty();
+        if (platform::takesFocus(widget.kind()) || !showing(widget) || (!named && widget.text.empty()))
             continue;
-        RECT place = rectOf(*widget);
+        RECT place = rectOf(widget);
         MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&place), 2);
-        labels.push_back({widget->id.value, named ? widget->look.spokenName : withoutAccessKey(widget->text), place,
-                          widget->enabled, named});
+        labels.push_back({widget.id.value, named ? widget.look.spokenName : withoutAccessKey(widget.text), place,
+                          widget.enabled, named});
     }
     return labels;
 }
@@ -374,19 +364,19 @@ void FormWindow::clickLabel(int widget)
 {
     const engine::Alive alive(life_);
     const engine::ScopedValue running(life_, running_, running_ + 1);
-    if (at({widget}).enabled)
+    if (widgets_.at({widget}).enabled)
         events_.clicked({widget});
 }
 
 // The topmost one: painted last.
-Widget* FormWindow::labelAt(POINT point)
+const Widget* FormWindow::labelAt(POINT point) const
 {
-    for (auto widget = widgets_.rbegin(); widget != widgets_.rend(); ++widget) {
-        if (isWindow((*widget)->kind()) || (*widget)->kind() == WidgetKind::frame)
+    for (const Widget& widget : std::views::reverse(widgets_.all())) {
+        if (platform::takesFocus(widget.kind()) || widget.kind() == WidgetKind::frame)
             continue;
-        const RECT place = rectOf(**widget);
-        if ((*widget)->enabled && showing(**widget) && PtInRect(&place, point))
-            return widget->get();
+        const RECT place = rectOf(widget);
+        if (widget.enabled && showing(widget) && PtInRect(&place, point))
+            return &widget;
     }
     return nullptr;
 }
@@ -394,40 +384,43 @@ Widget* FormWindow::labelAt(POINT point)
 // While a message box of this library is up, the form still counts as active.
 void FormWindow::activation(bool active)
 {
-    if (closed_ || !shown_ || role_ == Role::child || arbiter_.holding())
+    if (closed_ || !shown_ || role_ == Role::child || arbiter_.holding() || !events_.popup)
         return;
     if (active)
-        events_.activated();
+        events_.popup->activated();
     else
-        events_.deactivated();
+        events_.popup->deactivated();
 }
 
 void FormWindow::timer()
 {
-    if (timer_ > 0 && !closed_ && !arbiter_.holding())
-        events_.tick();
+    if (timer_ > 0 && !closed_ && !arbiter_.holding() && events_.popup)
+        events_.popup->tick();
 }
 
 // True when the key shall go no further.
-bool FormWindow::keyDown(Widget* widget, WPARAM code)
+bool FormWindow::keyDown(const WidgetWindow* widget, WPARAM code)
 {
     const engine::Alive alive(life_);
     const engine::ScopedValue running(life_, running_, running_ + 1);
     swallowChar_ = false;
-    if (code == VK_TAB)
-        return role_ == Role::popup && navigate(code);
+    if (code == VK_TAB) {
+        if (role_ == Role::popup)
+            nextWidget((shiftState() & 1) != 0);
+        return role_ == Role::popup;
+    }
     if (widget && listIsDown(*widget))
         return false; // its keys move in the list
     int key = static_cast<int>(code);
     int shift = shiftState();
-    events_.keyDown(widget ? widget->id : WidgetId{}, key, shift);
+    events_.keyDown(widget ? widget->id() : WidgetId{}, key, shift);
     if (!alive)
         return true;
     swallowChar_ = key == 0;
     return key == 0;
 }
 
-bool FormWindow::keyPress(Widget* widget, WPARAM unit)
+bool FormWindow::keyPress(const WidgetWindow* widget, WPARAM unit)
 {
     const engine::Alive alive(life_);
     const engine::ScopedValue running(life_, running_, running_ + 1);
@@ -438,7 +431,7 @@ bool FormWindow::keyPress(Widget* widget, WPARAM unit)
     if ((unit == VK_RETURN || unit == VK_ESCAPE) && widget && listIsDown(*widget))
         return false; // they close the list
     int key = static_cast<int>(unit);
-    events_.keyPress(widget ? widget->id : WidgetId{}, key);
+    events_.keyPress(widget ? widget->id() : WidgetId{}, key);
     if (!alive || key == 0)
         return true;
     const bool single = widget && widget->kind() == WidgetKind::textBox &&
@@ -453,12 +446,6 @@ bool FormWindow::keyPress(Widget* widget, WPARAM unit)
     return true;
 }
 
-bool FormWindow::navigate(WPARAM)
-{
-    nextWidget((shiftState() & 1) != 0);
-    return true;
-}
-
 void FormWindow::nextWidget(bool back)
 {
     if (const HWND next = GetNextDlgTabItem(window_, GetFocus(), back))
@@ -468,18 +455,19 @@ void FormWindow::nextWidget(bool back)
 // A button's access key clicks it; a label's leads to the widget behind it.
 bool FormWindow::accessKey(wchar_t letter)
 {
-    for (std::size_t i = 0; i < widgets_.size(); ++i) {
-        Widget& widget = *widgets_[i];
+    for (std::size_t i = 0; i < windows_.size(); ++i) {
+        const Widget& widget = windows_[i].values;
         const char16_t key = accessKeyOf(widget);
         if (!key || upper(static_cast<wchar_t>(key)) != upper(letter) || !widget.enabled || !showing(widget))
             continue;
-        Widget& target = takesFocus(widget.kind()) || i + 1 == widgets_.size() ? widget : *widgets_[i + 1];
-        if (!target.window || !target.enabled || !showing(target))
+        const WidgetWindow& target =
+            windows_[platform::takesFocus(widget.kind()) || i + 1 == windows_.size() ? i : i + 1];
+        if (!target.window || !target.values.enabled || !showing(target.values))
             continue;
         const engine::Alive alive(life_);
         const engine::ScopedValue running(life_, running_, running_ + 1);
         SetFocus(target.window);
-        if (alive && &target == &widget)
+        if (alive && &target.values == &widget)
             press(widget);
         return true;
     }
@@ -497,7 +485,7 @@ bool FormWindow::translate(MSG& message)
     if (!inside)
         return false;
     if (role_ == Role::child && message.message == WM_KEYDOWN) {
-        const Widget* widget = ofWindow(message.hwnd);
+        const WidgetWindow* widget = ofWindow(message.hwnd);
         if ((message.wParam == VK_RETURN || message.wParam == VK_ESCAPE) &&
             !(widget && wantsKey(*widget, message.wParam)))
             return false;
@@ -513,11 +501,11 @@ bool FormWindow::isFrameOf(HWND window) const
 }
 
 // Tab at the page's last widget, or Shift+Tab at its first, goes on to the frame.
-bool FormWindow::leavesPage(bool back) const
+bool FormWindow::leavesPage(bool back)
 {
-    const Widget* from = ofWindow(GetFocus());
-    const Widget* to = ofWindow(GetNextDlgTabItem(window_, GetFocus(), back));
-    return from && to && (back ? to->id.value >= from->id.value : to->id.value <= from->id.value);
+    const WidgetWindow* from = ofWindow(GetFocus());
+    const WidgetWindow* to = ofWindow(GetNextDlgTabItem(window_, GetFocus(), back));
+    return from && to && (back ? to->id().value >= from->id().value : to->id().value <= from->id().value);
 }
 
 } // namespace vela::win32
