@@ -60,24 +60,6 @@ engine::Date cCalendar::selectedDate() const
     return engine::makeDate(*date);
 }
 
-void cCalendar::clickDay(int cell)
-{
-    calendar_.grid.clickDay(cell);
-    calendar_.view.refresh();
-}
-
-void cCalendar::chooseMonth(int index)
-{
-    calendar_.grid.putMonthIndex(index);
-    calendar_.view.refresh();
-}
-
-void cCalendar::chooseYear(int index)
-{
-    calendar_.grid.putYearIndex(index);
-    calendar_.view.refresh();
-}
-
 void cCalendar::pick(int cell)
 {
     clickDay(cell);
@@ -92,11 +74,7 @@ void cCalendar::tellPicked() const
 
 void cCalendar::clicked(platform::WidgetId widget)
 {
-    if (widget == calendar_widget::months)
-        calendar_.view.takeMonth();
-    else if (widget == calendar_widget::years)
-        calendar_.view.takeYear();
-    else if (const int cell = calendar_widget::cellOf(widget); cell >= 0)
+    if (const int cell = calendar_.takeClick(widget); cell >= 0)
         pick(cell);
 }
 

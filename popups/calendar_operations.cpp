@@ -2,6 +2,7 @@
 #include "popups/calendar_operations.h"
 
 #include "engine/trapped.h"
+#include "popups/calendar_layout.h"
 #include "popups/grid_dates.h"
 
 namespace vela::popups {
@@ -32,6 +33,33 @@ void CalendarOperations::start(const engine::Value& date)
     const auto read = tryReadDate(date, environment_.locales.locale(), now);
     grid.select(read.value_or(civilToday(now)));
     load();
+}
+
+void CalendarOperations::clickDay(int cell)
+{
+    grid.clickDay(cell);
+    view.refresh();
+}
+
+void CalendarOperations::putMonthIndex(int index)
+{
+    grid.putMonthIndex(index);
+    view.refresh();
+}
+
+void CalendarOperations::putYearIndex(int index)
+{
+    grid.putYearIndex(index);
+    view.refresh();
+}
+
+int CalendarOperations::takeClick(platform::WidgetId widget)
+{
+    if (widget == calendar_widget::months)
+        view.takeMonth();
+    else if (widget == calendar_widget::years)
+        view.takeYear();
+    return calendar_widget::cellOf(widget);
 }
 
 void CalendarOperations::countHighlight()

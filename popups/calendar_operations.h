@@ -26,6 +26,11 @@ public:
     void load();
     // A value that is no date selects today.
     void start(const engine::Value& date);
+    void clickDay(int cell);       // 9 outside 0..41
+    void putMonthIndex(int index); // 380 outside the list
+    void putYearIndex(int index);
+    // Takes the choice of a combo; the cell of a day, -1 for any other widget.
+    [[nodiscard]] int takeClick(platform::WidgetId widget);
     // At the limit a box in place of counting.
     void countHighlight();
 

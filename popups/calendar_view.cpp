@@ -100,22 +100,16 @@ void CalendarView::refreshChoice(platform::WidgetId combo, int chosen)
 
 void CalendarView::refreshCell(int cell)
 {
-    const auto at = static_cast<std::size_t>(cell);
-    const DayCell& day = grid_.cells()[at];
-    const Painted painted{grid_.dateOf(cell), day.role == DayRole::active ? colours_.dayActive : colours_.dayInactive,
-                          grid_.frameCell() == cell};
-    if (painted_[at] == painted)
-        return;
+    const DayCell& day = grid_.cells()[static_cast<std::size_t>(cell)];
+    const auto date = grid_.dateOf(cell);
     platform::WidgetLook look = form_.look(widget::day(cell));
-    look.fore = painted.fore;
+    look.fore = day.role == DayRole::active ? colours_.dayActive : colours_.dayInactive;
     look.opaque = false;
-    look.border = false;
-    look.spokenName = painted.date ? spokenDate(*painted.date) : std::u16string();
-    if (painted.framed)
+    look.spokenName = date ? spokenDate(*date) : std::u16string();
+    if (grid_.frameCell() == cell)
         look.spokenName += u", selecionado";
     form_.putLook(widget::day(cell), look);
     form_.putText(widget::day(cell), caption(day));
-    painted_[at] = painted;
 }
 
 void CalendarView::refreshFrame()
@@ -127,8 +121,7 @@ void CalendarView::refreshFrame()
     platform::WidgetLook look = form_.look(widget::frame);
     look.left = day.left - frameLeftOf;
     look.top = day.top - frameAbove;
-    if (look != form_.look(widget::frame))
-        form_.putLook(widget::frame, look);
+    form_.putLook(widget::frame, look);
     form_.show(widget::frame, true);
 }
 

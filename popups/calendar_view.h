@@ -5,9 +5,6 @@
 #include "popups/calendar_colours.h"
 #include "popups/calendar_grid.h"
 
-#include <array>
-#include <optional>
-
 namespace vela::popups {
 
 class CalendarView {
@@ -24,13 +21,6 @@ public:
     bool moveByKey(int code, int shift);
 
 private:
-    // What a cell shows; a cell is written again only when this differs.
-    struct Painted {
-        std::optional<engine::CivilDate> date;
-        engine::Colour fore;
-        bool framed = false;
-        friend bool operator==(const Painted&, const Painted&) = default;
-    };
     void applyColours(); // form, panel, combos, frame
     void colourHeader();
     void refreshYears();
@@ -42,7 +32,6 @@ private:
     CalendarGrid& grid_;
     const SharedCalendarColours& shared_;
     CalendarColours colours_; // of the last drawing
-    std::array<std::optional<Painted>, cellCount> painted_;
     bool refreshing_ = false;
 };
 

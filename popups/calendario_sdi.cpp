@@ -38,23 +38,10 @@ void CalendarioSDI::putSelected(engine::CivilDate date)
     calendar_->grid.select(date);
 }
 
-void CalendarioSDI::putMonthIndex(int index)
-{
-    calendar_->grid.putMonthIndex(index);
-    calendar_->view.refresh();
-}
-
-void CalendarioSDI::putYearIndex(int index)
-{
-    calendar_->grid.putYearIndex(index);
-    calendar_->view.refresh();
-}
-
 void CalendarioSDI::pickDay(int cell)
 {
     const HandlerScope running(record_);
-    calendar_->grid.clickDay(cell);
-    calendar_->view.refresh();
+    calendar_->clickDay(cell);
     if (grid().frameCell() < 0)
         return; // no month has been drawn: there was no day to pick
     if (owner() != nullptr)
@@ -72,11 +59,7 @@ void CalendarioSDI::clicked(platform::WidgetId widget)
     const HandlerScope running(record_);
     if (!life_.isLoaded())
         return;
-    if (widget == calendar_widget::months)
-        calendar_->view.takeMonth();
-    else if (widget == calendar_widget::years)
-        calendar_->view.takeYear();
-    else if (const int cell = calendar_widget::cellOf(widget); cell >= 0)
+    if (const int cell = calendar_->takeClick(widget); cell >= 0)
         pickDay(cell);
 }
 

@@ -22,9 +22,9 @@ public:
     engine::Value IniciaCalendario(const engine::Value& date);
     engine::Value IncluiDataRealcada(const engine::Value& date);
 
-    void putSelected(engine::CivilDate date); // draws nothing
-    void putMonthIndex(int index);            // draws; 380 outside the list
-    void putYearIndex(int index);
+    void putSelected(engine::CivilDate date);                          // draws nothing
+    void putMonthIndex(int index) { calendar_->putMonthIndex(index); } // draws
+    void putYearIndex(int index) { calendar_->putYearIndex(index); }
     // As a click does. Raises what the owner's Text raises; the pop-up then stays open. 9 outside 0..41.
     void pickDay(int cell);
     [[nodiscard]] const CalendarGrid& grid() const noexcept { return calendar_->grid; }
