@@ -7,7 +7,7 @@
 
 namespace vela::activex {
 
-// Scaled from the layout's size to the bounds. Labels, frames, swatches and the texts of the other widgets.
+// Scaled from the layout's size to the bounds. Draws a form of labels and combos: the calendar is one.
 void drawForm(HDC dc, const RECT& bounds, const platform::Widgets& widgets);
 
 } // namespace vela::activex

@@ -89,16 +89,18 @@ struct WidgetId {
     return {};
 }
 
+inline constexpr engine::Colour buttonFace{0x8000000F};
+
 // Labels are painted in table order, later ones over earlier ones; one that is not opaque shows what lies under it.
 struct WidgetLook {
     engine::Colour fore{0x80000012}; // button text
-    engine::Colour back{0x8000000F}; // button face
-    bool opaque = true;              // labels: BackStyle 1
-    bool border = false;             // BorderStyle 1
-    int left = 0;                    // twips
-    int top = 0;                     // twips
-    bool round = false;              // an opaque label's back is an ellipse that fills it
-    std::u16string spokenName = {};  // what a screen reader says; empty: the caption
+    engine::Colour back = buttonFace;
+    bool opaque = true;             // labels: BackStyle 1
+    bool border = false;            // BorderStyle 1
+    int left = 0;                   // twips
+    int top = 0;                    // twips
+    bool round = false;             // an opaque label's back is an ellipse that fills it
+    std::u16string spokenName = {}; // what a screen reader says; empty: the caption
     friend bool operator==(const WidgetLook&, const WidgetLook&) = default;
 };
 

@@ -261,8 +261,10 @@ bool Widgets::visible(WidgetId widget) const
     return !frame || visible(frame);
 }
 
-bool Widgets::onTabInFront(const Widget& widget) const
+bool Widgets::showing(const Widget& widget) const
 {
+    if (!visible(widget.id))
+        return false;
     const auto strip = std::ranges::find(widgets_, WidgetKind::tabStrip, &Widget::kind);
     return widget.row->tab < 0 || strip == widgets_.end() || strip->list->chosen() == widget.row->tab;
 }

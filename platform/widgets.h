@@ -105,12 +105,13 @@ public:
     void check(WidgetId widget, bool on);
     [[nodiscard]] ItemList& items(WidgetId widget); // 438 for one without items
     void enable(WidgetId widget, bool on);
-    [[nodiscard]] bool visible(WidgetId widget) const; // its own flag and its frame's
-    [[nodiscard]] bool onTabInFront(const Widget& widget) const;
+    [[nodiscard]] bool visible(WidgetId widget) const;      // its own flag and its frame's
+    [[nodiscard]] bool showing(const Widget& widget) const; // visible, and on the tab in front
     void show(WidgetId widget, bool on);
     void putLook(WidgetId widget, const WidgetLook& look);
     void putFont(WidgetId widget, const FontDescription& font);
-    [[nodiscard]] const std::optional<engine::Colour>& backColour() const noexcept { return back_; } // none: not put
+    [[nodiscard]] bool hasBackColour() const noexcept { return back_.has_value(); } // one has been put
+    [[nodiscard]] engine::Colour backColour() const noexcept { return back_.value_or(buttonFace); }
     void putBackColour(engine::Colour colour);
 
     // Acts of a person; those at windows that show the outcome already are not shown again.

@@ -302,7 +302,7 @@ engine::RectPixels ControlSurface::screenRect() const
 
 platform::WindowId ControlSurface::window() const
 {
-    return {reinterpret_cast<std::uintptr_t>(window_)};
+    return idOf(window_);
 }
 
 std::unique_ptr<platform::TooltipWindow> ControlSurface::makeTooltip()
@@ -419,12 +419,9 @@ LRESULT ControlSurface::colourOf(HDC dc, HWND child) const
     for (const auto& box : boxes_) {
         if (!box || box->handle() != child)
             continue;
-        const COLORREF back = resolve(box->colours().back, ColourRole::back);
-        SetTextColor(dc, box->traits().enabled ? resolve(box->colours().fore, ColourRole::fore)
-                                               : GetSysColor(COLOR_GRAYTEXT));
-        SetBkColor(dc, back);
-        SetDCBrushColor(dc, back);
-        return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
+        const COLORREF fore =
+            box->traits().enabled ? resolve(box->colours().fore, ColourRole::fore) : GetSysColor(COLOR_GRAYTEXT);
+        return controlColours(dc, fore, resolve(box->colours().back, ColourRole::back));
     }
     return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
 }
@@ -434,8 +431,7 @@ void ControlSurface::paint()
     const PaintDc dc(window_);
     RECT client{};
     GetClientRect(window_, &client);
-    const UniqueGdi<HBRUSH> back(CreateSolidBrush(resolve(look_.back, ColourRole::back)));
-    FillRect(dc.get(), &client, back.get());
+    fill(dc.get(), client, resolve(look_.back, ColourRole::back));
     const int line = scaled(1, dpi_);
     if (look_.ownBorder)
         paintBorder(dc.get(), client, {look_.line, look_.border, line, layout_.cornerRadius});

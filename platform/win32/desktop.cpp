@@ -7,6 +7,7 @@
 #include "platform/win32/modal.h"
 #include "platform/win32/module.h"
 #include "platform/win32/text.h"
+#include "platform/win32/window.h"
 
 #include <array>
 #include <string>
@@ -14,15 +15,6 @@
 
 namespace vela::win32 {
 namespace {
-
-HWND windowOf(platform::WindowId id) noexcept
-{
-    return reinterpret_cast<HWND>(id.value);
-}
-platform::WindowId idOf(HWND window) noexcept
-{
-    return {reinterpret_cast<std::uintptr_t>(window)};
-}
 
 UINT flagsOf(platform::BoxIcon icon, platform::BoxButtons buttons) noexcept
 {
@@ -50,9 +42,7 @@ platform::BoxAnswer answerOf(int pressed) noexcept
 std::wstring applicationTitle(HWND active)
 {
     const HWND top = active ? GetAncestor(active, GA_ROOTOWNER) : nullptr;
-    std::wstring title(static_cast<std::size_t>(top ? GetWindowTextLengthW(top) : 0) + 1, L'\0');
-    title.resize(static_cast<std::size_t>(top ? GetWindowTextW(top, title.data(), static_cast<int>(title.size())) : 0));
-    if (!title.empty())
+    if (std::wstring title = wide(textOf(top)); !title.empty())
         return title;
     std::array<wchar_t, MAX_PATH> path{};
     const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));

@@ -12,9 +12,9 @@ namespace vela::win32 {
 // What the parent of a child form wants to know beyond what its logic does. May destroy the form.
 class FormListener {
 public:
-    virtual void focusEntered() {}    // the focus came into the form or one of its windows
-    virtual void focusLeft() {}       // to another window than one of those
-    virtual void windowDestroyed() {} // by another than leaveParent()
+    virtual void focusEntered() = 0;    // the focus came into the form or one of its windows
+    virtual void focusLeft() = 0;       // to another window than one of those
+    virtual void windowDestroyed() = 0; // by another than leaveParent()
 
 protected:
     ~FormListener() = default;

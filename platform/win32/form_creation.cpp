@@ -126,32 +126,9 @@ HWND editOf(HWND combo) noexcept
 
 } // namespace
 
-int FormWindow::pixels(int twips) const noexcept
-{
-    return static_cast<int>(std::lround(twips * scale_));
-}
-
 int FormWindow::dpi() const noexcept
 {
     return std::max(1, static_cast<int>(std::lround(scale_ * engine::twipsPerInch)));
-}
-
-POINT FormWindow::offsetOf(std::u16string_view frame) const
-{
-    const platform::WidgetId id = frame.empty() ? platform::WidgetId{} : findWidget(widgets_.layout(), frame);
-    if (!id)
-        return {0, 0};
-    const Widget& found = widgets_.at(id);
-    const POINT outer = offsetOf(found.row->parent);
-    return {outer.x + found.look.left, outer.y + found.look.top};
-}
-
-RECT FormWindow::rectOf(const Widget& widget) const
-{
-    const POINT offset = offsetOf(widget.row->parent);
-    const int left = static_cast<int>(offset.x) + widget.look.left;
-    const int top = static_cast<int>(offset.y) + widget.look.top;
-    return {pixels(left), pixels(top), pixels(left + widget.row->place.width), pixels(top + widget.row->place.height)};
 }
 
 void FormWindow::applyFont(WidgetWindow& widget)
@@ -209,11 +186,11 @@ void FormWindow::makeWidget(WidgetWindow& widget)
                                     window_, reinterpret_cast<HMENU>(INT_PTR{100} + id), thisModule(), nullptr);
     if (!widget.window)
         return;
-    widget.original = subclass(widget.window, &widget, widgetProcedure);
+    subclass(widget.window, &widget, widgetProcedure);
     if (widget.kind() == WidgetKind::comboBox) {
         widget.inner = editOf(widget.window);
         if (widget.inner)
-            widget.innerOriginal = subclass(widget.inner, &widget, widgetProcedure);
+            subclass(widget.inner, &widget, widgetProcedure);
     }
     for (int i = 0; values.list && i < values.list->count(); ++i)
         showItem(widget, i);

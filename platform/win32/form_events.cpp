@@ -20,14 +20,6 @@ using platform::Widget;
 using platform::WidgetId;
 using platform::WidgetKind;
 
-std::u16string textOf(HWND window)
-{
-    std::u16string text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, u'\0');
-    const int read = GetWindowTextW(window, wide(text.data()), static_cast<int>(text.size()));
-    text.resize(static_cast<std::size_t>(read));
-    return text;
-}
-
 bool listIsDown(const WidgetWindow& widget) noexcept
 {
     return platform::isCombo(widget.kind()) && widget.window &&
@@ -46,7 +38,6 @@ LRESULT FormWindow::widgetMessage(WidgetWindow& widget, HWND window, UINT messag
 {
     const engine::Alive alive(life_);
     const engine::ScopedValue running(life_, running_, running_ + 1);
-    const WNDPROC original = window == widget.inner ? widget.innerOriginal : widget.original;
     if (dead_ && isInput(message))
         return 0;
     const auto gone = [&] { return !alive || (widget.window != window && widget.inner != window); };
@@ -65,11 +56,11 @@ LRESULT FormWindow::widgetMessage(WidgetWindow& widget, HWND window, UINT messag
             return 0;
         break;
     case WM_GETDLGCODE:
-        return keysWanted(widget, CallWindowProcW(original, window, message, first, second),
+        return keysWanted(widget, behindProcedure(window, message, first, second),
                           reinterpret_cast<const MSG*>(second));
     case WM_SETFOCUS:
     case WM_KILLFOCUS: {
-        const LRESULT result = CallWindowProcW(original, window, message, first, second);
+        const LRESULT result = behindProcedure(window, message, first, second);
         if (!gone())
             focusCrossed(message, reinterpret_cast<HWND>(first));
         if (!gone() && message == WM_SETFOCUS)
@@ -87,7 +78,7 @@ LRESULT FormWindow::widgetMessage(WidgetWindow& widget, HWND window, UINT messag
         return behindProcedure(window, message, first, second);
     default: break;
     }
-    const LRESULT result = CallWindowProcW(original, window, message, first, second);
+    const LRESULT result = behindProcedure(window, message, first, second);
     const bool mayComplete = message == WM_KEYDOWN || message == WM_SYSKEYDOWN || message == WM_LBUTTONDOWN;
     if (mayComplete && !gone() && widget.kind() == WidgetKind::comboBox)
         tellShown(widget); // its list has opened
@@ -308,7 +299,7 @@ LRESULT FormWindow::notify(const NMHDR& header)
 // Acts as a person's click does.
 void FormWindow::press(const Widget& widget)
 {
-    if (widget.enabled && showing(widget))
+    if (widget.enabled && widgets_.showing(widget))
         widgets_.press(widget.id);
 }
 
@@ -350,7 +341,7 @@ std::vector<SpokenLabel> FormWindow::spokenLabels() const
     std::vector<SpokenLabel> labels;
     for (const Widget& widget : widgets_.all()) {
         const bool named = !widget.look.spokenName.empty();
-        if (platform::takesFocus(widget.kind()) || !showing(widget) || (!named && widget.text.empty()))
+        if (platform::takesFocus(widget.kind()) || !widgets_.showing(widget) || (!named && widget.text.empty()))
             continue;
         RECT place = rectOf(widget);
         MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&place), 2);
@@ -375,7 +366,7 @@ const Widget* FormWindow::labelAt(POINT point) const
         if (platform::takesFocus(widget.kind()) || widget.kind() == WidgetKind::frame)
             continue;
         const RECT place = rectOf(widget);
-        if (widget.enabled && showing(widget) && PtInRect(&place, point))
+        if (widget.enabled && widgets_.showing(widget) && PtInRect(&place, point))
             return &widget;
     }
     return nullptr;
@@ -441,8 +432,7 @@ bool FormWindow::keyPress(const WidgetWindow* widget, WPARAM unit)
         return beeps;
     // The handler put another character in its place.
     if (widget && widget->window)
-        CallWindowProcW(widget->inner ? widget->innerOriginal : widget->original,
-                        widget->inner ? widget->inner : widget->window, WM_CHAR, static_cast<WPARAM>(key), 1);
+        behindProcedure(widget->inner ? widget->inner : widget->window, WM_CHAR, static_cast<WPARAM>(key), 1);
     return true;
 }
 
@@ -458,11 +448,11 @@ bool FormWindow::accessKey(wchar_t letter)
     for (std::size_t i = 0; i < windows_.size(); ++i) {
         const Widget& widget = windows_[i].values;
         const char16_t key = accessKeyOf(widget);
-        if (!key || upper(static_cast<wchar_t>(key)) != upper(letter) || !widget.enabled || !showing(widget))
+        if (!key || upper(static_cast<wchar_t>(key)) != upper(letter) || !widget.enabled || !widgets_.showing(widget))
             continue;
         const WidgetWindow& target =
             windows_[platform::takesFocus(widget.kind()) || i + 1 == windows_.size() ? i : i + 1];
-        if (!target.window || !target.values.enabled || !showing(target.values))
+        if (!target.window || !target.values.enabled || !widgets_.showing(target.values))
             continue;
         const engine::Alive alive(life_);
         const engine::ScopedValue running(life_, running_, running_ + 1);

@@ -17,26 +17,9 @@
 namespace vela::win32 {
 namespace {
 
+using platform::buttonFace;
 using platform::Widget;
 using platform::WidgetKind;
-
-constexpr engine::Colour buttonFace{0x8000000F}; // of a form without a colour of its own
-
-void fill(HDC dc, const RECT& place, COLORREF colour) noexcept
-{
-    const UniqueGdi<HBRUSH> brush(CreateSolidBrush(colour));
-    FillRect(dc, &place, brush.get());
-}
-
-UINT alignmentOf(platform::TextAlignment alignment) noexcept
-{
-    switch (alignment) {
-    case platform::TextAlignment::left: return DT_LEFT;
-    case platform::TextAlignment::right: return DT_RIGHT;
-    case platform::TextAlignment::center: return DT_CENTER;
-    }
-    return DT_LEFT;
-}
 
 void paintLine(HDC dc, const RECT& place, int systemColour) noexcept
 {
@@ -48,18 +31,11 @@ bool isDark(COLORREF colour) noexcept
     return 3 * GetRValue(colour) + 6 * GetGValue(colour) + GetBValue(colour) < 640; // a quarter of white
 }
 
-int lineHeight(HDC dc) noexcept
-{
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(dc, &metrics);
-    return static_cast<int>(metrics.tmHeight);
-}
-
 } // namespace
 
 bool FormWindow::hasGround() const noexcept
 {
-    return role_ == Role::child && !widgets_.backColour();
+    return role_ == Role::child && !widgets_.hasBackColour();
 }
 
 void FormWindow::paint()
@@ -76,20 +52,25 @@ void FormWindow::paint()
 
 void FormWindow::paintAll(HDC dc, const RECT& client)
 {
-    fitted_ = {};
     paintGround(dc, client);
-    for (const Widget& widget : widgets_.all())
-        if (showing(widget))
-            paintWidget(dc, widget);
-    if (role_ == Role::popup) {
-        const UniqueGdi<HBRUSH> edge(CreateSolidBrush(GetSysColor(COLOR_WINDOWFRAME)));
-        FrameRect(dc, &client, edge.get());
+    LabelPainter labels(dc, scale(), hasGround());
+    for (WidgetWindow& widget : windows_) {
+        if (platform::takesFocus(widget.kind()) || !widgets_.showing(widget.values))
+            continue;
+        if (!widget.font)
+            applyFont(widget);
+        if (widget.kind() == WidgetKind::frame)
+            paintFrame(dc, widget);
+        else
+            labels.paint(widget.values, widget.font->get());
     }
+    if (role_ == Role::popup)
+        paintLine(dc, client, COLOR_WINDOWFRAME);
 }
 
 void FormWindow::paintGround(HDC dc, const RECT& client)
 {
-    fill(dc, client, hasGround() ? ground_ : resolve(widgets_.backColour().value_or(buttonFace), ColourRole::back));
+    fill(dc, client, hasGround() ? ground_ : resolve(widgets_.backColour(), ColourRole::back));
     for (const WidgetWindow& widget : windows_)
         if (widget.kind() == WidgetKind::tabStrip)
             paintPane(dc, widget);
@@ -127,82 +108,14 @@ COLORREF FormWindow::groundOf(const Widget& widget) const noexcept
     return widget.row->tab >= 0 ? pane_ : ground_;
 }
 
-void FormWindow::paintWidget(HDC dc, const Widget& widget)
-{
-    if (!of(widget).font)
-        applyFont(of(widget));
-    const RECT place = rectOf(widget);
-    switch (widget.kind()) {
-    case WidgetKind::label:
-    case WidgetKind::preview: paintLabel(dc, widget, place); break;
-    case WidgetKind::frame: paintFrame(dc, widget, place); break;
-    case WidgetKind::tabStrip:
-    case WidgetKind::button:
-    case WidgetKind::comboBox:
-    case WidgetKind::dropDownList:
-    case WidgetKind::listBox:
-    case WidgetKind::checkBox:
-    case WidgetKind::optionButton:
-    case WidgetKind::textBox:
-    case WidgetKind::swatch: break;
-    }
-}
-
-// The height of a label's characters in pixels, when a border takes `border` pixels on either side of its text.
-int FormWindow::labelHeight(HDC dc, const Widget& widget, int border)
-{
-    constexpr double twipsPerPoint = 20;
-    const platform::FontDescription& font = widget.font;
-    const int height = std::max(static_cast<int>(std::lround(font.size * twipsPerPoint * scale_)), 1);
-    return fitted_.of(widget.row->name, dc, font, height, [&] {
-        std::vector<FittingText> texts;
-        for (const Widget& one : widgets_.all()) {
-            const RECT place = rectOf(one);
-            if (one.row->name == widget.row->name && showing(one))
-                texts.push_back({one.text, static_cast<int>(place.right - place.left) - 2 * border});
-        }
-        return texts;
-    });
-}
-
-void FormWindow::paintLabel(HDC dc, const Widget& widget, RECT place)
-{
-    const platform::WidgetLook& look = widget.look;
-    const RECT outer = place;
-    const bool preview = widget.kind() == WidgetKind::preview;
-    if (look.opaque && look.round)
-        paintMark(dc, place, resolve(look.back), pixels(30));
-    else if (look.opaque && !(hasGround() && look.back == buttonFace))
-        fill(dc, place, resolve(look.back, look.back == buttonFace ? ColourRole::face : ColourRole::back));
-    if (preview) {
-        paintLine(dc, place, COLOR_BTNSHADOW);
-        InflateRect(&place, -1, -1);
-    } else if (look.border) {
-        DrawEdge(dc, &place, BDR_SUNKENOUTER, BF_RECT | BF_ADJUST);
-        InflateRect(&place, -pixels(30), 0);
-    }
-    if (widget.text.empty())
-        return;
-    const bool fits = widget.row->fits;
-    const UniqueGdi<HFONT> fitted(
-        fits ? makeFont(widget.font, labelHeight(dc, widget, static_cast<int>(place.left - outer.left))) : nullptr);
-    const SelectedObject font(dc, fits ? fitted.get() : of(widget).font->get());
-    SetBkMode(dc, TRANSPARENT);
-    SetTextColor(dc, widget.enabled ? resolve(look.fore, ColourRole::fore) : GetSysColor(COLOR_GRAYTEXT));
-    const bool oneLine = fits || place.bottom - place.top < 2 * lineHeight(dc);
-    const UINT clip = fits ? DT_END_ELLIPSIS : preview ? 0 : DT_NOCLIP;
-    const UINT format = (preview ? DT_CENTER : alignmentOf(widget.row->alignment)) | clip |
-                        (oneLine ? DT_SINGLELINE | DT_VCENTER : DT_WORDBREAK);
-    DrawTextW(dc, wide(markedCaption(widget).c_str()), -1, &place, format);
-}
-
 // An etched frame with its caption in the upper side.
-void FormWindow::paintFrame(HDC dc, const Widget& widget, RECT place)
+void FormWindow::paintFrame(HDC dc, const WidgetWindow& frame)
 {
-    const SelectedObject font(dc, of(widget).font->get());
-    RECT line = place;
+    const Widget& widget = frame.values;
+    const SelectedObject font(dc, frame.font->get());
+    RECT line = rectOf(widget);
+    RECT caption = line;
     line.top += lineHeight(dc) / 2;
-    RECT caption = place;
     caption.left += pixels(120);
     if (!widget.text.empty())
         DrawTextW(dc, wide(widget.text.c_str()), -1, &caption, DT_SINGLELINE | DT_CALCRECT);
@@ -266,12 +179,9 @@ LRESULT FormWindow::colourOf(UINT message, HDC dc, HWND child)
     const platform::WidgetLook& look = widget ? widget->values.look : fallback;
     const bool plain = !typed && look.back == buttonFace;
     const COLORREF back = plain && widget && hasGround() ? groundOf(widget->values)
-                          : plain ? resolve(widgets_.backColour().value_or(buttonFace), ColourRole::face)
-                                  : resolve(look.back, ColourRole::back);
-    SetTextColor(dc, resolve(look.fore, ColourRole::fore));
-    SetBkColor(dc, back);
-    SetDCBrushColor(dc, back);
-    return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
+                          : plain                        ? resolve(widgets_.backColour(), ColourRole::face)
+                                                         : resolve(look.back, ColourRole::back);
+    return controlColours(dc, resolve(look.fore, ColourRole::fore), back);
 }
 
 } // namespace vela::win32

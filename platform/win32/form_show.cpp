@@ -56,7 +56,7 @@ void FormWindow::makeTopLevel(Role role, HWND owner, RECT place, DWORD style, DW
 // The place's size is that at 96 dpi; the window takes the owner's dpi and the table fills it.
 void FormWindow::showPopup(engine::RectPixels place, platform::WindowId owner)
 {
-    const HWND top = GetAncestor(reinterpret_cast<HWND>(owner.value), GA_ROOT);
+    const HWND top = GetAncestor(windowOf(owner), GA_ROOT);
     const int dpi = dpiOf(top);
     const int width = scaled(place.width, dpi);
     const int height = scaled(place.height, dpi);

@@ -39,11 +39,6 @@ WidgetWindow* FormWindow::ofWindow(HWND window) noexcept
     return nullptr;
 }
 
-bool FormWindow::showing(const Widget& widget) const
-{
-    return widgets_.visible(widget.id) && widgets_.onTabInFront(widget);
-}
-
 void FormWindow::showText(const Widget& widget)
 {
     const HWND window = of(widget).window;
@@ -73,7 +68,7 @@ void FormWindow::showVisibility()
         return;
     for (const WidgetWindow& widget : windows_)
         if (widget.window)
-            ShowWindow(widget.window, showing(widget.values) ? SW_SHOWNA : SW_HIDE);
+            ShowWindow(widget.window, widgets_.showing(widget.values) ? SW_SHOWNA : SW_HIDE);
     InvalidateRect(window_, nullptr, FALSE);
 }
 
@@ -136,7 +131,7 @@ void FormWindow::focus(WidgetId widget)
 
 platform::WindowId FormWindow::window() const
 {
-    return {reinterpret_cast<std::uintptr_t>(window_)};
+    return idOf(window_);
 }
 
 std::unique_ptr<platform::Form> FormFactory::make(const platform::FormLayout& layout,

@@ -3,10 +3,10 @@
 
 #include "engine/alive.h"
 #include "engine/scoped_value.h"
-#include "platform/win32/fitted_text.h"
 #include "platform/win32/fonts.h"
 #include "platform/win32/form.h"
 #include "platform/win32/form_accessible.h"
+#include "platform/win32/label_painter.h"
 #include "platform/win32/window.h"
 
 #include <memory>
@@ -27,8 +27,6 @@ struct WidgetWindow {
     const platform::Widget& values;
     HWND window = nullptr;
     HWND inner = nullptr;
-    WNDPROC original = nullptr;
-    WNDPROC innerOriginal = nullptr;
     SharedFont font;          // at the form's scale
     bool saysItsName = false; // its windows are asked, because the system keeps no names
 
@@ -71,7 +69,6 @@ private:
 
     [[nodiscard]] WidgetWindow& of(const platform::Widget& widget);
     [[nodiscard]] WidgetWindow* ofWindow(HWND window) noexcept;
-    [[nodiscard]] bool showing(const platform::Widget& widget) const; // visible, and on the tab in front
 
     // The display of its widgets (form_values.cpp, form_lists.cpp).
     void showText(const platform::Widget& widget) override;
@@ -100,9 +97,9 @@ private:
     [[nodiscard]] int columnWidth(const WidgetWindow& widget) const;
     void applyFont(WidgetWindow& widget);
     [[nodiscard]] SharedFont fittingFont(const platform::Widget& widget) const;
-    [[nodiscard]] RECT rectOf(const platform::Widget& widget) const;
-    [[nodiscard]] POINT offsetOf(std::u16string_view frame) const; // twips
-    [[nodiscard]] int pixels(int twips) const noexcept;
+    [[nodiscard]] FormScale scale() const noexcept { return {widgets_, scale_, scale_}; }
+    [[nodiscard]] RECT rectOf(const platform::Widget& widget) const { return scale().placeOf(widget); }
+    [[nodiscard]] int pixels(int twips) const noexcept { return scale().units(twips); }
     [[nodiscard]] int dpi() const noexcept;
 
     // Messages (form_events.cpp).
@@ -145,10 +142,7 @@ private:
     void learnGround();
     [[nodiscard]] bool hasGround() const noexcept; // its parent's
     [[nodiscard]] COLORREF groundOf(const platform::Widget& widget) const noexcept;
-    void paintWidget(HDC dc, const platform::Widget& widget);
-    void paintLabel(HDC dc, const platform::Widget& widget, RECT place);
-    [[nodiscard]] int labelHeight(HDC dc, const platform::Widget& widget, int border);
-    void paintFrame(HDC dc, const platform::Widget& widget, RECT place);
+    void paintFrame(HDC dc, const WidgetWindow& frame);
     void paintPane(HDC dc, const WidgetWindow& widget);
     void drawItem(const DRAWITEMSTRUCT& item);
     LRESULT colourOf(UINT message, HDC dc, HWND child);
@@ -176,8 +170,7 @@ private:
     bool closed_ = false;
     bool quiet_ = false; // windows are being written
     bool swallowChar_ = false;
-    int running_ = 0;      // procedures of its windows that are under way
-    FittedHeights fitted_; // of the drawing that is under way
+    int running_ = 0; // procedures of its windows that are under way
     FormSpeech speech_;
     engine::Life life_;
 };

@@ -35,12 +35,6 @@ std::span<const int> patternOf(int line) noexcept
     }
 }
 
-void fill(HDC dc, const RECT& place, COLORREF colour) noexcept
-{
-    const UniqueGdi<HBRUSH> brush(CreateSolidBrush(colour));
-    FillRect(dc, &place, brush.get());
-}
-
 // One side, along x or along y, from start to end.
 void paintSide(HDC dc, const RECT& side, bool alongX, std::span<const int> pattern, int width, HBRUSH brush)
 {
@@ -303,6 +297,20 @@ void paintGround(HDC dc, const RECT& place, const FieldPicture& field, int radiu
 }
 
 } // namespace
+
+void fill(HDC dc, const RECT& place, COLORREF colour) noexcept
+{
+    const UniqueGdi<HBRUSH> brush(CreateSolidBrush(colour));
+    FillRect(dc, &place, brush.get());
+}
+
+LRESULT controlColours(HDC dc, COLORREF fore, COLORREF back) noexcept
+{
+    SetTextColor(dc, fore);
+    SetBkColor(dc, back);
+    SetDCBrushColor(dc, back);
+    return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
+}
 
 void paintBorder(HDC dc, const RECT& place, const BorderPen& pen)
 {

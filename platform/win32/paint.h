@@ -10,6 +10,10 @@
 
 namespace vela::win32 {
 
+void fill(HDC dc, const RECT& place, COLORREF colour) noexcept;
+// The answer to WM_CTLCOLOREDIT and its like.
+[[nodiscard]] LRESULT controlColours(HDC dc, COLORREF fore, COLORREF back) noexcept;
+
 // A border as the field's style gives it: solid, dashes, dots, dash-dot, 3D or XP (rounded).
 struct BorderPen {
     int line = 0; // eEstiloBorda

@@ -6,6 +6,7 @@
 #include "platform/win32/guard.h"
 #include "platform/win32/module.h"
 #include "platform/win32/text.h"
+#include "platform/win32/window.h"
 #include "platform/win32/window_map.h"
 
 #include <cstddef>
@@ -26,7 +27,7 @@ TooltipWindow::~TooltipWindow()
 bool TooltipWindow::create(platform::WindowId parent)
 {
     destroy();
-    const HWND owner = reinterpret_cast<HWND>(parent.value);
+    const HWND owner = windowOf(parent);
     const ActivationContext controls;
     // No style of the tooltip's own: the default look. A pop-up is what the class makes of itself; asked for as one, it
     // is never framed nor given the focus by a window manager.
@@ -127,7 +128,7 @@ void TooltipWindow::timeIsUp(HWND, UINT, UINT_PTR timer, DWORD) noexcept
 std::pair<int, int> TooltipWindow::clientToScreen(platform::WindowId window, int x, int y) const
 {
     POINT point{x, y};
-    ClientToScreen(reinterpret_cast<HWND>(window.value), &point);
+    ClientToScreen(windowOf(window), &point);
     return {point.x, point.y};
 }
 

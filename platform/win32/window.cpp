@@ -4,6 +4,7 @@
 #include "platform/win32/guard.h"
 #include "platform/win32/module.h"
 #include "platform/win32/owners.h"
+#include "platform/win32/text.h"
 #include "platform/win32/thread.h"
 #include "platform/win32/window_map.h"
 
@@ -65,6 +66,14 @@ const wchar_t* registered(WindowClass& wanted) noexcept
 }
 
 } // namespace
+
+std::u16string textOf(HWND window)
+{
+    std::u16string text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, u'\0');
+    const int read = GetWindowTextW(window, wide(text.data()), static_cast<int>(text.size()));
+    text.resize(static_cast<std::size_t>(read));
+    return text;
+}
 
 const wchar_t* surfaceClass() noexcept
 {

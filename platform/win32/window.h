@@ -1,9 +1,24 @@
-// A window class whose procedure hands each message to the object bound to the window.
+// Windows as numbers and texts, and window classes whose procedure hands each message to the object bound to the
+// window.
 #pragma once
+
+#include "platform/window_id.h"
 
 #include <windows.h>
 
+#include <string>
+
 namespace vela::win32 {
+
+[[nodiscard]] inline HWND windowOf(platform::WindowId id) noexcept
+{
+    return reinterpret_cast<HWND>(id.value);
+}
+[[nodiscard]] inline platform::WindowId idOf(HWND window) noexcept
+{
+    return {reinterpret_cast<std::uintptr_t>(window)};
+}
+[[nodiscard]] std::u16string textOf(HWND window); // its caption or what is typed; empty for a null one
 
 class WindowHandler {
 public:
