@@ -21,7 +21,7 @@ void invoke(IDispatch& object, DISPID id, WORD flags, DISPPARAMS& parameters, VA
 
 } // namespace
 
-DISPID DispatchObject::find(std::u16string_view name) const
+int DispatchObject::find(std::u16string_view name)
 {
     const std::u16string text(name);
     auto* wanted = const_cast<wchar_t*>(asWide(text));
@@ -31,20 +31,20 @@ DISPID DispatchObject::find(std::u16string_view name) const
     return id;
 }
 
-engine::Value DispatchObject::get(std::u16string_view name)
+engine::Value DispatchObject::get(int property)
 {
     DISPPARAMS none{};
     Variant result;
-    invoke(*object_.get(), find(name), DISPATCH_PROPERTYGET, none, result.put());
+    invoke(*object_.get(), property, DISPATCH_PROPERTYGET, none, result.put());
     return valueFromVariant(result.get());
 }
 
-void DispatchObject::put(std::u16string_view name, const engine::Value& value)
+void DispatchObject::put(int property, const engine::Value& value)
 {
     Variant given = variantFromValue(value);
     DISPID valueName = DISPID_PROPERTYPUT;
     DISPPARAMS parameters{&given.ref(), &valueName, 1, 1};
-    invoke(*object_.get(), find(name), DISPATCH_PROPERTYPUT, parameters, nullptr);
+    invoke(*object_.get(), property, DISPATCH_PROPERTYPUT, parameters, nullptr);
 }
 
 } // namespace vela::activex

@@ -1,4 +1,4 @@
-// Any automation object as the pages see it: its properties by name.
+// Any automation object as the pages see it: its properties by their DISPIDs.
 #pragma once
 
 #include "activex/com/owners.h"
@@ -11,12 +11,11 @@ public:
     explicit DispatchObject(ComPtr<IDispatch> object) noexcept : object_(std::move(object)) {}
     virtual ~DispatchObject() = default;
 
-    [[nodiscard]] engine::Value get(std::u16string_view name) override;
-    void put(std::u16string_view name, const engine::Value& value) override;
+    [[nodiscard]] int find(std::u16string_view name) override;
+    [[nodiscard]] engine::Value get(int property) override;
+    void put(int property, const engine::Value& value) override;
 
 private:
-    [[nodiscard]] DISPID find(std::u16string_view name) const; // raises 438
-
     ComPtr<IDispatch> object_;
 };
 

@@ -1,4 +1,4 @@
-// The classes of the pages.
+// The page of each kind by its class.
 #include "activex/page_map.h"
 
 #include "activex/guids.h"

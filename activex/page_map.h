@@ -1,7 +1,7 @@
-// The pages by their entries and by their classes.
+// The classes of the pages.
 #pragma once
 
-#include "activex/page_entries.h"
+#include "pages/page.h"
 
 #include <guiddef.h>
 

@@ -4,7 +4,7 @@
 #include "activex/com/guard.h"
 #include "activex/dispatch_object.h"
 #include "activex/ole/dispatch.h"
-#include "activex/page_map.h"
+#include "activex/page_fields.h"
 #include "activex/session.h"
 #include "activex/vela_members.h"
 #include "pages/frm_paleta.h"
@@ -14,6 +14,7 @@
 #include <olectl.h>
 #include <optional>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -28,7 +29,8 @@ public:
     explicit PropertyPage(pages::PageKind kind)
         : kind_(kind), session_(Session::current()),
           palette_(session_->forms, session_->environment.desktop), services_{session_->environment, session_->settings,
-                                                                              session_->forms, palette_}
+                                                                              session_->forms, palette_,
+                                                                              pageFields(kind)}
     {
     }
     PropertyPage(const PropertyPage&) = delete;
@@ -330,13 +332,14 @@ HRESULT PropertyPage::EditProperty(DISPID id) noexcept
 {
     return guarded([&]() -> HRESULT {
         const Member* const member = findMember(velaMembers(), id);
-        const PageEntry* const entry = member ? findPageEntry(member->name) : nullptr;
-        if (!entry || entry->page != kind_)
+        const auto field = member ? std::ranges::find(services_.fields, member->name, &pages::Field::property)
+                                  : services_.fields.end();
+        if (field == services_.fields.end())
             return E_INVALIDARG;
         if (!page_)
             return E_UNEXPECTED;
         const Act act(*this);
-        page_->focus(platform::findWidget(page_->layout(), entry->widget, entry->index));
+        page_->focus(platform::findWidget(page_->layout(), field->control, field->index));
         return S_OK;
     });
 }

@@ -84,13 +84,13 @@ std::span<const Member> VelaContent::members() const noexcept
 Variant VelaContent::get(const Member& member)
 {
     const control::Property& property = control::properties()[member.row];
-    if (property.type == control::PropertyType::font) {
+    if (property.type() == control::PropertyType::font) {
         Variant result;
         result.ref().pdispVal = font_.object(vela_.Font()).release();
         result.ref().vt = VT_DISPATCH;
         return result;
     }
-    if (property.type == control::PropertyType::longInteger && property.access == control::Access::read)
+    if (property.type() == control::PropertyType::longInteger && property.access() == control::Access::read)
         needWindow(); // hwnd and HwndCtl
     return propertyVariant(property, control::getProperty(vela_, property));
 }
@@ -99,7 +99,7 @@ void VelaContent::put(const Member& member, const VARIANT& value)
 {
     const Told told(*this);
     const control::Property& property = control::properties()[member.row];
-    switch (property.type) {
+    switch (property.type()) {
     case control::PropertyType::font:
         if (IUnknown* const font = objectIn(value))
             vela_.Font(font_.adopt(font));
@@ -262,7 +262,7 @@ bool VelaContent::wantsKey(const MSG& message) const
 
 bool VelaContent::eatsReturn() const
 {
-    return vela_.EnterAsTab() || vela_.MultLine();
+    return vela_.settings().enterAsTab || vela_.settings().multLine;
 }
 
 // A host's library asks without naming the key; then it is the one that the host's message loop has just handed over.
@@ -280,7 +280,7 @@ bool VelaContent::tabUnused(MSG& message)
 
 std::u16string VelaContent::fieldName() const
 {
-    return vela_.NomeCampo();
+    return vela_.settings().nomeCampo;
 }
 
 // A put may fail with its value stored.
@@ -311,16 +311,16 @@ void VelaContent::draw(HDC dc, const RECT& bounds)
 std::u16string VelaContent::plainText()
 {
     const std::u16string text = vela_.Text();
-    const std::u16string shown = vela_.PasswordChar();
-    return shown.empty() ? text : std::u16string(text.size(), shown.front());
+    const char16_t shown = surface_.edit().traits().passwordChar;
+    return shown == 0 ? text : std::u16string(text.size(), shown);
 }
 
-void VelaContent::propertyChanged(std::u16string_view name)
+void VelaContent::propertyChanged(std::u16string_view name, int dispid)
 {
-    const control::Property* const property = control::findProperty(name);
-    if (property && name.starts_with(u"Font"))
+    static_assert(platform::unknownProperty == DISPID_UNKNOWN);
+    if (name.starts_with(u"Font"))
         fontChanged(); // before anybody hears of the part and looks at the object
-    shell_.propertyChanged(property ? property->dispid : DISPID_UNKNOWN);
+    shell_.propertyChanged(dispid);
 }
 
 bool VelaContent::runMode() const

@@ -48,7 +48,7 @@ public:
 
 private:
     // platform::ControlHost
-    void propertyChanged(std::u16string_view name) override;
+    void propertyChanged(std::u16string_view name, int dispid) override;
     [[nodiscard]] bool runMode() const override;
     [[nodiscard]] std::u16string containerName() const override;
     [[nodiscard]] platform::ParentForm parentForm() const override;

@@ -18,54 +18,27 @@ using control::PropertyType;
 constexpr std::u16string_view ownCategories[] = {u"Calendário", u"Data e hora", u"Erros", u"Máscara", u"Número"};
 enum OwnCategory { calendar = 1, date, errors, mask, number };
 
-struct Prefix {
-    std::u16string_view text;
-    int category;
-};
-// The first that a name begins with.
-constexpr Prefix prefixes[] = {
-    {u"Calendar_", calendar},
-    {u"ShowButton", category::behaviour},
-    {u"Font", category::font},
-    {u"Error", errors},
-    {u"Msg", errors},
-    {u"Mask", mask},
-    {u"PromptChar", mask},
-    {u"CaractLiberados", mask},
-    {u"TextoLivre", mask},
-    {u"DateFormat", date},
-    {u"Formato", date},
-    {u"Simbol", number},
-    {u"CorValor", number},
-    {u"QtdCasasDec", number},
-    {u"InserirZeros", number},
-    {u"AceitaNegativos", number},
-    {u"Text", category::text},
-    {u"tipoLetra", category::text},
-    {u"Sel", category::text},
-    {u"Value", category::data},
-    {u"ValorPadrao", category::data},
-    {u"Delimitador", category::data},
-    {u"EsquemaRetornoAtual", category::data},
-    {u"IF_IsEmpty", category::data},
-    {u"NomeCampo", category::data},
-    {u"CampoRequerido", category::data},
-    {u"Alignment", category::appearance},
-    {u"Appearance", category::appearance},
-    {u"Border", category::appearance},
-};
-
-int categoryOf(const control::Property& property)
+int categoryOf(control::Category which)
 {
-    for (const Prefix& prefix : prefixes)
-        if (property.name.starts_with(prefix.text))
-            return prefix.category;
-    return property.type == PropertyType::colour ? category::appearance : category::behaviour;
+    using control::Category;
+    switch (which) {
+    case Category::behaviour: return category::behaviour;
+    case Category::appearance: return category::appearance;
+    case Category::font: return category::font;
+    case Category::text: return category::text;
+    case Category::data: return category::data;
+    case Category::calendar: return calendar;
+    case Category::date: return date;
+    case Category::errors: return errors;
+    case Category::mask: return mask;
+    case Category::number: break;
+    }
+    return number;
 }
 
 WORD accessOf(const control::Property& property)
 {
-    switch (property.access) {
+    switch (property.access()) {
     case control::Access::read: return DISPATCH_PROPERTYGET;
     case control::Access::readWrite: return DISPATCH_PROPERTYGET | DISPATCH_PROPERTYPUT;
     case control::Access::readWriteReference: break;
@@ -76,15 +49,15 @@ WORD accessOf(const control::Property& property)
 // Colours and the font go to the system's pages; what is chosen from a list needs none.
 const CLSID* pageOf(const control::Property& property)
 {
-    switch (property.type) {
+    switch (property.type()) {
     case PropertyType::colour: return &CLSID_CColorPropPage;
     case PropertyType::font: return &CLSID_CFontPropPage;
     case PropertyType::enumeration:
     case PropertyType::boolean: return nullptr;
     default: break;
     }
-    const PageEntry* const entry = findPageEntry(property.name);
-    return entry ? &pageClass(entry->page) : nullptr;
+    const auto page = pages::findPageKind(property.page.name);
+    return page ? &pageClass(*page) : nullptr;
 }
 
 Member memberOf(const control::Property& property, std::size_t row)
@@ -93,9 +66,9 @@ Member memberOf(const control::Property& property, std::size_t row)
             .id = property.dispid,
             .access = accessOf(property),
             .bindable = property.bindable,
-            .enumeration = property.enumeration,
+            .enumeration = control::enumerationOf(property),
             .page = pageOf(property),
-            .category = categoryOf(property),
+            .category = categoryOf(property.category),
             .row = row};
 }
 
@@ -125,10 +98,10 @@ Variant propertyVariant(const control::Property& property, const engine::Value& 
 {
     Variant result = variantFromValue(value);
     const LONG whole = result.get().vt == VT_I4 ? result.get().lVal : 0;
-    if (property.type == PropertyType::byte) {
+    if (property.type() == PropertyType::byte) {
         result.ref().vt = VT_UI1;
         result.ref().bVal = static_cast<BYTE>(whole);
-    } else if (property.type == PropertyType::integer) {
+    } else if (property.type() == PropertyType::integer) {
         result.ref().vt = VT_I2;
         result.ref().iVal = static_cast<SHORT>(whole);
     }

@@ -46,6 +46,13 @@ engine::Value convert(PropertyType type, const engine::Value& value, const engin
     return value;
 }
 
+std::int32_t notNegative(std::int32_t value)
+{
+    if (value < 0)
+        engine::raise(engine::error_number::invalidPropertyValue);
+    return value;
+}
+
 std::uint8_t wholePoints(double size)
 {
     if (!(size >= 0 && size < 255.5))

@@ -1,7 +1,7 @@
 // Between the values that hosts pass and the C++ types of properties.
 #pragma once
 
-#include "control/property_table.h"
+#include "control/property.h"
 #include "engine/text/locale.h"
 #include "engine/value.h"
 
@@ -18,6 +18,9 @@ namespace vela::control {
 
 // A font's size as the byte that hosts see: halves to even, 8.25 is 8. Raises 6 beyond 255.
 [[nodiscard]] std::uint8_t wholePoints(double size);
+
+// The number itself; raises 380 below 0.
+[[nodiscard]] std::int32_t notNegative(std::int32_t value);
 
 template <class T>
 [[nodiscard]] constexpr PropertyType propertyTypeOf() noexcept

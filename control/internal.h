@@ -65,13 +65,6 @@ private:
     std::unique_ptr<std::u16string> text_;
 };
 
-template <class T, class U>
-void Vela::store(T& field, const U& value, View name)
-{
-    field = value;
-    markChanged(name);
-}
-
 template <class T>
 void Vela::putTrait(T platform::EditTraits::*trait, const T& value)
 {
@@ -79,16 +72,6 @@ void Vela::putTrait(T platform::EditTraits::*trait, const T& value)
         return;
     platform::EditTraits traits = box().traits();
     traits.*trait = value;
-    box().putTraits(traits);
-}
-
-template <class T>
-void Vela::putFontPart(T FontDescription::*part, const T& value)
-{
-    if (box().traits().font.*part == value)
-        return;
-    platform::EditTraits traits = box().traits();
-    traits.font.*part = value;
     box().putTraits(traits);
 }
 

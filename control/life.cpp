@@ -2,6 +2,7 @@
 #include "control/internal.h"
 
 #include "control/persistence.h"
+#include "control/property_table.h"
 #include "engine/error.h"
 #include "engine/scoped_value.h"
 #include "tooltip/about_box.h"
@@ -19,36 +20,13 @@ Vela::~Vela()
     terminate();
 }
 
-// Sets the defaults through the setters, because the host is notified in this order. In run mode MultLine cannot be
-// put, and a new control has the single-line box.
+// Puts the defaults one after the other, because the host is notified in this order. A new control has the single-line
+// box already.
 void Vela::initNew()
 {
-    EsquemaRetornoAtual(eEsquemasRetorno::Primeiro);
-    ToolTipGotFocusTipo(eIconeToolTipText::TTNoIcon);
-    if (!host_.runMode())
-        MultLine(false);
-    TextType(TipoText::TextoNormal);
-    BackColorGotFocus({0x00FFFFFF});
-    BackColorLostFocus({0x00FFFFFF});
-    BackColor_MouseMove({0x00FEF7E9});
-    BorderColor_MouseMove({0x0000C000});
-    BorderColorGotfocus({0x00FFFFFF});
-    BorderColorLostfocus({0x00FFFFFF});
-    Error_ForeColor({0x000000FF});
-    ForeColor_GotFocus({0});
-    ForeColor_LostFocus({0});
-    Enabled(true);
-    FormatoExibData(u"__/__/____");
-    TextoLivre(true);
-    AutoSelect(true);
-    InserirZeros(true);
-    Calendar_FormBackcolor({0x00FFFFFF});
-    Calendar_ComboBackColor({0x80000005});
-    Calendar_BackColor({0x00DFDFDF});
-    Calendar_ColorWeekDay({0x00808000});
-    Calendar_DayActive({0x80000012});
-    Calendar_DayInactive({0x00808080});
-    Calendar_Selected({0x00C0E0FF});
+    for (const Property* const property : freshOrder())
+        if (!property->fresh.designOnly || !host_.runMode())
+            put(*property, valueOf(property->type(), property->fresh.value));
     settings_.inserirZeros = false; // overrides the put above
     putTrait(&platform::EditTraits::enabled, true);
     layOut();
@@ -127,11 +105,11 @@ void Vela::prepareText()
         if (settings_.mask.empty())
             settings_.mask = settings_.formatoExibData;
         writeText(Text16(settings_.formatoExibData), Writer::life);
-        MaxLength(lengthAsInteger(settings_.formatoExibData));
+        putTrait(&platform::EditTraits::maxLength, int{lengthAsInteger(settings_.formatoExibData)});
         return;
     case TipoText::Mascara:
         writeText(Text16(settings_.mask), Writer::life);
-        MaxLength(lengthAsInteger(settings_.mask));
+        putTrait(&platform::EditTraits::maxLength, int{lengthAsInteger(settings_.mask)});
         return;
     }
 }
@@ -188,10 +166,22 @@ void Vela::LimparMemoria()
     surface_.enableHoverTimer(false); // a tick would read the released box
 }
 
-void Vela::markChanged(View name)
+void Vela::put(const Property& property, const engine::Value& value)
 {
+    property.value.put(*this, value);
+    notify(property);
+}
+
+void Vela::notify(const Property& property)
+{
+    if (!property.notification.sent)
+        return;
+    const View otherName = property.notification.name;
     const engine::Alive alive(life_);
-    host_.propertyChanged(name);
+    if (otherName.empty())
+        host_.propertyChanged(property.name, property.dispid);
+    else
+        host_.propertyChanged(otherName, platform::unknownProperty);
     if (!alive)
         engine::raise(engine::error_number::objectNotSet);
 }

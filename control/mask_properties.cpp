@@ -20,29 +20,28 @@ engine::MaskSettings Vela::maskSettings() const
     return {settings_.mask, settings_.maskRules, settings_.promptChar, settings_.locked};
 }
 
-void Vela::Mask(View value)
+void Vela::putMask(View value)
 {
     if (value.empty() && settings_.textType == TipoText::Mascara)
         engine::raise(engine::error_number::emptyMask);
     const std::int16_t length = lengthAsInteger(value);
     settings_.mask = value;
-    MaxLength(length);
+    putTrait(&platform::EditTraits::maxLength, int{length});
     Text(u"");
-    markChanged(u"Mask");
 }
 
-void Vela::MaskRules(View value)
+void Vela::putMaskRules(View value)
 {
-    store(settings_.maskRules, settings_.textType == TipoText::Mascara ? value : View(), u"MaskRules");
+    settings_.maskRules = settings_.textType == TipoText::Mascara ? value : View();
 }
 
 // Oddity: MaskSomenteNumeros is kept and saved, and read by nothing; saved forms hold the key.
-void Vela::MaskSomenteNumeros(bool value)
+void Vela::putMaskSomenteNumeros(bool value)
 {
-    store(settings_.maskSomenteNumeros, value && masked(), u"MaskSomenteNumeros");
+    settings_.maskSomenteNumeros = value && masked();
 }
 
-void Vela::MaskToNumeric(bool value)
+void Vela::putMaskToNumeric(bool value)
 {
     settings_.maskToNumeric = value && settings_.textType == TipoText::Numerico;
     if (settings_.maskToNumeric) {
@@ -51,18 +50,16 @@ void Vela::MaskToNumeric(bool value)
     } else {
         Text(u"");
     }
-    markChanged(u"MaskToNumeric");
 }
 
 // The old default is cleared before the type changes, because the setter depends on the type.
 // Oddity: switching TextType first clears ValorPadrao and may show boxes of the setters it runs; forms put the default
 // after the type.
-void Vela::TextType(TipoText value)
+void Vela::putTextType(TipoText value)
 {
     if (settings_.multLine) {
         settings_.textType = TipoText::TextoNormal;
         showBox(platform::BoxIcon::exclamation, u"", u"Impossível modicar formato de dados, Textbox está multline");
-        markChanged(u"TextType");
         return;
     }
     ValorPadrao(u"");
@@ -73,29 +70,28 @@ void Vela::TextType(TipoText value)
     case TipoText::Data: switchToDate(); break;
     case TipoText::Mascara: switchToMask(); break;
     }
-    markChanged(u"TextType");
 }
 
 void Vela::switchToText()
 {
     putTrait(&platform::EditTraits::locked, false);
-    Locked(false);
-    ShowButtonCalendario(false);
-    ShowButtonCalculadora(false);
+    putLocked(false);
+    putCalendarButton(false);
+    putCalculatorButton(false);
     Text(u"");
     writeText(u"", Writer::host);
     Mask(u"");
-    Alignment(Alinhamento::vbLeft);
-    MaxLength(0);
+    putTrait(&platform::EditTraits::alignment, platform::TextAlignment::left);
+    putTrait(&platform::EditTraits::maxLength, 0);
 }
 
 void Vela::switchToNumber()
 {
     putTrait(&platform::EditTraits::locked, settings_.locked); // a date or a mask had locked the box
-    ShowButtonCalendario(false);
+    putCalendarButton(false);
     Text(u"");
     Mask(u"");
-    Alignment(Alinhamento::vbRight);
+    putTrait(&platform::EditTraits::alignment, platform::TextAlignment::right);
     ValorPadrao(u"");
     CaractLiberados(u"");
 }
@@ -103,11 +99,11 @@ void Vela::switchToNumber()
 void Vela::switchToDate()
 {
     MaskRules(u"");
-    Locked(false);
-    TextoLivre(true);
+    putLocked(false);
+    settings_.textoLivre = true;
     putTrait(&platform::EditTraits::locked, true);
     Mask(settings_.formatoExibData);
-    Alignment(Alinhamento::vbCenter);
+    putTrait(&platform::EditTraits::alignment, platform::TextAlignment::center);
     writeText(settings_.formatoExibData, Writer::host);
     Text(settings_.formatoExibData);
     CaractLiberados(u"");
@@ -115,15 +111,15 @@ void Vela::switchToDate()
 
 void Vela::switchToMask()
 {
-    TextoLivre(true);
-    ShowButtonCalendario(false);
-    ShowButtonCalculadora(false);
+    settings_.textoLivre = true;
+    putCalendarButton(false);
+    putCalculatorButton(false);
     CaractLiberados(u"");
     if (settings_.mask.empty())
         showBox(platform::BoxIcon::information, u"Vela", u"A máscara não foi definida");
-    Locked(false);
+    putLocked(false);
     putTrait(&platform::EditTraits::locked, true);
-    Alignment(Alinhamento::vbCenter);
+    putTrait(&platform::EditTraits::alignment, platform::TextAlignment::center);
     writeText(settings_.mask, Writer::host);
 }
 

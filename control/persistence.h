@@ -1,4 +1,4 @@
-// The settings of a control in the host's property bag: 79 keys, their defaults, their two orders.
+// The settings of a control in the host's property bag, as the property table says.
 #pragma once
 
 #include "control/settings.h"
@@ -7,9 +7,7 @@
 #include "platform/edit_box.h"
 #include "popups/calendar_colours.h"
 
-#include <span>
 #include <string>
-#include <string_view>
 
 namespace vela::control {
 
@@ -21,9 +19,6 @@ struct StoredState {
     std::u16string text;
     popups::CalendarColours colours;
 };
-
-// The keys in the order in which they are read.
-[[nodiscard]] std::span<const std::u16string_view> storedKeys() noexcept;
 
 // Reads what the bag holds, and defaults for what it lacks. When the bag fails, or holds what does not convert, the
 // error is raised with `state` complete: what was read, and the defaults for the rest (the calendar colours, which all

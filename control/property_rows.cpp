@@ -1,284 +1,558 @@
-// The rows of the property table, in the order of the interface. DISPIDs never change; rows are appended.
-#include "control/property_rows.h"
+// The property table: one row a property, in the order of the interface. DISPIDs never change; rows are appended.
+#include "control/property_table.h"
 
-#include "control/conversion.h"
-#include "control/vela.h"
-#include "engine/error.h"
-#include "engine/field/property_types.h"
+#include "control/box_values.h"
+#include "control/internal.h"
+#include "control/property_values.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace vela::control {
 
 namespace {
 
-using engine::Colour;
 using enum Browsable;
-using Name = std::u16string_view;
+using enum Category;
 
-template <class T, T (Vela::*Get)() const>
-engine::Value get(Vela& control)
+// Oddity: Error_ForeColor announces itself as "ErrorForeColor", tipoLetra as "tipoletra"; hosts compare these names.
+// Oddity: the underline flag is saved as FontUnderLine, unlike the property; saved forms hold that key.
+// Oddity: ToolTipGotFocusTipo = TTIconInfo reloads as TTNoIcon (what is left out when writing is not what is read for a
+// missing key); files of both kinds are in use.
+// Oddity: an empty FormatoExibData or DateFormat reloads as its default; forms without the key depend on it.
+// Oddity: TextType is written after MaskRules: a first apply that switches to Mascara loses the rules; existing forms
+// were saved in this order.
+// clang-format off
+constexpr auto rows = std::to_array<Property>({
+    {.name = u"AceitaNegativos", .dispid = 1, .browsable = no, .category = number,
+     .help = u"Habilita o uso o sinal de negativo quando a propriedade TextType for do tipo numerico",
+     .value = setting<&Settings::aceitaNegativos>, .saved = {.read = 20, .written = 20},
+     .page = {u"ppPrincipal", u"chkAceitaNegativos", 9, 9},
+     .manual = {"N", "True", "", "Whether a number may begin with \"-\".", "Se um número pode começar com \"-\"."}},
+    {.name = u"Alignment", .dispid = 2, .category = appearance,
+     .help = u"Alinhamento do texto na caixa",
+     .value = trait<&platform::EditTraits::alignment>, .enumeration = u"Alinhamento", .notification = silent,
+     .saved = {.read = 73, .written = 16, .leftOut = nothing},
+     .manual = {"TNDM", "2", "", "Where the text stands in the box. Setting `TextType` sets it, too."}},
+    {.name = u"Appearance", .dispid = -520, .category = appearance,
+     .help = u"Borda rebaixada da própria caixa, ou borda desenhada pelo controle",
+     .value = setting<&Settings::appearance, &Vela::putAppearance>, .enumeration = u"Aparencia", .notification = silent,
+     .saved = {.read = 57, .written = 15, .loaded = 1},
+     .manual = {"TNDM", "0", "",
+                "Whether the box has its own sunken border (`c3D`) or the control draws the border (`cFlat`)."}},
+    {.name = u"AutoSelect", .dispid = 3, .category = behaviour,
+     .help = u"Faz a AutoSeleção do texto quando a Caixa ganhar o Foco",
+     .value = setting<&Settings::autoSelect>, .saved = {.read = 14, .written = 29}, .fresh = {17, 1},
+     .page = {u"ppGeral", u"chkAutoSelect", 3, 2},
+     .manual = {"TNDM", "True", "",
+                "Whether the text is selected when the field is entered.",
+                "Se o texto é selecionado quando o campo recebe o foco."}},
+    {.name = u"AutoTAB", .dispid = 4, .category = behaviour,
+     .help = u"Quando o Campo Completar Qtd de Carateres do MaxLenght Então pula para o próximo campo",
+     .value = setting<&Settings::autoTab>, .saved = {.read = 31, .written = 32},
+     .manual = {"TNDM", "True", "",
+                "Whether the focus moves on when the last place is filled.",
+                "Se o foco segue adiante quando a última posição é preenchida."}},
+    {.name = u"BackColor", .dispid = -501, .category = appearance,
+     .help = u"Cor de fundo atual da caixa; define também BackColorGotFocus",
+     .value = backColour, .saved = {.read = 68, .written = 27, .loaded = 0x00FFFFFF, .leftOut = nothing},
+     .manual = {"TNDM", "&H00FFFFFF", "", "The box's background now; setting it sets `BackColorGotFocus` too."}},
+    {.name = u"BackColor_MouseMove", .dispid = 5, .category = appearance,
+     .help = u"Cor de fundo enquanto o ponteiro está sobre o campo",
+     .value = setting<&Settings::backColorMouseMove>,
+     .saved = {.read = 12, .written = 11, .loaded = 0x00F7F7F7}, .fresh = {7, 0x00FEF7E9},
+     .manual = {"TNDM", "&H00FEF7E9", "", "The background while the pointer is over the field."}},
+    {.name = u"BackColorGotFocus", .dispid = 6, .category = appearance,
+     .help = u"Cor de fundo enquanto o campo tem o foco",
+     .value = setting<&Settings::backColorGotFocus>,
+     .saved = {.read = 10, .written = 9, .loaded = 0x00FFFFFF}, .fresh = {5, 0x00FFFFFF},
+     .page = {u"ppGeral", u"PicCorFundoGot", 4, 3},
+     .manual = {"TNDM", "&H00D0FFFF", "", "The background while the field has the focus."}},
+    {.name = u"BackColorLostFocus", .dispid = 7, .category = appearance,
+     .help = u"Cor de fundo enquanto o campo não tem o foco",
+     .value = setting<&Settings::backColorLostFocus>,
+     .saved = {.read = 11, .written = 10, .loaded = 0x00FFFFFF}, .fresh = {6, 0x00FFFFFF},
+     .page = {u"ppGeral", u"PicCorFundoLost", 5, 4},
+     .manual = {"TNDM", "&H00FFFFFF", "", "The background while it has not."}},
+    {.name = u"BorderColor_MouseMove", .dispid = 8, .category = appearance,
+     .help = u"Cor da borda enquanto o ponteiro está sobre o campo",
+     .value = setting<&Settings::borderColorMouseMove>,
+     .saved = {.read = 5, .written = 5, .loaded = 0x0000C000}, .fresh = {8, 0x0000C000},
+     .manual = {"TNDM", "&H0000C000", "", "The border's colour while the pointer is over the field."}},
+    {.name = u"BorderColorGotfocus", .dispid = 9, .category = appearance,
+     .help = u"Cor da borda enquanto o campo tem o foco",
+     .value = setting<&Settings::borderColorGotfocus>,
+     .saved = {.read = 6, .written = 6, .loaded = 0x00FFFFFF}, .fresh = {9, 0x00FFFFFF},
+     .manual = {"TNDM", "&H00C07000", "", "The border's colour while the field has the focus."}},
+    {.name = u"BorderColorLostfocus", .dispid = 10, .category = appearance,
+     .help = u"Cor da borda enquanto o campo não tem o foco",
+     .value = setting<&Settings::borderColorLostfocus, &Vela::putBorderColorLostfocus>,
+     .saved = {.read = 7, .written = 7, .loaded = 0x00FFFFFF}, .fresh = {10, 0x00FFFFFF},
+     .manual = {"TNDM", "&H00909090", "", "The border's colour while it has not."}},
+    {.name = u"BorderStyle", .dispid = -504, .category = appearance,
+     .help = u"Estando true, o controle colocar uma borda Flat",
+     .value = setting<&Settings::borderStyle, &Vela::putBorderStyle>, .enumeration = u"eEstiloBorda",
+     .saved = {.read = 4, .written = 4},
+     .manual = {"TNDM", "5", "",
+                "The line of the border, drawn with `Appearance` `cFlat`; `XP` rounds the corners and takes no "
+                "button.",
+                "A linha da borda, desenhada com `Appearance` `cFlat`; `XP` arredonda os cantos e não tem botão."}},
+    {.name = u"Calendar_BackColor", .dispid = 11, .browsable = no, .category = calendar,
+     .help = u"Cor do painel do calendário; as sete cores do calendário são comuns a todo o processo",
+     .value = calendarColour<&popups::CalendarColours::back>,
+     .saved = {.read = 62, .written = 75, .loaded = 0x80000005}, .fresh = {21, 0x00DFDFDF},
+     .page = {u"ppCalendario", u"PicCorCalendario", 1, 1, 0},
+     .manual = {"D", "&H00DFDFDF", "",
+                "The calendar's panel. The seven calendar colours are shared by the whole process."}},
+    {.name = u"Calendar_ColorWeekDay", .dispid = 12, .browsable = no, .category = calendar,
+     .help = u"Cor dos nomes dos dias da semana no calendário",
+     .value = calendarColour<&popups::CalendarColours::weekDay>,
+     .saved = {.read = 64, .written = 76, .loaded = 0x00800000}, .fresh = {22, 0x00808000},
+     .page = {u"ppCalendario", u"PicCorCalendario", 5, 5, 4},
+     .manual = {"D", "&H00808000", "", "The calendar's names of the weekdays."}},
+    {.name = u"Calendar_ComboBackColor", .dispid = 13, .browsable = no, .category = calendar,
+     .help = u"Cor de fundo das listas de mês e ano do calendário",
+     .value = calendarColour<&popups::CalendarColours::combo>,
+     .saved = {.read = 63, .written = 74, .loaded = 0x80000005}, .fresh = {20, 0x80000005},
+     .page = {u"ppCalendario", u"PicCorCalendario", 2, 2, 1},
+     .manual = {"D", "&H80000005", "", "The background of the calendar's month and year lists."}},
+    {.name = u"Calendar_DayActive", .dispid = 14, .browsable = no, .category = calendar,
+     .help = u"Cor dos dias do mês mostrado no calendário",
+     .value = calendarColour<&popups::CalendarColours::dayActive>,
+     .saved = {.read = 65, .written = 77, .loaded = 0x80000012}, .fresh = {23, 0x80000012},
+     .page = {u"ppCalendario", u"PicCorCalendario", 3, 3, 2},
+     .manual = {"D", "&H80000012", "", "The days of the month on show."}},
+    {.name = u"Calendar_DayInactive", .dispid = 15, .browsable = no, .category = calendar,
+     .help = u"Cor dos dias do mês anterior e do seguinte no calendário",
+     .value = calendarColour<&popups::CalendarColours::dayInactive>,
+     .saved = {.read = 66, .written = 78, .loaded = 0x00808080}, .fresh = {24, 0x00808080},
+     .page = {u"ppCalendario", u"PicCorCalendario", 4, 4, 3},
+     .manual = {"D", "&H00808080", "", "The days of the months before and after."}},
+    {.name = u"Calendar_FormBackcolor", .dispid = 16, .browsable = no, .category = calendar,
+     .help = u"Cor da borda do calendário",
+     .value = calendarColour<&popups::CalendarColours::form>,
+     .saved = {.read = 61, .written = 73, .loaded = 0x00C0C0C0}, .fresh = {19, 0x00FFFFFF},
+     .page = {u"ppCalendario", u"PicCorCalendario", 6, 6, 5},
+     .manual = {"D", "&H00FFFFFF", "", "The calendar's edge."}},
+    {.name = u"Calendar_Selected", .dispid = 17, .browsable = no, .category = calendar,
+     .help = u"Muda Cor do Circulo que seleciona as datas",
+     .value = calendarColour<&popups::CalendarColours::selected>,
+     .saved = {.read = 67, .written = 79, .loaded = 0x00C0FFFF}, .fresh = {25, 0x00C0E0FF},
+     .page = {u"ppCalendario", u"PicCorCalendario", 7, 7, 6},
+     .manual = {"D", "&H00C0E0FF", "", "The circle of the selected day.", "O círculo do dia escolhido."}},
+    {.name = u"CampoRequerido", .dispid = 18, .category = data,
+     .help = u"Marca o campo como obrigatório para o programa; o controle não verifica",
+     .value = setting<&Settings::campoRequerido>, .notification = silent, .saved = {.read = 58, .written = 47},
+     .manual = {"TNDM", "True", "", "Marks a required field, for the application; the control does not act on it."}},
+    {.name = u"CaractLiberados", .dispid = 19, .browsable = no, .category = mask,
+     .help = u"Caracteres que podem ser digitados quando TextoLivre é False",
+     .value = setting<&Settings::caractLiberados>, .saved = {.read = 21, .written = 21},
+     .page = {u"ppPrincipal", u"lstLetrasPermitidas", 25, 25},
+     .manual = {"T", "\"ABC123\"", "",
+                "The characters that may be typed when `TextoLivre` is False. Setting `TextType` to another type "
+                "empties it."}},
+    {.name = u"CorValorNeg", .dispid = 20, .browsable = no, .category = number,
+     .help = u"Cor do texto de um número negativo depois de se sair do campo",
+     .value = setting<&Settings::corValorNeg>, .saved = {.read = 40, .written = 58},
+     .page = {u"ppPrincipal", u"PicCorNegativa", 7, 7},
+     .manual = {"N", "&H000000FF", "", "The text colour of a number below zero once the field is left."}},
+    {.name = u"CorValorPos", .dispid = 21, .browsable = no, .category = number,
+     .help = u"Cor do texto de um número positivo depois de se sair do campo",
+     .value = setting<&Settings::corValorPos>, .saved = {.read = 41, .written = 59},
+     .page = {u"ppPrincipal", u"PicCorPositiva", 8, 8},
+     .manual = {"N", "&H00800000", "", "The text colour of a number above zero once the field is left."}},
+    {.name = u"DateFormat", .dispid = 22, .browsable = no, .category = date,
+     .help = u"Posições de dia, mês e ano (ou hora, minuto e segundo) e formato das datas escritas no campo",
+     .value = setting<&Settings::dateFormat>,
+     .saved = {.read = 46, .written = 60, .loaded = u"dd/mm/yyyy", .leftOut = other(u"")},
+     .page = {u"ppPrincipal", u"cboFormatoData", 11, 18},
+     .manual = {"D", "\"dd/mm/yyyy\"", "",
+                "Which positions are day, month and year (or hour, minute, second), and how dates are written into "
+                "the field."}},
+    {.name = u"Delimitador", .dispid = 23, .category = data,
+     .help = u"Texto em volta de Value no primeiro esquema de retorno",
+     .value = element<&Settings::delimiters, 0>, .saved = {.read = 53, .written = 68},
+     .page = {u"ppGeral", u"txtDelimitador", 7, 6},
+     .manual = {"TNDM", "\"'\"", "",
+                "The text around `Value` in the first return scheme; leave it empty for numbers."}},
+    {.name = u"Delimitador02", .dispid = 24, .browsable = no, .category = data,
+     .help = u"Texto em volta de Value no segundo esquema de retorno",
+     .value = element<&Settings::delimiters, 1>, .saved = {.read = 54, .written = 69},
+     .page = {u"ppGeral", u"txtDelimitador02", 8, 7},
+     .manual = {"TNDM", "\"#\"", "", "The same for the second."}},
+    {.name = u"Delimitador03", .dispid = 25, .browsable = no, .category = data,
+     .help = u"Texto em volta de Value no terceiro esquema de retorno",
+     .value = element<&Settings::delimiters, 2>, .saved = {.read = 55, .written = 70},
+     .page = {u"ppGeral", u"txtDelimitador03", 9, 8},
+     .manual = {"TNDM", "\"#\"", "", "The same for the third."}},
+    {.name = u"Delimitador04", .dispid = 26, .browsable = no, .category = data,
+     .help = u"Texto em volta de Value no quarto esquema de retorno",
+     .value = element<&Settings::delimiters, 3>, .saved = {.read = 56, .written = 71},
+     .page = {u"ppGeral", u"txtDelimitador04", 10, 9},
+     .manual = {"TNDM", "\"#\"", "", "The same for the fourth."}},
+    {.name = u"Enabled", .dispid = -514, .category = behaviour,
+     .help = u"Se o campo pode ser usado",
+     .value = enabledValue, .notification = silent,
+     .saved = {.read = 72, .written = 14, .loaded = 1}, .fresh = {14, 1},
+     .manual = {"TNDM", "False", "", "Whether the field can be used."}},
+    {.name = u"EnterAsTab", .dispid = 27, .category = behaviour,
+     .help = u"Simula um TAB quando é pressionado o ENTER",
+     .value = setting<&Settings::enterAsTab>, .saved = {.read = 15, .written = 30},
+     .page = {u"ppGeral", u"chkSendTab", 2, 1},
+     .manual = {"TNDM", "True", "", "Whether Enter moves to the next field.", "Se Enter passa ao próximo campo."}},
+    {.name = u"Error_ForeColor", .dispid = 28, .browsable = no, .category = errors,
+     .help = u"Cor do texto de um valor errado",
+     .value = setting<&Settings::errorForeColor>, .notification = {u"ErrorForeColor"},
+     .saved = {.read = 30, .written = 39, .loaded = 0x000000FF}, .fresh = {11, 0x000000FF},
+     .page = {u"ppErros", u"PicCor", 1, 6},
+     .manual = {"D", "&H000000FF", "", "The text colour of a wrong entry."}},
+    {.name = u"ErrorAlert", .dispid = 29, .browsable = hidden, .category = errors,
+     .help = u"Exibir alerta que o valor digitado esta incorreto",
+     .value = setting<&Settings::errorAlert>, .saved = {.read = 17, .written = 36},
+     .page = {u"ppErros", u"chkExibirAlertaPadrao", 2, 1},
+     .manual = {"ND", "True", "",
+                "Whether a balloon tells of a wrong entry.",
+                "Se um balão avisa de um valor errado."}},
+    {.name = u"ErrorFocus", .dispid = 30, .browsable = no, .category = errors,
+     .help = u"Se o foco fica no campo até que o valor esteja certo",
+     .value = setting<&Settings::errorFocus>, .saved = {.read = 42, .written = 33},
+     .page = {u"ppErros", u"chkErrorFocus", 3, 2},
+     .manual = {"ND", "True", "", "Whether the focus stays until the entry is right."}},
+    {.name = u"ErrorMsgCustom", .dispid = 31, .browsable = hidden, .category = errors,
+     .help = u"Habilita para que o componente use as mensagens de erro padrao do Componente",
+     .value = setting<&Settings::errorMsgCustom>, .saved = {.read = 19, .written = 38},
+     .page = {u"ppErros", u"chkPersonalizarMsgErro", 4, 3},
+     .manual = {"ND", "True", "",
+                "Whether the balloon shows `ErrorTextMessage`.",
+                "Se o balão mostra `ErrorTextMessage`."}},
+    {.name = u"ErrorTextClear", .dispid = 32, .browsable = no, .category = errors,
+     .help = u"Se um valor errado é apagado",
+     .value = setting<&Settings::errorTextClear>, .saved = {.read = 43, .written = 34},
+     .page = {u"ppErros", u"chkLimpaCampo", 5, 4},
+     .manual = {"ND", "True", "", "Whether a wrong entry is emptied."}},
+    {.name = u"ErrorTextMessage", .dispid = 33, .browsable = hidden, .category = errors,
+     .help = u"Mostra o texto informado nesta propriedade quando houver erro",
+     .value = setting<&Settings::errorTextMessage>, .saved = {.read = 18, .written = 37},
+     .page = {u"ppErros", u"txtMsgCustom", 6, 5},
+     .manual = {"ND", "\"Data errada\"", "", "Your own text for the balloon.", "O seu texto para o balão."}},
+    {.name = u"Font", .dispid = -512, .category = font,
+     .help = u"Fonte da caixa, como objeto",
+     .value = fontValue,
+     .manual = {"TNDM", "", "13",
+                "The box's font, as an object: `Name`, `Size`, `Bold`, `Italic`, `Underline`, `Strikethrough`."}},
+    {.name = u"FontBold", .dispid = 34, .browsable = no, .category = font,
+     .help = u"Negrito",
+     .value = fontPart<&platform::FontDescription::bold>, .saved = {.read = 74, .written = 24, .leftOut = nothing},
+     .page = {u"ppFonte", u"Negrito", 3, 3},
+     .manual = {"TNDM", "True", "", "Bold."}},
+    {.name = u"FontItalic", .dispid = 35, .browsable = no, .category = font,
+     .help = u"Itálico",
+     .value = fontPart<&platform::FontDescription::italic>, .saved = {.read = 77, .written = 49},
+     .page = {u"ppFonte", u"Italico", 4, 4},
+     .manual = {"TNDM", "True", "", "Italic."}},
+    {.name = u"FontName", .dispid = 36, .browsable = no, .category = font,
+     .help = u"Nome da fonte",
+     .value = fontPart<&platform::FontDescription::name>,
+     .saved = {.read = 76, .written = 26, .loaded = u"MS Sans Serif", .leftOut = nothing},
+     .page = {u"ppFonte", u"CboFontName", 1, 1},
+     .manual = {"TNDM", "\"Tahoma\"", "", "The font's name."}},
+    {.name = u"FontSize", .dispid = 37, .browsable = no, .category = font,
+     .help = u"Tamanho da fonte em pontos",
+     .value = fontSizeValue, .saved = {.read = 75, .written = 25, .loaded = 8, .leftOut = nothing},
+     .page = {u"ppFonte", u"txtSize", 2, 2},
+     .manual = {"TNDM", "10", "6", "The font's size in points, 0 to 255."}},
+    {.name = u"FontStrikethru", .dispid = 38, .browsable = no, .category = font,
+     .help = u"Tachado",
+     .value = fontPart<&platform::FontDescription::strikethrough>, .saved = {.read = 79, .written = 51},
+     .page = {u"ppFonte", u"Cortado", 6, 6},
+     .manual = {"TNDM", "True", "", "Struck through."}},
+    {.name = u"FontUnderline", .dispid = 39, .browsable = no, .category = font,
+     .help = u"Sublinhado",
+     .value = fontPart<&platform::FontDescription::underline>,
+     .saved = {.read = 78, .written = 50, .key = u"FontUnderLine"}, .page = {u"ppFonte", u"Sublinhado", 5, 5},
+     .manual = {"TNDM", "True", "", "Underlined. Saved as `FontUnderLine`."}},
+    {.name = u"ForeColor_GotFocus", .dispid = 40, .category = appearance,
+     .help = u"Cor do texto enquanto o campo tem o foco",
+     .value = setting<&Settings::foreColorGotFocus>, .saved = {.read = 8, .written = 23}, .fresh = {12, 0},
+     .manual = {"TNDM", "&H00800000", "", "The text colour while the field has the focus."}},
+    {.name = u"ForeColor_LostFocus", .dispid = 41, .category = appearance,
+     .help = u"Cor do texto enquanto o campo não tem o foco",
+     .value = setting<&Settings::foreColorLostFocus>, .saved = {.read = 9, .written = 22}, .fresh = {13, 0},
+     .manual = {"TNDM", "&H00000000", "", "The text colour while it has not."}},
+    {.name = u"FormatoExibData", .dispid = 42, .browsable = no, .category = date,
+     .help = u"O que um campo de data vazio mostra; do mesmo tamanho de DateFormat",
+     .value = setting<&Settings::formatoExibData>,
+     .saved = {.read = 45, .written = 61, .loaded = u"__/__/____", .leftOut = other(u"")}, .fresh = {15, u"__/__/____"},
+     .page = {u"ppPrincipal", u"txtFormatoExibData", 12, 13},
+     .manual = {"D", "\"__/__/____\"", "",
+                "What an empty date field shows; copied into `Mask` when `TextType` becomes `Data`. As long as "
+                "`DateFormat`."}},
+    {.name = u"FormatoRetornoData", .dispid = 43, .browsable = no, .category = date,
+     .help = u"Formato da data de Value no primeiro esquema de retorno",
+     .value = element<&Settings::returnFormats, 0>, .saved = {.read = 47, .written = 62},
+     .page = {u"ppPrincipal", u"cboDataRetorno", 13, 14},
+     .manual = {"D", "\"yyyy-mm-dd\"", "", "The date pattern of `Value` in the first return scheme."}},
+    {.name = u"FormatoRetornoData02", .dispid = 44, .browsable = no, .category = date,
+     .help = u"Formato da data de Value no segundo esquema de retorno",
+     .value = element<&Settings::returnFormats, 1>, .saved = {.read = 48, .written = 63},
+     .page = {u"ppPrincipal", u"cboDataRetorno02", 14, 15},
+     .manual = {"D", "\"mm/dd/yyyy\"", "", "The same for the second."}},
+    {.name = u"FormatoRetornoData03", .dispid = 45, .browsable = no, .category = date,
+     .help = u"Formato da data de Value no terceiro esquema de retorno",
+     .value = element<&Settings::returnFormats, 2>, .saved = {.read = 49, .written = 64},
+     .page = {u"ppPrincipal", u"cboDataRetorno03", 15, 16},
+     .manual = {"D", "\"d/m/yy\"", "", "The same for the third."}},
+    {.name = u"FormatoRetornoData04", .dispid = 46, .browsable = no, .category = date,
+     .help = u"Formato da data de Value no quarto esquema de retorno",
+     .value = element<&Settings::returnFormats, 3>, .saved = {.read = 50, .written = 65},
+     .page = {u"ppPrincipal", u"cboDataRetorno04", 16, 17},
+     .manual = {"D", "\"dd.mm.yyyy\"", "", "The same for the fourth."}},
+    {.name = u"hwnd", .dispid = -515, .category = behaviour,
+     .help = u"Hwnd do TextBox",
+     .value = readOnly<&Vela::editWindow>, .notification = silent,
+     .manual = {"TNDM", "", "438", "The window of the edit box.", "A janela da caixa de edição."}},
+    {.name = u"HwndCtl", .dispid = 47, .category = behaviour,
+     .help = u"Hwnd do UserControl",
+     .value = readOnly<&Vela::surfaceWindow>, .notification = silent,
+     .manual = {"TNDM", "", "438", "The window of the control.", "A janela do controle."}},
+    {.name = u"IF_IsEmpty", .dispid = 48, .category = data,
+     .help = u"Assume o texto informado nesta propriedade quando a caixa de texto perde o foco vazia",
+     .value = setting<&Settings::ifIsEmpty>, .saved = {.read = 22, .written = 17},
+     .page = {u"ppGeral", u"txtISEmpty", 6, 5},
+     .manual = {"TNDM", "\"0\"", "",
+                "The text that a field left empty takes.",
+                "O texto que um campo assume quando se sai dele vazio."}},
+    {.name = u"InserirZeros", .dispid = 49, .browsable = no, .category = number,
+     .help = u"Se as casas decimais que faltam são preenchidas com zeros",
+     .value = setting<&Settings::inserirZeros>, .saved = {.read = 39, .written = 57, .loaded = 1}, .fresh = {18, 1},
+     .page = {u"ppPrincipal", u"chkInserirZeros", 10, 6},
+     .manual = {"N", "True", "", "Whether the decimals are filled with zeros when the field is left."}},
+    {.name = u"Locked", .dispid = 50, .category = behaviour,
+     .help = u"Se a digitação é recusada",
+     .value = setting<&Settings::locked, &Vela::putLocked>, .notification = silent,
+     .saved = {.read = 32, .written = 18},
+     .manual = {"TNDM", "True", "",
+                "Whether typing is refused; a mask's box is always locked, because the mask writes the text itself."}},
+    {.name = u"NomeCampo", .dispid = 51, .category = data,
+     .help = u"Nome do campo para as pessoas: título da dica e nome para leitores de tela",
+     .value = setting<&Settings::nomeCampo>, .notification = silent, .saved = {.read = 33, .written = 19},
+     .manual = {"TNDM", "\"Apelido\"", "",
+                "The field's name for people: the title of its tip, and what a screen reader says."}},
+    {.name = u"Mask", .dispid = 52, .browsable = no, .category = mask,
+     .help = u"Modelo do campo com máscara: PromptChar em cada posição de entrada",
+     .value = setting<&Settings::mask, &Vela::putMask>, .saved = {.read = 24, .written = 41},
+     .page = {u"ppPrincipal", u"txtMascara", 18, 11},
+     .manual = {"M", "\"___-____\"", "1001",
+                "The template of a mask field, `PromptChar` at each input position. Setting it sets `MaxLength` and "
+                "empties the text."}},
+    {.name = u"MaskRules", .dispid = 53, .browsable = no, .category = mask,
+     .help = u"O que cada posição aceita: # algarismo, @ letra, ? letra ou algarismo",
+     .value = setting<&Settings::maskRules, &Vela::putMaskRules>, .saved = {.read = 25, .written = 42},
+     .page = {u"ppPrincipal", u"txtMaskRules", 19, 12},
+     .manual = {"M", "\"@@@-####\"", "",
+                "What each input position takes: `#` digit, `@` letter, `?` either; kept by `Mascara` fields only."}},
+    {.name = u"MaskSomenteNumeros", .dispid = 54, .browsable = no, .category = mask,
+     .help = u"Guardada e salva em campos Data e Mascara; sem efeito",
+     .value = setting<&Settings::maskSomenteNumeros, &Vela::putMaskSomenteNumeros>,
+     .saved = {.read = 26, .written = 43}, .page = {u"ppPrincipal", u"chkMaskSomenteNumeros", 17, 10},
+     .manual = {"DM", "True", "", "Kept and saved for `Data` and `Mascara` fields; nothing reads it."}},
+    {.name = u"MaskToNumeric", .dispid = 55, .category = mask,
+     .help = u"Utilizar Máscara de Entrada para o tipo de dados númericos",
+     .value = setting<&Settings::maskToNumeric, &Vela::putMaskToNumeric>, .saved = {.read = 27, .written = 44},
+     .manual = {"N", "True", "",
+                "Whether a number is laid out with its decimals while it is typed; kept by `Numerico` fields only.",
+                "Se o número é arrumado com as casas decimais enquanto é digitado; só é guardada em campos "
+                "`Numerico`."}},
+    {.name = u"MaxLength", .dispid = 56, .category = behaviour,
+     .help = u"Quantidade de caracteres que a caixa de texto irá aceita",
+     .value = maxLengthValue, .notification = silent, .saved = {.read = 71, .written = 13},
+     .manual = {"TN", "10", "380",
+                "The most characters that may be typed, 0 for no limit. Masks and dates set it themselves.",
+                "Quantos caracteres podem ser digitados, 0 sem limite. Máscaras e datas a definem por si."}},
+    {.name = u"MsgRequerido", .dispid = 57, .category = errors,
+     .help = u"Serve para identificar o nome do text, Trabalha em conjunto com a propriedade (CampoRequerido=True)",
+     .value = setting<&Settings::msgRequerido>, .notification = silent, .saved = {.read = 59, .written = 48},
+     .manual = {"TNDM", "\"Informe o nome\"", "",
+                "A text for the application, beside `CampoRequerido`.",
+                "Um texto para o programa, junto de `CampoRequerido`."}},
+    {.name = u"MultLine", .dispid = 58, .category = behaviour,
+     .help = u"Se a caixa tem várias linhas; só no projeto",
+     .value = setting<&Settings::multLine, &Vela::putMultLine>, .notification = silent,
+     .saved = {.read = 1, .written = 3, .leftOut = other(11)}, .fresh = {.place = 3, .designOnly = true},
+     .manual = {"T", "", "1002", "Whether the box is multi-line; set at design time."}},
+    {.name = u"nomeContainer", .dispid = 59, .category = behaviour,
+     .help = u"Nome do formulário ou da moldura que contém o controle",
+     .value = readOnly<&Vela::containerName>, .notification = silent,
+     .manual = {"TNDM", "", "438", "The name of the form or frame that holds the control."}},
+    {.name = u"PasswordChar", .dispid = 60, .category = behaviour,
+     .help = u"Caractere mostrado no lugar de cada um digitado",
+     .value = passwordValue, .notification = silent, .saved = {.read = 70, .written = 12},
+     .manual = {"T", "\"*\"", "380", "The character shown in place of each typed one; at most one character."}},
+    {.name = u"PromptChar", .dispid = 61, .browsable = no, .category = mask,
+     .help = u"Caractere que marca as posições de entrada em Mask",
+     .value = setting<&Settings::promptChar>, .saved = {.read = 23, .written = 40, .loaded = u"_"},
+     .page = {u"ppPrincipal", u"txtPromptChar", 20, 19},
+     .manual = {"DM", "\"_\"", "", "The character that marks input positions in `Mask`."}},
+    {.name = u"QtdCasasDec", .dispid = 62, .browsable = no, .category = number,
+     .help = u"Casas decimais; 0 desliga os três símbolos e InserirZeros",
+     .value = setting<&Settings::qtdCasasDec, &Vela::putDecimals>, .saved = {.read = 38, .written = 56},
+     .page = {u"ppPrincipal", u"txtQtdCasasDec", 6, 5},
+     .manual = {"N", "2", "6", "Decimal places, 0 to 255; 0 resets the three symbols and `InserirZeros`."}},
+    {.name = u"SelLength", .dispid = 63, .browsable = no, .category = text,
+     .help = u"Quantos caracteres estão selecionados",
+     .value = live<&Vela::selLength, &Vela::putSelLength>, .notification = silent,
+     .manual = {"TNDM", "2", "380", "How many characters are selected."}},
+    {.name = u"SelStart", .dispid = 64, .browsable = no, .category = text,
+     .help = u"Posição do cursor, 0 antes do primeiro caractere",
+     .value = live<&Vela::selStart, &Vela::putSelStart>, .notification = silent,
+     .manual = {"TNDM", "2", "380", "The caret, 0 before the first character; setting it selects nothing."}},
+    {.name = u"ShowButtonCalendario", .dispid = 65, .browsable = no, .category = behaviour,
+     .help = u"Se aparece o botão que abre o calendário",
+     .value = setting<&Settings::showButtonCalendario, &Vela::putCalendarButton>, .notification = silent,
+     .saved = {.read = 28, .written = 45}, .page = {u"ppPrincipal", u"chkShowButtonCalendario", 23, 22},
+     .manual = {"D", "True", "", "Whether the button that opens the calendar shows."}},
+    {.name = u"ShowButtonCalculadora", .dispid = 66, .category = behaviour,
+     .help = u"Se aparece o botão que abre a calculadora, e F2 a abre",
+     .value = setting<&Settings::showButtonCalculadora, &Vela::putCalculatorButton>, .notification = silent,
+     .saved = {.read = 29, .written = 46}, .page = {u"ppPrincipal", u"chkShowButtonCalculadora", 24, 23},
+     .manual = {"N", "True", "", "Whether the button that opens the calculator shows, and F2 opens it."}},
+    {.name = u"SimbolAgrupMilhar", .dispid = 67, .browsable = no, .category = number,
+     .help = u"Símbolo de milhares mostrado ao sair do campo",
+     .value = symbol<&Settings::simbolAgrupMilhar, &Settings::grouping>, .enumeration = u"Simbolos",
+     .saved = {.read = 37, .written = 55}, .page = {u"ppPrincipal", u"cboSeparadorMilhar", 5, 4},
+     .manual = {"N", "1", "", "The grouping symbol shown when the field is left."}},
+    {.name = u"SimbolDecExib", .dispid = 68, .browsable = no, .category = number,
+     .help = u"Símbolo decimal que se digita e se vê",
+     .value = symbol<&Settings::simbolDecExib, &Settings::displayDecimal>, .enumeration = u"Simbolos",
+     .saved = {.read = 34, .written = 53}, .page = {u"ppPrincipal", u"cboDecimalExibicao", 3, 2},
+     .manual = {"N", "2", "", "The decimal symbol that is typed and shown."}},
+    {.name = u"SimbolDecRet", .dispid = 69, .browsable = no, .category = number,
+     .help = u"Símbolo decimal da região do usuário, com o qual Value é calculado",
+     .value = symbol<&Settings::simbolDecRet, &Settings::returnDecimal>, .enumeration = u"Simbolos",
+     .saved = {.read = 35, .written = 54}, .page = {u"ppPrincipal", u"cboDecimalRetorno", 4, 3},
+     .manual = {"N", "2", "", "The decimal symbol of the user's region, by which `Value` is computed."}},
+    {.name = u"SimboloMonetario", .dispid = 70, .browsable = no, .category = number,
+     .help = u"O que é posto antes do número ao sair do campo; \";\" separa o que vai antes do que vai depois",
+     .value = setting<&Settings::simboloMonetario>, .saved = {.read = 36, .written = 52},
+     .page = {u"ppPrincipal", u"txtSimboloMonetario", 2, 1},
+     .manual = {"N", "\"R$ \"", "",
+                "What is put before the number when the field is left; \";\" divides what goes before from what "
+                "goes behind."}},
+    {.name = u"Text", .dispid = 0, .bindable = true, .category = text,
+     .help = u"O que a caixa mostra",
+     .value = textValue, .notification = silent, .saved = {.read = 69, .written = 8},
+     .manual = {"TNDM", "\"abc\"", "13", "What the box shows. The default member."}},
+    {.name = u"TextoLivre", .dispid = 71, .browsable = no, .category = mask,
+     .help = u"Se qualquer caractere pode ser digitado",
+     .value = setting<&Settings::textoLivre>, .notification = silent,
+     .saved = {.read = 51, .written = 67, .loaded = 1}, .fresh = {16, 1},
+     .page = {u"ppPrincipal", u"chkTextoLivre", 22, 21},
+     .manual = {"T", "False", "", "Whether any character may be typed."}},
+    {.name = u"TextType", .dispid = 72, .category = text,
+     .help = u"Tipo de dado que o campo contém",
+     .value = setting<&Settings::textType, &Vela::putTextType>, .enumeration = u"TipoText",
+     .saved = {.read = 13, .written = 28}, .fresh = {4, 0}, .page = {u"ppPrincipal", u"cboTextType", 1, 24},
+     .manual = {"TNDM", "1", "",
+                "What kind of data the field holds; switching clears the default value and the text."}},
+    {.name = u"tipoLetra", .dispid = 73, .browsable = no, .category = text,
+     .help = u"Maiúsculas, minúsculas ou nomes próprios",
+     .value = setting<&Settings::tipoLetra>, .enumeration = u"tipoTamanhoLetra", .notification = {u"tipoletra"},
+     .saved = {.read = 52, .written = 66}, .page = {u"ppPrincipal", u"cboTipoLetra", 21, 20},
+     .manual = {"T", "3", "",
+                "The letter case: as typed, capitals, small letters, or proper names when the field is left."}},
+    {.name = u"ToolTipGotFocus", .dispid = 74, .category = behaviour,
+     .help = u"Dica mostrada quando o campo recebe o foco",
+     .value = setting<&Settings::toolTipGotFocus>, .saved = {.read = 60, .written = 72},
+     .manual = {"TNDM", "\"Informe o nome\"", "", "The tip shown when the field is entered."}},
+    {.name = u"ToolTipGotFocusTipo", .dispid = 75, .category = behaviour,
+     .help = u"Ícone da dica",
+     .value = setting<&Settings::toolTipGotFocusTipo>, .enumeration = u"eIconeToolTipText",
+     .saved = {.read = 3, .written = 2, .leftOut = other(1)}, .fresh = {2, 0},
+     .manual = {"TNDM", "2", "", "The tip's icon."}},
+    {.name = u"UpTAB", .dispid = 76, .browsable = no, .category = behaviour,
+     .help = u"Se as setas para baixo e para cima passam ao próximo campo e ao anterior",
+     .value = setting<&Settings::upTab>, .saved = {.read = 16, .written = 31, .loaded = 1},
+     .page = {u"ppGeral", u"chkSimulaUpTAB", 1, 10},
+     .manual = {"TNDM", "False", "", "Whether the Down and Up arrows move to the next and the previous field."}},
+    {.name = u"ValorPadrao", .dispid = 77, .category = data,
+     .help = u"Conteúdo padrão ou, em campos de data, uma fórmula: %date, %hour",
+     .value = setting<&Settings::valorPadrao, &Vela::putDefault>, .saved = {.read = 44, .written = 35},
+     .manual = {"TNDM", "\"abc\"", "",
+                "The default content, or on a date field a formula: `%date`, `%hour`. Set it after `TextType`."}},
+    {.name = u"Value", .dispid = 78, .browsable = no, .bindable = true, .category = data,
+     .help = u"Conteúdo como o programa o quer, conforme TextType e o esquema de retorno",
+     .value = variantValue, .notification = silent,
+     .manual = {"TNDM", "\"abc\"", "13",
+                "The content as the application wants it; depends on `TextType` and the return scheme."}},
+    {.name = u"EsquemaRetornoAtual", .dispid = 79, .category = data,
+     .help = u"Esquema de retorno em vigor; defina depois do formato e do delimitador",
+     .value = setting<&Settings::esquemaRetornoAtual, &Vela::putScheme>, .enumeration = u"eEsquemasRetorno",
+     .saved = {.read = 2, .written = 1, .loaded = 1}, .fresh = {1, 1},
+     .manual = {"TNDM", "1", "", "Which return scheme is in force. Set it after the scheme's format and delimiter."}},
+});
+// clang-format on
+
+consteval const Property& row(std::u16string_view name)
 {
-    return toValue((control.*Get)());
+    return *std::ranges::find(rows, name, &Property::name);
 }
 
-template <class T, T (Vela::*Get)() const, void (Vela::*Put)(T)>
-Property plain(Name name, int dispid, Browsable browsable, Name help = {})
+// The rows by their places, 1 first. Does not compile when a place is left out or given twice.
+template <auto placeOf>
+consteval auto inOrder()
 {
-    return {.name = name,
-            .dispid = dispid,
-            .type = propertyTypeOf<T>(),
-            .browsable = browsable,
-            .help = help,
-            .get = &get<T, Get>,
-            .put = [](Vela& control, const engine::Value& value) { (control.*Put)(ownValue<T>(value)); }};
+    std::array<const Property*, std::ranges::count_if(rows, [](const Property& p) { return placeOf(p) > 0; })> order{};
+    for (const Property& property : rows)
+        if (const int place = placeOf(property); place > 0)
+            if (std::exchange(order.at(static_cast<std::size_t>(place - 1)), &property) != nullptr)
+                throw "two rows at one place";
+    return order;
 }
 
-template <class T, T (Vela::*Get)() const, void (Vela::*Put)(T)>
-Property enumerated(Name name, int dispid, Name enumeration, Browsable browsable, Name help = {})
-{
-    Property row = plain<T, Get, Put>(name, dispid, browsable, help);
-    row.enumeration = engine::findEnumeration(enumeration);
-    return row;
-}
-
-template <class T, T (Vela::*Get)() const, void (Vela::*Put)(Name)>
-Property textRow(Name name, int dispid, Browsable browsable, Name help, bool bindable)
-{
-    return {.name = name,
-            .dispid = dispid,
-            .browsable = browsable,
-            .bindable = bindable,
-            .help = help,
-            .get = [](Vela& control) -> engine::Value { return std::u16string((control.*Get)()); },
-            .put = [](Vela& control, const engine::Value& value) { (control.*Put)(std::get<std::u16string>(value)); }};
-}
-
-template <std::u16string (Vela::*Get)() const, void (Vela::*Put)(Name)>
-Property text(Name name, int dispid, Browsable browsable, Name help = {}, bool bindable = false)
-{
-    return textRow<std::u16string, Get, Put>(name, dispid, browsable, help, bindable);
-}
-
-template <const std::u16string& (Vela::*Get)() const, void (Vela::*Put)(Name)>
-Property stored(Name name, int dispid, Browsable browsable, Name help = {})
-{
-    return textRow<const std::u16string&, Get, Put>(name, dispid, browsable, help, false);
-}
-
-template <class T, T (Vela::*Get)() const>
-Property readOnly(Name name, int dispid, Browsable browsable, Name help = {})
-{
-    return {.name = name,
-            .dispid = dispid,
-            .type = propertyTypeOf<T>(),
-            .access = Access::read,
-            .browsable = browsable,
-            .help = help,
-            .get = &get<T, Get>};
-}
-
-// Read by name, a font answers the name of its face; only a font object can be put.
-Property fontRow(Name name, int dispid, Name help)
-{
-    return {.name = name,
-            .dispid = dispid,
-            .type = PropertyType::font,
-            .access = Access::readWriteReference,
-            .help = help,
-            .get = [](Vela& control) -> engine::Value { return control.Font().name; },
-            .put = [](Vela&, const engine::Value&) { engine::raise(engine::error_number::typeMismatch); }};
-}
-
-Property valueRow(Name name, int dispid, Name help)
-{
-    return {.name = name,
-            .dispid = dispid,
-            .type = PropertyType::variant,
-            .browsable = no,
-            .bindable = true,
-            .help = help,
-            .get = [](Vela& control) { return control.Value(); },
-            .put = [](Vela& control, const engine::Value& value) { control.Value(value); }};
-}
+constexpr auto read = inOrder<[](const Property& property) { return property.saved.read; }>();
+constexpr auto written = inOrder<[](const Property& property) { return property.saved.written; }>();
+constexpr auto fresh = inOrder<[](const Property& property) { return property.fresh.place; }>();
 
 } // namespace
 
-const PropertyRows& propertyRows()
+std::span<const Property> properties() noexcept
 {
-    static const PropertyRows rows{{
-        plain<bool, &Vela::AceitaNegativos, &Vela::AceitaNegativos>(
-            u"AceitaNegativos", 1, no,
-            u"Habilita o uso o sinal de negativo quando a propriedade TextType for do tipo numerico"),
-        enumerated<Alinhamento, &Vela::Alignment, &Vela::Alignment>(u"Alignment", 2, u"Alinhamento", yes,
-                                                                    u"Alinhamento do texto na caixa"),
-        enumerated<Aparencia, &Vela::Appearance, &Vela::Appearance>(
-            u"Appearance", -520, u"Aparencia", yes,
-            u"Borda rebaixada da própria caixa, ou borda desenhada pelo controle"),
-        plain<bool, &Vela::AutoSelect, &Vela::AutoSelect>(u"AutoSelect", 3, yes,
-                                                          u"Faz a AutoSeleção do texto quando a Caixa ganhar o Foco"),
-        plain<bool, &Vela::AutoTAB, &Vela::AutoTAB>(
-            u"AutoTAB", 4, yes,
-            u"Quando o Campo Completar Qtd de Carateres do MaxLenght Então pula para o próximo campo"),
-        plain<Colour, &Vela::BackColor, &Vela::BackColor>(
-            u"BackColor", -501, yes, u"Cor de fundo atual da caixa; define também BackColorGotFocus"),
-        plain<Colour, &Vela::BackColor_MouseMove, &Vela::BackColor_MouseMove>(
-            u"BackColor_MouseMove", 5, yes, u"Cor de fundo enquanto o ponteiro está sobre o campo"),
-        plain<Colour, &Vela::BackColorGotFocus, &Vela::BackColorGotFocus>(u"BackColorGotFocus", 6, yes,
-                                                                          u"Cor de fundo enquanto o campo tem o foco"),
-        plain<Colour, &Vela::BackColorLostFocus, &Vela::BackColorLostFocus>(
-            u"BackColorLostFocus", 7, yes, u"Cor de fundo enquanto o campo não tem o foco"),
-        plain<Colour, &Vela::BorderColor_MouseMove, &Vela::BorderColor_MouseMove>(
-            u"BorderColor_MouseMove", 8, yes, u"Cor da borda enquanto o ponteiro está sobre o campo"),
-        plain<Colour, &Vela::BorderColorGotfocus, &Vela::BorderColorGotfocus>(
-            u"BorderColorGotfocus", 9, yes, u"Cor da borda enquanto o campo tem o foco"),
-        plain<Colour, &Vela::BorderColorLostfocus, &Vela::BorderColorLostfocus>(
-            u"BorderColorLostfocus", 10, yes, u"Cor da borda enquanto o campo não tem o foco"),
-        enumerated<eEstiloBorda, &Vela::BorderStyle, &Vela::BorderStyle>(
-            u"BorderStyle", -504, u"eEstiloBorda", yes, u"Estando true, o controle colocar uma borda Flat"),
-        plain<Colour, &Vela::Calendar_BackColor, &Vela::Calendar_BackColor>(
-            u"Calendar_BackColor", 11, no,
-            u"Cor do painel do calendário; as sete cores do calendário são comuns a todo o processo"),
-        plain<Colour, &Vela::Calendar_ColorWeekDay, &Vela::Calendar_ColorWeekDay>(
-            u"Calendar_ColorWeekDay", 12, no, u"Cor dos nomes dos dias da semana no calendário"),
-        plain<Colour, &Vela::Calendar_ComboBackColor, &Vela::Calendar_ComboBackColor>(
-            u"Calendar_ComboBackColor", 13, no, u"Cor de fundo das listas de mês e ano do calendário"),
-        plain<Colour, &Vela::Calendar_DayActive, &Vela::Calendar_DayActive>(
-            u"Calendar_DayActive", 14, no, u"Cor dos dias do mês mostrado no calendário"),
-        plain<Colour, &Vela::Calendar_DayInactive, &Vela::Calendar_DayInactive>(
-            u"Calendar_DayInactive", 15, no, u"Cor dos dias do mês anterior e do seguinte no calendário"),
-        plain<Colour, &Vela::Calendar_FormBackcolor, &Vela::Calendar_FormBackcolor>(u"Calendar_FormBackcolor", 16, no,
-                                                                                    u"Cor da borda do calendário"),
-        plain<Colour, &Vela::Calendar_Selected, &Vela::Calendar_Selected>(
-            u"Calendar_Selected", 17, no, u"Muda Cor do Circulo que seleciona as datas"),
-        plain<bool, &Vela::CampoRequerido, &Vela::CampoRequerido>(
-            u"CampoRequerido", 18, yes, u"Marca o campo como obrigatório para o programa; o controle não verifica"),
-        stored<&Vela::CaractLiberados, &Vela::CaractLiberados>(
-            u"CaractLiberados", 19, no, u"Caracteres que podem ser digitados quando TextoLivre é False"),
-        plain<Colour, &Vela::CorValorNeg, &Vela::CorValorNeg>(
-            u"CorValorNeg", 20, no, u"Cor do texto de um número negativo depois de se sair do campo"),
-        plain<Colour, &Vela::CorValorPos, &Vela::CorValorPos>(
-            u"CorValorPos", 21, no, u"Cor do texto de um número positivo depois de se sair do campo"),
-        stored<&Vela::DateFormat, &Vela::DateFormat>(
-            u"DateFormat", 22, no,
-            u"Posições de dia, mês e ano (ou hora, minuto e segundo) e formato das datas escritas no campo"),
-        stored<&Vela::Delimitador, &Vela::Delimitador>(u"Delimitador", 23, yes,
-                                                       u"Texto em volta de Value no primeiro esquema de retorno"),
-        stored<&Vela::Delimitador02, &Vela::Delimitador02>(u"Delimitador02", 24, no,
-                                                           u"Texto em volta de Value no segundo esquema de retorno"),
-        stored<&Vela::Delimitador03, &Vela::Delimitador03>(u"Delimitador03", 25, no,
-                                                           u"Texto em volta de Value no terceiro esquema de retorno"),
-        stored<&Vela::Delimitador04, &Vela::Delimitador04>(u"Delimitador04", 26, no,
-                                                           u"Texto em volta de Value no quarto esquema de retorno"),
-        plain<bool, &Vela::Enabled, &Vela::Enabled>(u"Enabled", -514, yes, u"Se o campo pode ser usado"),
-        plain<bool, &Vela::EnterAsTab, &Vela::EnterAsTab>(u"EnterAsTab", 27, yes,
-                                                          u"Simula um TAB quando é pressionado o ENTER"),
-        plain<Colour, &Vela::Error_ForeColor, &Vela::Error_ForeColor>(u"Error_ForeColor", 28, no,
-                                                                      u"Cor do texto de um valor errado"),
-        plain<bool, &Vela::ErrorAlert, &Vela::ErrorAlert>(u"ErrorAlert", 29, hidden,
-                                                          u"Exibir alerta que o valor digitado esta incorreto"),
-        plain<bool, &Vela::ErrorFocus, &Vela::ErrorFocus>(u"ErrorFocus", 30, no,
-                                                          u"Se o foco fica no campo até que o valor esteja certo"),
-        plain<bool, &Vela::ErrorMsgCustom, &Vela::ErrorMsgCustom>(
-            u"ErrorMsgCustom", 31, hidden,
-            u"Habilita para que o componente use as mensagens de erro padrao do Componente"),
-        plain<bool, &Vela::ErrorTextClear, &Vela::ErrorTextClear>(u"ErrorTextClear", 32, no,
-                                                                  u"Se um valor errado é apagado"),
-        stored<&Vela::ErrorTextMessage, &Vela::ErrorTextMessage>(
-            u"ErrorTextMessage", 33, hidden, u"Mostra o texto informado nesta propriedade quando houver erro"),
-        fontRow(u"Font", -512, u"Fonte da caixa, como objeto"),
-        plain<bool, &Vela::FontBold, &Vela::FontBold>(u"FontBold", 34, no, u"Negrito"),
-        plain<bool, &Vela::FontItalic, &Vela::FontItalic>(u"FontItalic", 35, no, u"Itálico"),
-        stored<&Vela::FontName, &Vela::FontName>(u"FontName", 36, no, u"Nome da fonte"),
-        plain<std::uint8_t, &Vela::FontSize, &Vela::FontSize>(u"FontSize", 37, no, u"Tamanho da fonte em pontos"),
-        plain<bool, &Vela::FontStrikethru, &Vela::FontStrikethru>(u"FontStrikethru", 38, no, u"Tachado"),
-        plain<bool, &Vela::FontUnderline, &Vela::FontUnderline>(u"FontUnderline", 39, no, u"Sublinhado"),
-        plain<Colour, &Vela::ForeColor_GotFocus, &Vela::ForeColor_GotFocus>(
-            u"ForeColor_GotFocus", 40, yes, u"Cor do texto enquanto o campo tem o foco"),
-        plain<Colour, &Vela::ForeColor_LostFocus, &Vela::ForeColor_LostFocus>(
-            u"ForeColor_LostFocus", 41, yes, u"Cor do texto enquanto o campo não tem o foco"),
-        stored<&Vela::FormatoExibData, &Vela::FormatoExibData>(
-            u"FormatoExibData", 42, no, u"O que um campo de data vazio mostra; do mesmo tamanho de DateFormat"),
-        stored<&Vela::FormatoRetornoData, &Vela::FormatoRetornoData>(
-            u"FormatoRetornoData", 43, no, u"Formato da data de Value no primeiro esquema de retorno"),
-        stored<&Vela::FormatoRetornoData02, &Vela::FormatoRetornoData02>(
-            u"FormatoRetornoData02", 44, no, u"Formato da data de Value no segundo esquema de retorno"),
-        stored<&Vela::FormatoRetornoData03, &Vela::FormatoRetornoData03>(
-            u"FormatoRetornoData03", 45, no, u"Formato da data de Value no terceiro esquema de retorno"),
-        stored<&Vela::FormatoRetornoData04, &Vela::FormatoRetornoData04>(
-            u"FormatoRetornoData04", 46, no, u"Formato da data de Value no quarto esquema de retorno"),
-        readOnly<std::int32_t, &Vela::hwnd>(u"hwnd", -515, yes, u"Hwnd do TextBox"),
-        readOnly<std::int32_t, &Vela::HwndCtl>(u"HwndCtl", 47, yes, u"Hwnd do UserControl"),
-        stored<&Vela::IF_IsEmpty, &Vela::IF_IsEmpty>(
-            u"IF_IsEmpty", 48, yes,
-            u"Assume o texto informado nesta propriedade quando a caixa de texto perde o foco vazia"),
-        plain<bool, &Vela::InserirZeros, &Vela::InserirZeros>(
-            u"InserirZeros", 49, no, u"Se as casas decimais que faltam são preenchidas com zeros"),
-        plain<bool, &Vela::Locked, &Vela::Locked>(u"Locked", 50, yes, u"Se a digitação é recusada"),
-        stored<&Vela::NomeCampo, &Vela::NomeCampo>(
-            u"NomeCampo", 51, yes, u"Nome do campo para as pessoas: título da dica e nome para leitores de tela"),
-        stored<&Vela::Mask, &Vela::Mask>(u"Mask", 52, no,
-                                         u"Modelo do campo com máscara: PromptChar em cada posição de entrada"),
-        stored<&Vela::MaskRules, &Vela::MaskRules>(
-            u"MaskRules", 53, no, u"O que cada posição aceita: # algarismo, @ letra, ? letra ou algarismo"),
-        plain<bool, &Vela::MaskSomenteNumeros, &Vela::MaskSomenteNumeros>(
-            u"MaskSomenteNumeros", 54, no, u"Guardada e salva em campos Data e Mascara; sem efeito"),
-        plain<bool, &Vela::MaskToNumeric, &Vela::MaskToNumeric>(
-            u"MaskToNumeric", 55, yes, u"Utilizar Máscara de Entrada para o tipo de dados númericos"),
-        plain<std::int16_t, &Vela::MaxLength, &Vela::MaxLength>(
-            u"MaxLength", 56, yes, u"Quantidade de caracteres que a caixa de texto irá aceita"),
-        stored<&Vela::MsgRequerido, &Vela::MsgRequerido>(
-            u"MsgRequerido", 57, yes,
-            u"Serve para identificar o nome do text, Trabalha em conjunto com a propriedade (CampoRequerido=True)"),
-        plain<bool, &Vela::MultLine, &Vela::MultLine>(u"MultLine", 58, yes,
-                                                      u"Se a caixa tem várias linhas; só no projeto"),
-        readOnly<std::u16string, &Vela::nomeContainer>(u"nomeContainer", 59, yes,
-                                                       u"Nome do formulário ou da moldura que contém o controle"),
-        text<&Vela::PasswordChar, &Vela::PasswordChar>(u"PasswordChar", 60, yes,
-                                                       u"Caractere mostrado no lugar de cada um digitado"),
-        stored<&Vela::PromptChar, &Vela::PromptChar>(u"PromptChar", 61, no,
-                                                     u"Caractere que marca as posições de entrada em Mask"),
-        plain<std::uint8_t, &Vela::QtdCasasDec, &Vela::QtdCasasDec>(
-            u"QtdCasasDec", 62, no, u"Casas decimais; 0 desliga os três símbolos e InserirZeros"),
-        plain<std::int32_t, &Vela::SelLength, &Vela::SelLength>(u"SelLength", 63, no,
-                                                                u"Quantos caracteres estão selecionados"),
-        plain<std::int16_t, &Vela::SelStart, &Vela::SelStart>(u"SelStart", 64, no,
-                                                              u"Posição do cursor, 0 antes do primeiro caractere"),
-        plain<bool, &Vela::ShowButtonCalendario, &Vela::ShowButtonCalendario>(
-            u"ShowButtonCalendario", 65, no, u"Se aparece o botão que abre o calendário"),
-        plain<bool, &Vela::ShowButtonCalculadora, &Vela::ShowButtonCalculadora>(
-            u"ShowButtonCalculadora", 66, yes, u"Se aparece o botão que abre a calculadora, e F2 a abre"),
-        enumerated<Simbolos, &Vela::SimbolAgrupMilhar, &Vela::SimbolAgrupMilhar>(
-            u"SimbolAgrupMilhar", 67, u"Simbolos", no, u"Símbolo de milhares mostrado ao sair do campo"),
-        enumerated<Simbolos, &Vela::SimbolDecExib, &Vela::SimbolDecExib>(u"SimbolDecExib", 68, u"Simbolos", no,
-                                                                         u"Símbolo decimal que se digita e se vê"),
-        enumerated<Simbolos, &Vela::SimbolDecRet, &Vela::SimbolDecRet>(
-            u"SimbolDecRet", 69, u"Simbolos", no,
-            u"Símbolo decimal da região do usuário, com o qual Value é calculado"),
-        stored<&Vela::SimboloMonetario, &Vela::SimboloMonetario>(
-            u"SimboloMonetario", 70, no,
-            u"O que é posto antes do número ao sair do campo; \";\" separa o que vai antes do que vai depois"),
-        text<&Vela::Text, &Vela::Text>(u"Text", 0, yes, u"O que a caixa mostra", true),
-        plain<bool, &Vela::TextoLivre, &Vela::TextoLivre>(u"TextoLivre", 71, no,
-                                                          u"Se qualquer caractere pode ser digitado"),
-        enumerated<TipoText, &Vela::TextType, &Vela::TextType>(u"TextType", 72, u"TipoText", yes,
-                                                               u"Tipo de dado que o campo contém"),
-        enumerated<tipoTamanhoLetra, &Vela::tipoLetra, &Vela::tipoLetra>(u"tipoLetra", 73, u"tipoTamanhoLetra", no,
-                                                                         u"Maiúsculas, minúsculas ou nomes próprios"),
-        stored<&Vela::ToolTipGotFocus, &Vela::ToolTipGotFocus>(u"ToolTipGotFocus", 74, yes,
-                                                               u"Dica mostrada quando o campo recebe o foco"),
-        enumerated<eIconeToolTipText, &Vela::ToolTipGotFocusTipo, &Vela::ToolTipGotFocusTipo>(
-            u"ToolTipGotFocusTipo", 75, u"eIconeToolTipText", yes, u"Ícone da dica"),
-        plain<bool, &Vela::UpTAB, &Vela::UpTAB>(
-            u"UpTAB", 76, no, u"Se as setas para baixo e para cima passam ao próximo campo e ao anterior"),
-        stored<&Vela::ValorPadrao, &Vela::ValorPadrao>(
-            u"ValorPadrao", 77, yes, u"Conteúdo padrão ou, em campos de data, uma fórmula: %date, %hour"),
-        valueRow(u"Value", 78, u"Conteúdo como o programa o quer, conforme TextType e o esquema de retorno"),
-        enumerated<eEsquemasRetorno, &Vela::EsquemaRetornoAtual, &Vela::EsquemaRetornoAtual>(
-            u"EsquemaRetornoAtual", 79, u"eEsquemasRetorno", yes,
-            u"Esquema de retorno em vigor; defina depois do formato e do delimitador"),
-    }};
     return rows;
+}
+
+PropertyOrder readingOrder() noexcept
+{
+    return read;
+}
+
+PropertyOrder writingOrder() noexcept
+{
+    return written;
+}
+
+PropertyOrder freshOrder() noexcept
+{
+    return fresh;
+}
+
+// The properties that code puts by name.
+// clang-format off
+void Vela::BackColorGotFocus(Colour value) { put(row(u"BackColorGotFocus"), toValue(value)); }
+void Vela::CaractLiberados(View value) { put(row(u"CaractLiberados"), toValue(value)); }
+void Vela::InserirZeros(bool value) { put(row(u"InserirZeros"), value); }
+void Vela::Mask(View value) { put(row(u"Mask"), toValue(value)); }
+void Vela::MaskRules(View value) { put(row(u"MaskRules"), toValue(value)); }
+void Vela::SimbolAgrupMilhar(Simbolos value) { put(row(u"SimbolAgrupMilhar"), toValue(value)); }
+void Vela::SimbolDecExib(Simbolos value) { put(row(u"SimbolDecExib"), toValue(value)); }
+void Vela::SimbolDecRet(Simbolos value) { put(row(u"SimbolDecRet"), toValue(value)); }
+void Vela::ValorPadrao(View value) { put(row(u"ValorPadrao"), toValue(value)); }
+// clang-format on
+
+void Vela::Font(const FontDescription& value)
+{
+    putTrait(&platform::EditTraits::font, value);
+    notify(row(u"Font"));
 }
 
 } // namespace vela::control

@@ -6,7 +6,7 @@
 namespace vela::control {
 
 // A value beyond the enumeration is stored, and the look stays as it was.
-void Vela::Appearance(Aparencia value)
+void Vela::putAppearance(Aparencia value)
 {
     settings_.appearance = value;
     static_cast<void>(box()); // raises 91 when there is no box
@@ -16,7 +16,7 @@ void Vela::Appearance(Aparencia value)
     }
 }
 
-void Vela::BorderStyle(eEstiloBorda value)
+void Vela::putBorderStyle(eEstiloBorda value)
 {
     settings_.borderStyle = value;
     platform::SurfaceLook look = surface_.look();
@@ -25,25 +25,22 @@ void Vela::BorderStyle(eEstiloBorda value)
     if (value != eEstiloBorda::XP)
         surface_.clear();
     layOut();
-    markChanged(u"BorderStyle");
 }
 
 // Shown at once at design time, when the focus never leaves a field; at run time shown when the field is next left.
-void Vela::BorderColorLostfocus(Colour value)
+void Vela::putBorderColorLostfocus(Colour value)
 {
     settings_.borderColorLostfocus = value;
     if (!host_.runMode()) {
         border_ = value;
         layOut();
     }
-    markChanged(u"BorderColorLostfocus");
 }
 
-void Vela::EsquemaRetornoAtual(eEsquemasRetorno value)
+void Vela::putScheme(eEsquemasRetorno value)
 {
     settings_.esquemaRetornoAtual = value;
     adoptScheme();
-    markChanged(u"EsquemaRetornoAtual");
 }
 
 // Copies the scheme's texts: a later change of them counts when the scheme is chosen again.
@@ -60,7 +57,7 @@ void Vela::adoptScheme()
 
 // Oddity: Locked = False leaves a Mascara box locked, and the lock of a Data box alone; the control edits these boxes
 // itself and would do so twice.
-void Vela::Locked(bool value)
+void Vela::putLocked(bool value)
 {
     settings_.locked = value;
     switch (settings_.textType) {
@@ -73,7 +70,7 @@ void Vela::Locked(bool value)
 }
 
 // Oddity: MultLine put at run time raises 1002 and yet reads back the new value; the key filter works by that value.
-void Vela::MultLine(bool value)
+void Vela::putMultLine(bool value)
 {
     settings_.multLine = value;
     if (host_.runMode())
@@ -85,7 +82,7 @@ void Vela::MultLine(bool value)
 }
 
 // Oddity: QtdCasasDec = 0 resets the three symbols and InserirZeros; forms switch to whole numbers with this one put.
-void Vela::QtdCasasDec(std::uint8_t value)
+void Vela::putDecimals(std::uint8_t value)
 {
     settings_.qtdCasasDec = value;
     if (value == 0) {
@@ -94,15 +91,14 @@ void Vela::QtdCasasDec(std::uint8_t value)
         SimbolDecRet(Simbolos::Vazio);
         InserirZeros(false);
     }
-    markChanged(u"QtdCasasDec");
 }
 
-void Vela::ShowButtonCalendario(bool value)
+void Vela::putCalendarButton(bool value)
 {
     showButton(settings_.showButtonCalendario, value);
 }
 
-void Vela::ShowButtonCalculadora(bool value)
+void Vela::putCalculatorButton(bool value)
 {
     showButton(settings_.showButtonCalculadora, value);
 }
@@ -118,28 +114,6 @@ void Vela::showButton(bool& flag, bool value)
     }
     if (refused)
         showBox(platform::BoxIcon::information, u":(", u"TextBox Estilo XP não suporta botões !");
-}
-
-void Vela::SimbolAgrupMilhar(Simbolos value)
-{
-    putSymbol(settings_.simbolAgrupMilhar, settings_.grouping, value, u"SimbolAgrupMilhar");
-}
-
-void Vela::SimbolDecExib(Simbolos value)
-{
-    putSymbol(settings_.simbolDecExib, settings_.displayDecimal, value, u"SimbolDecExib");
-}
-
-void Vela::SimbolDecRet(Simbolos value)
-{
-    putSymbol(settings_.simbolDecRet, settings_.returnDecimal, value, u"SimbolDecRet");
-}
-
-void Vela::putSymbol(Simbolos& stored, char16_t& derived, Simbolos value, View name)
-{
-    stored = value;
-    derived = symbolOf(value);
-    markChanged(name);
 }
 
 } // namespace vela::control

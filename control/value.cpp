@@ -117,7 +117,7 @@ void Vela::putText(View value, Writer writer)
 
 // A formula ("%date") on a field that is no date is stored without a message. A plain default of a date field is
 // cleared when its length is not the mask's.
-void Vela::ValorPadrao(View value)
+void Vela::putDefault(View value)
 {
     settings_.valorPadrao = value;
     const bool date = settings_.textType == TipoText::Data;
@@ -128,7 +128,6 @@ void Vela::ValorPadrao(View value)
         settings_.valorPadrao.clear();
     else if (!formula)
         Text(Text16(settings_.valorPadrao));
-    markChanged(u"ValorPadrao");
 }
 
 // Writes the text of the formula "%date" or "%hour", in any case.

@@ -26,6 +26,7 @@
 
 namespace vela::control {
 
+struct Property;
 struct StoredState;
 
 // A host may destroy or terminate the control inside any event that it raises, any notification and any box that it
@@ -49,101 +50,46 @@ public:
     void DestruirToolTip();
     void LimparMemoria();
 
-    // Properties, in the order of the interface: one line each.
     using Colour = engine::Colour;
     using FontDescription = platform::FontDescription;
     using Text16 = std::u16string;
     using View = std::u16string_view;
-    // clang-format off
-    bool AceitaNegativos() const { return settings_.aceitaNegativos; }  void AceitaNegativos(bool value);
-    Alinhamento Alignment() const;  void Alignment(Alinhamento value);
-    Aparencia Appearance() const { return settings_.appearance; }  void Appearance(Aparencia value);
-    bool AutoSelect() const { return settings_.autoSelect; }  void AutoSelect(bool value);
-    bool AutoTAB() const { return settings_.autoTab; }  void AutoTAB(bool value);
-    Colour BackColor() const;  void BackColor(Colour value);
-    Colour BackColor_MouseMove() const { return settings_.backColorMouseMove; }  void BackColor_MouseMove(Colour value);
-    Colour BackColorGotFocus() const { return settings_.backColorGotFocus; }  void BackColorGotFocus(Colour value);
-    Colour BackColorLostFocus() const { return settings_.backColorLostFocus; }  void BackColorLostFocus(Colour value);
-    Colour BorderColor_MouseMove() const { return settings_.borderColorMouseMove; }  void BorderColor_MouseMove(Colour);
-    Colour BorderColorGotfocus() const { return settings_.borderColorGotfocus; }  void BorderColorGotfocus(Colour);
-    Colour BorderColorLostfocus() const { return settings_.borderColorLostfocus; }  void BorderColorLostfocus(Colour);
-    eEstiloBorda BorderStyle() const { return settings_.borderStyle; }  void BorderStyle(eEstiloBorda value);
-    Colour Calendar_BackColor() const;  void Calendar_BackColor(Colour value);
-    Colour Calendar_ColorWeekDay() const;  void Calendar_ColorWeekDay(Colour value);
-    Colour Calendar_ComboBackColor() const;  void Calendar_ComboBackColor(Colour value);
-    Colour Calendar_DayActive() const;  void Calendar_DayActive(Colour value);
-    Colour Calendar_DayInactive() const;  void Calendar_DayInactive(Colour value);
-    Colour Calendar_FormBackcolor() const;  void Calendar_FormBackcolor(Colour value);
-    Colour Calendar_Selected() const;  void Calendar_Selected(Colour value);
-    bool CampoRequerido() const { return settings_.campoRequerido; }  void CampoRequerido(bool value);
-    const Text16& CaractLiberados() const { return settings_.caractLiberados; }  void CaractLiberados(View value);
-    Colour CorValorNeg() const { return settings_.corValorNeg; }  void CorValorNeg(Colour value);
-    Colour CorValorPos() const { return settings_.corValorPos; }  void CorValorPos(Colour value);
-    const Text16& DateFormat() const { return settings_.dateFormat; }  void DateFormat(View value);
-    const Text16& Delimitador() const { return settings_.delimiters[0]; }  void Delimitador(View value);
-    const Text16& Delimitador02() const { return settings_.delimiters[1]; }  void Delimitador02(View value);
-    const Text16& Delimitador03() const { return settings_.delimiters[2]; }  void Delimitador03(View value);
-    const Text16& Delimitador04() const { return settings_.delimiters[3]; }  void Delimitador04(View value);
-    bool Enabled() const;  void Enabled(bool value);
-    bool EnterAsTab() const { return settings_.enterAsTab; }  void EnterAsTab(bool value);
-    Colour Error_ForeColor() const { return settings_.errorForeColor; }  void Error_ForeColor(Colour value);
-    bool ErrorAlert() const { return settings_.errorAlert; }  void ErrorAlert(bool value);
-    bool ErrorFocus() const { return settings_.errorFocus; }  void ErrorFocus(bool value);
-    bool ErrorMsgCustom() const { return settings_.errorMsgCustom; }  void ErrorMsgCustom(bool value);
-    bool ErrorTextClear() const { return settings_.errorTextClear; }  void ErrorTextClear(bool value);
-    const Text16& ErrorTextMessage() const { return settings_.errorTextMessage; }  void ErrorTextMessage(View value);
-    const FontDescription& Font() const;  void Font(const FontDescription& value);
-    bool FontBold() const;  void FontBold(bool value);
-    bool FontItalic() const;  void FontItalic(bool value);
-    const Text16& FontName() const;  void FontName(View value);
-    std::uint8_t FontSize() const;  void FontSize(std::uint8_t value);
-    bool FontStrikethru() const;  void FontStrikethru(bool value);
-    bool FontUnderline() const;  void FontUnderline(bool value);
-    Colour ForeColor_GotFocus() const { return settings_.foreColorGotFocus; }  void ForeColor_GotFocus(Colour value);
-    Colour ForeColor_LostFocus() const { return settings_.foreColorLostFocus; }  void ForeColor_LostFocus(Colour value);
-    const Text16& FormatoExibData() const { return settings_.formatoExibData; }  void FormatoExibData(View value);
-    const Text16& FormatoRetornoData() const { return settings_.returnFormats[0]; }  void FormatoRetornoData(View);
-    const Text16& FormatoRetornoData02() const { return settings_.returnFormats[1]; }  void FormatoRetornoData02(View);
-    const Text16& FormatoRetornoData03() const { return settings_.returnFormats[2]; }  void FormatoRetornoData03(View);
-    const Text16& FormatoRetornoData04() const { return settings_.returnFormats[3]; }  void FormatoRetornoData04(View);
-    std::int32_t hwnd() const;
-    std::int32_t HwndCtl() const;
-    const Text16& IF_IsEmpty() const { return settings_.ifIsEmpty; }  void IF_IsEmpty(View value);
-    bool InserirZeros() const { return settings_.inserirZeros; }  void InserirZeros(bool value);
-    bool Locked() const { return settings_.locked; }  void Locked(bool value);
-    const Text16& NomeCampo() const { return settings_.nomeCampo; }  void NomeCampo(View value);
-    const Text16& Mask() const { return settings_.mask; }  void Mask(View value);
-    const Text16& MaskRules() const { return settings_.maskRules; }  void MaskRules(View value);
-    bool MaskSomenteNumeros() const { return settings_.maskSomenteNumeros; }  void MaskSomenteNumeros(bool value);
-    bool MaskToNumeric() const { return settings_.maskToNumeric; }  void MaskToNumeric(bool value);
-    std::int16_t MaxLength() const;  void MaxLength(std::int16_t value);
-    const Text16& MsgRequerido() const { return settings_.msgRequerido; }  void MsgRequerido(View value);
-    bool MultLine() const { return settings_.multLine; }  void MultLine(bool value);
-    Text16 nomeContainer() const;
-    Text16 PasswordChar() const;  void PasswordChar(View value);
-    const Text16& PromptChar() const { return settings_.promptChar; }  void PromptChar(View value);
-    std::uint8_t QtdCasasDec() const { return settings_.qtdCasasDec; }  void QtdCasasDec(std::uint8_t value);
-    std::int32_t SelLength() const;  void SelLength(std::int32_t value);
-    std::int16_t SelStart() const;  void SelStart(std::int16_t value);
-    bool ShowButtonCalendario() const { return settings_.showButtonCalendario; }  void ShowButtonCalendario(bool value);
-    bool ShowButtonCalculadora() const { return settings_.showButtonCalculadora; }  void ShowButtonCalculadora(bool);
-    Simbolos SimbolAgrupMilhar() const { return settings_.simbolAgrupMilhar; }  void SimbolAgrupMilhar(Simbolos value);
-    Simbolos SimbolDecExib() const { return settings_.simbolDecExib; }  void SimbolDecExib(Simbolos value);
-    Simbolos SimbolDecRet() const { return settings_.simbolDecRet; }  void SimbolDecRet(Simbolos value);
-    const Text16& SimboloMonetario() const { return settings_.simboloMonetario; }  void SimboloMonetario(View value);
-    Text16 Text() const;  void Text(View value);
-    bool TextoLivre() const { return settings_.textoLivre; }  void TextoLivre(bool value);
-    TipoText TextType() const { return settings_.textType; }  void TextType(TipoText value);
-    tipoTamanhoLetra tipoLetra() const { return settings_.tipoLetra; }  void tipoLetra(tipoTamanhoLetra value);
-    const Text16& ToolTipGotFocus() const { return settings_.toolTipGotFocus; }  void ToolTipGotFocus(View value);
-    eIconeToolTipText ToolTipGotFocusTipo() const { return settings_.toolTipGotFocusTipo; }
-    void ToolTipGotFocusTipo(eIconeToolTipText);
-    bool UpTAB() const { return settings_.upTab; }  void UpTAB(bool value);
-    const Text16& ValorPadrao() const { return settings_.valorPadrao; }  void ValorPadrao(View value);
-    engine::Value Value();  void Value(const engine::Value& value);
-    eEsquemasRetorno EsquemaRetornoAtual() const { return settings_.esquemaRetornoAtual; }
-    void EsquemaRetornoAtual(eEsquemasRetorno);
-    // clang-format on
+
+    // Properties: their rows (property_table.h) put and get them; these are the ones that code asks for.
+    void put(const Property& property, const engine::Value& value); // of the property's own type; notifies the host
+    [[nodiscard]] const Settings& settings() const noexcept { return settings_; }
+    const FontDescription& Font() const;
+    void Font(const FontDescription& value);
+    Text16 Text() const;
+    void Text(View value);
+    engine::Value Value();
+    void Value(const engine::Value& value);
+
+    // What the rows call where a property does more than store its value.
+    std::int32_t editWindow() const;
+    std::int32_t surfaceWindow() const;
+    Text16 containerName() const;
+    std::int32_t selLength() const;
+    std::int16_t selStart() const;
+    void putAppearance(Aparencia value);
+    void putBackColor(Colour value);
+    void putBorderColorLostfocus(Colour value);
+    void putBorderStyle(eEstiloBorda value);
+    void putCalculatorButton(bool value);
+    void putCalendarButton(bool value);
+    void putDecimals(std::uint8_t value);
+    void putDefault(View value);
+    void putEnabled(bool value);
+    void putLocked(bool value);
+    void putMask(View value);
+    void putMaskRules(View value);
+    void putMaskSomenteNumeros(bool value);
+    void putMaskToNumeric(bool value);
+    void putMultLine(bool value);
+    void putScheme(eEsquemasRetorno value);
+    void putSelLength(std::int32_t value);
+    void putSelStart(std::int16_t value);
+    void putTextType(TipoText value);
 
     // EditBoxEvents
     void gotFocus() override;
@@ -179,6 +125,19 @@ public:
     [[nodiscard]] const engine::Locale& locale() const { return environment_.locales.locale(); }
 
 private:
+    friend struct PropertyAccess;
+
+    // Puts that the control makes itself, notified like a host's.
+    void BackColorGotFocus(Colour value);
+    void CaractLiberados(View value);
+    void InserirZeros(bool value);
+    void Mask(View value);
+    void MaskRules(View value);
+    void SimbolAgrupMilhar(Simbolos value);
+    void SimbolDecExib(Simbolos value);
+    void SimbolDecRet(Simbolos value);
+    void ValorPadrao(View value);
+
     // Who writes a text. The live re-format runs for what a person or a host writes. The history records a person's
     // edits and is cleared when a host, loading, entry or exit writes.
     enum class Writer { person, host, life, keys, history };
@@ -191,26 +150,20 @@ private:
     [[nodiscard]] bool liveNumber() const noexcept;                                 // Numerico with MaskToNumeric
     void readText(std::u16string& into) const { box().text(into); }
     // Each may call the host. When the control was destroyed meanwhile they raise 91, and no member may be touched.
-    void markChanged(View name);
+    void notify(const Property& property); // that it has been put
     void writeText(View text, Writer writer);
     void showBox(platform::BoxIcon icon, View title, View text);
     void openPopup();
     void raise(void (platform::ControlHost::*event)());
 
-    template <class T, class U>
-    void store(T& field, const U& value, View name);
-    void storeColour(Colour popups::CalendarColours::*which, Colour value, View name);
     template <class T>
     void putTrait(T platform::EditTraits::*trait, const T& value);
-    template <class T>
-    void putFontPart(T FontDescription::*part, const T& value);
     template <class Body>
     void trapToLog(View label, Body body); // error_log.cpp's record
     void log(const engine::Error& error, View label);
 
     // Setters (setters.cpp, mask_properties.cpp, value.cpp)
     void showButton(bool& flag, bool value);
-    void putSymbol(Simbolos& stored, char16_t& derived, Simbolos value, View name);
     void switchToText();
     void switchToNumber();
     void switchToDate();

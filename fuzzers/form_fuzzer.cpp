@@ -164,7 +164,7 @@ private:
         const control::Property& row = rows[bytes_.next() % rows.size()];
         if (row.name == u"Font")
             return;
-        if (row.type == control::PropertyType::text || bytes_.below(8) == 0)
+        if (row.type() == control::PropertyType::text || bytes_.below(8) == 0)
             set(target, row.name, std::u16string(anyText()));
         else
             set(target, row.name, std::int32_t{bytes_.below(5)});
@@ -180,15 +180,16 @@ private:
         Field& target = focused == &fields_[0]->surface ? *fields_[0] : *fields_[1];
         const std::u16string before = target.text();
         form_.key(headless::keyOf(unit));
-        const bool masked =
-            static_cast<int>(target.control.TextType()) == 2 || static_cast<int>(target.control.TextType()) == 3;
-        const std::u16string& mask = target.control.Mask();
+        const bool masked = static_cast<int>(target.control.settings().textType) == 2 ||
+                            static_cast<int>(target.control.settings().textType) == 3;
+        const std::u16string& mask = target.control.settings().mask;
         if (!masked || before.size() != mask.size() || form_.focused() != focused || !target.box().traits().locked)
             return;
         const std::u16string after = target.text();
         require(after.size() == before.size(), "a key keeps a mask's length");
         for (std::size_t i = 0; i < mask.size(); ++i)
-            require(target.control.PromptChar() == std::u16string_view(mask).substr(i, 1) || after[i] == before[i],
+            require(target.control.settings().promptChar == std::u16string_view(mask).substr(i, 1) ||
+                        after[i] == before[i],
                     "a key keeps a mask's literals");
     }
 
@@ -211,9 +212,10 @@ private:
     // Settings under which a display reads back as the number it shows.
     static bool showsAgain(const control::Vela& control)
     {
-        return control.TextType() == engine::TipoText::Numerico && !control.MaskToNumeric() &&
-               control.SimbolDecExib() == engine::Simbolos::Virgula &&
-               (control.SimbolAgrupMilhar() == engine::Simbolos::Ponto) && control.SimboloMonetario().empty();
+        return control.settings().textType == engine::TipoText::Numerico && !control.settings().maskToNumeric &&
+               control.settings().simbolDecExib == engine::Simbolos::Virgula &&
+               (control.settings().simbolAgrupMilhar == engine::Simbolos::Ponto) &&
+               control.settings().simboloMonetario.empty();
     }
 
     void undoAll()
@@ -225,7 +227,7 @@ private:
         const std::u16string start = target.text();
         const platform::Selection selection = target.box().selection();
         target.control.Text(start); // a host's write starts a new history
-        const auto type = static_cast<int>(target.control.TextType());
+        const auto type = static_cast<int>(target.control.settings().textType);
         if (target.text() != start || type < 0 || type > 3) // a put of another type writes nothing
             return;
         target.box().placeCaret(selection.start, selection.length);

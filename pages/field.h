@@ -17,7 +17,9 @@ struct Field {
     std::u16string_view property;
     std::u16string_view control;
     Mapping mapping = Mapping::text;
-    int index = -1; // of the control, in a control array
+    int read = 0;    // its place in the order in which the page reads its properties
+    int written = 0; // and in the order in which it writes them
+    int index = -1;  // of the control, in a control array
 };
 
 } // namespace vela::pages

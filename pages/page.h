@@ -1,6 +1,7 @@
 // A property page: loaded from the first of the selected controls, written back to it when the host applies.
 #pragma once
 
+#include "pages/field.h"
 #include "pages/property_object.h"
 #include "platform/environment.h"
 #include "platform/form.h"
@@ -20,6 +21,7 @@ struct PageServices {
     platform::SettingsStore& settings;
     platform::FormFactory& forms;
     ColourChooser& colours;
+    std::span<const Field> fields; // the page's, in the order in which it reads them
 };
 
 class Page {

@@ -38,6 +38,11 @@ PageForm::PageForm(const platform::FormLayout& layout, const PageServices& servi
           layout, {.clicks = this, .doubleClicks = this, .entries = this, .keysDown = this, .keys = this}))
 {
     putSpokenNames(layout, *form_);
+    for (const Field& field : services.fields)
+        fields_.push_back({field, id(field.control, field.index)});
+    for (const Bound& bound : fields_)
+        writingOrder_.push_back(&bound);
+    std::ranges::sort(writingOrder_, {}, [](const Bound* bound) { return bound->field.written; });
     for (std::size_t i = 0; i < layout.rows.size(); ++i)
         if (const WidgetId widget{static_cast<int>(i)}; isSwatch(widget)) {
             platform::WidgetLook look = form_->look(widget);
@@ -53,10 +58,17 @@ void PageForm::bind(std::u16string_view control, Act act, Action action)
     bindings_.push_back({id(control), act, std::move(action)});
 }
 
-void PageForm::marksChanged(std::u16string_view control)
+void PageForm::marksChanged(WidgetId control)
 {
-    onClick(control, [this] { putChanged(true); });
-    onChange(control, [this] { putChanged(true); });
+    for (const Act act : {Act::click, Act::change})
+        bindings_.push_back({control, act, [this] { putChanged(true); }});
+}
+
+void PageForm::fieldsMarkChanged()
+{
+    for (const Bound& bound : fields_)
+        if (!isSwatch(bound.control))
+            marksChanged(bound.control);
 }
 
 void PageForm::onClick(std::u16string_view control, Action action)
@@ -191,11 +203,17 @@ PropertyObject& PageForm::object() const
     return *object_;
 }
 
-void PageForm::load(const Field& field)
+Value PageForm::read(Bound& bound)
 {
-    const Value value = object().get(field.property);
-    const WidgetId control = id(field.control, field.index);
-    switch (field.mapping) {
+    bound.property = object().find(bound.field.property);
+    return object().get(bound.property);
+}
+
+void PageForm::load(Bound& bound)
+{
+    const Value value = read(bound);
+    const WidgetId control = bound.control;
+    switch (bound.field.mapping) {
     case Mapping::text:
     case Mapping::number: form_->putText(control, engine::toText(value, locale())); break;
     case Mapping::check: form_->check(control, engine::toBoolean(value, locale())); break;
@@ -204,10 +222,10 @@ void PageForm::load(const Field& field)
     }
 }
 
-Value PageForm::value(const Field& field) const
+Value PageForm::value(const Bound& bound) const
 {
-    const WidgetId control = id(field.control, field.index);
-    switch (field.mapping) {
+    const WidgetId control = bound.control;
+    switch (bound.field.mapping) {
     case Mapping::text: return form_->text(control);
     case Mapping::number: return engine::leadingNumber(form_->text(control));
     case Mapping::check: return form_->checked(control);
@@ -217,14 +235,16 @@ Value PageForm::value(const Field& field) const
     return {};
 }
 
-void PageForm::write(std::span<const Field> fields, std::span<const std::u16string_view> order)
+void PageForm::write(const std::function<Value(const Bound&)>& valueOf)
 {
     PropertyObject& target = object();
-    for (const std::u16string_view property : order) {
-        const auto field = std::ranges::find(fields, property, &Field::property);
-        assert(field != fields.end());
-        target.put(property, value(*field));
-    }
+    for (const Bound* const bound : writingOrder_)
+        target.put(bound->property, valueOf(*bound));
+}
+
+void PageForm::write()
+{
+    write([this](const Bound& bound) { return value(bound); });
 }
 
 void PageForm::putChanged(bool on)

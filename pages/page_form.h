@@ -29,7 +29,8 @@ public:
     PageForm& operator=(const PageForm&) = delete;
 
     // Bindings, made while a page is constructed. Names that the layout does not have are a programming error.
-    void marksChanged(std::u16string_view control); // every click on it and change of its text sets the flag
+    void marksChanged(platform::WidgetId control); // every click on it and change of its text sets the flag
+    void fieldsMarkChanged();                      // so do all fields but the swatches: a palette changes those
     void onClick(std::u16string_view control, Action action);
     void onChange(std::u16string_view control, Action action);
     void onGotFocus(std::u16string_view control, Action action);
@@ -43,10 +44,19 @@ public:
     void requireLoaded() const;
     void release() noexcept { object_ = nullptr; }
     [[nodiscard]] PropertyObject& object() const; // the first selected one; raises 91 without one
-    void load(const Field& field);
-    [[nodiscard]] engine::Value value(const Field& field) const; // what stands in the control
-    // Puts the named fields' values in the order of `order`; stops at the first that fails.
-    void write(std::span<const Field> fields, std::span<const std::u16string_view> order);
+    // A field of the page on its form.
+    struct Bound {
+        Field field;
+        platform::WidgetId control;
+        int property = 0; // the selected object's number for it, once it is found
+    };
+    [[nodiscard]] std::span<Bound> fields() noexcept { return fields_; } // in the order of reading
+    void load(Bound& bound);
+    [[nodiscard]] engine::Value read(Bound& bound);              // finds the property and gets it
+    [[nodiscard]] engine::Value value(const Bound& bound) const; // what stands in the control
+    // Puts what `valueOf` gives for each field, in the order of writing; stops at the first that fails.
+    void write(const std::function<engine::Value(const Bound&)>& valueOf);
+    void write();
 
     [[nodiscard]] bool changed() const noexcept { return changed_; }
     void putChanged(bool on);
@@ -98,6 +108,8 @@ private:
     PageSite& site_;
     PropertyObject* object_ = nullptr;
     std::optional<engine::Error> failedLoad_;
+    std::vector<Bound> fields_;
+    std::vector<const Bound*> writingOrder_;
     bool changed_ = false;
     bool loading_ = false;
     std::vector<Binding> bindings_;

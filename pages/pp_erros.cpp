@@ -3,22 +3,10 @@
 
 #include "pages/layouts.h"
 
-#include <array>
-
 namespace vela::pages {
 
 namespace {
 
-constexpr std::array<Field, 6> fields{{
-    {u"Error_ForeColor", u"PicCor", Mapping::colour},
-    {u"ErrorAlert", u"chkExibirAlertaPadrao", Mapping::check},
-    {u"ErrorFocus", u"chkErrorFocus", Mapping::check},
-    {u"ErrorMsgCustom", u"chkPersonalizarMsgErro", Mapping::check},
-    {u"ErrorTextClear", u"chkLimpaCampo", Mapping::check},
-    {u"ErrorTextMessage", u"txtMsgCustom"},
-}};
-constexpr std::array<std::u16string_view, 6> writingOrder{u"ErrorAlert",     u"ErrorFocus",       u"ErrorMsgCustom",
-                                                          u"ErrorTextClear", u"ErrorTextMessage", u"Error_ForeColor"};
 constexpr engine::Colour greyBackground{0x00DFDFDF};
 constexpr engine::Colour whiteBackground{0x00FFFFFF};
 constexpr std::u16string_view alertHelp =
@@ -31,9 +19,7 @@ constexpr std::u16string_view alertHelp =
 
 ppErros::ppErros(const PageServices& services, PageSite& site) : page_(errosLayout(), services, site)
 {
-    for (const std::u16string_view control :
-         {u"chkExibirAlertaPadrao", u"chkErrorFocus", u"chkPersonalizarMsgErro", u"chkLimpaCampo", u"txtMsgCustom"})
-        page_.marksChanged(control);
+    page_.fieldsMarkChanged();
     page_.onClick(u"chkExibirAlertaPadrao", [this] { followAlert(); });
     page_.onClick(u"chkPersonalizarMsgErro", [this] { followCustomMessage(); });
     page_.onClick(u"chkLimpaCampo", [this] { followClearField(); });
@@ -45,7 +31,7 @@ ppErros::ppErros(const PageServices& services, PageSite& site) : page_(errosLayo
 void ppErros::open(std::span<PropertyObject* const> selection)
 {
     page_.open(selection, [this] {
-        for (const Field& field : fields)
+        for (PageForm::Bound& field : page_.fields())
             page_.load(field);
         followAlert();
         followCustomMessage();
@@ -63,7 +49,7 @@ bool ppErros::apply()
         page_.inform(u"Informe o texto da mensagem.");
         return false;
     }
-    page_.write(fields, writingOrder);
+    page_.write();
     page_.putChanged(false);
     return true;
 }

@@ -6,20 +6,11 @@
 #include "pages/layouts.h"
 
 #include <algorithm>
-#include <array>
 
 namespace vela::pages {
 
 namespace {
 
-constexpr std::array<Field, 6> fields{{
-    {u"FontName", u"CboFontName"},
-    {u"FontSize", u"txtSize", Mapping::number},
-    {u"FontBold", u"Negrito", Mapping::check},
-    {u"FontItalic", u"Italico", Mapping::check},
-    {u"FontUnderline", u"Sublinhado", Mapping::check},
-    {u"FontStrikethru", u"Cortado", Mapping::check},
-}};
 constexpr double largestSize = 255; // points; what FontSize can hold
 
 } // namespace
@@ -32,15 +23,16 @@ ppFonte::ppFonte(const PageServices& services, PageSite& site) : page_(fonteLayo
     page_.onClick(u"CboFontName", [this] { fontNameActed(); });
     page_.onChange(u"CboFontName", [this] { fontNameActed(); });
     page_.filterKeys(u"txtSize", digitOrBackspace);
-    for (const std::u16string_view control : {u"txtSize", u"Negrito", u"Italico", u"Sublinhado", u"Cortado"})
-        page_.marksChanged(control);
+    for (const PageForm::Bound& field : page_.fields())
+        if (field.field.control != u"CboFontName")
+            page_.marksChanged(field.control);
     page_.onClick(u"cmdTeste", [this] { showPreview(); });
 }
 
 void ppFonte::open(std::span<PropertyObject* const> selection)
 {
     page_.open(selection, [this] {
-        for (const Field& field : fields) {
+        for (PageForm::Bound& field : page_.fields()) {
             page_.load(field);
             fontName_ = page_.text(u"CboFontName");
         }
@@ -50,8 +42,7 @@ void ppFonte::open(std::span<PropertyObject* const> selection)
 bool ppFonte::apply()
 {
     page_.requireLoaded();
-    for (const Field& field : fields)
-        page_.object().put(field.property, page_.value(field));
+    page_.write();
     page_.putChanged(false);
     return true;
 }

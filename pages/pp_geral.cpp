@@ -4,28 +4,11 @@
 #include "engine/text/conversions.h"
 #include "pages/layouts.h"
 
-#include <array>
 #include <cmath>
 
 namespace vela::pages {
 
 namespace {
-
-constexpr std::array<Field, 10> fields{{
-    {u"UpTAB", u"chkSimulaUpTAB", Mapping::check},
-    {u"EnterAsTab", u"chkSendTab", Mapping::check},
-    {u"AutoSelect", u"chkAutoSelect", Mapping::check},
-    {u"BackColorGotFocus", u"PicCorFundoGot", Mapping::colour},
-    {u"BackColorLostFocus", u"PicCorFundoLost", Mapping::colour},
-    {u"IF_IsEmpty", u"txtISEmpty"},
-    {u"Delimitador", u"txtDelimitador"},
-    {u"Delimitador02", u"txtDelimitador02"},
-    {u"Delimitador03", u"txtDelimitador03"},
-    {u"Delimitador04", u"txtDelimitador04"},
-}};
-constexpr std::array<std::u16string_view, 10> writingOrder{
-    u"EnterAsTab",  u"AutoSelect",    u"BackColorGotFocus", u"BackColorLostFocus", u"IF_IsEmpty",
-    u"Delimitador", u"Delimitador02", u"Delimitador03",     u"Delimitador04",      u"UpTAB"};
 
 std::u16string delimiterHelp(std::u16string_view today)
 {
@@ -47,16 +30,13 @@ ppGeral::ppGeral(const PageServices& services, PageSite& site) : page_(geralLayo
     page_.onClick(u"optGotfocus", [this] { showGroup(true); });
     page_.onClick(u"optLost", [this] { showGroup(false); });
     page_.onClick(u"cmdHelpDelimitador", [this] { showDelimiterHelp(); });
-    for (const std::u16string_view control :
-         {u"chkSendTab", u"chkSimulaUpTAB", u"chkAutoSelect", u"txtDelimitador", u"txtDelimitador02",
-          u"txtDelimitador03", u"txtDelimitador04", u"txtISEmpty"})
-        page_.marksChanged(control);
+    page_.fieldsMarkChanged();
 }
 
 void ppGeral::open(std::span<PropertyObject* const> selection)
 {
     page_.open(selection, [this] {
-        for (const Field& field : fields)
+        for (PageForm::Bound& field : page_.fields())
             page_.load(field);
     });
 }
@@ -64,7 +44,7 @@ void ppGeral::open(std::span<PropertyObject* const> selection)
 bool ppGeral::apply()
 {
     page_.requireLoaded();
-    page_.write(fields, writingOrder);
+    page_.write();
     page_.putChanged(false);
     return true;
 }

@@ -8,58 +8,11 @@
 #include "pages/letters.h"
 #include "pages/principal_rules.h"
 
-#include <array>
-
 namespace vela::pages {
 
 namespace {
 
-constexpr std::array<Field, 24> fields{{
-    {u"TextType", u"cboTextType", Mapping::listIndex},
-    {u"SimboloMonetario", u"txtSimboloMonetario"},
-    {u"SimbolDecExib", u"cboDecimalExibicao", Mapping::listIndex},
-    {u"SimbolDecRet", u"cboDecimalRetorno", Mapping::listIndex},
-    {u"SimbolAgrupMilhar", u"cboSeparadorMilhar", Mapping::listIndex},
-    {u"QtdCasasDec", u"txtQtdCasasDec", Mapping::number},
-    {u"CorValorNeg", u"PicCorNegativa", Mapping::colour},
-    {u"CorValorPos", u"PicCorPositiva", Mapping::colour},
-    {u"AceitaNegativos", u"chkAceitaNegativos", Mapping::check},
-    {u"InserirZeros", u"chkInserirZeros", Mapping::check},
-    {u"DateFormat", u"cboFormatoData"},
-    {u"FormatoExibData", u"txtFormatoExibData"},
-    {u"FormatoRetornoData", u"cboDataRetorno"},
-    {u"FormatoRetornoData02", u"cboDataRetorno02"},
-    {u"FormatoRetornoData03", u"cboDataRetorno03"},
-    {u"FormatoRetornoData04", u"cboDataRetorno04"},
-    {u"MaskSomenteNumeros", u"chkMaskSomenteNumeros", Mapping::check},
-    {u"Mask", u"txtMascara"},
-    {u"MaskRules", u"txtMaskRules"},
-    {u"PromptChar", u"txtPromptChar"},
-    {u"tipoLetra", u"cboTipoLetra", Mapping::listIndex},
-    {u"TextoLivre", u"chkTextoLivre", Mapping::check},
-    {u"ShowButtonCalendario", u"chkShowButtonCalendario", Mapping::check},
-    {u"ShowButtonCalculadora", u"chkShowButtonCalculadora", Mapping::check},
-}};
-
-// Oddity: TextType is written after MaskRules: a first apply that switches to Mascara loses the rules; existing forms
-// were saved in this order.
-constexpr std::array<std::u16string_view, 10> orderToMask{
-    u"SimboloMonetario", u"SimbolDecExib", u"SimbolDecRet", u"SimbolAgrupMilhar", u"QtdCasasDec",
-    u"InserirZeros",     u"CorValorNeg",   u"CorValorPos",  u"AceitaNegativos",   u"MaskSomenteNumeros"};
-constexpr std::array<std::u16string_view, 13> orderAfterMask{u"MaskRules",
-                                                             u"FormatoExibData",
-                                                             u"FormatoRetornoData",
-                                                             u"FormatoRetornoData02",
-                                                             u"FormatoRetornoData03",
-                                                             u"FormatoRetornoData04",
-                                                             u"DateFormat",
-                                                             u"PromptChar",
-                                                             u"tipoLetra",
-                                                             u"TextoLivre",
-                                                             u"ShowButtonCalendario",
-                                                             u"ShowButtonCalculadora",
-                                                             u"TextType"};
-
+constexpr std::u16string_view letterList = u"lstLetrasPermitidas";
 constexpr int numerico = 1;
 constexpr int data = 2;
 constexpr int mascara = 3;
@@ -72,10 +25,7 @@ ppPrincipal::ppPrincipal(const PageServices& services, PageSite& site)
 {
     fillLetters(page_.items(u"lstLetrasPermitidas"));
     fillProfiles();
-    for (const Field& field : fields)
-        if (field.mapping != Mapping::colour) // a swatch is changed by its palette alone
-            page_.marksChanged(field.control);
-    page_.marksChanged(u"lstLetrasPermitidas");
+    page_.fieldsMarkChanged();
     page_.filterKeys(u"txtSimboloMonetario", symbolKey);
     page_.onClick(u"chkTextoLivre", [this] { followFreeTyping(); });
     page_.onClick(u"cmdfRetorno", [this] { testReturnFormat(); });
@@ -90,20 +40,19 @@ void ppPrincipal::open(std::span<PropertyObject* const> selection)
     page_.open(selection, [this] { load(); });
 }
 
-// The line that a failure names is the property's position in the order of reading, 1 to 25.
+// The line that a failure names is the property's position in the order of reading, from 1 on.
 void ppPrincipal::load()
 {
     int line = 0;
     failedLoad_.reset();
     try {
-        for (const Field& field : fields) {
+        for (PageForm::Bound& field : page_.fields()) {
             ++line;
-            page_.load(field);
+            if (field.field.control == letterList)
+                loadLetters(field);
+            else
+                page_.load(field);
         }
-        ++line;
-        const std::u16string letters = engine::toText(page_.object().get(u"CaractLiberados"), page_.locale());
-        const bool freeTyping = page_.checked(u"chkTextoLivre");
-        selectLetters(page_.items(u"lstLetrasPermitidas"), freeTyping ? std::u16string() : letters);
         followFreeTyping();
         fillMasks();
     } catch (const engine::Error& error) {
@@ -111,6 +60,12 @@ void ppPrincipal::load()
         failedLoad_->step = line;
         showFailedLoad();
     }
+}
+
+void ppPrincipal::loadLetters(PageForm::Bound& field)
+{
+    const std::u16string letters = engine::toText(page_.read(field), page_.locale());
+    selectLetters(page_.items(letterList), page_.checked(u"chkTextoLivre") ? std::u16string() : letters);
 }
 
 void ppPrincipal::followFreeTyping()
@@ -132,7 +87,7 @@ bool ppPrincipal::apply()
         checkSymbol();
     if (type == data && !acceptDateFormat())
         return false;
-    write();
+    page_.write([this](const PageForm::Bound& field) { return valueToWrite(field); });
     page_.putChanged(false);
     return true;
 }
@@ -169,20 +124,13 @@ bool ppPrincipal::acceptDateFormat()
     return false;
 }
 
-void ppPrincipal::write()
+engine::Value ppPrincipal::valueToWrite(const PageForm::Bound& field)
 {
-    page_.write(fields, orderToMask);
-    const std::u16string mask = page_.text(u"txtMascara");
-    page_.object().put(u"Mask", textType() == mascara ? prepareMask(mask, page_.text(u"txtPromptChar")) : mask);
-    page_.write(fields, orderAfterMask);
-    writeLetters();
-}
-
-void ppPrincipal::writeLetters()
-{
-    const bool freeTyping = page_.checked(u"chkTextoLivre");
-    page_.object().put(u"CaractLiberados",
-                       freeTyping ? std::u16string() : selectedLetters(page_.items(u"lstLetrasPermitidas")));
+    if (field.field.control == u"txtMascara" && textType() == mascara)
+        return prepareMask(page_.text(u"txtMascara"), page_.text(u"txtPromptChar"));
+    if (field.field.control == letterList)
+        return page_.checked(u"chkTextoLivre") ? std::u16string() : selectedLetters(page_.items(letterList));
+    return page_.value(field);
 }
 
 } // namespace vela::pages

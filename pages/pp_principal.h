@@ -30,6 +30,7 @@ private:
 
     // Loading.
     void load();
+    void loadLetters(PageForm::Bound& field);
     void showFailedLoad() const; // its step is the line
     void followFreeTyping();
     void fillMasks();
@@ -40,8 +41,7 @@ private:
     void checkSymbol();
     [[nodiscard]] bool isDateFormatAccepted() const; // says what is wrong with a character
     [[nodiscard]] bool acceptDateFormat();
-    void write();
-    void writeLetters();
+    [[nodiscard]] engine::Value valueToWrite(const PageForm::Bound& field);
 
     // One of the profiles is chosen; else says why not.
     [[nodiscard]] bool hasChosenProfile(std::u16string_view otherwise);

@@ -9,11 +9,12 @@
 
 namespace vela::pages {
 
-// An object whose properties are read and written by name; an unknown name raises 438.
+// An object whose properties are found by name, once, and read and written by the number that find() gives.
 class PropertyObject {
 public:
-    [[nodiscard]] virtual engine::Value get(std::u16string_view name) = 0;
-    virtual void put(std::u16string_view name, const engine::Value& value) = 0;
+    [[nodiscard]] virtual int find(std::u16string_view name) = 0; // raises 438 for an unknown name
+    [[nodiscard]] virtual engine::Value get(int property) = 0;
+    virtual void put(int property, const engine::Value& value) = 0;
 
 protected:
     ~PropertyObject() = default;

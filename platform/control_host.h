@@ -18,13 +18,16 @@ struct ParentForm {
     WindowId window;
 };
 
+inline constexpr int unknownProperty = -1;
+
 // A handler of the application may change what is passed by reference, may change properties, may destroy the
 // control, and may fail; an error then reaches the caller.
 class ControlHost {
 public:
     virtual ~ControlHost() = default;
 
-    virtual void propertyChanged(std::u16string_view name) = 0;
+    // The name and the DISPID of what was put; unknownProperty where the name is no property's.
+    virtual void propertyChanged(std::u16string_view name, int dispid) = 0;
     [[nodiscard]] virtual bool runMode() const = 0; // true without a host that says otherwise
     [[nodiscard]] virtual std::u16string containerName() const = 0;
     [[nodiscard]] virtual ParentForm parentForm() const = 0;

@@ -75,13 +75,14 @@ std::string enumerationText(const engine::Enumeration& enumeration, std::string_
 
 std::string typeOf(const Property& property)
 {
-    switch (property.type) {
+    switch (property.type()) {
     case PropertyType::boolean: return "VARIANT_BOOL";
     case PropertyType::byte: return "unsigned char";
     case PropertyType::integer: return "short";
     case PropertyType::longInteger: return "long";
     case PropertyType::colour: return "OLE_COLOR";
-    case PropertyType::enumeration: return property.enumeration ? narrow(property.enumeration->name) : "long";
+    case PropertyType::enumeration:
+        return control::enumerationOf(property) ? narrow(control::enumerationOf(property)->name) : "long";
     case PropertyType::text: return "BSTR";
     case PropertyType::font: return "IFontDisp*";
     case PropertyType::variant: return "VARIANT";
@@ -116,8 +117,8 @@ std::string propertyText(const Property& property)
     const std::string name = narrow(property.name);
     const std::string type = typeOf(property);
     std::string text = line(2, id + "propget" + attributes + type + " " + name + "();");
-    if (property.access != Access::read) {
-        const std::string_view kind = property.access == Access::readWriteReference ? "propputref" : "propput";
+    if (property.access() != Access::read) {
+        const std::string_view kind = property.access() == Access::readWriteReference ? "propputref" : "propput";
         text += line(2, id + std::string(kind) + attributes + "void " + name + "([in] " + type + " value);");
     }
     return text;

@@ -47,10 +47,10 @@ std::string_view typeName(PropertyType type)
 
 void printProperty(Session& session, const Property& property)
 {
-    session.printLine(toUtf8(property.name) + ": " + std::string(typeName(property.type)) +
-                      (property.access == control::Access::read ? ", read only" : ""));
-    if (property.enumeration != nullptr)
-        for (const engine::Enumerator& member : property.enumeration->members)
+    session.printLine(toUtf8(property.name) + ": " + std::string(typeName(property.type())) +
+                      (property.access() == control::Access::read ? ", read only" : ""));
+    if (control::enumerationOf(property) != nullptr)
+        for (const engine::Enumerator& member : control::enumerationOf(property)->members)
             session.printLine("  " + toUtf8(member.name) + " = " + std::to_string(member.value));
     if (!property.help.empty())
         session.printLine("  " + toUtf8(property.help));

@@ -17,10 +17,11 @@ class SelectedField final : public pages::PropertyObject {
 public:
     explicit SelectedField(Field& field) noexcept : field_(&field) {}
 
-    [[nodiscard]] engine::Value get(std::u16string_view name) override { return control::getProperty(alive(), name); }
-    void put(std::u16string_view name, const engine::Value& value) override
+    [[nodiscard]] int find(std::u16string_view name) override;
+    [[nodiscard]] engine::Value get(int property) override { return control::getProperty(alive(), rowOf(property)); }
+    void put(int property, const engine::Value& value) override
     {
-        control::putProperty(alive(), name, value);
+        control::putProperty(alive(), rowOf(property), value);
     }
     void forget(const Field& field) noexcept
     {
@@ -30,6 +31,10 @@ public:
 
 private:
     [[nodiscard]] control::Vela& alive() const;
+    [[nodiscard]] static const control::Property& rowOf(int property)
+    {
+        return control::properties()[static_cast<std::size_t>(property)];
+    }
 
     Field* field_;
 };

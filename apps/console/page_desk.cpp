@@ -1,4 +1,5 @@
 // Opens and closes the page and the palette of a run.
+#include "activex/page_fields.h"
 #include "apps/console/page_commands.h"
 #include "engine/error.h"
 
@@ -9,6 +10,15 @@ control::Vela& SelectedField::alive() const
     if (field_ == nullptr)
         engine::raise(engine::error_number::objectNotSet);
     return field_->control;
+}
+
+int SelectedField::find(std::u16string_view name)
+{
+    static_cast<void>(alive());
+    const control::Property* const property = control::findProperty(name);
+    if (property == nullptr)
+        engine::raise(engine::error_number::unsupportedMember);
+    return static_cast<int>(property - control::properties().data());
 }
 
 // The session may outlive the desk: the hook holds the selection weakly.
@@ -25,7 +35,8 @@ void PageDesk::openPage(pages::PageKind kind, std::span<Field* const> fields)
 {
     closePage();
     headless::Machine& machine = session_.machine();
-    page_ = pages::makePage(kind, {machine.environment, machine.settings, machine.forms, *this}, *this);
+    page_ = pages::makePage(
+        kind, {machine.environment, machine.settings, machine.forms, *this, activex::pageFields(kind)}, *this);
     std::vector<pages::PropertyObject*> objects;
     for (Field* const field : fields)
         objects.push_back(selection_->emplace_back(std::make_unique<SelectedField>(*field)).get());

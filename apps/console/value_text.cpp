@@ -262,7 +262,7 @@ namespace {
 bool isColour(std::u16string_view property) noexcept
 {
     const control::Property* const row = control::findProperty(property);
-    return row != nullptr && row->type == control::PropertyType::colour;
+    return row != nullptr && row->type() == control::PropertyType::colour;
 }
 
 } // namespace
@@ -278,7 +278,7 @@ std::string printedOf(std::u16string_view property, const engine::Value& value)
 engine::Value valueFor(std::u16string_view property, const Word& word)
 {
     const control::Property* const row = control::findProperty(property);
-    return valueOf(word, row != nullptr ? row->enumeration : nullptr);
+    return valueOf(word, row != nullptr ? control::enumerationOf(*row) : nullptr);
 }
 
 } // namespace vela::console

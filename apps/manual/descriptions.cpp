@@ -1,4 +1,4 @@
-// What each member is for, in one sentence of the manual, and what the tables of the control do not tell.
+// What the enumerators mean.
 #include "apps/manual/descriptions.h"
 
 #include <algorithm>
@@ -7,142 +7,6 @@
 namespace vela::manual {
 
 namespace {
-
-constexpr Description rows[] = {
-    {u"AceitaNegativos", "N", "True", "", "Whether a number may begin with \"-\".",
-     "Se um número pode começar com \"-\"."},
-    {u"Alignment", "TNDM", "2", "", "Where the text stands in the box. Setting `TextType` sets it, too.", ""},
-    {u"Appearance", "TNDM", "0", "",
-     "Whether the box has its own sunken border (`c3D`) or the control draws the border (`cFlat`).", ""},
-    {u"AutoSelect", "TNDM", "True", "", "Whether the text is selected when the field is entered.",
-     "Se o texto é selecionado quando o campo recebe o foco."},
-    {u"AutoTAB", "TNDM", "True", "", "Whether the focus moves on when the last place is filled.",
-     "Se o foco segue adiante quando a última posição é preenchida."},
-    {u"BackColor", "TNDM", "&H00FFFFFF", "", "The box's background now; setting it sets `BackColorGotFocus` too.", ""},
-    {u"BackColor_MouseMove", "TNDM", "&H00FEF7E9", "", "The background while the pointer is over the field.", ""},
-    {u"BackColorGotFocus", "TNDM", "&H00D0FFFF", "", "The background while the field has the focus.", ""},
-    {u"BackColorLostFocus", "TNDM", "&H00FFFFFF", "", "The background while it has not.", ""},
-    {u"BorderColor_MouseMove", "TNDM", "&H0000C000", "", "The border's colour while the pointer is over the field.",
-     ""},
-    {u"BorderColorGotfocus", "TNDM", "&H00C07000", "", "The border's colour while the field has the focus.", ""},
-    {u"BorderColorLostfocus", "TNDM", "&H00909090", "", "The border's colour while it has not.", ""},
-    {u"BorderStyle", "TNDM", "5", "",
-     "The line of the border, drawn with `Appearance` `cFlat`; `XP` rounds the corners and takes no button.",
-     "A linha da borda, desenhada com `Appearance` `cFlat`; `XP` arredonda os cantos e não tem botão."},
-    {u"Calendar_BackColor", "D", "&H00DFDFDF", "",
-     "The calendar's panel. The seven calendar colours are shared by the whole process.", ""},
-    {u"Calendar_ColorWeekDay", "D", "&H00808000", "", "The calendar's names of the weekdays.", ""},
-    {u"Calendar_ComboBackColor", "D", "&H80000005", "", "The background of the calendar's month and year lists.", ""},
-    {u"Calendar_DayActive", "D", "&H80000012", "", "The days of the month on show.", ""},
-    {u"Calendar_DayInactive", "D", "&H00808080", "", "The days of the months before and after.", ""},
-    {u"Calendar_FormBackcolor", "D", "&H00FFFFFF", "", "The calendar's edge.", ""},
-    {u"Calendar_Selected", "D", "&H00C0E0FF", "", "The circle of the selected day.", "O círculo do dia escolhido."},
-    {u"CampoRequerido", "TNDM", "True", "",
-     "Marks a required field, for the application; the control does not act on it.", ""},
-    {u"CaractLiberados", "T", "\"ABC123\"", "",
-     "The characters that may be typed when `TextoLivre` is False. Setting `TextType` to another type empties it.", ""},
-    {u"CorValorNeg", "N", "&H000000FF", "", "The text colour of a number below zero once the field is left.", ""},
-    {u"CorValorPos", "N", "&H00800000", "", "The text colour of a number above zero once the field is left.", ""},
-    {u"DateFormat", "D", "\"dd/mm/yyyy\"", "",
-     "Which positions are day, month and year (or hour, minute, second), and how dates are written into the field.",
-     ""},
-    {u"Delimitador", "TNDM", "\"'\"", "",
-     "The text around `Value` in the first return scheme; leave it empty for numbers.", ""},
-    {u"Delimitador02", "TNDM", "\"#\"", "", "The same for the second.", ""},
-    {u"Delimitador03", "TNDM", "\"#\"", "", "The same for the third.", ""},
-    {u"Delimitador04", "TNDM", "\"#\"", "", "The same for the fourth.", ""},
-    {u"Enabled", "TNDM", "False", "", "Whether the field can be used.", ""},
-    {u"EnterAsTab", "TNDM", "True", "", "Whether Enter moves to the next field.", "Se Enter passa ao próximo campo."},
-    {u"Error_ForeColor", "D", "&H000000FF", "", "The text colour of a wrong entry.", ""},
-    {u"ErrorAlert", "ND", "True", "", "Whether a balloon tells of a wrong entry.",
-     "Se um balão avisa de um valor errado."},
-    {u"ErrorFocus", "ND", "True", "", "Whether the focus stays until the entry is right.", ""},
-    {u"ErrorMsgCustom", "ND", "True", "", "Whether the balloon shows `ErrorTextMessage`.",
-     "Se o balão mostra `ErrorTextMessage`."},
-    {u"ErrorTextClear", "ND", "True", "", "Whether a wrong entry is emptied.", ""},
-    {u"ErrorTextMessage", "ND", "\"Data errada\"", "", "Your own text for the balloon.", "O seu texto para o balão."},
-    {u"Font", "TNDM", "", "13",
-     "The box's font, as an object: `Name`, `Size`, `Bold`, `Italic`, `Underline`, `Strikethrough`.", ""},
-    {u"FontBold", "TNDM", "True", "", "Bold.", ""},
-    {u"FontItalic", "TNDM", "True", "", "Italic.", ""},
-    {u"FontName", "TNDM", "\"Tahoma\"", "", "The font's name.", ""},
-    {u"FontSize", "TNDM", "10", "6", "The font's size in points, 0 to 255.", ""},
-    {u"FontStrikethru", "TNDM", "True", "", "Struck through.", ""},
-    {u"FontUnderline", "TNDM", "True", "", "Underlined. Saved as `FontUnderLine`.", ""},
-    {u"ForeColor_GotFocus", "TNDM", "&H00800000", "", "The text colour while the field has the focus.", ""},
-    {u"ForeColor_LostFocus", "TNDM", "&H00000000", "", "The text colour while it has not.", ""},
-    {u"FormatoExibData", "D", "\"__/__/____\"", "",
-     "What an empty date field shows; copied into `Mask` when `TextType` becomes `Data`. As long as `DateFormat`.", ""},
-    {u"FormatoRetornoData", "D", "\"yyyy-mm-dd\"", "", "The date pattern of `Value` in the first return scheme.", ""},
-    {u"FormatoRetornoData02", "D", "\"mm/dd/yyyy\"", "", "The same for the second.", ""},
-    {u"FormatoRetornoData03", "D", "\"d/m/yy\"", "", "The same for the third.", ""},
-    {u"FormatoRetornoData04", "D", "\"dd.mm.yyyy\"", "", "The same for the fourth.", ""},
-    {u"hwnd", "TNDM", "", "438", "The window of the edit box.", "A janela da caixa de edição."},
-    {u"HwndCtl", "TNDM", "", "438", "The window of the control.", "A janela do controle."},
-    {u"IF_IsEmpty", "TNDM", "\"0\"", "", "The text that a field left empty takes.",
-     "O texto que um campo assume quando se sai dele vazio."},
-    {u"InserirZeros", "N", "True", "", "Whether the decimals are filled with zeros when the field is left.", ""},
-    {u"Locked", "TNDM", "True", "",
-     "Whether typing is refused; a mask's box is always locked, because the mask writes the text itself.", ""},
-    {u"NomeCampo", "TNDM", "\"Apelido\"", "",
-     "The field's name for people: the title of its tip, and what a screen reader says.", ""},
-    {u"Mask", "M", "\"___-____\"", "1001",
-     "The template of a mask field, `PromptChar` at each input position. Setting it sets `MaxLength` and empties the "
-     "text.",
-     ""},
-    {u"MaskRules", "M", "\"@@@-####\"", "",
-     "What each input position takes: `#` digit, `@` letter, `?` either; kept by `Mascara` fields only.", ""},
-    {u"MaskSomenteNumeros", "DM", "True", "", "Kept and saved for `Data` and `Mascara` fields; nothing reads it.", ""},
-    {u"MaskToNumeric", "N", "True", "",
-     "Whether a number is laid out with its decimals while it is typed; kept by `Numerico` fields only.",
-     "Se o número é arrumado com as casas decimais enquanto é digitado; só é guardada em campos `Numerico`."},
-    {u"MaxLength", "TN", "10", "380",
-     "The most characters that may be typed, 0 for no limit. Masks and dates set it themselves.",
-     "Quantos caracteres podem ser digitados, 0 sem limite. Máscaras e datas a definem por si."},
-    {u"MsgRequerido", "TNDM", "\"Informe o nome\"", "", "A text for the application, beside `CampoRequerido`.",
-     "Um texto para o programa, junto de `CampoRequerido`."},
-    {u"MultLine", "T", "", "1002", "Whether the box is multi-line; set at design time.", ""},
-    {u"nomeContainer", "TNDM", "", "438", "The name of the form or frame that holds the control.", ""},
-    {u"PasswordChar", "T", "\"*\"", "380", "The character shown in place of each typed one; at most one character.",
-     ""},
-    {u"PromptChar", "DM", "\"_\"", "", "The character that marks input positions in `Mask`.", ""},
-    {u"QtdCasasDec", "N", "2", "6", "Decimal places, 0 to 255; 0 resets the three symbols and `InserirZeros`.", ""},
-    {u"SelLength", "TNDM", "2", "380", "How many characters are selected.", ""},
-    {u"SelStart", "TNDM", "2", "380", "The caret, 0 before the first character; setting it selects nothing.", ""},
-    {u"ShowButtonCalendario", "D", "True", "", "Whether the button that opens the calendar shows.", ""},
-    {u"ShowButtonCalculadora", "N", "True", "", "Whether the button that opens the calculator shows, and F2 opens it.",
-     ""},
-    {u"SimbolAgrupMilhar", "N", "1", "", "The grouping symbol shown when the field is left.", ""},
-    {u"SimbolDecExib", "N", "2", "", "The decimal symbol that is typed and shown.", ""},
-    {u"SimbolDecRet", "N", "2", "", "The decimal symbol of the user's region, by which `Value` is computed.", ""},
-    {u"SimboloMonetario", "N", "\"R$ \"", "",
-     "What is put before the number when the field is left; \";\" divides what goes before from what goes behind.", ""},
-    {u"Text", "TNDM", "\"abc\"", "13", "What the box shows. The default member.", ""},
-    {u"TextoLivre", "T", "False", "", "Whether any character may be typed.", ""},
-    {u"TextType", "TNDM", "1", "",
-     "What kind of data the field holds; switching clears the default value and the text.", ""},
-    {u"tipoLetra", "T", "3", "",
-     "The letter case: as typed, capitals, small letters, or proper names when the field is left.", ""},
-    {u"ToolTipGotFocus", "TNDM", "\"Informe o nome\"", "", "The tip shown when the field is entered.", ""},
-    {u"ToolTipGotFocusTipo", "TNDM", "2", "", "The tip's icon.", ""},
-    {u"UpTAB", "TNDM", "False", "", "Whether the Down and Up arrows move to the next and the previous field.", ""},
-    {u"ValorPadrao", "TNDM", "\"abc\"", "",
-     "The default content, or on a date field a formula: `%date`, `%hour`. Set it after `TextType`.", ""},
-    {u"Value", "TNDM", "\"abc\"", "13",
-     "The content as the application wants it; depends on `TextType` and the return scheme.", ""},
-    {u"EsquemaRetornoAtual", "TNDM", "1", "",
-     "Which return scheme is in force. Set it after the scheme's format and delimiter.", ""},
-    {u"About", "", "", "", "Shows the About box.", ""},
-    {u"DestruirToolTip", "", "", "", "Takes the field's tip away.", ""},
-    {u"LimparMemoria", "", "", "", "Lets go of the edit box; afterwards what needs it raises error 91.", ""},
-    {u"Change", "", "", "", "The text became another text.", ""},
-    {u"Click", "", "", "", "The field was clicked; a double click raises it once more.", ""},
-    {u"KeyPress", "", "", "",
-     "A character was typed and filtered; put `KeyAscii` to 0 to refuse it, or to another character.", ""},
-    {u"KeyUp", "", "", "", "A key was released.", ""},
-    {u"KeyDown", "", "", "", "A key was pressed; put `KeyCode` to 0 to refuse it.", ""},
-    {u"MouseOut", "", "", "", "The pointer has left the field.", ""},
-};
 
 constexpr EnumeratorText enumerators[] = {
     {u"TextoNormal", "free text", "texto"},
@@ -177,24 +41,12 @@ constexpr EnumeratorText enumerators[] = {
     {u"TTIconError", "an error", "erro"},
 };
 
-template <class Row, std::size_t count>
-const Row* find(const Row (&table)[count], std::u16string_view name) noexcept
-{
-    const Row* const found =
-        std::find_if(std::begin(table), std::end(table), [&](const Row& row) { return row.name == name; });
-    return found == std::end(table) ? nullptr : found;
-}
-
 } // namespace
-
-const Description* findDescription(std::u16string_view member) noexcept
-{
-    return find(rows, member);
-}
 
 const EnumeratorText* findEnumeratorText(std::u16string_view name) noexcept
 {
-    return find(enumerators, name);
+    const auto* const found = std::ranges::find(enumerators, name, &EnumeratorText::name);
+    return found == std::end(enumerators) ? nullptr : found;
 }
 
 } // namespace vela::manual

@@ -1,10 +1,9 @@
 // Writes the members: types, defaults as a control answers them, pages and what is saved as the tables know them.
 #include "apps/manual/reference_page.h"
 
-#include "activex/page_entries.h"
 #include "apps/console/session.h"
-#include "control/persistence.h"
 #include "control/property_table.h"
+#include "pages/page.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -88,32 +87,25 @@ const Words& wordsOf(Language language)
     return language == Language::english ? english : portuguese;
 }
 
-const Description& described(std::u16string_view member)
+// What a member is for; without a Portuguese sentence its help text says it.
+std::string sentence(Language language, std::string_view inEnglish, std::string_view inPortuguese,
+                     std::u16string_view help)
 {
-    const Description* const found = findDescription(member);
-    if (!found)
-        throw std::runtime_error("no description of " + toUtf8(member));
-    return *found;
-}
-
-std::string sentence(Language language, std::u16string_view member, std::u16string_view help)
-{
-    const Description& found = described(member);
     if (language == Language::english)
-        return std::string(found.english);
-    return found.portuguese.empty() ? toUtf8(help) + "." : std::string(found.portuguese);
+        return std::string(inEnglish);
+    return inPortuguese.empty() ? toUtf8(help) + "." : std::string(inPortuguese);
 }
 
 std::string typeName(Language language, const Property& property)
 {
     const bool inEnglish = language == Language::english;
-    switch (property.type) {
+    switch (property.type()) {
     case PropertyType::boolean: return "Boolean";
     case PropertyType::byte: return "Byte";
     case PropertyType::integer: return "Integer";
     case PropertyType::longInteger: return "Long";
     case PropertyType::colour: return inEnglish ? "colour" : "cor";
-    case PropertyType::enumeration: return "`" + toUtf8(property.enumeration->name) + "`";
+    case PropertyType::enumeration: return "`" + toUtf8(control::enumerationOf(property)->name) + "`";
     case PropertyType::text: return "String";
     case PropertyType::font: return inEnglish ? "font object" : "objeto fonte";
     case PropertyType::variant: return "Variant";
@@ -141,7 +133,7 @@ std::vector<std::string> answers(std::string_view made)
 // As a new field answers and, where that is another value, as one loaded from no settings does.
 std::string defaultOf(const Words& words, const Property& property, const std::string& fresh, const std::string& loaded)
 {
-    if (property.access == Access::read)
+    if (property.access() == Access::read)
         return {};
     const std::string text = "`" + fresh + "`";
     return loaded == fresh ? text : text + ", " + std::string(words.loaded) + " `" + loaded + "`";
@@ -162,12 +154,6 @@ std::string typesOf(const Words& words, std::string_view letters)
     return text;
 }
 
-bool isSaved(std::u16string_view name)
-{
-    const auto keys = control::storedKeys();
-    return name == u"FontUnderline" || std::find(keys.begin(), keys.end(), name) != keys.end();
-}
-
 void addProperties(Language language, std::string& page)
 {
     const Words& words = wordsOf(language);
@@ -175,19 +161,19 @@ void addProperties(Language language, std::string& page)
     const std::vector<std::string> loaded = answers("load f");
     page += std::string(words.properties) + std::string(words.headings);
     for (const Property& property : control::properties()) {
-        const Description& about = described(property.name);
+        const control::ManualText& about = property.manual;
         const auto row = static_cast<std::size_t>(&property - control::properties().data());
-        const activex::PageEntry* const entry = activex::findPageEntry(property.name);
+        const auto onPage = pages::findPageKind(property.page.name);
         page += "| `" + toUtf8(property.name) + "` | " + typeName(language, property);
-        if (property.access == Access::read)
+        if (property.access() == Access::read)
             page += ", " + std::string(words.readOnly);
         if (property.browsable == Browsable::hidden)
             page += ", " + std::string(words.hidden);
         page +=
             " | " + defaultOf(words, property, fresh[row], loaded[row]) + " | " + typesOf(words, about.types) + " | ";
-        page += std::string(isSaved(property.name) ? words.yes : words.no) + " | ";
-        page += std::string(entry ? words.pages[static_cast<std::size_t>(entry->page)] : "") + " | ";
-        page += sentence(language, property.name, property.help);
+        page += std::string(property.saved.read > 0 ? words.yes : words.no) + " | ";
+        page += std::string(onPage ? words.pages[static_cast<std::size_t>(*onPage)] : "") + " | ";
+        page += sentence(language, about.english, about.portuguese, property.help);
         if (!about.errors.empty())
             page += " " + std::string(words.errors) + std::string(about.errors) + ".";
         if (!about.example.empty())
@@ -224,13 +210,13 @@ std::string referencePage(Language language)
     page += "\n" + std::string(words.methods);
     for (const control::Method& method : control::methods())
         page += "| `" + toUtf8(method.name) + "` | " + std::to_string(method.dispid) + " | " +
-                sentence(language, method.name, method.help) + " |\n";
+                sentence(language, method.english, {}, method.help) + " |\n";
     page += "\n" + std::string(words.events);
     for (const control::Event& event : control::events()) {
         page += "| `" + toUtf8(event.name) + "` | " + std::to_string(event.dispid) + " | ";
         for (std::size_t i = 0; i < event.parameters.size(); ++i)
             page += (i == 0 ? "`" : ", `") + toUtf8(event.parameters[i].name) + "`";
-        page += " | " + sentence(language, event.name, event.help) + " |\n";
+        page += " | " + sentence(language, event.english, {}, event.help) + " |\n";
     }
     page += std::string(referenceProse(language));
     addEnumerations(language, page);

@@ -26,7 +26,7 @@ void ControlHost::call(Handler HostHandlers::*handler, Arguments&... arguments)
         copy(arguments...);
 }
 
-void ControlHost::propertyChanged(std::u16string_view name)
+void ControlHost::propertyChanged(std::u16string_view name, int)
 {
     element_->form().faults().pass();
     element_->form().sink().trace(trace::Changed{element_->name(), name});

@@ -31,7 +31,7 @@ public:
 
     [[nodiscard]] HostHandlers& handlers(); // made at the first call
 
-    void propertyChanged(std::u16string_view name) override;
+    void propertyChanged(std::u16string_view name, int dispid) override;
     [[nodiscard]] bool runMode() const override { return runMode_; }
     [[nodiscard]] std::u16string containerName() const override { return u"Form1"; }
     [[nodiscard]] platform::ParentForm parentForm() const override;

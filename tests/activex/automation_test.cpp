@@ -45,10 +45,10 @@ TEST(Automation, EveryPropertyIsReadWithItsOwnVariantTypeAndCanBePutBack)
         SCOPED_TRACE(std::string(property.name.begin(), property.name.end()));
         Outcome read = control.get(property.name);
         ASSERT_EQ(read.result, S_OK);
-        if (property.type != control::PropertyType::variant) {
-            EXPECT_EQ(read.value.get().vt, variantTypeOf(property.type));
+        if (property.type() != control::PropertyType::variant) {
+            EXPECT_EQ(read.value.get().vt, variantTypeOf(property.type()));
         }
-        if (property.access != control::Access::read && property.name != u"MultLine") {
+        if (property.access() != control::Access::read && property.name != u"MultLine") {
             EXPECT_EQ(control.put(property.name, std::move(read.value)).result, S_OK);
         }
     }

@@ -133,13 +133,13 @@ TEST(Interfaces, EnumeratedValuesAreBrowsedByName)
         CALPOLESTR names{};
         CADWORD cookies{};
         const HRESULT result = browsing->GetPredefinedStrings(property.dispid, &names, &cookies);
-        if (!property.enumeration) {
+        if (!control::enumerationOf(property)) {
             EXPECT_EQ(result, S_FALSE);
             continue;
         }
-        ASSERT_EQ(names.cElems, property.enumeration->members.size());
+        ASSERT_EQ(names.cElems, control::enumerationOf(property)->members.size());
         for (ULONG i = 0; i < names.cElems; ++i) {
-            const engine::Enumerator& member = property.enumeration->members[i];
+            const engine::Enumerator& member = control::enumerationOf(property)->members[i];
             EXPECT_EQ(asText(names.pElems[i], wcslen(names.pElems[i])), member.name);
             Variant value;
             EXPECT_EQ(browsing->GetPredefinedValue(property.dispid, cookies.pElems[i], value.put()), S_OK);

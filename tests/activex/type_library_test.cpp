@@ -76,13 +76,13 @@ std::u16string typeText(ITypeInfo& info, const TYPEDESC& type)
 
 std::u16string expectedType(const Property& property)
 {
-    switch (property.type) {
+    switch (property.type()) {
     case PropertyType::boolean: return u"Boolean";
     case PropertyType::byte: return u"Byte";
     case PropertyType::integer: return u"Integer";
     case PropertyType::longInteger: return u"Long";
     case PropertyType::colour: return u"OLE_COLOR";
-    case PropertyType::enumeration: return std::u16string(property.enumeration->name);
+    case PropertyType::enumeration: return std::u16string(control::enumerationOf(property)->name);
     case PropertyType::text: return u"BSTR";
     case PropertyType::font: return u"IFontDisp*";
     case PropertyType::variant: return u"Variant";
@@ -141,7 +141,7 @@ std::multimap<MEMBERID, Function> functionsOf(ITypeInfo& info)
 
 INVOKEKIND putKind(const Property& property)
 {
-    return property.access == Access::readWriteReference ? INVOKE_PROPERTYPUTREF : INVOKE_PROPERTYPUT;
+    return property.access() == Access::readWriteReference ? INVOKE_PROPERTYPUTREF : INVOKE_PROPERTYPUT;
 }
 
 TEST(TypeLibrary, HoldsEveryPropertyOfTheTableAndNoOther)
@@ -153,7 +153,7 @@ TEST(TypeLibrary, HoldsEveryPropertyOfTheTableAndNoOther)
     for (const Property& property : control::properties()) {
         SCOPED_TRACE(property.dispid);
         const auto [first, last] = functions.equal_range(property.dispid);
-        const bool writable = property.access != Access::read;
+        const bool writable = property.access() != Access::read;
         expected += writable ? 2u : 1u;
         ASSERT_EQ(std::distance(first, last), writable ? 2 : 1);
         for (auto found = first; found != last; ++found) {

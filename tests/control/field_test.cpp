@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <new>
 
@@ -197,8 +198,10 @@ TEST(Property, TableIsComplete)
 {
     for (const control::Property& row : control::properties()) {
         EXPECT_EQ(control::findProperty(row.name), &row);
-        EXPECT_EQ(control::findProperty(row.dispid), &row);
-        EXPECT_EQ(row.put == nullptr, row.access == control::Access::read) << toUtf8(row.name);
+        EXPECT_EQ(std::ranges::count(control::properties(), row.dispid, &control::Property::dispid), 1)
+            << toUtf8(row.name);
+        EXPECT_EQ(row.value.put == nullptr, row.access() == control::Access::read) << toUtf8(row.name);
+        EXPECT_EQ(row.value.save != nullptr, row.saved.read > 0 && row.saved.written > 0) << toUtf8(row.name);
     }
 }
 

@@ -28,7 +28,7 @@ TEST(Manual, TheReferenceIsUpToDateInBothLanguages)
 TEST(Manual, TheExamplesOfTheReferenceMayBePut)
 {
     for (const vela::control::Property& property : vela::control::properties()) {
-        const vela::manual::Description& about = *vela::manual::findDescription(property.name);
+        const vela::control::ManualText& about = property.manual;
         if (about.example.empty())
             continue;
         std::string output;

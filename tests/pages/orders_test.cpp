@@ -38,16 +38,26 @@ const Order orders[] = {
      "Calendar_FormBackcolor Calendar_Selected"},
 };
 
+// Of `names` those that `promised` holds: properties that were added later may stand anywhere between them.
+std::string among(const std::string& promised, const std::vector<std::u16string>& names)
+{
+    std::vector<std::u16string> found;
+    for (const std::u16string& name : names)
+        if ((" " + promised + " ").find(" " + utf8(name) + " ") != std::string::npos)
+            found.push_back(name);
+    return joined(found);
+}
+
 TEST(Orders, ReadAndWrittenAsTheyAlwaysWereAndOnlyOnTheFirstObject)
 {
     for (const Order& order : orders) {
         PageBench bench(order.page);
         RecordingObject second;
         bench.open({&bench.object, &second});
-        EXPECT_EQ(joined(bench.object.read), order.read);
+        EXPECT_EQ(among(order.read, bench.object.read), order.read);
         EXPECT_EQ(joined(bench.object.written), "");
         EXPECT_TRUE(bench.page->apply());
-        EXPECT_EQ(joined(bench.object.written), order.written);
+        EXPECT_EQ(among(order.written, bench.object.written), order.written);
         EXPECT_TRUE(second.read.empty() && second.written.empty());
     }
 }

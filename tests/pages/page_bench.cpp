@@ -1,6 +1,7 @@
 // The bench of the page tests.
 #include "page_bench.h"
 
+#include "activex/page_fields.h"
 #include "engine/text/calendar_date.h"
 #include "engine/text/conversions.h"
 
@@ -41,22 +42,17 @@ bool sameValue(const Value& a, const Value& b)
 
 RecordingObject::RecordingObject()
 {
-    for (const char16_t* name :
-         {u"SimboloMonetario", u"MaskRules", u"CaractLiberados", u"FormatoRetornoData", u"FormatoRetornoData02",
-          u"FormatoRetornoData03", u"FormatoRetornoData04", u"Mask", u"IF_IsEmpty", u"Delimitador", u"Delimitador02",
-          u"Delimitador03", u"Delimitador04", u"ErrorTextMessage"})
-        properties[name] = std::u16string();
-    for (const char16_t* name :
-         {u"AceitaNegativos", u"InserirZeros", u"MaskSomenteNumeros", u"ShowButtonCalendario", u"ShowButtonCalculadora",
-          u"UpTAB", u"EnterAsTab", u"AutoSelect", u"ErrorAlert", u"ErrorFocus", u"ErrorMsgCustom", u"ErrorTextClear",
-          u"FontBold", u"FontItalic", u"FontUnderline", u"FontStrikethru"})
-        properties[name] = false;
-    for (const char16_t* name :
-         {u"TextType", u"SimbolDecExib", u"SimbolDecRet", u"SimbolAgrupMilhar", u"QtdCasasDec", u"CorValorNeg",
-          u"CorValorPos", u"tipoLetra", u"BackColorGotFocus", u"BackColorLostFocus", u"Error_ForeColor",
-          u"Calendar_BackColor", u"Calendar_ComboBackColor", u"Calendar_DayActive", u"Calendar_DayInactive",
-          u"Calendar_ColorWeekDay", u"Calendar_FormBackcolor", u"Calendar_Selected"})
-        properties[name] = std::int32_t{0};
+    for (const PageKind page : pageKinds())
+        for (const Field& field : activex::pageFields(page)) {
+            Value& value = properties[std::u16string(field.property)];
+            switch (field.mapping) {
+            case Mapping::text: value = std::u16string(); break;
+            case Mapping::check: value = false; break;
+            case Mapping::number:
+            case Mapping::listIndex:
+            case Mapping::colour: value = std::int32_t{0}; break;
+            }
+        }
     properties[u"TextoLivre"] = true;
     properties[u"DateFormat"] = std::u16string(u"dd/mm/yyyy");
     properties[u"FormatoExibData"] = std::u16string(u"__/__/____");
@@ -65,24 +61,24 @@ RecordingObject::RecordingObject()
     properties[u"FontSize"] = std::int32_t{8};
 }
 
-Value RecordingObject::get(std::u16string_view name)
+int RecordingObject::find(std::u16string_view name)
 {
-    const auto found = properties.find(name);
-    if (found == properties.end())
+    if (!properties.contains(name))
         engine::raise(engine::error_number::unsupportedMember);
-    read.emplace_back(name);
-    return found->second;
+    found_.emplace_back(name);
+    return static_cast<int>(found_.size()) - 1;
 }
 
-void RecordingObject::put(std::u16string_view name, const Value& value)
+Value RecordingObject::get(int property)
 {
-    const auto found = properties.find(name);
-    if (found == properties.end())
-        engine::raise(engine::error_number::unsupportedMember);
+    return properties[read.emplace_back(found_.at(static_cast<std::size_t>(property)))];
+}
+
+void RecordingObject::put(int property, const Value& value)
+{
     if (failWriteAt == written.size())
         engine::raise(engine::error_number::invalidPropertyValue);
-    written.emplace_back(name);
-    found->second = value;
+    properties[written.emplace_back(found_.at(static_cast<std::size_t>(property)))] = value;
 }
 
 void RecordingObject::makeAllDifferent()
@@ -123,7 +119,7 @@ PageBench::PageBench(PageKind kind) : kind_(kind)
 void PageBench::remake()
 {
     page.reset();
-    page = makePage(kind_, {machine_.environment, store_, machine_.forms, *this}, *this);
+    page = makePage(kind_, {machine_.environment, store_, machine_.forms, *this, activex::pageFields(kind_)}, *this);
 }
 
 void PageBench::open(const std::vector<PropertyObject*>& selection)

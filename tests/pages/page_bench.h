@@ -26,8 +26,9 @@ class RecordingObject final : public PropertyObject {
 public:
     RecordingObject();
 
-    [[nodiscard]] engine::Value get(std::u16string_view name) override;
-    void put(std::u16string_view name, const engine::Value& value) override;
+    [[nodiscard]] int find(std::u16string_view name) override;
+    [[nodiscard]] engine::Value get(int property) override;
+    void put(int property, const engine::Value& value) override;
 
     void makeAllDifferent(); // no two properties of one type hold the same value, as far as the type allows
 
@@ -35,6 +36,9 @@ public:
     std::vector<std::u16string> read;
     std::vector<std::u16string> written;
     std::optional<std::size_t> failWriteAt; // the write with this place in `written` raises 380
+
+private:
+    std::vector<std::u16string> found_;
 };
 
 class PageBench final : private PageSite, private ColourChooser {
