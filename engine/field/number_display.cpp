@@ -3,6 +3,7 @@
 
 #include "engine/text/characters.h"
 #include "engine/text/conversions.h"
+#include "engine/text/plain_number.h"
 #include "engine/text/text_writer.h"
 
 #include <algorithm>
@@ -11,7 +12,7 @@
 namespace vela::engine {
 namespace {
 
-constexpr std::u16string_view wholePattern = u"###,###,###,###,###,###,###,###,###,###,###,###,###,###,##0";
+constexpr std::u16string_view wholePattern = u"#,##0";
 constexpr std::size_t npos = std::u16string_view::npos;
 
 void removeAll(std::u16string_view part, std::u16string_view text, std::u16string& into)
@@ -27,13 +28,6 @@ void removeAll(std::u16string_view part, std::u16string_view text, std::u16strin
     into.append(text);
 }
 
-// A number in its plainest writing, which needs no arithmetic to be grouped: "-1234567,5".
-struct PlainNumber {
-    bool negative = false;
-    std::u16string_view whole;    // 0 to 15 digits
-    std::u16string_view fraction; // digits
-};
-
 constexpr std::size_t countedDigits = 15; // of a double
 
 std::size_t leadingDigits(std::u16string_view text) noexcept
@@ -44,41 +38,19 @@ std::size_t leadingDigits(std::u16string_view text) noexcept
     return count;
 }
 
-// Nothing for every other writing, numeric or not, and in locales with signs and symbols of another kind.
-std::optional<PlainNumber> plainNumber(std::u16string_view text, const Locale& locale) noexcept
-{
-    if (locale.decimal.size() != 1 || locale.grouping.size() != 1 || locale.negativeSign != u"-")
-        return {};
-    PlainNumber number;
-    number.negative = text.starts_with(u'-');
-    if (number.negative)
-        text.remove_prefix(1);
-    number.whole = text.substr(0, leadingDigits(text));
-    text.remove_prefix(number.whole.size());
-    if (!text.empty()) {
-        number.fraction = text.substr(1);
-        if (text.front() != locale.decimal.front() || number.fraction.empty() ||
-            leadingDigits(number.fraction) != number.fraction.size())
-            return {};
-    }
-    if (number.whole.size() > countedDigits || number.whole.size() + number.fraction.size() == 0)
-        return {};
-    return number;
-}
-
 bool isZero(std::u16string_view digits) noexcept
 {
     return digits.find_first_not_of(u'0') == npos;
 }
 
-// "0012345" -> "12.345", "" -> "0"; `grouping` 0: no grouping.
-void putWhole(std::u16string_view digits, char16_t grouping, TextWriter& writer)
+// "0012345" -> "12.345", "" -> "0"
+void putWhole(std::u16string_view digits, std::u16string_view grouping, TextWriter& writer)
 {
     digits.remove_prefix(std::min(digits.find_first_not_of(u'0'), digits.size()));
     if (digits.empty())
         writer.put(u'0');
     for (std::size_t i = 0; i < digits.size(); ++i) {
-        if (grouping != 0 && i != 0 && (digits.size() - i) % 3 == 0)
+        if (i != 0 && (digits.size() - i) % 3 == 0)
             writer.put(grouping);
         writer.put(digits[i]);
     }
@@ -107,11 +79,12 @@ void putGrouped(std::u16string_view whole, std::u16string_view fraction, const L
 {
     const bool negative = whole.starts_with(u'-');
     const bool fractionHolds = fraction.find_first_of(u"123456789") != npos;
-    const auto plain = plainNumber(whole, locale);
-    if (plain && plain->fraction.empty()) {
-        if (negative && (fractionHolds || !isZero(plain->whole)))
+    const auto digits = whole.substr(negative ? 1 : 0);
+    const bool plainSign = !negative || locale.negativeSign == u"-";
+    if (plainSign && leadingDigits(digits) == digits.size() && digits.size() <= countedDigits) {
+        if (negative && (fractionHolds || !isZero(digits)))
             writer.put(u'-'); // of "-0,5" too
-        putWhole(plain->whole, locale.grouping.front(), writer);
+        putWhole(digits, locale.grouping, writer);
         return;
     }
     const double number = leadingNumber(whole);
@@ -173,66 +146,38 @@ std::optional<char16_t> symbolCharacter(std::u16string_view symbol) noexcept
     return {};
 }
 
-// The digits of an amount as a person keys it into a fixed-point field, "1.234,567" or "-12345", where the digits
-// before the shifted point and behind it stand in their places whatever symbols are between them.
-struct KeyedAmount {
-    bool negative = false;
-    std::array<char16_t, countedDigits> digits{};
-    std::size_t count = 0;
-};
-
-// Nothing for every other writing, numeric or not, and for settings whose pattern does more than group two places.
-std::optional<KeyedAmount> keyedAmount(std::u16string_view text, const NumberSettings& settings) noexcept
+// The text of an amount as a person keys it into a fixed-point field: its digits stand in their places before and
+// behind the shifted point, whatever symbols are between them. "1.234,567" -> "12.345,67". False for other writings,
+// and for settings whose pattern does more than group two places.
+bool putKeyedAmount(std::u16string_view text, const NumberSettings& settings, std::u16string& into)
 {
     const Locale& locale = settings.locale;
     if (settings.decimals != 2 || settings.decimal != u"," || settings.grouping == u"," || locale.decimal != u"," ||
         locale.grouping != u"." || locale.negativeSign != u"-")
-        return {};
-    KeyedAmount amount;
-    amount.negative = text.starts_with(u'-');
-    if (amount.negative)
-        text.remove_prefix(1);
-    if (text.empty() || !isDigit(text.front()))
-        return {};
-    std::size_t sinceGrouping = 0;
-    bool decimal = false;
-    for (const char16_t unit : text) {
-        if (isDigit(unit) && amount.count < amount.digits.size()) {
-            amount.digits[amount.count++] = unit;
-            ++sinceGrouping;
-        } else if (unit == u'.') {
-            sinceGrouping = 0;
-        } else if (unit == u',' && !decimal) {
-            decimal = true;
-        } else {
-            return {};
-        }
-    }
-    if (sinceGrouping < 2 || amount.count < 3)
-        return {};
-    return amount;
-}
-
-void putAmount(const KeyedAmount& amount, const NumberSettings& settings, std::u16string& into)
-{
-    const std::u16string_view digits(amount.digits.data(), amount.count);
+        return false;
+    const auto number = readPlainNumber(text, locale);
+    if (!number || number->behindGrouping < 2)
+        return false;
+    std::array<char16_t, countedDigits> digits{};
+    auto first = digits.end();
+    for (auto rest = number->digits / 100; rest > 0; rest /= 10)
+        *--first = static_cast<char16_t>(u'0' + rest % 10);
     into.clear();
     TextWriter writer(into);
-    if (amount.negative && !isZero(digits))
+    if (number->negative && number->digits > 0)
         writer.put(u'-');
-    putWhole(digits.substr(0, digits.size() - 2), settings.grouping.empty() ? u'\0' : u'.', writer);
+    putWhole({first, digits.end()}, settings.grouping, writer);
     writer.put(u',');
-    writer.put(digits.substr(digits.size() - 2));
+    writer.number(static_cast<int>(number->digits % 100), 2);
     writer.flush();
+    return true;
 }
 
 // Writes the text of the live re-format; false when this text is not re-formatted.
 bool putLive(std::u16string_view text, const NumberSettings& settings, LivePattern& patterns, std::u16string& into)
 {
-    if (const auto amount = keyedAmount(text, settings)) {
-        putAmount(*amount, settings, into);
+    if (putKeyedAmount(text, settings, into))
         return true;
-    }
     if (text.empty() || !isNumeric(text, settings.locale))
         return false;
     const Pattern* pattern = patterns.of(settings.decimal, settings.grouping, settings.decimals);
@@ -252,7 +197,7 @@ bool putLive(std::u16string_view text, const NumberSettings& settings, LivePatte
 void displayNumber(std::u16string_view text, const NumberSettings& settings, std::u16string& into)
 {
     into.clear();
-    if (!plainNumber(text, settings.locale) && !isNumeric(text, settings.locale))
+    if (!isNumeric(text, settings.locale))
         return;
     if (settings.decimal.empty()) {
         into.assign(text);

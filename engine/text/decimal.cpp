@@ -30,25 +30,7 @@ void takeWhole(Decimal& decimal, std::uint64_t whole, int fractionDigits) noexce
     trimZeros(decimal);
 }
 
-// Amounts with few decimals, without the general algorithm: a decimal of at most 15 digits that reads back as the
-// number is its 15-digit form.
-bool takeAmount(Decimal& decimal, double magnitude) noexcept
-{
-    static constexpr std::array<double, 3> scales{1.0, 100.0, 10000.0};
-    for (std::size_t i = 0; i < scales.size(); ++i) {
-        const double scaled = magnitude * scales[i];
-        if (!(scaled < 1e15))
-            return false;
-        const auto whole = static_cast<std::uint64_t>(scaled + 0.5);
-        if (static_cast<double>(whole) / scales[i] == magnitude) {
-            takeWhole(decimal, whole, static_cast<int>(i) * 2);
-            return true;
-        }
-    }
-    return false;
-}
-
-// Any number: as a whole number of 15 digits and the power of ten that makes it one.
+// As a whole number of 15 digits and the power of ten that makes it one.
 void takeRounded(Decimal& decimal, double magnitude) noexcept
 {
     int scale = significantDigits - 1 - static_cast<int>(std::floor(std::log10(magnitude)));
@@ -76,8 +58,6 @@ Decimal decimalOf(double number)
     if (magnitude == 0.0)
         return decimal;
     decimal.negative = number < 0;
-    if (magnitude >= 1e-4 && takeAmount(decimal, magnitude))
-        return decimal;
     takeRounded(decimal, magnitude);
     return decimal;
 }

@@ -3,6 +3,7 @@
 #include "engine/text/characters.h"
 #include "engine/text/conversions.h"
 #include "engine/text/number_scanner.h"
+#include "engine/text/plain_number.h"
 
 namespace vela::engine {
 namespace {
@@ -16,46 +17,12 @@ void require(ScanVerdict verdict)
         raise(verdict == ScanVerdict::overflow ? error_number::overflow : error_number::typeMismatch);
 }
 
-// What is typed most, without the scanner: a sign, at most 15 digits, single grouping and decimal symbols. False says
-// nothing about any other text.
-bool readPlain(std::u16string_view text, const Locale& locale, double& value) noexcept
-{
-    constexpr std::size_t mostUnits = 30;
-    constexpr std::uint64_t mostMantissa = 1'000'000'000'000'000;
-    if (text.empty() || text.size() > mostUnits || locale.decimal.size() != 1 || locale.grouping.size() != 1 ||
-        locale.negativeSign.size() != 1)
-        return false;
-    const char16_t decimal = locale.decimal[0], grouping = locale.grouping[0];
-    const bool negative = text[0] == locale.negativeSign[0];
-    std::size_t at = negative ? 1 : 0;
-    if (at == text.size() || !isDigit(text[at]))
-        return false;
-    std::uint64_t mantissa = 0;
-    std::size_t decimals = 0, step = 0;
-    for (; at < text.size(); ++at) {
-        const char16_t unit = text[at];
-        if (isDigit(unit)) {
-            mantissa = mantissa * 10 + (unit - u'0');
-            decimals += step;
-        } else if (unit == decimal && step == 0) {
-            step = 1;
-        } else if (unit != grouping) {
-            return false;
-        }
-        if (mantissa >= mostMantissa)
-            return false;
-    }
-    if (decimals >= exactPowersOfTen.size() || decimal == grouping)
-        return false;
-    const double magnitude = static_cast<double>(mantissa) / exactPowersOfTen[decimals];
-    value = negative ? -magnitude : magnitude;
-    return true;
-}
-
 ScanVerdict scanDouble(std::u16string_view text, const Locale& locale, double& value) noexcept
 {
-    if (readPlain(text, locale, value))
+    if (const auto plain = readPlainNumber(text, locale)) {
+        value = plain->value();
         return ScanVerdict::number;
+    }
     NumberScanner scanner(text, locale);
     return scanner.scan() ? scanner.toDouble(value) : ScanVerdict::notNumber;
 }
