@@ -16,19 +16,8 @@ struct EditBox::Failures {
     std::array<std::optional<engine::Error>, 4> next; // by operation
 };
 
-namespace {
-
-const std::shared_ptr<const EditTraits>& firstTraits()
-{
-    static const std::shared_ptr<const EditTraits> traits = std::make_shared<const EditTraits>();
-    return traits;
-}
-
-} // namespace
-
 EditBox::EditBox(ControlSurface& surface, platform::EditBoxKind kind)
-    : surface_(surface), faults_(surface.form().faults()), kind_(kind), window_(surface.form().makeWindow()),
-      traits_(firstTraits())
+    : surface_(surface), faults_(surface.form().faults()), kind_(kind), window_(surface.form().makeWindow())
 {
 }
 
@@ -85,7 +74,7 @@ void EditBox::insert(std::u16string_view text)
 
 void EditBox::paste(std::u16string_view text)
 {
-    if (traits_->locked)
+    if (traits_.locked)
         return;
     const int space = room();
     if (space >= 0 && static_cast<int>(text.size()) > space)
@@ -108,9 +97,9 @@ void EditBox::putColours(platform::EditColours colours)
 void EditBox::putTraits(const EditTraits& traits)
 {
     faults_.pass();
-    if (traits == *traits_)
+    if (traits == traits_)
         return;
-    traits_ = traits == *firstTraits() ? firstTraits() : std::make_shared<const EditTraits>(traits);
+    traits_ = EditTraits(traits); // all or nothing, should the copy fail
 }
 
 void EditBox::takeFocus()
@@ -138,7 +127,7 @@ void EditBox::hideBalloon()
 
 int EditBox::room() const noexcept
 {
-    return traits_->maxLength > 0 ? std::max(0, traits_->maxLength - (length() - selection_.length)) : -1;
+    return traits_.maxLength > 0 ? std::max(0, traits_.maxLength - (length() - selection_.length)) : -1;
 }
 
 void EditBox::placeCaret(int start, int length)
@@ -160,7 +149,7 @@ void EditBox::replaceSelection(std::u16string_view text)
 
 void EditBox::erase(int start, int length)
 {
-    if (traits_->locked)
+    if (traits_.locked)
         return;
     placeCaret(start, length);
     replaceSelection({});
@@ -181,14 +170,14 @@ void EditBox::key(Key key)
     int shift = 0;
     if (events != nullptr)
         events->keyDown(code, shift);
-    if (!alive || !traits_->enabled)
+    if (!alive || !traits_.enabled)
         return;
     const bool swallowed = key.code != 0 && code == 0;
     if (!swallowed) {
         int character = key.pressed ? key.character : 0;
         if (key.pressed && events != nullptr)
             events->keyPress(character);
-        if (!alive || !traits_->enabled)
+        if (!alive || !traits_.enabled)
             return;
         if (key.pressed)
             applyCharacter(character);
@@ -205,7 +194,7 @@ void EditBox::key(Key key)
 
 void EditBox::applyCharacter(int key)
 {
-    if (key == 0 || traits_->locked)
+    if (key == 0 || traits_.locked)
         return;
     const auto unit = static_cast<char16_t>(key);
     if (key == virtual_key::backspace) {
@@ -254,7 +243,7 @@ void EditBox::applyControlKey(int letter)
         return;
     switch (letter) {
     case 'X':
-        if (traits_->passwordChar == 0)
+        if (traits_.passwordChar == 0)
             events->cut();
         break;
     case 'V': events->pasted(surface_.form().desktop().clipboard); break;
@@ -267,7 +256,7 @@ void EditBox::applyControlKey(int letter)
 // A password is not copied.
 void EditBox::copySelection()
 {
-    if (selection_.length > 0 && traits_->passwordChar == 0)
+    if (selection_.length > 0 && traits_.passwordChar == 0)
         surface_.form().desktop().clipboard =
             text_.substr(static_cast<std::size_t>(selection_.start), static_cast<std::size_t>(selection_.length));
 }

@@ -37,7 +37,7 @@ public:
     void select(platform::Selection selection) override;
     [[nodiscard]] platform::EditColours colours() const override { return colours_; }
     void putColours(platform::EditColours colours) override;
-    [[nodiscard]] const platform::EditTraits& traits() const override { return *traits_; }
+    [[nodiscard]] const platform::EditTraits& traits() const override { return traits_; }
     void putTraits(const platform::EditTraits& traits) override;
     void takeFocus() override;
     [[nodiscard]] bool hasFocus() const override;
@@ -88,7 +88,7 @@ private:
     platform::Selection selection_;
     platform::EditColours colours_;
     std::u16string text_;
-    std::shared_ptr<const platform::EditTraits> traits_; // shared by all boxes that keep the first ones
+    platform::EditTraits traits_;
     mutable std::unique_ptr<Failures> failures_;
     engine::Life life_;
 };

@@ -35,6 +35,8 @@ constexpr std::size_t fewestSlots = 64;
 
 } // namespace
 
+// A table of its own: with std::unordered_map or a search in order, the row "loading a control from 79 keys" of ./bench
+// misses its goal.
 // The slot that holds the key's entry, or the free one where it belongs.
 std::size_t PropertyBag::find(std::u16string_view key) const noexcept
 {
