@@ -6,7 +6,6 @@
 #include "activex/guids.h"
 #include "activex/property_page.h"
 #include "activex/vela_content.h"
-#include "platform/win32/module.h"
 
 namespace vela::activex {
 
@@ -22,7 +21,7 @@ struct Creator {
 template <auto Facts, class Content>
 ComPtr<IUnknown> createControl()
 {
-    return ComPtr<IUnknown>::adopt(new Shell(Facts(), &Content::make));
+    return adopt<IUnknown>(new Shell(Facts(), &Content::make));
 }
 
 template <pages::PageKind Kind>
@@ -41,34 +40,10 @@ constexpr Creator creators[] = {
     {calendarioPage, createPage<pages::PageKind::ppCalendario>},
 };
 
-class ClassFactory final : public IClassFactory {
+class ClassFactory final : public win32::ComObject<IClassFactory> {
 public:
     explicit ClassFactory(Create create) noexcept : create_(create) {}
-    ClassFactory(const ClassFactory&) = delete;
-    ClassFactory& operator=(const ClassFactory&) = delete;
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override
-    {
-        if (!object)
-            return E_POINTER;
-        *object = nullptr;
-        if (iid != IID_IUnknown && iid != IID_IClassFactory)
-            return E_NOINTERFACE;
-        *object = static_cast<IClassFactory*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() noexcept override
-    {
-        return static_cast<ULONG>(InterlockedIncrement(&references_));
-    }
-    ULONG STDMETHODCALLTYPE Release() noexcept override
-    {
-        const LONG left = InterlockedDecrement(&references_);
-        if (left == 0)
-            delete this;
-        return static_cast<ULONG>(left);
-    }
     HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** object) noexcept override
     {
         if (!object)
@@ -88,10 +63,7 @@ public:
     }
 
 private:
-    ~ClassFactory() = default;
-    win32::ModuleUse use_;
     Create create_;
-    LONG references_ = 1;
 };
 
 } // namespace
@@ -103,9 +75,7 @@ HRESULT getClassObject(REFCLSID clsid, REFIID iid, void** object) noexcept
     *object = nullptr;
     for (const Creator& creator : creators)
         if (creator.clsid == clsid)
-            return guarded([&] {
-                return ComPtr<IClassFactory>::adopt(new ClassFactory(creator.create))->QueryInterface(iid, object);
-            });
+            return guarded([&] { return win32::make<ClassFactory>(creator.create)->QueryInterface(iid, object); });
     return CLASS_E_CLASSNOTAVAILABLE;
 }
 

@@ -35,7 +35,7 @@ engine::Value DispatchObject::get(int property)
 {
     DISPPARAMS none{};
     Variant result;
-    invoke(*object_.get(), property, DISPATCH_PROPERTYGET, none, result.put());
+    invoke(*object_.Get(), property, DISPATCH_PROPERTYGET, none, result.put());
     return valueFromVariant(result.get());
 }
 
@@ -44,7 +44,7 @@ void DispatchObject::put(int property, const engine::Value& value)
     Variant given = variantFromValue(value);
     DISPID valueName = DISPID_PROPERTYPUT;
     DISPPARAMS parameters{&given.ref(), &valueName, 1, 1};
-    invoke(*object_.get(), property, DISPATCH_PROPERTYPUT, parameters, nullptr);
+    invoke(*object_.Get(), property, DISPATCH_PROPERTYPUT, parameters, nullptr);
 }
 
 } // namespace vela::activex

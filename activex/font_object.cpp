@@ -63,7 +63,7 @@ ComPtr<IFont> makeFont(const platform::FontDescription& description)
     wanted.fUnderline = description.underline;
     wanted.fStrikethrough = description.strikethrough;
     ComPtr<IFont> font;
-    check(OleCreateFontIndirect(&wanted, IID_IFont, font.putVoid()));
+    check(OleCreateFontIndirect(&wanted, IID_PPV_ARGS(&font)));
     return font;
 }
 
@@ -89,10 +89,10 @@ private:
 
 std::optional<platform::FontDescription> describeFont(IUnknown* object)
 {
-    const auto font = ComPtr<IFont>::from(object);
+    const auto font = query<IFont>(object);
     if (!font)
         return std::nullopt;
-    return describe(*font.get());
+    return describe(*font.Get());
 }
 
 platform::FontDescription withPart(platform::FontDescription font, DISPID part, const platform::FontDescription& other)
@@ -124,13 +124,13 @@ void HeardFont::put(ComPtr<IFont> font) noexcept
         sink_->forget();
     if (const auto point = std::move(point_); point && cookie_ != 0)
         point->Unadvise(std::exchange(cookie_, 0));
-    sink_.reset();
+    sink_.Reset();
     font_ = std::move(font);
-    const auto container = ComPtr<IConnectionPointContainer>::from(font_.get());
-    if (!container || FAILED(container->FindConnectionPoint(IID_IPropertyNotifySink, point_.put())))
+    const auto container = query<IConnectionPointContainer>(font_.Get());
+    if (!container || FAILED(container->FindConnectionPoint(IID_IPropertyNotifySink, &point_)))
         return; // a font that never changes
-    sink_ = ComPtr<Sink>::adopt(new (std::nothrow) Sink(*this));
-    if (!sink_ || FAILED(point_->Advise(sink_.get(), &cookie_)))
+    sink_ = adopt<Sink>(new (std::nothrow) Sink(*this));
+    if (!sink_ || FAILED(point_->Advise(sink_.Get(), &cookie_)))
         cookie_ = 0;
 }
 
@@ -148,7 +148,7 @@ ComPtr<IFontDisp> FontObject::object(const platform::FontDescription& descriptio
         own_.put(makeFont(description));
         written_ = description;
     }
-    auto object = ComPtr<IFontDisp>::from(own_.get());
+    auto object = query<IFontDisp>(own_.get());
     if (!object)
         engine::raise(engine::error_number::outOfMemory);
     return object;
@@ -165,12 +165,12 @@ void FontObject::follow(const platform::FontDescription& description) noexcept
 
 platform::FontDescription FontObject::adopt(IUnknown* object)
 {
-    auto font = ComPtr<IFont>::from(object);
+    auto font = query<IFont>(object);
     if (!font)
         engine::raise(engine::error_number::typeMismatch);
-    platform::FontDescription description = describe(*font.get());
-    if (font.get() == own_.get())
-        font.reset(); // its changes are heard already
+    platform::FontDescription description = describe(*font.Get());
+    if (font.Get() == own_.get())
+        font.Reset(); // its changes are heard already
     given_.put(std::move(font));
     return description;
 }
@@ -179,8 +179,8 @@ platform::FontDescription FontObject::adopt(IUnknown* object)
 void FontObject::write(const platform::FontDescription& description)
 {
     const platform::FontDescription before = std::exchange(written_, description);
-    const auto held = ComPtr<IFont>::share(own_.get());
-    IFont& font = *held.get();
+    const auto held = ComPtr<IFont>(own_.get());
+    IFont& font = *held.Get();
     if (description.name != before.name)
         check(font.put_Name(Bstr(description.name).get()));
     if (description.size != before.size)

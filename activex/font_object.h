@@ -30,7 +30,7 @@ public:
     ~HeardFont();
 
     void put(ComPtr<IFont> font) noexcept;
-    [[nodiscard]] IFont* get() const noexcept { return font_.get(); }
+    [[nodiscard]] IFont* get() const noexcept { return font_.Get(); }
 
 private:
     class Sink;

@@ -9,7 +9,6 @@
 #include "activex/vela_members.h"
 #include "pages/frm_paleta.h"
 #include "platform/win32/dpi.h"
-#include "platform/win32/module.h"
 
 #include <olectl.h>
 #include <optional>
@@ -24,7 +23,7 @@ namespace vela::activex {
 
 namespace {
 
-class PropertyPage final : public IPropertyPage2, private pages::PageSite {
+class PropertyPage final : public win32::ComObject<IPropertyPage2>, private pages::PageSite {
 public:
     explicit PropertyPage(pages::PageKind kind)
         : kind_(kind), session_(Session::current()),
@@ -33,12 +32,6 @@ public:
                                                                               pageFields(kind)}
     {
     }
-    PropertyPage(const PropertyPage&) = delete;
-    PropertyPage& operator=(const PropertyPage&) = delete;
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override;
-    ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() noexcept override;
 
     HRESULT STDMETHODCALLTYPE SetPageSite(IPropertyPageSite* site) noexcept override;
     HRESULT STDMETHODCALLTYPE Activate(HWND parent, LPCRECT place, BOOL modal) noexcept override;
@@ -54,13 +47,17 @@ public:
     HRESULT STDMETHODCALLTYPE EditProperty(DISPID id) noexcept override;
 
 private:
-    ~PropertyPage() = default;
+    ~PropertyPage() override { Deactivate(); }
+    [[nodiscard]] void* find(REFIID iid) noexcept override
+    {
+        return ComObject::find(iid == IID_IPropertyPage ? IID_IPropertyPage2 : iid);
+    }
 
     // On the stack while the page runs code that may call the host or show a box: keeps this object and the page alive.
     // What the host asks for meanwhile is done when the last of these scopes ends.
     class Act {
     public:
-        explicit Act(PropertyPage& page) noexcept : page_(ComPtr<PropertyPage>::share(&page)) { ++page.acts_; }
+        explicit Act(PropertyPage& page) noexcept : page_(ComPtr<PropertyPage>(&page)) { ++page.acts_; }
         Act(const Act&) = delete;
         Act& operator=(const Act&) = delete;
         ~Act()
@@ -82,8 +79,6 @@ private:
     void showFailure(const engine::Error& error);
     [[nodiscard]] bool leaves(const MSG& message) const; // Tab beyond the page's ends
 
-    win32::ModuleUse use_;
-    ULONG references_ = 1;
     pages::PageKind kind_;
     std::shared_ptr<Session> session_;
     pages::PaletteChooser palette_;
@@ -99,34 +94,11 @@ private:
     std::unique_ptr<pages::Page> left_; // deactivated inside one of its acts
 };
 
-HRESULT PropertyPage::QueryInterface(REFIID iid, void** object) noexcept
-{
-    if (!object)
-        return E_POINTER;
-    *object = nullptr;
-    if (iid != IID_IUnknown && iid != IID_IPropertyPage && iid != IID_IPropertyPage2)
-        return E_NOINTERFACE;
-    *object = static_cast<IPropertyPage2*>(this);
-    AddRef();
-    return S_OK;
-}
-
-ULONG PropertyPage::Release() noexcept
-{
-    const ULONG left = --references_;
-    if (left == 0) {
-        references_ = 1; // the last messages of the windows must reach a live object
-        Deactivate();
-        delete this;
-    }
-    return left;
-}
-
 HRESULT PropertyPage::SetPageSite(IPropertyPageSite* site) noexcept
 {
     if (site && site_)
         return E_UNEXPECTED;
-    site_ = ComPtr<IPropertyPageSite>::share(site);
+    site_ = ComPtr<IPropertyPageSite>(site);
     return S_OK;
 }
 
@@ -238,7 +210,7 @@ HRESULT PropertyPage::SetObjects(ULONG count, IUnknown** objects) noexcept
     return guarded([&]() -> HRESULT {
         Objects selection;
         for (ULONG i = 0; i < count; ++i) {
-            auto object = ComPtr<IDispatch>::from(objects[i]);
+            auto object = query<IDispatch>(objects[i]);
             if (!object)
                 return E_NOINTERFACE;
             selection.push_back(std::make_unique<DispatchObject>(std::move(object)));
@@ -312,7 +284,7 @@ HRESULT PropertyPage::TranslateAccelerator(LPMSG message) noexcept
     const Act act(*this);
     return guarded([&]() -> HRESULT {
         if (leaves(*message))
-            return site_ ? site_.shared()->TranslateAccelerator(message) : S_FALSE;
+            return site_ ? ComPtr(site_)->TranslateAccelerator(message) : S_FALSE;
         return form().translate(*message) ? S_OK : S_FALSE;
     });
 }
@@ -348,7 +320,7 @@ void PropertyPage::changed(bool dirty)
 {
     if (!page_)
         return;
-    if (const auto site = site_.shared())
+    if (const auto site = site_)
         site->OnStatusChange(dirty ? PROPPAGESTATUS_DIRTY : PROPPAGESTATUS_CLEAN);
 }
 
@@ -356,7 +328,7 @@ void PropertyPage::changed(bool dirty)
 
 ComPtr<IUnknown> makePropertyPage(pages::PageKind kind)
 {
-    return ComPtr<IUnknown>::adopt(static_cast<IPropertyPage2*>(new PropertyPage(kind)));
+    return win32::make<PropertyPage>(kind);
 }
 
 } // namespace vela::activex

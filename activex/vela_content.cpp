@@ -86,7 +86,7 @@ Variant VelaContent::get(const Member& member)
     const control::Property& property = control::properties()[member.row];
     if (property.type() == control::PropertyType::font) {
         Variant result;
-        result.ref().pdispVal = font_.object(vela_.Font()).release();
+        result.ref().pdispVal = font_.object(vela_.Font()).Detach();
         result.ref().vt = VT_DISPATCH;
         return result;
     }

@@ -3,7 +3,6 @@
 
 #include "activex/com/guard.h"
 #include "platform/win32/com_object.h"
-#include "platform/win32/module.h"
 
 #include <memory>
 #include <vector>
@@ -18,7 +17,7 @@ public:
 
     [[nodiscard]] static ComPtr<Interface> make(List list, std::size_t next = 0)
     {
-        return ComPtr<Interface>::adopt(new Enumerator(std::move(list), next));
+        return adopt<Interface>(new Enumerator(std::move(list), next));
     }
 
     HRESULT STDMETHODCALLTYPE Next(ULONG wanted, Given* into, ULONG* fetched) noexcept override
@@ -50,13 +49,12 @@ public:
     {
         if (!copy)
             return E_POINTER;
-        return guarded([&] { *copy = make(list_, next_).release(); });
+        return guarded([&] { *copy = make(list_, next_).Detach(); });
     }
 
 private:
     Enumerator(List list, std::size_t next) : list_(std::move(list)), next_(next) {}
 
-    win32::ModuleUse use_;
     List list_;
     std::size_t next_;
 };

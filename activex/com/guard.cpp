@@ -50,11 +50,11 @@ engine::Error errorFromHresult(HRESULT failure)
 engine::Error errorFromHost(HRESULT failure, IUnknown& host, REFIID called)
 {
     engine::Error error = errorFromHresult(failure);
-    const auto support = ComPtr<ISupportErrorInfo>::from(&host);
+    const auto support = query<ISupportErrorInfo>(&host);
     if (!support || support->InterfaceSupportsErrorInfo(called) != S_OK)
         return error;
     ComPtr<IErrorInfo> info;
-    if (GetErrorInfo(0, info.put()) != S_OK)
+    if (GetErrorInfo(0, &info) != S_OK)
         return error;
     Bstr text;
     if (SUCCEEDED(info->GetDescription(text.put())) && !text.text().empty())
@@ -86,12 +86,12 @@ engine::Error errorFromException(EXCEPINFO& info)
 HRESULT reportError(const engine::Error& error) noexcept
 {
     ComPtr<ICreateErrorInfo> info;
-    if (SUCCEEDED(CreateErrorInfo(info.put()))) {
+    if (SUCCEEDED(CreateErrorInfo(&info))) {
         info->SetGUID(GUID_NULL);
         info->SetSource(const_cast<wchar_t*>(asWide(error.source)));
         info->SetDescription(const_cast<wchar_t*>(asWide(error.description)));
-        if (const auto shown = ComPtr<IErrorInfo>::from(info.get()))
-            SetErrorInfo(0, shown.get());
+        if (const auto shown = query<IErrorInfo>(info.Get()))
+            SetErrorInfo(0, shown.Get());
     }
     return errorToHresult(error.number);
 }

@@ -1,5 +1,7 @@
-// Owners of what COM hands out: references, texts, variants and task memory. Move-only; the destructor gives back.
+// Owners of what COM hands out: references, texts, variants and task memory. The destructor gives back.
 #pragma once
+
+#include "platform/win32/com_object.h"
 
 #include <objbase.h>
 #include <oleauto.h>
@@ -24,62 +26,9 @@ inline const wchar_t* asWide(const std::u16string& text) noexcept
     return asWide(text.c_str());
 }
 
-template <class Interface>
-class ComPtr {
-public:
-    ComPtr() noexcept = default;
-    ComPtr(ComPtr&& other) noexcept : pointer_(std::exchange(other.pointer_, nullptr)) {}
-    ComPtr& operator=(ComPtr&& other) noexcept
-    {
-        ComPtr moved(std::move(other));
-        std::swap(pointer_, moved.pointer_);
-        return *this;
-    }
-    ComPtr(const ComPtr&) = delete;
-    ComPtr& operator=(const ComPtr&) = delete;
-    ~ComPtr() { reset(); }
-
-    [[nodiscard]] static ComPtr adopt(Interface* pointer) noexcept
-    {
-        ComPtr owner;
-        owner.pointer_ = pointer;
-        return owner;
-    }
-    [[nodiscard]] static ComPtr share(Interface* pointer) noexcept
-    {
-        if (pointer)
-            pointer->AddRef();
-        return adopt(pointer);
-    }
-    // The interface of another object; empty when the object is null or does not offer it.
-    [[nodiscard]] static ComPtr from(IUnknown* object, REFIID iid = __uuidof(Interface)) noexcept
-    {
-        ComPtr found;
-        if (object && FAILED(object->QueryInterface(iid, reinterpret_cast<void**>(&found.pointer_))))
-            found.pointer_ = nullptr;
-        return found;
-    }
-
-    [[nodiscard]] Interface* get() const noexcept { return pointer_; }
-    [[nodiscard]] ComPtr shared() const noexcept { return share(pointer_); }
-    [[nodiscard]] Interface** put() noexcept
-    {
-        reset();
-        return &pointer_;
-    }
-    [[nodiscard]] void** putVoid() noexcept { return reinterpret_cast<void**>(put()); }
-    [[nodiscard]] Interface* release() noexcept { return std::exchange(pointer_, nullptr); }
-    void reset() noexcept // the pointer is empty before the object hears of it: it may call back
-    {
-        if (Interface* old = std::exchange(pointer_, nullptr))
-            old->Release();
-    }
-    Interface* operator->() const noexcept { return pointer_; }
-    explicit operator bool() const noexcept { return pointer_ != nullptr; }
-
-private:
-    Interface* pointer_ = nullptr;
-};
+using win32::adopt;
+using win32::ComPtr;
+using win32::query;
 
 class Bstr {
 public:

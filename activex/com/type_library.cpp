@@ -8,7 +8,7 @@ namespace vela::activex {
 
 HRESULT loadTypeLibrary(ComPtr<ITypeLib>& library) noexcept
 {
-    return guarded([&] { return LoadTypeLibEx(win32::modulePath().c_str(), REGKIND_NONE, library.put()); });
+    return guarded([&] { return LoadTypeLibEx(win32::modulePath().c_str(), REGKIND_NONE, &library); });
 }
 
 HRESULT loadTypeInfo(REFGUID id, ITypeInfo** info) noexcept

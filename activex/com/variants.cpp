@@ -92,7 +92,7 @@ engine::Value convert(const VARIANT& variant, int depth)
     case VT_DATE: return engine::Date{variant.date};
     case VT_BSTR: return std::u16string(asText(variant.bstrVal, SysStringLen(variant.bstrVal)));
     case VT_DISPATCH: return defaultOf(variant.pdispVal, depth);
-    case VT_UNKNOWN: return defaultOf(ComPtr<IDispatch>::from(variant.punkVal).get(), depth);
+    case VT_UNKNOWN: return defaultOf(query<IDispatch>(variant.punkVal).Get(), depth);
     default: break;
     }
     if ((variant.vt & VT_BYREF) == 0 || (variant.vt & VT_ARRAY) != 0)

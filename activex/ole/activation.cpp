@@ -30,7 +30,7 @@ HRESULT Activation::activate()
         return E_FAIL;
     const HRESULT entered = enter();
     if (SUCCEEDED(entered) && inPlace_)
-        if (const auto client = ComPtr<IOleClientSite>::share(shell_.site().client()))
+        if (const auto client = ComPtr<IOleClientSite>(shell_.site().client()))
             client->ShowObject();
     return entered;
 }
@@ -46,7 +46,7 @@ HRESULT Activation::enter()
         return FAILED(may) ? may : E_FAIL;
     if (closed_)
         return E_FAIL;
-    if (const HRESULT begun = begin(*site.get()); FAILED(begun)) {
+    if (const HRESULT begun = begin(*site.Get()); FAILED(begun)) {
         deactivate();
         return begun;
     }
@@ -57,7 +57,7 @@ HRESULT Activation::begin(IOleInPlaceSite& site)
 {
     if (const HRESULT told = site.OnInPlaceActivate(); FAILED(told))
         return told;
-    site_ = ComPtr<IOleInPlaceSite>::share(&site);
+    site_ = ComPtr<IOleInPlaceSite>(&site);
     inPlace_ = true;
     if (closed_)
         return E_FAIL;
@@ -72,13 +72,12 @@ HRESULT Activation::begin(IOleInPlaceSite& site)
     info.cb = sizeof info;
     ComPtr<IOleInPlaceFrame> frame;
     ComPtr<IOleInPlaceUIWindow> document;
-    if (const HRESULT context = site.GetWindowContext(frame.put(), document.put(), &place, &bounds, &info);
-        FAILED(context))
+    if (const HRESULT context = site.GetWindowContext(&frame, &document, &place, &bounds, &info); FAILED(context))
         return context;
     if (!inPlace_)
         return E_FAIL;
     frame_ = std::move(frame);
-    addModalFrame(frame_.get());
+    addModalFrame(frame_.Get());
     document_ = std::move(document);
     try {
         Content& content = shell_.content();
@@ -103,14 +102,14 @@ HRESULT Activation::activateInterface(bool takeFocus)
         return active;
     if (!interface_ && inPlace_) {
         interface_ = true;
-        const auto site = site_.shared();
+        const auto site = site_;
         if (const HRESULT told = site->OnUIActivate(); FAILED(told)) {
             interface_ = false;
             return told;
         }
         if (interface_)
-            if (const auto active = ComPtr<IOleInPlaceActiveObject>::from(&shell_))
-                offer(active.get());
+            if (const auto active = query<IOleInPlaceActiveObject>(&shell_))
+                offer(active.Get());
     }
     if (takeFocus && inPlace_ && !shell_.content().hasFocus())
         shell_.content().takeFocus();
@@ -120,14 +119,14 @@ HRESULT Activation::activateInterface(bool takeFocus)
 void Activation::offer(IOleInPlaceActiveObject* active) noexcept
 {
     const wchar_t* const name = active ? asWide(shell_.facts().name.data()) : nullptr;
-    if (const auto frame = frame_.shared()) {
+    if (const auto frame = frame_) {
         frame->SetActiveObject(active, name);
         if (active && interface_)
             frame->SetBorderSpace(nullptr);
     }
     if (active && !interface_)
         return; // closed inside the call
-    if (const auto document = document_.shared()) {
+    if (const auto document = document_) {
         document->SetActiveObject(active, name);
         if (active && interface_)
             document->SetBorderSpace(nullptr);
@@ -140,7 +139,7 @@ void Activation::deactivateInterface() noexcept
         return;
     interface_ = false;
     offer(nullptr);
-    if (const auto site = site_.shared())
+    if (const auto site = site_)
         site->OnUIDeactivate(FALSE);
 }
 
@@ -154,9 +153,9 @@ void Activation::deactivate() noexcept
     inPlace_ = false;
     if (Content* content = shell_.made())
         content->detach();
-    removeModalFrame(frame_.get());
-    frame_.reset();
-    document_.reset();
+    removeModalFrame(frame_.Get());
+    frame_.Reset();
+    document_.Reset();
     if (const auto site = std::move(site_))
         site->OnInPlaceDeactivate();
 }

@@ -21,12 +21,12 @@ struct CopyConnection {
     static void give(const KeptConnection& from, CONNECTDATA& into)
     {
         into.dwCookie = from.cookie;
-        into.pUnk = from.sink.shared().release();
+        into.pUnk = ComPtr(from.sink).Detach();
     }
 };
 
 struct CopyPoint {
-    static void give(const ComPtr<IConnectionPoint>& from, IConnectionPoint*& into) { into = from.shared().release(); }
+    static void give(const ComPtr<IConnectionPoint>& from, IConnectionPoint*& into) { into = ComPtr(from).Detach(); }
 };
 
 using ConnectionEnumerator = Enumerator<IEnumConnections, CONNECTDATA, KeptConnection, CopyConnection>;
@@ -64,7 +64,7 @@ ComPtr<IUnknown> Sinks::after(DWORD& told, DWORD newest) const noexcept
     for (const Connection& connection : sinks_)
         if (connection.cookie > told && connection.cookie <= newest) {
             told = connection.cookie;
-            return connection.sink.shared();
+            return connection.sink;
         }
     return {};
 }
@@ -103,14 +103,14 @@ HRESULT Sinks::Advise(IUnknown* sink, DWORD* cookie) noexcept
     if (!sink || !cookie)
         return E_POINTER;
     *cookie = 0;
-    const auto kept = ComPtr<IConnectionPointContainer>::share(&container_); // a sink may let go of the source
+    const auto kept = ComPtr<IConnectionPointContainer>(&container_); // a sink may let go of the source
     if (!iid_)
         return CONNECT_E_CANNOTCONNECT;
     // Sinks of a dispinterface often answer to IDispatch alone.
     const bool dispatched = *iid_ != IID_IPropertyNotifySink;
-    auto own = ComPtr<IUnknown>::from(sink, *iid_);
+    auto own = query<IUnknown>(sink, *iid_);
     if (!own && dispatched)
-        own = ComPtr<IUnknown>::from(sink, IID_IDispatch);
+        own = query<IUnknown>(sink, IID_IDispatch);
     if (!own)
         return CONNECT_E_CANNOTCONNECT;
     return guarded([&] {
@@ -125,7 +125,7 @@ HRESULT Sinks::Unadvise(DWORD cookie) noexcept
                                     [&](const Connection& connection) { return connection.cookie == cookie; });
     if (found == sinks_.end())
         return CONNECT_E_NOCONNECTION;
-    const auto kept = ComPtr<IConnectionPointContainer>::share(&container_);
+    const auto kept = ComPtr<IConnectionPointContainer>(&container_);
     const auto gone = std::move(found->sink);
     sinks_.erase(found);
     return S_OK;
@@ -139,8 +139,8 @@ HRESULT Sinks::EnumConnections(IEnumConnections** connections) noexcept
     return guarded([&] {
         auto list = std::make_shared<std::vector<KeptConnection>>();
         for (const Connection& connection : sinks_)
-            list->push_back({connection.cookie, connection.sink.shared()});
-        *connections = ConnectionEnumerator::make(std::move(list)).release();
+            list->push_back({connection.cookie, connection.sink});
+        *connections = ConnectionEnumerator::make(std::move(list)).Detach();
     });
 }
 
@@ -188,8 +188,8 @@ HRESULT Connections::EnumConnectionPoints(IEnumConnectionPoints** points) noexce
         auto list = std::make_shared<std::vector<ComPtr<IConnectionPoint>>>();
         for (Sinks* sinks : {&events_, &properties_})
             if (sinks->interfaceId())
-                list->push_back(ComPtr<IConnectionPoint>::share(sinks));
-        *points = PointEnumerator::make(std::move(list)).release();
+                list->push_back(ComPtr<IConnectionPoint>(sinks));
+        *points = PointEnumerator::make(std::move(list)).Detach();
     });
 }
 

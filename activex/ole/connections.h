@@ -29,7 +29,7 @@ public:
     {
         const DWORD newest = lastCookie_;
         for (DWORD told = 0; const auto sink = after(told, newest);)
-            tell(*sink.get());
+            tell(*sink.Get());
     }
 
     // A connection point is an object of its own, kept by the whole's references.

@@ -158,7 +158,7 @@ DataObject::DataObject(Shell& shell) noexcept : Part(shell), shell_(shell) {}
 
 void DataObject::changed() noexcept
 {
-    if (const auto advised = advised_.shared())
+    if (const auto advised = advised_)
         advised->SendOnDataChange(this, 0, 0);
 }
 
@@ -215,7 +215,7 @@ HRESULT DataObject::EnumFormatEtc(DWORD direction, IEnumFORMATETC** list) noexce
         return E_NOTIMPL;
     return shell_.guarded([&] {
         *list = FormatEnumerator::make(std::make_shared<std::vector<FORMATETC>>(std::begin(formats), std::end(formats)))
-                    .release();
+                    .Detach();
     });
 }
 
@@ -223,7 +223,7 @@ HRESULT DataObject::DAdvise(FORMATETC* format, DWORD flags, IAdviseSink* sink, D
 {
     const Shell::Hold hold(shell_);
     if (!advised_)
-        if (const HRESULT made = CreateDataAdviseHolder(advised_.put()); FAILED(made))
+        if (const HRESULT made = CreateDataAdviseHolder(&advised_); FAILED(made))
             return made;
     return advised_->Advise(this, format, flags, sink, connection);
 }

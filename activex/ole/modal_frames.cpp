@@ -16,17 +16,17 @@ using Frames = std::vector<ComPtr<IOleInPlaceFrame>>;
 
 bool contains(const Frames& frames, IOleInPlaceFrame* frame) noexcept
 {
-    return std::any_of(frames.begin(), frames.end(), [&](const auto& one) { return one.get() == frame; });
+    return std::any_of(frames.begin(), frames.end(), [&](const auto& one) { return one.Get() == frame; });
 }
 
 // Lives while a control is active on its thread, or a box that was told of is up.
 class ModalFrames final : public win32::ModalListener {
 public:
-    void add(IOleInPlaceFrame* frame) { frames_.push_back(ComPtr<IOleInPlaceFrame>::share(frame)); }
+    void add(IOleInPlaceFrame* frame) { frames_.push_back(ComPtr<IOleInPlaceFrame>(frame)); }
     void remove(IOleInPlaceFrame* frame) noexcept
     {
         const auto found =
-            std::find_if(frames_.begin(), frames_.end(), [&](const auto& one) { return one.get() == frame; });
+            std::find_if(frames_.begin(), frames_.end(), [&](const auto& one) { return one.Get() == frame; });
         if (found == frames_.end())
             return;
         const auto gone = std::move(*found);
@@ -51,8 +51,8 @@ private:
     {
         Frames once;
         for (const auto& frame : frames_)
-            if (!contains(once, frame.get()))
-                once.push_back(frame.shared());
+            if (!contains(once, frame.Get()))
+                once.push_back(frame);
         told_.push_back(std::move(once));
         tell(FALSE);
     }
@@ -68,7 +68,7 @@ private:
     {
         const std::size_t box = told_.size() - 1;
         for (std::size_t i = 0; i < told_[box].size(); ++i)
-            told_[box][i].shared()->EnableModeless(enable);
+            ComPtr(told_[box][i])->EnableModeless(enable);
     }
 
     Frames frames_;

@@ -37,13 +37,13 @@ OleObject::OleObject(Shell& shell) noexcept : Part(shell), shell_(shell) {}
 
 void OleObject::saved() noexcept
 {
-    if (const auto advised = advised_.shared())
+    if (const auto advised = advised_)
         advised->SendOnSave();
 }
 
 void OleObject::closed() noexcept
 {
-    if (const auto advised = advised_.shared())
+    if (const auto advised = advised_)
         advised->SendOnClose();
 }
 
@@ -56,7 +56,7 @@ HRESULT OleObject::GetClientSite(IOleClientSite** site) noexcept
 {
     if (!site)
         return E_POINTER;
-    *site = ComPtr<IOleClientSite>::share(shell_.site().client()).release();
+    *site = ComPtr<IOleClientSite>(shell_.site().client()).Detach();
     return S_OK;
 }
 
@@ -69,7 +69,7 @@ HRESULT OleObject::Close(DWORD option) noexcept
 {
     const Shell::Hold hold(shell_);
     if (shell_.dirty() && option != OLECLOSE_NOSAVE)
-        if (const auto client = ComPtr<IOleClientSite>::share(shell_.site().client()))
+        if (const auto client = ComPtr<IOleClientSite>(shell_.site().client()))
             client->SaveObject();
     shell_.activation().deactivate();
     closed();
@@ -87,7 +87,7 @@ HRESULT OleObject::GetMoniker(DWORD assign, DWORD which, IMoniker** moniker) noe
         return E_POINTER;
     *moniker = nullptr;
     const Shell::Hold hold(shell_);
-    const auto client = ComPtr<IOleClientSite>::share(shell_.site().client());
+    const auto client = ComPtr<IOleClientSite>(shell_.site().client());
     return client ? client->GetMoniker(assign, which, moniker) : E_UNEXPECTED;
 }
 
@@ -155,7 +155,7 @@ HRESULT OleObject::EnumVerbs(IEnumOLEVERB** list) noexcept
         for (const Verb& verb : verbs)
             if (pages || verb.id != OLEIVERB_PROPERTIES)
                 kept->push_back(verb);
-        *list = VerbEnumerator::make(std::move(kept)).release();
+        *list = VerbEnumerator::make(std::move(kept)).Detach();
     });
 }
 
@@ -208,7 +208,7 @@ HRESULT OleObject::Advise(IAdviseSink* sink, DWORD* connection) noexcept
 {
     const Shell::Hold hold(shell_);
     if (!advised_)
-        if (const HRESULT made = CreateOleAdviseHolder(advised_.put()); FAILED(made))
+        if (const HRESULT made = CreateOleAdviseHolder(&advised_); FAILED(made))
             return made;
     return advised_->Advise(sink, connection);
 }

@@ -148,9 +148,8 @@ HRESULT StoragePersistence::Load(IStorage* storage) noexcept
         return E_POINTER;
     return shell_.guarded([&]() -> HRESULT {
         ComPtr<IStream> stream;
-        const HRESULT opened =
-            storage->OpenStream(contents, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, stream.put());
-        return FAILED(opened) ? opened : loadStream(shell_, *stream.get());
+        const HRESULT opened = storage->OpenStream(contents, nullptr, STGM_READ | STGM_SHARE_EXCLUSIVE, 0, &stream);
+        return FAILED(opened) ? opened : loadStream(shell_, *stream.Get());
     });
 }
 
@@ -161,10 +160,10 @@ HRESULT StoragePersistence::Save(IStorage* storage, BOOL) noexcept
     return shell_.guarded([&]() -> HRESULT {
         ComPtr<IStream> stream;
         const HRESULT made =
-            storage->CreateStream(contents, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE, 0, 0, stream.put());
+            storage->CreateStream(contents, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE, 0, 0, &stream);
         if (FAILED(made))
             return made;
-        const HRESULT saved = saveStream(shell_, *stream.get());
+        const HRESULT saved = saveStream(shell_, *stream.Get());
         if (FAILED(saved))
             return saved;
         WriteClassStg(storage, shell_.facts().clsid);

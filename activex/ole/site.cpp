@@ -36,7 +36,7 @@ ComPtr<IDispatch> objectIn(const std::optional<Variant>& value) noexcept
 {
     if (!value || (value->get().vt != VT_DISPATCH && value->get().vt != VT_UNKNOWN))
         return {};
-    return ComPtr<IDispatch>::from(value->get().punkVal);
+    return query<IDispatch>(value->get().punkVal);
 }
 
 } // namespace
@@ -44,9 +44,9 @@ ComPtr<IDispatch> objectIn(const std::optional<Variant>& value) noexcept
 void Site::put(IOleClientSite* client) noexcept
 {
     // All interfaces are queried before an old one is released, because either may call back.
-    auto next = ComPtr<IOleClientSite>::share(client);
-    auto ambients = ComPtr<IDispatch>::from(client);
-    auto control = ComPtr<IOleControlSite>::from(client);
+    auto next = ComPtr<IOleClientSite>(client);
+    auto ambients = query<IDispatch>(client);
+    auto control = query<IOleControlSite>(client);
     std::swap(client_, next);
     std::swap(ambients_, ambients);
     std::swap(control_, control);
@@ -54,8 +54,8 @@ void Site::put(IOleClientSite* client) noexcept
 
 std::optional<Variant> Site::ambient(DISPID id) const noexcept
 {
-    const auto ambients = ambients_.shared();
-    return propertyOf(ambients.get(), id);
+    const auto ambients = ambients_;
+    return propertyOf(ambients.Get(), id);
 }
 
 bool Site::dead() const noexcept
@@ -76,11 +76,11 @@ bool Site::runMode() const noexcept
 std::u16string Site::containerName() const
 {
     ComPtr<IDispatch> extender;
-    const auto control = control_.shared();
-    if (!control || FAILED(control->GetExtendedControl(extender.put())))
+    const auto control = control_;
+    if (!control || FAILED(control->GetExtendedControl(&extender)))
         return {};
-    const auto container = objectIn(propertyOf(extender.get(), L"Container"));
-    auto name = propertyOf(container.get(), L"Name");
+    const auto container = objectIn(propertyOf(extender.Get(), L"Container"));
+    auto name = propertyOf(container.Get(), L"Name");
     if (!name || name->get().vt != VT_BSTR)
         return {};
     return std::u16string(asText(name->get().bstrVal, SysStringLen(name->get().bstrVal)));
@@ -88,19 +88,19 @@ std::u16string Site::containerName() const
 
 bool Site::translate(MSG* message) const noexcept
 {
-    const auto control = control_.shared();
+    const auto control = control_;
     return control && control->TranslateAccelerator(message, static_cast<DWORD>(win32::shiftState())) == S_OK;
 }
 
 void Site::controlInfoChanged() const noexcept
 {
-    if (const auto control = control_.shared())
+    if (const auto control = control_)
         control->OnControlInfoChanged();
 }
 
 void Site::focusChanged(bool has) const noexcept
 {
-    if (const auto control = control_.shared())
+    if (const auto control = control_)
         control->OnFocus(has);
 }
 

@@ -13,13 +13,13 @@ namespace vela::activex {
 class Site {
 public:
     void put(IOleClientSite* client) noexcept; // null: forgets the host
-    [[nodiscard]] IOleClientSite* client() const noexcept { return client_.get(); }
+    [[nodiscard]] IOleClientSite* client() const noexcept { return client_.Get(); }
     [[nodiscard]] explicit operator bool() const noexcept { return static_cast<bool>(client_); }
 
     template <class Interface>
     [[nodiscard]] ComPtr<Interface> offers() const noexcept
     {
-        return ComPtr<Interface>::from(client_.get());
+        return query<Interface>(client_.Get());
     }
 
     // Nothing when the host has no such ambient.

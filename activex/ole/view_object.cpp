@@ -58,11 +58,11 @@ ViewObject::ViewObject(Shell& shell) noexcept : Part(shell), shell_(shell) {}
 
 void ViewObject::changed() noexcept
 {
-    const auto sink = sink_.shared();
+    const auto sink = sink_;
     if (!sink)
         return;
     if (flags_ & ADVF_ONLYONCE)
-        sink_.reset();
+        sink_.Reset();
     sink->OnViewChange(aspects_, -1);
 }
 
@@ -70,7 +70,7 @@ void ViewObject::putSink(DWORD aspects, DWORD flags, IAdviseSink* sink) noexcept
 {
     aspects_ = aspects;
     flags_ = flags;
-    sink_ = ComPtr<IAdviseSink>::share(sink);
+    sink_ = ComPtr<IAdviseSink>(sink);
 }
 
 // The picture is whole: hosts number its parts from -1, from 0 or from 1.
@@ -120,7 +120,7 @@ HRESULT ViewObject::GetAdvise(DWORD* aspects, DWORD* flags, IAdviseSink** sink) 
     if (flags)
         *flags = flags_;
     if (sink)
-        *sink = sink_.shared().release();
+        *sink = ComPtr(sink_).Detach();
     return S_OK;
 }
 

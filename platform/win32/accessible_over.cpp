@@ -40,9 +40,9 @@ LRESULT AccessibleService::answer(WPARAM first, IAccessible& object) const noexc
     return toResult ? toResult(accessibleInterface, first, &object) : 0;
 }
 
-bool AccessibleOver::answersTo(REFIID wanted) const noexcept
+void* AccessibleOver::find(REFIID wanted) noexcept
 {
-    return IsEqualIID(wanted, IID_IDispatch) || IsEqualIID(wanted, accessibleInterface);
+    return ComObject::find(wanted == IID_IDispatch ? accessibleInterface : wanted);
 }
 
 HRESULT giveText(std::u16string_view text, BSTR* into) noexcept

@@ -100,7 +100,7 @@ protected:
     ~AccessibleOver() override { standard_.Release(); }
 
 private:
-    [[nodiscard]] bool answersTo(REFIID wanted) const noexcept override;
+    [[nodiscard]] void* find(REFIID wanted) noexcept override;
 
     AccessibleService service_;
     IAccessible& standard_;

@@ -122,9 +122,9 @@ TEST(Activation, TheContainersNameComesFromTheExtender)
     Form form;
     Site& site = form.add();
     EXPECT_EQ(site.automation().textOf(u"nomeContainer"), u"");
-    site.extender = ComPtr<IDispatch>::adopt(new Named(true));
+    site.extender = adopt<IDispatch>(new Named(true));
     EXPECT_EQ(site.automation().textOf(u"nomeContainer"), u"Quadro1");
-    site.extender.reset();
+    site.extender.Reset();
 }
 
 TEST(Activation, ANewFieldHasTheFormsFont)
@@ -137,8 +137,8 @@ TEST(Activation, ANewFieldHasTheFormsFont)
     description.cySize.int64 = 100000;
     description.sWeight = FW_BOLD;
     ComPtr<IFontDisp> font;
-    ASSERT_EQ(OleCreateFontIndirect(&description, IID_IFontDisp, font.putVoid()), S_OK);
-    site.ambients.emplace(DISPID_AMBIENT_FONT, given(VT_DISPATCH, reinterpret_cast<std::intptr_t>(font.release())));
+    ASSERT_EQ(OleCreateFontIndirect(&description, IID_PPV_ARGS(&font)), S_OK);
+    site.ambients.emplace(DISPID_AMBIENT_FONT, given(VT_DISPATCH, reinterpret_cast<std::intptr_t>(font.Detach())));
     ASSERT_EQ(site.as<IPersistStreamInit>()->InitNew(), S_OK);
     EXPECT_EQ(site.automation().textOf(u"FontBold"), u"True");
     EXPECT_EQ(site.automation().textOf(u"FontSize"), u"10");
@@ -198,7 +198,7 @@ public:
             "AtlAxCreateControlEx");
         ComPtr<IUnknown> container;
         ComPtr<IUnknown> control;
-        EXPECT_EQ(make(L"Vela.Vela", place, nullptr, container.put(), control.put(), IID_NULL, nullptr), S_OK);
+        EXPECT_EQ(make(L"Vela.Vela", place, nullptr, &container, &control, IID_NULL, nullptr), S_OK);
         return control;
     }
 
@@ -224,15 +224,15 @@ TEST(Activation, TheSystemsContainer)
     const auto editOf = [](IUnknown* control) {
         return reinterpret_cast<HWND>(static_cast<LONG_PTR>(Automation(control).get(u"hwnd").value.get().lVal));
     };
-    ASSERT_TRUE(IsWindowVisible(editOf(first.get())));
+    ASSERT_TRUE(IsWindowVisible(editOf(first.Get())));
     SetForegroundWindow(host.window());
-    SetFocus(editOf(first.get()));
+    SetFocus(editOf(first.Get()));
     for (const wchar_t unit : {L'o', L'i'})
         SendMessageW(GetFocus(), WM_CHAR, static_cast<WPARAM>(unit), 1);
-    EXPECT_EQ(Automation(first.get()).textOf(u"Text"), u"oi");
+    EXPECT_EQ(Automation(first.Get()).textOf(u"Text"), u"oi");
     MSG tab{GetFocus(), WM_KEYDOWN, VK_TAB, 1, 0, {}};
     IsDialogMessageW(host.window(), &tab);
-    EXPECT_EQ(GetFocus(), editOf(second.get()));
+    EXPECT_EQ(GetFocus(), editOf(second.Get()));
 }
 
 TEST(Activation, TheFrameIsToldOfABoxOnce)
@@ -241,7 +241,7 @@ TEST(Activation, TheFrameIsToldOfABoxOnce)
     Site& site = form.addActive();
     Site& other = form.addActive();                   // of the same frame
     site.automation().put(u"IF_IsEmpty", text(u"0")); // the error of its handler is shown in a box
-    auto& told = form.frame().get()->modeless;
+    auto& told = form.frame().Get()->modeless;
     const AnsweredBoxes boxes([&] { EXPECT_EQ(told, std::vector<bool>{false}); });
     form.focus(site);
     site.eventResult = DISP_E_EXCEPTION;

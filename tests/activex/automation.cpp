@@ -40,7 +40,7 @@ Variant truth(bool value)
     return given(VT_BOOL, value ? VARIANT_TRUE : VARIANT_FALSE);
 }
 
-Automation::Automation(IUnknown* object) : object_(ComPtr<IDispatch>::from(object)) {}
+Automation::Automation(IUnknown* object) : object_(query<IDispatch>(object)) {}
 
 std::optional<DISPID> Automation::id(std::u16string_view name) const
 {

@@ -40,7 +40,7 @@ public:
     Outcome call(std::u16string_view name, std::vector<Variant> arguments = {}) const;
 
     [[nodiscard]] std::u16string textOf(std::u16string_view name) const; // converted to text, "?" when it fails
-    [[nodiscard]] IDispatch* dispatch() const noexcept { return object_.get(); }
+    [[nodiscard]] IDispatch* dispatch() const noexcept { return object_.Get(); }
 
 private:
     ComPtr<IDispatch> object_;

@@ -17,7 +17,7 @@ namespace {
 
 TEST(Automation, NamesAreFoundInAnyCase)
 {
-    const Automation control(create().get());
+    const Automation control(create().Get());
     EXPECT_EQ(control.id(u"text"), 0);
     EXPECT_EQ(control.id(u"HWND"), -515);
     EXPECT_EQ(control.id(u"hwndctl"), control.id(u"HwndCtl"));
@@ -40,7 +40,7 @@ VARTYPE variantTypeOf(control::PropertyType type)
 
 TEST(Automation, EveryPropertyIsReadWithItsOwnVariantTypeAndCanBePutBack)
 {
-    const Automation control(create().get());
+    const Automation control(create().Get());
     for (const control::Property& property : control::properties()) {
         SCOPED_TRACE(std::string(property.name.begin(), property.name.end()));
         Outcome read = control.get(property.name);
@@ -92,7 +92,7 @@ TEST(Automation, PutsTakeEveryKindOfVariant)
     };
     for (PutCase& one : cases) {
         SCOPED_TRACE(one.what);
-        const Automation control(create().get());
+        const Automation control(create().Get());
         const std::u16string before = control.textOf(one.property);
         const Outcome put = control.put(one.property, std::move(one.value));
         EXPECT_EQ(put.error, one.error);
@@ -105,13 +105,13 @@ TEST(Automation, PutsTakeEveryKindOfVariant)
 
 Variant sharedBy(IDispatch* object)
 {
-    return given(VT_DISPATCH, reinterpret_cast<std::intptr_t>(ComPtr<IDispatch>::share(object).release()));
+    return given(VT_DISPATCH, reinterpret_cast<std::intptr_t>(ComPtr<IDispatch>(object).Detach()));
 }
 
 TEST(Automation, ByReferenceAndDefaultProperties)
 {
-    const Automation control(create().get());
-    const Automation other(create().get());
+    const Automation control(create().Get());
+    const Automation other(create().Get());
     ASSERT_EQ(other.put(u"Text", text(u"do outro")).result, S_OK);
 
     EXPECT_EQ(control.put(u"NomeCampo", sharedBy(other.dispatch())).result, S_OK);
@@ -125,7 +125,7 @@ TEST(Automation, ByReferenceAndDefaultProperties)
 
 TEST(Automation, CallsThatNoMemberTakes)
 {
-    const Automation control(create().get());
+    const Automation control(create().Get());
     EXPECT_EQ(control.put(u"hwnd", number(1)).result, DISP_E_MEMBERNOTFOUND);
     EXPECT_EQ(control.invoke(9999, DISPATCH_PROPERTYGET).result, DISP_E_MEMBERNOTFOUND);
     EXPECT_EQ(control.invoke(0, DISPATCH_PROPERTYPUT).result, DISP_E_BADPARAMCOUNT);
@@ -143,7 +143,7 @@ TEST(Automation, CallsThatNoMemberTakes)
 // The interface named in a call says nothing: some callers name the one that they hold.
 TEST(Automation, TheReservedInterfaceIsNotLookedAt)
 {
-    const Automation control(create().get());
+    const Automation control(create().Get());
     const IID& held = __uuidof(IDispatch);
     auto* name = const_cast<wchar_t*>(L"Text");
     DISPID id = DISPID_UNKNOWN;
@@ -158,7 +158,7 @@ TEST(Automation, TheReservedInterfaceIsNotLookedAt)
 TEST(Automation, WindowsExistWhenAskedFor)
 {
     const ComPtr<IUnknown> object = create();
-    const Automation control(object.get());
+    const Automation control(object.Get());
     ASSERT_EQ(control.put(u"Text", text(u"antes")).result, S_OK);
     const auto edit = reinterpret_cast<HWND>(static_cast<LONG_PTR>(control.get(u"hwnd").value.get().lVal));
     const auto surface = reinterpret_cast<HWND>(static_cast<LONG_PTR>(control.get(u"HwndCtl").value.get().lVal));
@@ -172,7 +172,7 @@ TEST(Automation, WindowsExistWhenAskedFor)
 
 TEST(Automation, TheFontObjectAndTheFontPropertiesAreOne)
 {
-    const Automation control(create().get());
+    const Automation control(create().Get());
     const Outcome font = control.get(u"Font");
     ASSERT_EQ(font.value.get().vt, VT_DISPATCH);
     const Automation object(font.value.get().pdispVal);
@@ -192,7 +192,7 @@ TEST(Automation, TheFontObjectAndTheFontPropertiesAreOne)
     EXPECT_EQ(control.textOf(u"FontItalic"), u"True");
 
     // A font set by reference is the control's from then on.
-    const Automation second(create().get());
+    const Automation second(create().Get());
     std::vector<Variant> arguments;
     arguments.push_back(sharedBy(object.dispatch()));
     EXPECT_EQ(second.invoke(DISPID_FONT, DISPATCH_PROPERTYPUTREF, std::move(arguments)).result, S_OK);
@@ -206,7 +206,7 @@ TEST(Automation, TheFontObjectAndTheFontPropertiesAreOne)
 TEST(Automation, AGivenFontStaysItsOwners)
 {
     const LeakCheck leaks;
-    const Automation control(create().get());
+    const Automation control(create().Get());
     const Outcome before = control.get(u"Font");
     const Automation held(before.value.get().pdispVal);
     ComPtr<IFontDisp> font;
@@ -215,15 +215,15 @@ TEST(Automation, AGivenFontStaysItsOwners)
     description.lpstrName = const_cast<wchar_t*>(L"Tahoma");
     description.cySize.int64 = 120000;
     description.sWeight = FW_NORMAL;
-    ASSERT_EQ(OleCreateFontIndirect(&description, IID_IFontDisp, font.putVoid()), S_OK);
+    ASSERT_EQ(OleCreateFontIndirect(&description, IID_PPV_ARGS(&font)), S_OK);
     std::vector<Variant> arguments;
-    arguments.push_back(sharedBy(font.get()));
+    arguments.push_back(sharedBy(font.Get()));
     ASSERT_EQ(control.invoke(DISPID_FONT, DISPATCH_PROPERTYPUTREF, std::move(arguments)).result, S_OK);
     EXPECT_EQ(held.textOf(u"Size"), u"12") << "what was handed out before shows the new font";
 
     ASSERT_EQ(control.put(u"FontBold", truth(true)).result, S_OK);
     EXPECT_EQ(held.textOf(u"Bold"), u"True");
-    const Automation given(font.get());
+    const Automation given(font.Get());
     const Outcome read = control.get(u"Font");
     EXPECT_EQ(Automation(read.value.get().pdispVal).textOf(u"Bold"), u"True");
     EXPECT_EQ(given.textOf(u"Bold"), u"False");
@@ -263,7 +263,7 @@ private:
 
 TEST(Automation, SettingsOfTheLocaleAreSeenWhenTheyChange)
 {
-    const Automation control(create().get());
+    const Automation control(create().Get());
     control.get(u"hwnd"); // with a window, as on a form
     asNumber(control);
     const auto shown = [&](std::u16string_view value) {

@@ -136,7 +136,7 @@ TEST(LiveCalendar, AfterItsParentHasGoneItGetsAWindowInANewOne)
 TEST(LiveCalendar, ItsMethodsTakeTheirArgumentByName)
 {
     const ComPtr<IUnknown> control = create(L"Vela.cCalendar.1");
-    const auto calendar = ComPtr<IDispatch>::from(control.get());
+    const auto calendar = query<IDispatch>(control.Get());
     LPOLESTR names[] = {const_cast<LPOLESTR>(L"Inicia"), const_cast<LPOLESTR>(L"DATA")};
     DISPID ids[2] = {};
     EXPECT_EQ(calendar->GetIDsOfNames(IID_NULL, names, 2, LOCALE_USER_DEFAULT, ids), DISP_E_UNKNOWNNAME);
@@ -162,7 +162,7 @@ TEST(LiveCalendar, ItsMethodsTakeTheirArgumentByName)
             row.result)
             << row.name;
     }
-    EXPECT_EQ(Automation(control.get()).get(u"DateInitial").value.get().date, serialOf15March);
+    EXPECT_EQ(Automation(control.Get()).get(u"DateInitial").value.get().date, serialOf15March);
 }
 
 // Each drawing, the picture included: another field of the process has set the colours meanwhile.
@@ -194,7 +194,7 @@ TEST(LiveCalendar, ItsColoursAreThoseOfEveryApartment)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const Automation own(control.get());
+    const Automation own(control.Get());
     const auto colour = [&] { return own.get(u"Calendar_Selected").value.get().lVal; };
     const LONG before = colour();
     std::atomic<bool> done{false};
@@ -203,7 +203,7 @@ TEST(LiveCalendar, ItsColoursAreThoseOfEveryApartment)
         {
             const ComPtr<IUnknown> its = create();
             for (int i = 0; i < 200; ++i)
-                Automation(its.get()).put(u"Calendar_Selected", number(i % 2 == 0 ? 0x00030201 : 0x00060504));
+                Automation(its.Get()).put(u"Calendar_Selected", number(i % 2 == 0 ? 0x00030201 : 0x00060504));
         }
         CoUninitialize();
         done = true;

@@ -14,8 +14,11 @@ namespace vela::test {
 using activex::asText;
 using activex::asWide;
 using activex::Bstr;
-using activex::ComPtr;
 using activex::Variant;
+using win32::adopt;
+using win32::ComPtr;
+using win32::make;
+using win32::query;
 
 inline std::atomic<int> liveObjects{0};
 
@@ -28,45 +31,17 @@ inline HRESULT called(const char* call)
     return whenCalled ? whenCalled(call) : S_OK;
 }
 
-template <class First, class... Rest>
-class ComObject : public First, public Rest... {
+template <class... Interfaces>
+class ComObject : public win32::CountedObject<Interfaces...> {
 public:
     ComObject() { ++liveObjects; }
-    ComObject(const ComObject&) = delete;
-    ComObject& operator=(const ComObject&) = delete;
-    virtual ~ComObject() { --liveObjects; }
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override
-    {
-        *object = nullptr;
-        if (FAILED(called("QueryInterface")) || !offers(iid))
-            return E_NOINTERFACE;
-        if (iid == IID_IUnknown || iid == __uuidof(First))
-            *object = static_cast<First*>(this);
-        else
-            ((iid == __uuidof(Rest) ? void(*object = static_cast<Rest*>(this)) : void()), ...);
-        if (!*object)
-            *object = also(iid);
-        if (!*object)
-            return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
-    }
+    ~ComObject() override { --liveObjects; }
 
 protected:
-    virtual bool offers(REFIID) { return true; }   // hides an interface from the control
-    virtual void* also(REFIID) { return nullptr; } // under another identity
-
-private:
-    ULONG references_ = 1;
+    [[nodiscard]] void* find(REFIID iid) noexcept override
+    {
+        return FAILED(called("QueryInterface")) ? nullptr : win32::CountedObject<Interfaces...>::find(iid);
+    }
 };
 
 // An object that is called by number only.
@@ -76,12 +51,6 @@ public:
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
 };
-
-template <class Object, class... Arguments>
-ComPtr<Object> make(Arguments&&... arguments)
-{
-    return ComPtr<Object>::adopt(new Object(std::forward<Arguments>(arguments)...));
-}
 
 // A sink at one of an object's connection points, while this lives.
 class Connection {
@@ -93,8 +62,8 @@ public:
 
     bool open(IUnknown* source, REFIID events, IUnknown* sink)
     {
-        const auto container = ComPtr<IConnectionPointContainer>::from(source);
-        return container && SUCCEEDED(container->FindConnectionPoint(events, point_.put())) &&
+        const auto container = query<IConnectionPointContainer>(source);
+        return container && SUCCEEDED(container->FindConnectionPoint(events, &point_)) &&
                SUCCEEDED(point_->Advise(sink, &cookie_));
     }
     HRESULT close()
@@ -102,7 +71,7 @@ public:
         const auto point = std::exchange(point_, {});
         return point ? point->Unadvise(cookie_) : S_FALSE;
     }
-    void forget() { point_.reset(); } // as hosts do that release a source without a word
+    void forget() { point_.Reset(); } // as hosts do that release a source without a word
 
 private:
     ComPtr<IConnectionPoint> point_;

@@ -40,7 +40,7 @@ private:
 // The form's frame behind calls that can be heard.
 class Frame final : public ComObject<IOleInPlaceFrame> {
 public:
-    explicit Frame(const ComPtr<demo::FormFrame>& inner) : inner_(inner.shared()) {}
+    explicit Frame(const ComPtr<demo::FormFrame>& inner) : inner_(inner) {}
 
     HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override { return inner_->GetWindow(window); }
     HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return S_OK; }
@@ -71,22 +71,19 @@ private:
 
 HRESULT Site::note(std::string word)
 {
-    const ComPtr<Site> alive = ComPtr<Site>::share(this);
+    const ComPtr<Site> alive = ComPtr<Site>(this);
     log.push_back(word);
     if (onCall)
         onCall(word.c_str());
     return called(word.c_str());
 }
 
-bool Site::offers(REFIID iid)
+void* Site::find(REFIID iid) noexcept
 {
-    if (iid == IID_IOleInPlaceSite || iid == IID_IOleWindow)
-        return options_.inPlace;
-    if (iid == IID_IOleControlSite)
-        return options_.controlSite;
-    if (iid == IID_IDispatch)
-        return options_.ambients;
-    return true;
+    const bool hidden = ((iid == IID_IOleInPlaceSite || iid == IID_IOleWindow) && !options_.inPlace) ||
+                        (iid == IID_IOleControlSite && !options_.controlSite) ||
+                        (iid == IID_IDispatch && !options_.ambients);
+    return hidden ? nullptr : ComObject::find(iid);
 }
 
 void Site::hold(ComPtr<IUnknown> control)
@@ -103,8 +100,8 @@ void Site::hold(ComPtr<IUnknown> control)
     IID source{};
     if (const auto info = as<IProvideClassInfo2>())
         info->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &source);
-    events_.open(control_.get(), source, make<EventSink>(*this).get());
-    properties_.open(control_.get(), IID_IPropertyNotifySink, static_cast<IPropertyNotifySink*>(this));
+    events_.open(control_.Get(), source, make<EventSink>(*this).Get());
+    properties_.open(control_.Get(), IID_IPropertyNotifySink, static_cast<IPropertyNotifySink*>(this));
 }
 
 HRESULT Site::activate(RECT place)
@@ -120,14 +117,14 @@ HRESULT Site::activateBy(LONG verb)
 
 void Site::close()
 {
-    const ComPtr<Site> alive = ComPtr<Site>::share(this);
+    const ComPtr<Site> alive = ComPtr<Site>(this);
     events_.close();
     properties_.close();
     if (const auto object = as<IOleObject>()) {
         object->Close(OLECLOSE_NOSAVE);
         object->SetClientSite(nullptr);
     }
-    control_.reset();
+    control_.Reset();
 }
 
 void Site::abandon()
@@ -135,7 +132,7 @@ void Site::abandon()
     events_.forget();
     properties_.forget();
     form_.frame()->SetActiveObject(nullptr, nullptr);
-    control_.reset();
+    control_.Reset();
 }
 
 HWND Site::window() const
@@ -167,7 +164,7 @@ HRESULT Site::GetWindow(HWND* window)
 HRESULT Site::OnUIActivate()
 {
     if (IOleInPlaceActiveObject* const other = form_.active())
-        if (const auto object = ComPtr<IOleInPlaceObject>::from(other))
+        if (const auto object = query<IOleInPlaceObject>(other))
             object->UIDeactivate();
     return note("OnUIActivate");
 }
@@ -175,7 +172,7 @@ HRESULT Site::OnUIActivate()
 HRESULT Site::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT place, LPRECT clip,
                                LPOLEINPLACEFRAMEINFO)
 {
-    *frame = form_.handedFrame().release();
+    *frame = form_.handedFrame().Detach();
     *document = nullptr;
     *place = place_;
     GetClientRect(form_.window(), clip);
@@ -187,7 +184,7 @@ HRESULT Site::GetExtendedControl(IDispatch** object)
     *object = nullptr;
     if (const HRESULT refused = called("GetExtendedControl"); FAILED(refused))
         return refused;
-    *object = extender.shared().release();
+    *object = ComPtr(extender).Detach();
     return *object ? S_OK : E_NOTIMPL;
 }
 
@@ -219,8 +216,8 @@ Form::Form()
     window_ = CreateWindowExW(WS_EX_CONTROLPARENT, formClass, L"Vela", WS_POPUP, 0, 0, 400, 300, nullptr, nullptr,
                               description.hInstance, nullptr);
     ShowWindow(window_, SW_SHOWNOACTIVATE);
-    frame_ = ComPtr<demo::FormFrame>::adopt(new demo::FormFrame(window_));
-    handedFrame_ = ComPtr<IOleInPlaceFrame>::adopt(new Frame(frame_));
+    frame_ = adopt<demo::FormFrame>(new demo::FormFrame(window_));
+    handedFrame_ = adopt<IOleInPlaceFrame>(new Frame(frame_));
 }
 
 Form::~Form()
@@ -230,8 +227,8 @@ Form::~Form()
     frame_->SetActiveObject(nullptr, nullptr);
     destroyWindow();
     pump();
-    EXPECT_EQ(handedFrame_.release()->Release(), 0u) << "the frame is held by a control";
-    EXPECT_EQ(frame_.release()->Release(), 0u);
+    EXPECT_EQ(handedFrame_.Detach()->Release(), 0u) << "the frame is held by a control";
+    EXPECT_EQ(frame_.Detach()->Release(), 0u);
 }
 
 void Form::destroyWindow()
@@ -243,7 +240,7 @@ void Form::destroyWindow()
 Site& Form::add(SiteOptions options, const wchar_t* progId)
 {
     sites_.push_back(make<Site>(*this, options));
-    Site& site = *sites_.back().get();
+    Site& site = *sites_.back().Get();
     site.hold(create(progId));
     return site;
 }
@@ -259,7 +256,7 @@ Site& Form::addActive(const wchar_t* progId)
 void Form::remove(Site& site)
 {
     site.close();
-    std::erase_if(sites_, [&](const ComPtr<Site>& one) { return one.get() == &site; });
+    std::erase_if(sites_, [&](const ComPtr<Site>& one) { return one.Get() == &site; });
     run();
 }
 
@@ -273,7 +270,7 @@ void Form::run()
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         const bool key = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
-        const auto active = ComPtr<IOleInPlaceActiveObject>::share(this->active());
+        const auto active = ComPtr<IOleInPlaceActiveObject>(this->active());
         if (key && active && active->TranslateAccelerator(&message) == S_OK)
             continue;
         if (window_ && IsDialogMessageW(window_, &message))

@@ -39,10 +39,10 @@ public:
     template <class Interface>
     [[nodiscard]] ComPtr<Interface> as() const
     {
-        return ComPtr<Interface>::from(control_.get());
+        return query<Interface>(control_.Get());
     }
-    [[nodiscard]] IUnknown* control() const noexcept { return control_.get(); }
-    [[nodiscard]] Automation automation() const { return Automation(control_.get()); }
+    [[nodiscard]] IUnknown* control() const noexcept { return control_.Get(); }
+    [[nodiscard]] Automation automation() const { return Automation(control_.Get()); }
     [[nodiscard]] HWND window() const; // of the control
     [[nodiscard]] HWND edit() const;   // its edit box
 
@@ -109,7 +109,7 @@ public:
     HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID id) override;
 
 protected:
-    bool offers(REFIID iid) override;
+    [[nodiscard]] void* find(REFIID iid) noexcept override;
 
 private:
     HRESULT note(std::string word);
@@ -136,7 +136,7 @@ public:
     void remove(Site& site);                               // closed and let go
     [[nodiscard]] HWND window() const noexcept { return window_; }
     [[nodiscard]] const ComPtr<demo::FormFrame>& frame() const noexcept { return frame_; }
-    [[nodiscard]] ComPtr<IOleInPlaceFrame> handedFrame() const noexcept { return handedFrame_.shared(); } // to controls
+    [[nodiscard]] ComPtr<IOleInPlaceFrame> handedFrame() const noexcept { return handedFrame_; } // to controls
     [[nodiscard]] IOleInPlaceActiveObject* active() const noexcept;
 
     // A key to the focused window through the form's loop: the active object first, then the dialog keys.

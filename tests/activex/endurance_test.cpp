@@ -50,7 +50,7 @@ TEST(Endurance, ManyControlsLeaveNothingBehind)
 TEST(Endurance, ManyControlsWithoutAWindow)
 {
     expectFlatOver(rounds() * 5, [](int) {
-        const Automation field(create().get());
+        const Automation field(create().Get());
         field.set({{u"Mask", u"__/__"}});
         field.get(u"Text");
     });
@@ -202,10 +202,10 @@ private:
     {
         Site& from = anySite();
         ComPtr<IStream> stream;
-        CreateStreamOnHGlobal(nullptr, TRUE, stream.put());
-        from.as<IPersistStreamInit>()->Save(stream.get(), TRUE);
+        CreateStreamOnHGlobal(nullptr, TRUE, &stream);
+        from.as<IPersistStreamInit>()->Save(stream.Get(), TRUE);
         stream->Seek({}, STREAM_SEEK_SET, nullptr);
-        from.as<IPersistStreamInit>()->Load(stream.get());
+        from.as<IPersistStreamInit>()->Load(stream.Get());
     }
     void value()
     {

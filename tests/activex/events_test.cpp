@@ -139,7 +139,7 @@ TEST(Events, AHandlersErrorKeepsNoOtherFromHearing)
     Site& site = form.addActive();
     const auto second = make<Sink>();
     Connection connection;
-    ASSERT_TRUE(connection.open(site.control(), activex::velaEvents, second.get()));
+    ASSERT_TRUE(connection.open(site.control(), activex::velaEvents, second.Get()));
     site.eventResult = DISP_E_EXCEPTION;
     EXPECT_EQ(site.automation().put(u"Text", text(u"a")).result, S_OK);
     EXPECT_EQ(second->told, 1);
@@ -175,7 +175,7 @@ TEST(Events, ASinkMayGoInsideItsEvent)
     Form form;
     Site& site = form.addActive();
     const auto sink = make<Sink>();
-    ASSERT_TRUE(sink->connection.open(site.control(), IID_IPropertyNotifySink, sink.get()));
+    ASSERT_TRUE(sink->connection.open(site.control(), IID_IPropertyNotifySink, sink.Get()));
     site.automation().put(u"UpTAB", truth(false));
     site.automation().put(u"UpTAB", truth(true));
     EXPECT_EQ(sink->told, 1);

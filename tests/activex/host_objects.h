@@ -86,7 +86,7 @@ public:
 // A storage of one stream.
 class Storage final : public ComObject<IStorage> {
 public:
-    ComPtr<Stream> stream = ComPtr<Stream>::adopt(new Stream);
+    ComPtr<Stream> stream = adopt<Stream>(new Stream);
 
     HRESULT STDMETHODCALLTYPE CreateStream(LPCOLESTR, DWORD, DWORD, DWORD, IStream** made) override
     {
@@ -123,7 +123,7 @@ private:
         if (const HRESULT refused = called(call); FAILED(refused))
             return refused;
         stream->position = 0;
-        *given = stream.shared().release();
+        *given = ComPtr(stream).Detach();
         return S_OK;
     }
 };

@@ -21,7 +21,7 @@ namespace {
 template <class Interface>
 Interface* bare(const Site& site)
 {
-    return site.as<Interface>().get();
+    return site.as<Interface>().Get();
 }
 
 // What a host holds of the control, and its random choices.
@@ -42,7 +42,7 @@ public:
     [[nodiscard]] Stream* stream() // from its start
     {
         storage->stream->position = 0;
-        return storage->stream.get();
+        return storage->stream.Get();
     }
 
     void beRare() { rare_ = true; } // with what ends all
@@ -114,19 +114,19 @@ void advise(Hand& hand)
 {
     FORMATETC format{CF_UNICODETEXT, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
     DWORD connection = 0;
-    bare<IViewObject>(*hand.site)->SetAdvise(DVASPECT_CONTENT, ADVF_PRIMEFIRST, hand.sink.get());
+    bare<IViewObject>(*hand.site)->SetAdvise(DVASPECT_CONTENT, ADVF_PRIMEFIRST, hand.sink.Get());
     if (hand.has())
-        bare<IDataObject>(*hand.site)->DAdvise(&format, ADVF_PRIMEFIRST, hand.sink.get(), &connection);
+        bare<IDataObject>(*hand.site)->DAdvise(&format, ADVF_PRIMEFIRST, hand.sink.Get(), &connection);
     if (hand.has())
-        bare<IOleObject>(*hand.site)->Advise(hand.sink.get(), &connection);
+        bare<IOleObject>(*hand.site)->Advise(hand.sink.Get(), &connection);
 }
 
 void listen(Hand& hand)
 {
     ComPtr<IConnectionPoint> point; // a reference of the control; it goes before the connection
-    bare<IConnectionPointContainer>(*hand.site)->FindConnectionPoint(IID_IPropertyNotifySink, point.put());
-    IConnectionPoint* const bareOne = point.get();
-    point.reset();
+    bare<IConnectionPointContainer>(*hand.site)->FindConnectionPoint(IID_IPropertyNotifySink, &point);
+    IConnectionPoint* const bareOne = point.Get();
+    point.Reset();
     DWORD connection = 0;
     bareOne->Advise(static_cast<IPropertyNotifySink*>(hand.site), &connection);
     if (hand.has() && connection != 0)
@@ -153,7 +153,7 @@ void siteAnew(Hand& hand)
 
 void storeAndTell(Hand& hand)
 {
-    bare<IPersistStorage>(*hand.site)->Save(hand.storage.get(), FALSE);
+    bare<IPersistStorage>(*hand.site)->Save(hand.storage.Get(), FALSE);
     if (hand.has())
         bare<IPersistStorage>(*hand.site)->SaveCompleted(nullptr);
 }
@@ -217,13 +217,13 @@ struct Act {
 };
 const Act acts[] = {
     {"InitNew", [](Hand& hand) { bare<IPersistStreamInit>(*hand.site)->InitNew(); }},
-    {"load from a bag", [](Hand& hand) { bare<IPersistPropertyBag>(*hand.site)->Load(hand.bag.get(), nullptr); }},
+    {"load from a bag", [](Hand& hand) { bare<IPersistPropertyBag>(*hand.site)->Load(hand.bag.Get(), nullptr); }},
     {"save into a bag",
-     [](Hand& hand) { bare<IPersistPropertyBag>(*hand.site)->Save(hand.bag.get(), TRUE, hand.lot(2) == 0); }},
+     [](Hand& hand) { bare<IPersistPropertyBag>(*hand.site)->Save(hand.bag.Get(), TRUE, hand.lot(2) == 0); }},
     {"save into a stream", [](Hand& hand) { bare<IPersistStreamInit>(*hand.site)->Save(hand.stream(), TRUE); }},
     {"load from a stream", [](Hand& hand) { bare<IPersistStreamInit>(*hand.site)->Load(hand.stream()); }},
     {"save into a storage", storeAndTell},
-    {"load from a storage", [](Hand& hand) { bare<IPersistStorage>(*hand.site)->Load(hand.storage.get()); }},
+    {"load from a storage", [](Hand& hand) { bare<IPersistStorage>(*hand.site)->Load(hand.storage.Get()); }},
     {"size",
      [](Hand& hand) {
          ULARGE_INTEGER size{};
@@ -234,7 +234,7 @@ const Act acts[] = {
     {"moniker",
      [](Hand& hand) {
          ComPtr<IMoniker> moniker;
-         bare<IOleObject>(*hand.site)->GetMoniker(1, 1, moniker.put());
+         bare<IOleObject>(*hand.site)->GetMoniker(1, 1, &moniker);
      }},
     {"advise", advise},
     {"listen", listen},

@@ -254,7 +254,7 @@ std::wstring nameOf(HWND window)
         reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(L"oleacc.dll"), "AccessibleObjectFromWindow")));
     ComPtr<IAccessible> reader;
     const IID wanted{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
-    if (fromWindow(window, static_cast<DWORD>(OBJID_CLIENT), wanted, reinterpret_cast<void**>(reader.put())) != S_OK)
+    if (fromWindow(window, static_cast<DWORD>(OBJID_CLIENT), wanted, &reader) != S_OK)
         return L"?";
     VARIANT self{};
     self.vt = VT_I4;

@@ -57,15 +57,15 @@ TEST(Interfaces, AreOneObject)
         for (const Asked& from : offered) {
             if (from.iid == activex::velaInterface && std::wstring_view(progId) != L"Vela.Vela")
                 continue;
-            const auto first = ComPtr<IUnknown>::from(control.get(), from.iid);
+            const auto first = query<IUnknown>(control.Get(), from.iid);
             ASSERT_TRUE(first) << from.name;
-            const auto identity = ComPtr<IUnknown>::from(first.get(), IID_IUnknown);
-            EXPECT_EQ(identity.get(), control.get()) << from.name;
+            const auto identity = query<IUnknown>(first.Get(), IID_IUnknown);
+            EXPECT_EQ(identity.Get(), control.Get()) << from.name;
             for (const Asked& to : offered)
-                EXPECT_TRUE(to.iid == activex::velaInterface || ComPtr<IUnknown>::from(first.get(), to.iid))
+                EXPECT_TRUE(to.iid == activex::velaInterface || query<IUnknown>(first.Get(), to.iid))
                     << from.name << " to " << to.name;
         }
-        EXPECT_FALSE(ComPtr<IUnknown>::from(control.get(), objectSafety)) << "no promise to untrusted pages";
+        EXPECT_FALSE(query<IUnknown>(control.Get(), objectSafety)) << "no promise to untrusted pages";
         EXPECT_EQ(control->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
     }
 }
@@ -74,9 +74,9 @@ TEST(Interfaces, NoAggregationAndNoOtherClass)
 {
     ComPtr<IUnknown> object;
     const ComPtr<IUnknown> outer = create();
-    EXPECT_EQ(CoCreateInstance(activex::velaClass, outer.get(), CLSCTX_INPROC_SERVER, IID_IUnknown, object.putVoid()),
+    EXPECT_EQ(CoCreateInstance(activex::velaClass, outer.Get(), CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&object)),
               CLASS_E_NOAGGREGATION);
-    EXPECT_EQ(CoCreateInstance(activex::velaClass, nullptr, CLSCTX_INPROC_SERVER, objectSafety, object.putVoid()),
+    EXPECT_EQ(CoCreateInstance(activex::velaClass, nullptr, CLSCTX_INPROC_SERVER, objectSafety, &object),
               E_NOINTERFACE);
 }
 
@@ -84,7 +84,7 @@ TEST(Interfaces, VerbsAreEnumerated)
 {
     const ComPtr<IUnknown> control = create();
     ComPtr<IEnumOLEVERB> verbs;
-    ASSERT_EQ(ComPtr<IOleObject>::from(control.get())->EnumVerbs(verbs.put()), S_OK);
+    ASSERT_EQ(query<IOleObject>(control.Get())->EnumVerbs(&verbs), S_OK);
     std::set<LONG> seen;
     OLEVERB verb{};
     ULONG fetched = 0;
@@ -97,7 +97,7 @@ TEST(Interfaces, VerbsAreEnumerated)
     EXPECT_EQ(verbs->Skip(static_cast<ULONG>(seen.size())), S_OK);
     EXPECT_EQ(verbs->Skip(1), S_FALSE);
     ComPtr<IEnumOLEVERB> copy;
-    EXPECT_EQ(verbs->Clone(copy.put()), S_OK);
+    EXPECT_EQ(verbs->Clone(&copy), S_OK);
     EXPECT_EQ(copy->Next(1, &verb, nullptr), S_FALSE);
 }
 
@@ -105,9 +105,9 @@ TEST(Interfaces, ConnectionsAreEnumerated)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const auto container = ComPtr<IConnectionPointContainer>::from(control.get());
+    const auto container = query<IConnectionPointContainer>(control.Get());
     ComPtr<IEnumConnectionPoints> points;
-    ASSERT_EQ(container->EnumConnectionPoints(points.put()), S_OK);
+    ASSERT_EQ(container->EnumConnectionPoints(&points), S_OK);
     IConnectionPoint* list[3]{};
     ULONG fetched = 0;
     EXPECT_EQ(points->Next(3, list, &fetched), S_FALSE);
@@ -117,18 +117,18 @@ TEST(Interfaces, ConnectionsAreEnumerated)
     EXPECT_EQ(events, activex::velaEvents);
     DWORD cookie = 0;
     EXPECT_EQ(list[0]->Advise(nullptr, &cookie), E_POINTER);
-    EXPECT_EQ(list[1]->Advise(control.get(), &cookie), CONNECT_E_CANNOTCONNECT) << "no sink of that kind";
+    EXPECT_EQ(list[1]->Advise(control.Get(), &cookie), CONNECT_E_CANNOTCONNECT) << "no sink of that kind";
     for (IConnectionPoint* point : {list[0], list[1]})
         point->Release();
     ComPtr<IConnectionPoint> none;
-    EXPECT_EQ(container->FindConnectionPoint(IID_IDataObject, none.put()), CONNECT_E_NOCONNECTION);
+    EXPECT_EQ(container->FindConnectionPoint(IID_IDataObject, &none), CONNECT_E_NOCONNECTION);
 }
 
 TEST(Interfaces, EnumeratedValuesAreBrowsedByName)
 {
     const ComPtr<IUnknown> control = create();
-    const Automation field(control.get());
-    const auto browsing = ComPtr<IPerPropertyBrowsing>::from(control.get());
+    const Automation field(control.Get());
+    const auto browsing = query<IPerPropertyBrowsing>(control.Get());
     for (const control::Property& property : control::properties()) {
         CALPOLESTR names{};
         CADWORD cookies{};
@@ -160,8 +160,8 @@ TEST(Interfaces, EnumeratedValuesAreBrowsedByName)
 TEST(Interfaces, PropertiesLeadToPagesAndCategories)
 {
     const ComPtr<IUnknown> control = create();
-    const Automation field(control.get());
-    const auto browsing = ComPtr<IPerPropertyBrowsing>::from(control.get());
+    const Automation field(control.Get());
+    const auto browsing = query<IPerPropertyBrowsing>(control.Get());
     CLSID page{};
     EXPECT_EQ(browsing->MapPropertyToPage(*field.id(u"BackColor"), &page), S_OK);
     EXPECT_EQ(page, CLSID_CColorPropPage);
@@ -172,8 +172,7 @@ TEST(Interfaces, PropertiesLeadToPagesAndCategories)
     EXPECT_EQ(browsing->MapPropertyToPage(*field.id(u"NomeCampo"), &page), PERPROP_E_NOPAGEAVAILABLE);
     EXPECT_EQ(browsing->MapPropertyToPage(4711, &page), DISP_E_MEMBERNOTFOUND);
 
-    const auto categorizer =
-        ComPtr<activex::ICategorizeProperties>::from(control.get(), activex::categorizePropertiesId);
+    const auto categorizer = query<activex::ICategorizeProperties>(control.Get(), activex::categorizePropertiesId);
     ASSERT_TRUE(categorizer);
     int category = 0;
     EXPECT_EQ(categorizer->MapPropertyToCategory(*field.id(u"FontBold"), &category), S_OK);
@@ -185,7 +184,7 @@ TEST(Interfaces, PropertiesLeadToPagesAndCategories)
     EXPECT_EQ(categorizer->GetCategoryName(-3, 0, name.put()), S_FALSE);
 
     CAUUID pages{};
-    ASSERT_EQ(ComPtr<ISpecifyPropertyPages>::from(control.get())->GetPages(&pages), S_OK);
+    ASSERT_EQ(query<ISpecifyPropertyPages>(control.Get())->GetPages(&pages), S_OK);
     EXPECT_EQ(pages.cElems, 5u);
     CoTaskMemFree(pages.pElems);
 }
@@ -208,7 +207,7 @@ TEST(Interfaces, QuickActivationGivesBothSidesWhatTheyWant)
     site.automation().put(u"UpTAB", truth(false));
     EXPECT_EQ(site.count("changed " + std::to_string(*site.automation().id(u"UpTAB"))), 1);
     ComPtr<IConnectionPoint> point;
-    site.as<IConnectionPointContainer>()->FindConnectionPoint(IID_IPropertyNotifySink, point.put());
+    site.as<IConnectionPointContainer>()->FindConnectionPoint(IID_IPropertyNotifySink, &point);
     EXPECT_EQ(point->Unadvise(control.dwPropNotifyCookie), S_OK);
     EXPECT_EQ(point->Unadvise(control.dwPropNotifyCookie), CONNECT_E_NOCONNECTION);
     container.cbSize = 4;
@@ -217,7 +216,7 @@ TEST(Interfaces, QuickActivationGivesBothSidesWhatTheyWant)
 
 TEST(Interfaces, ExtentsThatCannotBeAreRefused)
 {
-    const auto object = ComPtr<IOleObject>::from(create().get());
+    const auto object = query<IOleObject>(create().Get());
     SIZEL extent{-1, 500};
     EXPECT_TRUE(FAILED(object->SetExtent(DVASPECT_CONTENT, &extent)));
     EXPECT_EQ(object->SetExtent(DVASPECT_ICON, &extent), DV_E_DVASPECT);

@@ -77,7 +77,7 @@ ComPtr<IUnknown> create(const wchar_t* progId)
     CLSID clsid{};
     ComPtr<IUnknown> object;
     if (FAILED(CLSIDFromProgID(progId, &clsid)) ||
-        FAILED(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, object.putVoid())))
+        FAILED(CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&object))))
         return {};
     return object;
 }

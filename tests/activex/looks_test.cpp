@@ -426,10 +426,10 @@ TEST_F(LooksScaled, TheMetafileFillsItsFrame)
 {
     const ComPtr<IUnknown> control = create();
     SIZEL extent{2646, 635};
-    ASSERT_EQ(ComPtr<IOleObject>::from(control.get())->SetExtent(DVASPECT_CONTENT, &extent), S_OK);
+    ASSERT_EQ(query<IOleObject>(control.Get())->SetExtent(DVASPECT_CONTENT, &extent), S_OK);
     FORMATETC format{CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1, TYMED_ENHMF};
     STGMEDIUM medium{};
-    ASSERT_EQ(ComPtr<IDataObject>::from(control.get())->GetData(&format, &medium), S_OK);
+    ASSERT_EQ(query<IDataObject>(control.Get())->GetData(&format, &medium), S_OK);
     ENHMETAHEADER header{};
     GetEnhMetaFileHeader(medium.hEnhMetaFile, sizeof header, &header);
     EXPECT_NEAR(static_cast<double>(header.rclFrame.right), 2646, 60);

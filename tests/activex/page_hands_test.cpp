@@ -37,7 +37,7 @@ void sendClick(HWND window, POINT at, int times = 1)
 // A page in the foreground.
 class Hands {
 public:
-    Hands(const CLSID& id, const ComPtr<IUnknown>& object) : shown(id, {object.get()}), field_(object.get())
+    Hands(const CLSID& id, const ComPtr<IUnknown>& object) : shown(id, {object.Get()}), field_(object.Get())
     {
         SetForegroundWindow(shown.window());
         settle();
@@ -122,7 +122,7 @@ TEST(PageHands, AClickOnTheArrowOpensTheListOfFonts)
     const ComPtr<IUnknown> control = create();
     const Hands hands(activex::fontePage, control);
     hands.go(u"FontSize");
-    const HWND combo = hands.shown.find(L"COMBOBOX", Automation(control.get()).textOf(u"FontName"));
+    const HWND combo = hands.shown.find(L"COMBOBOX", Automation(control.Get()).textOf(u"FontName"));
     ASSERT_NE(combo, nullptr);
     const RECT client = clientOf(combo);
     hands.click(combo, {client.right - 6, client.bottom / 2});
@@ -143,14 +143,14 @@ TEST(PageHands, WhatAComboCompletesIsApplied)
     hands.press({'Y', 'Y', VK_F4, VK_F4, VK_TAB});
     EXPECT_EQ(shownBy(combo), u"yyyy/mm/dd");
     EXPECT_EQ(hands.shown.page->Apply(), S_OK);
-    EXPECT_EQ(Automation(control.get()).textOf(u"DateFormat"), shownBy(combo));
+    EXPECT_EQ(Automation(control.Get()).textOf(u"DateFormat"), shownBy(combo));
 }
 
 TEST(PageHands, EnterAndEscCloseTheListOfAnEditableCombo)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    Automation(control.get()).put(u"FormatoRetornoData", text(u"d/M/yy"));
+    Automation(control.Get()).put(u"FormatoRetornoData", text(u"d/M/yy"));
     const Hands hands(activex::principalPage, control);
     hands.go(u"FormatoRetornoData");
     const HWND combo = Hands::focusedCombo();
@@ -162,7 +162,7 @@ TEST(PageHands, EnterAndEscCloseTheListOfAnEditableCombo)
         EXPECT_EQ(GetFocus(), GetWindow(combo, GW_CHILD)) << key;
     }
     EXPECT_EQ(hands.shown.page->Apply(), S_OK);
-    EXPECT_EQ(Automation(control.get()).textOf(u"FormatoRetornoData"), shownBy(combo));
+    EXPECT_EQ(Automation(control.Get()).textOf(u"FormatoRetornoData"), shownBy(combo));
 }
 
 TEST(PageHands, AccessKeysWorkBesideThePage)
@@ -255,7 +255,7 @@ TEST(PageHands, AColourIsChosenByKeysAlone)
     }
     EXPECT_EQ(hands.shown.page->IsPageDirty(), S_OK);
     EXPECT_EQ(hands.shown.page->Apply(), S_OK);
-    EXPECT_EQ(Automation(control.get()).textOf(u"Error_ForeColor"), u"255");
+    EXPECT_EQ(Automation(control.Get()).textOf(u"Error_ForeColor"), u"255");
 }
 
 // --- looks
@@ -317,7 +317,7 @@ TEST(PageLooks, TheTabInFrontJoinsItsPane)
 TEST(PageLooks, AFontSampleLargerThanItsSurfaceIsCutThere)
 {
     const ComPtr<IUnknown> control = create();
-    Automation(control.get()).put(u"FontSize", number(255));
+    Automation(control.Get()).put(u"FontSize", number(255));
     const Hands hands(activex::fontePage, control);
     hands.settle();
     const HWND button = hands.shown.find(L"BUTTON", u"T&este");

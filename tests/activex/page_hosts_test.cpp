@@ -12,7 +12,7 @@ std::u16string errorText()
 {
     ComPtr<IErrorInfo> info;
     Bstr description;
-    if (GetErrorInfo(0, info.put()) != S_OK || FAILED(info->GetDescription(description.put())))
+    if (GetErrorInfo(0, &info) != S_OK || FAILED(info->GetDescription(description.put())))
         return {};
     return std::u16string(description.text());
 }
@@ -28,12 +28,12 @@ TEST(PageSelections, NoneIsAnErrorAndTheNextOneIsEdited)
     EXPECT_EQ(shown.page->Apply(), E_UNEXPECTED);
     EXPECT_EQ(errorText(), u"Object variable or With block variable not set");
     EXPECT_EQ(shown.page->SetObjects(1, nullptr), E_POINTER);
-    EXPECT_EQ(shown.select(control.get()), S_OK);
+    EXPECT_EQ(shown.select(control.Get()), S_OK);
     typeOver(shown.find(L"EDIT", u"8"), L'9');
     EXPECT_EQ(shown.page->SetObjects(0, nullptr), S_OK);
     EXPECT_EQ(shown.page->Apply(), E_UNEXPECTED);
-    EXPECT_EQ(Automation(control.get()).textOf(u"FontSize"), u"8") << "no longer selected";
-    EXPECT_EQ(shown.select(control.get()), S_OK);
+    EXPECT_EQ(Automation(control.Get()).textOf(u"FontSize"), u"8") << "no longer selected";
+    EXPECT_EQ(shown.select(control.Get()), S_OK);
     EXPECT_EQ(shown.find(L"EDIT", u"9"), nullptr) << "loaded again";
     EXPECT_EQ(shown.page->Apply(), S_OK);
 }
@@ -53,7 +53,7 @@ TEST(PageSelections, ObjectsWithoutThePropertiesAreAnErrorOnEveryPage)
         {activex::calendarioPage, lacks}};
     for (const auto& [id, said] : pages) {
         const AnsweredBoxes boxes;
-        const ShownPage shown(id, {calendar.get()});
+        const ShownPage shown(id, {calendar.Get()});
         ASSERT_EQ(AnsweredBoxes::texts(), std::vector<std::u16string>{said}) << "said when the page is activated";
         const bool main = id == activex::principalPage; // says it to the person, the others to the host
         EXPECT_EQ(shown.page->Apply(), main ? E_FAIL : lacksMember) << "blanks are not written over what was not read";
@@ -61,9 +61,9 @@ TEST(PageSelections, ObjectsWithoutThePropertiesAreAnErrorOnEveryPage)
             EXPECT_EQ(errorText(), lacks);
         }
         EXPECT_EQ(AnsweredBoxes::texts(), (std::vector<std::u16string>{said, said}));
-        EXPECT_EQ(shown.select(control.get()), S_OK);
+        EXPECT_EQ(shown.select(control.Get()), S_OK);
         EXPECT_EQ(shown.page->Apply(), S_OK) << "the page is usable";
-        EXPECT_EQ(shown.select(calendar.get()), main ? S_OK : lacksMember);
+        EXPECT_EQ(shown.select(calendar.Get()), main ? S_OK : lacksMember);
         EXPECT_EQ(AnsweredBoxes::texts().size(), main ? 3u : 2u);
     }
 }
@@ -73,8 +73,8 @@ TEST(PageSelections, AnObjectWithoutAutomationIsRefusedAndTheFormerOnesStay)
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
     const ComPtr<PageFrame> other = make<PageFrame>();
-    const ShownPage shown(activex::geralPage, {control.get()});
-    EXPECT_EQ(shown.select(other.get()), E_NOINTERFACE);
+    const ShownPage shown(activex::geralPage, {control.Get()});
+    EXPECT_EQ(shown.select(other.Get()), E_NOINTERFACE);
     EXPECT_EQ(shown.page->Apply(), S_OK);
 }
 
@@ -93,7 +93,7 @@ TEST(PageSelections, AControlClosedWhileItsPageIsOpenStillTakesItsValues)
         form.remove(closed);
         EXPECT_EQ(shown.page->Apply(), S_OK);
         EXPECT_EQ(field.textOf(u"FontBold"), u"True");
-        EXPECT_EQ(shown.select(another.get()), S_OK);
+        EXPECT_EQ(shown.select(another.Get()), S_OK);
         EXPECT_EQ(shown.page->Apply(), S_OK);
     }
     form.remove(site);
@@ -102,8 +102,7 @@ TEST(PageSelections, AControlClosedWhileItsPageIsOpenStillTakesItsValues)
 TEST(Pages, NeedToBeActivated)
 {
     ComPtr<IPropertyPage2> idle;
-    ASSERT_EQ(CoCreateInstance(activex::fontePage, nullptr, CLSCTX_INPROC_SERVER, IID_IPropertyPage2, idle.putVoid()),
-              S_OK);
+    ASSERT_EQ(CoCreateInstance(activex::fontePage, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&idle)), S_OK);
     EXPECT_EQ(idle->Show(SW_SHOW), E_UNEXPECTED);
     EXPECT_EQ(idle->Apply(), E_UNEXPECTED);
     EXPECT_EQ(idle->IsPageDirty(), S_FALSE);
@@ -127,11 +126,11 @@ TEST(Pages, AreOpenedOnOneProperty)
         {activex::calendarioPage, u"Calendar_Selected", nullptr},
     };
     const ComPtr<IUnknown> control = create();
-    const Automation field(control.get());
+    const Automation field(control.Get());
     field.set({{u"FontSize", 14}, {u"Mask", u"__-__"}, {u"IF_IsEmpty", u"vazio"}});
     for (const Row& row : rows) {
         SCOPED_TRACE(std::string(row.property, row.property + std::char_traits<char16_t>::length(row.property)));
-        const ShownPage shown(row.page, {control.get()});
+        const ShownPage shown(row.page, {control.Get()});
         EXPECT_EQ(shown.page->EditProperty(*field.id(row.property)), S_OK);
         const HWND focus = GetFocus();
         wchar_t name[32]{};
@@ -144,7 +143,7 @@ TEST(Pages, AreOpenedOnOneProperty)
         }
         EXPECT_EQ(shown.page->IsPageDirty(), S_FALSE);
     }
-    const ShownPage shown(activex::fontePage, {control.get()});
+    const ShownPage shown(activex::fontePage, {control.Get()});
     EXPECT_EQ(shown.page->EditProperty(*field.id(u"Mask")), E_INVALIDARG) << "another page's";
     EXPECT_EQ(shown.page->EditProperty(4711), E_INVALIDARG);
 }
@@ -159,8 +158,8 @@ TEST(PageActs, AStoreThatFailsIsSaidAndThePageStaysUsable)
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
     ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, profiles, profile, REG_SZ, L"abc", 8), ERROR_SUCCESS);
-    const ShownPage shown(activex::principalPage, {control.get()});
-    EXPECT_EQ(shown.page->EditProperty(*Automation(control.get()).id(u"TextoLivre")), S_OK); // its tab to the front
+    const ShownPage shown(activex::principalPage, {control.Get()});
+    EXPECT_EQ(shown.page->EditProperty(*Automation(control.Get()).id(u"TextoLivre")), S_OK); // its tab to the front
     ASSERT_EQ(RegDeleteKeyValueW(HKEY_CURRENT_USER, profiles, profile), ERROR_SUCCESS);
     const AnsweredBoxes boxes;
     const HWND remove = shown.find(L"BUTTON", u"&Excluir Profile");
@@ -193,9 +192,9 @@ TEST(PageActs, AnAmountBeyondThePaletteIsSaid)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    Automation(control.get()).put(u"Error_ForeColor", number(0x112233));
-    const ShownPage shown(activex::errosPage, {control.get()});
-    EXPECT_EQ(shown.page->EditProperty(*Automation(control.get()).id(u"Error_ForeColor")), S_OK);
+    Automation(control.Get()).put(u"Error_ForeColor", number(0x112233));
+    const ShownPage shown(activex::errosPage, {control.Get()});
+    EXPECT_EQ(shown.page->EditProperty(*Automation(control.Get()).id(u"Error_ForeColor")), S_OK);
     const HWND swatch = GetFocus();
     const AnsweredBoxes boxes;
     SetTimer(nullptr, 0, 50, PaletteVisit::step);
@@ -206,7 +205,7 @@ TEST(PageActs, AnAmountBeyondThePaletteIsSaid)
     EXPECT_EQ(AnsweredBoxes::texts().front(), u"Overflow");
     EXPECT_EQ(shown.page->IsPageDirty(), S_OK) << "closed, not cancelled: the colour before the overflow is taken";
     EXPECT_EQ(shown.page->Apply(), S_OK);
-    EXPECT_EQ(Automation(control.get()).textOf(u"Error_ForeColor"), u"255"); // 3276 counts as 255
+    EXPECT_EQ(Automation(control.Get()).textOf(u"Error_ForeColor"), u"255"); // 3276 counts as 255
 }
 
 // --- hosts that let go of the page while something runs in it
@@ -215,7 +214,7 @@ TEST(PageHosts, LetGoInsideTheChangedFlag)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    ShownPage shown(activex::geralPage, {control.get()});
+    ShownPage shown(activex::geralPage, {control.Get()});
     shown.frame->onStatus = [&] { shown.leave(); };
     typeOver(shown.find(L"EDIT", u""), L'#');
     EXPECT_FALSE(shown.page) << "the host was asked";
@@ -237,7 +236,7 @@ TEST(PageHosts, LetGoInsideApplyWhichIsCarriedOutWhole)
             shown.leave();
     };
     const DWORD before = shown.frame->status;
-    IPropertyPage2* const page = shown.page.get();
+    IPropertyPage2* const page = shown.page.Get();
     EXPECT_EQ(page->Apply(), S_OK);
     site.onCall = nullptr;
     EXPECT_FALSE(shown.page);
@@ -251,7 +250,7 @@ TEST(PageHosts, LetGoWhileAMessageBoxStands)
     const ComPtr<IUnknown> control = create();
     for (const bool all : {false, true}) { // the page and its site, or all of it and the frame's window
         const LeakCheck leaks;
-        ShownPage shown(activex::geralPage, {control.get()});
+        ShownPage shown(activex::geralPage, {control.Get()});
         const AnsweredBoxes boxes([&] {
             if (all) {
                 shown.leave();
@@ -270,11 +269,11 @@ TEST(PageHosts, LetGoWhileApplySaysNo)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const Automation field(control.get());
+    const Automation field(control.Get());
     field.set({{u"TextType", 2}, {u"DateFormat", u"dd/xx"}});
-    ShownPage shown(activex::principalPage, {control.get()});
+    ShownPage shown(activex::principalPage, {control.Get()});
     const AnsweredBoxes boxes([&] { shown.leave(); });
-    IPropertyPage2* const page = shown.page.get();
+    IPropertyPage2* const page = shown.page.Get();
     EXPECT_EQ(page->Apply(), E_FAIL);
     ASSERT_EQ(AnsweredBoxes::texts().size(), 2u);
     EXPECT_EQ(AnsweredBoxes::texts().back(), u"Formato da Data inválido");
@@ -287,21 +286,21 @@ TEST(PageHosts, SelectAnotherControlInsideAnAct)
     Form form;
     Site& first = form.addActive();
     const ComPtr<IUnknown> second = create();
-    Automation(second.get()).put(u"Delimitador", text(u"outro"));
+    Automation(second.Get()).put(u"Delimitador", text(u"outro"));
     const ShownPage shown(activex::geralPage, {first.control()});
     typeOver(shown.find(L"EDIT", u""), L'#');
     bool selected = false;
     first.onCall = [&](const char*) {
         if (std::exchange(selected, true))
             return;
-        EXPECT_EQ(shown.select(second.get()), S_OK);
+        EXPECT_EQ(shown.select(second.Get()), S_OK);
         EXPECT_EQ(shown.find(L"EDIT", u"outro"), nullptr) << "not amid the writing";
     };
     EXPECT_EQ(shown.page->Apply(), S_OK);
     first.onCall = nullptr;
     EXPECT_TRUE(selected);
     EXPECT_EQ(first.automation().textOf(u"Delimitador"), u"#");
-    EXPECT_EQ(Automation(second.get()).textOf(u"Delimitador"), u"outro");
+    EXPECT_EQ(Automation(second.Get()).textOf(u"Delimitador"), u"outro");
     EXPECT_NE(shown.find(L"EDIT", u"outro"), nullptr) << "loaded when the writing had ended";
     EXPECT_EQ(shown.page->IsPageDirty(), S_FALSE);
 }

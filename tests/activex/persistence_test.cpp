@@ -23,7 +23,7 @@ namespace {
 ComPtr<IStream> memoryStream(const std::string& bytes = {})
 {
     ComPtr<IStream> stream;
-    CreateStreamOnHGlobal(nullptr, TRUE, stream.put());
+    CreateStreamOnHGlobal(nullptr, TRUE, &stream);
     stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
     stream->Seek({}, STREAM_SEEK_SET, nullptr);
     return stream;
@@ -43,7 +43,7 @@ std::string bytesOf(IStream& stream)
 ComPtr<IUnknown> configured()
 {
     ComPtr<IUnknown> control = create();
-    const Automation field(control.get());
+    const Automation field(control.Get());
     field.set({{u"AceitaNegativos", true},
                {u"Alignment", 1},
                {u"AutoSelect", false},
@@ -78,28 +78,28 @@ TEST(Persistence, StreamGivesEverythingBack)
 {
     const ComPtr<IUnknown> saved = configured();
     const auto stream = memoryStream();
-    const auto source = ComPtr<IPersistStreamInit>::from(saved.get());
+    const auto source = query<IPersistStreamInit>(saved.Get());
     EXPECT_EQ(source->IsDirty(), S_OK);
     ULARGE_INTEGER size{};
     ASSERT_EQ(source->GetSizeMax(&size), S_OK);
-    ASSERT_EQ(source->Save(stream.get(), TRUE), S_OK);
+    ASSERT_EQ(source->Save(stream.Get(), TRUE), S_OK);
     EXPECT_EQ(source->IsDirty(), S_FALSE);
-    EXPECT_GE(size.QuadPart, bytesOf(*stream.get()).size());
+    EXPECT_GE(size.QuadPart, bytesOf(*stream.Get()).size());
 
     stream->Seek({}, STREAM_SEEK_SET, nullptr);
     const ComPtr<IUnknown> loaded = create();
-    const auto target = ComPtr<IPersistStreamInit>::from(loaded.get());
-    ASSERT_EQ(target->Load(stream.get()), S_OK);
+    const auto target = query<IPersistStreamInit>(loaded.Get());
+    ASSERT_EQ(target->Load(stream.Get()), S_OK);
     EXPECT_EQ(target->IsDirty(), S_FALSE);
-    expectSame(saved.get(), loaded.get());
+    expectSame(saved.Get(), loaded.Get());
 }
 
 TEST(Persistence, BagGivesEverythingBack)
 {
     const ComPtr<IUnknown> saved = configured();
     const auto bag = make<Bag>();
-    const auto source = ComPtr<IPersistPropertyBag>::from(saved.get());
-    ASSERT_EQ(source->Save(bag.get(), TRUE, FALSE), S_OK);
+    const auto source = query<IPersistPropertyBag>(saved.Get());
+    ASSERT_EQ(source->Save(bag.Get(), TRUE, FALSE), S_OK);
     EXPECT_TRUE(bag->values.contains(u"FontUnderLine"));
     EXPECT_TRUE(bag->values.contains(u"MultLine"));
     EXPECT_FALSE(bag->values.contains(u"ErrorAlert")) << "a default is not stored";
@@ -107,15 +107,15 @@ TEST(Persistence, BagGivesEverythingBack)
     EXPECT_EQ(bag->values[u"FontBold"].get().vt, VT_BOOL);
 
     const ComPtr<IUnknown> loaded = create();
-    ASSERT_EQ(ComPtr<IPersistPropertyBag>::from(loaded.get())->Load(bag.get(), nullptr), S_OK);
-    expectSame(saved.get(), loaded.get());
+    ASSERT_EQ(query<IPersistPropertyBag>(loaded.Get())->Load(bag.Get(), nullptr), S_OK);
+    expectSame(saved.Get(), loaded.Get());
 
     const auto whole = make<Bag>();
-    ASSERT_EQ(source->Save(whole.get(), TRUE, TRUE), S_OK);
+    ASSERT_EQ(source->Save(whole.Get(), TRUE, TRUE), S_OK);
     EXPECT_EQ(whole->values.size(), control::writingOrder().size()) << "all when all are asked for";
     const ComPtr<IUnknown> other = create();
-    ASSERT_EQ(ComPtr<IPersistPropertyBag>::from(other.get())->Load(whole.get(), nullptr), S_OK);
-    expectSame(saved.get(), other.get());
+    ASSERT_EQ(query<IPersistPropertyBag>(other.Get())->Load(whole.Get(), nullptr), S_OK);
+    expectSame(saved.Get(), other.Get());
 }
 
 TEST(Persistence, StorageGivesEverythingBack)
@@ -123,20 +123,20 @@ TEST(Persistence, StorageGivesEverythingBack)
     const ComPtr<IUnknown> saved = configured();
     ComPtr<IStorage> storage;
     ASSERT_EQ(StgCreateDocfile(nullptr, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE | STGM_DELETEONRELEASE, 0,
-                               storage.put()),
+                               &storage),
               S_OK);
-    const auto source = ComPtr<IPersistStorage>::from(saved.get());
-    ASSERT_EQ(source->Save(storage.get(), FALSE), S_OK);
+    const auto source = query<IPersistStorage>(saved.Get());
+    ASSERT_EQ(source->Save(storage.Get(), FALSE), S_OK);
     EXPECT_EQ(source->IsDirty(), S_OK) << "until the host says that the saving is complete";
     ASSERT_EQ(source->SaveCompleted(nullptr), S_OK);
     EXPECT_EQ(source->IsDirty(), S_FALSE);
     CLSID written{};
-    EXPECT_EQ(ReadClassStg(storage.get(), &written), S_OK);
+    EXPECT_EQ(ReadClassStg(storage.Get(), &written), S_OK);
     EXPECT_EQ(written, activex::velaClass);
 
     const ComPtr<IUnknown> loaded = create();
-    ASSERT_EQ(ComPtr<IPersistStorage>::from(loaded.get())->Load(storage.get()), S_OK);
-    expectSame(saved.get(), loaded.get());
+    ASSERT_EQ(query<IPersistStorage>(loaded.Get())->Load(storage.Get()), S_OK);
+    expectSame(saved.Get(), loaded.Get());
 }
 
 // Written by either bitness, kept with the tests, loaded by both: "Mask" "__-__", "QtdCasasDec" 2.
@@ -152,8 +152,8 @@ TEST(Persistence, TheBytesAreTheSameInBothBitnesses)
                             20 + 62);
     const ComPtr<IUnknown> control = create();
     const auto stream = memoryStream(bytes);
-    ASSERT_EQ(ComPtr<IPersistStreamInit>::from(control.get())->Load(stream.get()), S_OK);
-    const Automation field(control.get());
+    ASSERT_EQ(query<IPersistStreamInit>(control.Get())->Load(stream.Get()), S_OK);
+    const Automation field(control.Get());
     EXPECT_EQ(field.textOf(u"Mask"), u"__-__");
     EXPECT_EQ(field.textOf(u"QtdCasasDec"), u"2");
     EXPECT_EQ(field.textOf(u"InserirZeros"), u"True") << "the loaded default";
@@ -163,8 +163,8 @@ TEST(Persistence, TheBytesAreTheSameInBothBitnesses)
 void addLoaded(std::vector<std::string>& lines, const std::string& source, const std::string& bytes)
 {
     const ComPtr<IUnknown> control = create();
-    ASSERT_EQ(ComPtr<IPersistStreamInit>::from(control.get())->Load(memoryStream(bytes).get()), S_OK) << source;
-    const Automation field(control.get());
+    ASSERT_EQ(query<IPersistStreamInit>(control.Get())->Load(memoryStream(bytes).Get()), S_OK) << source;
+    const Automation field(control.Get());
     for (const control::Property& property : control::properties())
         if (property.type() != control::PropertyType::font && property.name != u"hwnd" && property.name != u"HwndCtl")
             lines.push_back(source + "." + narrow(property.name) + " = " + narrow(field.textOf(property.name)));
@@ -187,8 +187,8 @@ TEST(Persistence, ReadsWhatVersion1Saved)
 TEST(Persistence, BadStreamsAreRefusedWholeAndTheControlStaysAsItWas)
 {
     const auto good = memoryStream();
-    ASSERT_EQ(ComPtr<IPersistStreamInit>::from(configured().get())->Save(good.get(), TRUE), S_OK);
-    const std::string bytes = bytesOf(*good.get());
+    ASSERT_EQ(query<IPersistStreamInit>(configured().Get())->Save(good.Get(), TRUE), S_OK);
+    const std::string bytes = bytesOf(*good.Get());
 
     std::vector<std::string> bad{"", "V", std::string(19, '\0'), std::string(4096, 'x'), "VelaSet\x1A"};
     for (const std::size_t length :
@@ -205,14 +205,14 @@ TEST(Persistence, BadStreamsAreRefusedWholeAndTheControlStaysAsItWas)
     bad.push_back(longer);
 
     const ComPtr<IUnknown> control = create();
-    const Automation field(control.get());
+    const Automation field(control.Get());
     ASSERT_EQ(field.put(u"NomeCampo", text(u"antes")).result, S_OK);
     for (const std::string& one : bad) {
         const auto stream = memoryStream(one);
-        const HRESULT result = ComPtr<IPersistStreamInit>::from(control.get())->Load(stream.get());
+        const HRESULT result = query<IPersistStreamInit>(control.Get())->Load(stream.Get());
         ASSERT_EQ(result, static_cast<HRESULT>(0x800A0141)) << one.size();
         ComPtr<IErrorInfo> info;
-        ASSERT_EQ(GetErrorInfo(0, info.put()), S_OK);
+        ASSERT_EQ(GetErrorInfo(0, &info), S_OK);
         Bstr description;
         info->GetDescription(description.put());
         ASSERT_TRUE(description.text().starts_with(u"Invalid file format"));
@@ -228,43 +228,43 @@ TEST(Persistence, ACountOfMillionsIsRefusedBeforeMoreIsRead)
     bytes.resize(20 + 0x3940004);
     const auto stream = memoryStream(bytes);
     const ComPtr<IUnknown> control = create();
-    EXPECT_EQ(ComPtr<IPersistStreamInit>::from(control.get())->Load(stream.get()), static_cast<HRESULT>(0x800A0141));
+    EXPECT_EQ(query<IPersistStreamInit>(control.Get())->Load(stream.Get()), static_cast<HRESULT>(0x800A0141));
     ULARGE_INTEGER reached{};
     stream->Seek({}, STREAM_SEEK_CUR, &reached);
     EXPECT_EQ(reached.QuadPart, 24u);
-    EXPECT_EQ(Automation(control.get()).put(u"Text", text(u"usable")).result, S_OK);
+    EXPECT_EQ(Automation(control.Get()).put(u"Text", text(u"usable")).result, S_OK);
 }
 
 TEST(Persistence, ABagThatFailsInTheMiddleIsReportedAsTheHostSaidIt)
 {
     const auto full = make<Bag>();
-    ASSERT_EQ(ComPtr<IPersistPropertyBag>::from(configured().get())->Save(full.get(), TRUE, TRUE), S_OK);
+    ASSERT_EQ(query<IPersistPropertyBag>(configured().Get())->Save(full.Get(), TRUE, TRUE), S_OK);
     for (int reads = 0; reads < 80; reads += 13) {
         full->failAfter = reads;
         const ComPtr<IUnknown> control = create();
-        const Automation field(control.get());
-        EXPECT_EQ(ComPtr<IPersistPropertyBag>::from(control.get())->Load(full.get(), nullptr),
+        const Automation field(control.Get());
+        EXPECT_EQ(query<IPersistPropertyBag>(control.Get())->Load(full.Get(), nullptr),
                   reads < 79 ? STG_E_READFAULT : S_OK)
             << reads;
         EXPECT_EQ(field.put(u"Text", text(u"usable")).result, S_OK) << reads;
     }
     full->failAfter = 5;
     full->failure = STG_E_MEDIUMFULL;
-    EXPECT_EQ(ComPtr<IPersistPropertyBag>::from(configured().get())->Save(full.get(), TRUE, TRUE), STG_E_MEDIUMFULL);
+    EXPECT_EQ(query<IPersistPropertyBag>(configured().Get())->Save(full.Get(), TRUE, TRUE), STG_E_MEDIUMFULL);
 }
 
 // A bag that says nothing of error information has left none: what the thread has is of an older call.
 TEST(Persistence, TheTextOfAnOlderErrorIsNotTheBags)
 {
     ComPtr<ICreateErrorInfo> older;
-    ASSERT_EQ(CreateErrorInfo(older.put()), S_OK);
+    ASSERT_EQ(CreateErrorInfo(&older), S_OK);
     older->SetDescription(const_cast<wchar_t*>(L"de antes"));
-    SetErrorInfo(0, ComPtr<IErrorInfo>::from(older.get()).get());
+    SetErrorInfo(0, query<IErrorInfo>(older.Get()).Get());
     const auto bag = make<Bag>();
     bag->failAfter = 0;
-    EXPECT_EQ(ComPtr<IPersistPropertyBag>::from(create().get())->Load(bag.get(), nullptr), STG_E_READFAULT);
+    EXPECT_EQ(query<IPersistPropertyBag>(create().Get())->Load(bag.Get(), nullptr), STG_E_READFAULT);
     ComPtr<IErrorInfo> info;
-    ASSERT_EQ(GetErrorInfo(0, info.put()), S_OK);
+    ASSERT_EQ(GetErrorInfo(0, &info), S_OK);
     Bstr description;
     info->GetDescription(description.put());
     EXPECT_EQ(description.text(), engine::errorDescription(engine::error_number::invalidCall));
@@ -278,26 +278,26 @@ TEST(Persistence, ValuesOfOtherTypesAreConvertedOrRefused)
     bag->values.emplace(u"Mask", number(12));
     bag->values.emplace(u"Unknown", number(12));
     const ComPtr<IUnknown> control = create();
-    const auto target = ComPtr<IPersistPropertyBag>::from(control.get());
-    ASSERT_EQ(target->Load(bag.get(), nullptr), S_OK);
-    const Automation field(control.get());
+    const auto target = query<IPersistPropertyBag>(control.Get());
+    ASSERT_EQ(target->Load(bag.Get(), nullptr), S_OK);
+    const Automation field(control.Get());
     EXPECT_EQ(field.textOf(u"QtdCasasDec"), u"2");
     EXPECT_EQ(field.textOf(u"FontBold"), u"True");
     EXPECT_EQ(field.textOf(u"Mask"), u"12");
 
     bag->values.erase(u"QtdCasasDec");
     bag->values.emplace(u"QtdCasasDec", text(u"dois"));
-    EXPECT_EQ(target->Load(bag.get(), nullptr), static_cast<HRESULT>(0x800A000D)) << "type mismatch";
+    EXPECT_EQ(target->Load(bag.Get(), nullptr), static_cast<HRESULT>(0x800A000D)) << "type mismatch";
     EXPECT_EQ(field.put(u"Text", text(u"usable")).result, S_OK);
 }
 
 TEST(Persistence, NullArgumentsAreRefused)
 {
     const ComPtr<IUnknown> control = create();
-    EXPECT_EQ(ComPtr<IPersistStreamInit>::from(control.get())->Load(nullptr), E_POINTER);
-    EXPECT_EQ(ComPtr<IPersistStreamInit>::from(control.get())->Save(nullptr, TRUE), E_POINTER);
-    EXPECT_EQ(ComPtr<IPersistPropertyBag>::from(control.get())->Load(nullptr, nullptr), E_POINTER);
-    EXPECT_EQ(ComPtr<IPersistStorage>::from(control.get())->Load(nullptr), E_POINTER);
+    EXPECT_EQ(query<IPersistStreamInit>(control.Get())->Load(nullptr), E_POINTER);
+    EXPECT_EQ(query<IPersistStreamInit>(control.Get())->Save(nullptr, TRUE), E_POINTER);
+    EXPECT_EQ(query<IPersistPropertyBag>(control.Get())->Load(nullptr, nullptr), E_POINTER);
+    EXPECT_EQ(query<IPersistStorage>(control.Get())->Load(nullptr), E_POINTER);
 }
 
 TEST(Persistence, TheCalendarKeepsItsDate)
@@ -305,11 +305,11 @@ TEST(Persistence, TheCalendarKeepsItsDate)
     const auto bag = make<Bag>();
     bag->values.emplace(u"DateInitial", text(u"29/02/2024"));
     const ComPtr<IUnknown> calendar = create(L"Vela.cCalendar");
-    const auto persistence = ComPtr<IPersistPropertyBag>::from(calendar.get());
-    ASSERT_EQ(persistence->Load(bag.get(), nullptr), S_OK);
-    EXPECT_EQ(Automation(calendar.get()).get(u"DateInitial").value.get().date, 45351);
+    const auto persistence = query<IPersistPropertyBag>(calendar.Get());
+    ASSERT_EQ(persistence->Load(bag.Get(), nullptr), S_OK);
+    EXPECT_EQ(Automation(calendar.Get()).get(u"DateInitial").value.get().date, 45351);
     const auto written = make<Bag>();
-    ASSERT_EQ(persistence->Save(written.get(), TRUE, FALSE), S_OK);
+    ASSERT_EQ(persistence->Save(written.Get(), TRUE, FALSE), S_OK);
     EXPECT_EQ(asText(written->values[u"DateInitial"].get().bstrVal, 10), u"29/02/2024");
 }
 

@@ -21,9 +21,9 @@ class TwoControls {
 public:
     TwoControls()
     {
-        Automation(first.get()).put(u"IF_IsEmpty", text(u"vazio um"));
-        Automation(second.get()).put(u"IF_IsEmpty", text(u"vazio dois"));
-        IUnknown* selected[] = {first.get(), second.get()};
+        Automation(first.Get()).put(u"IF_IsEmpty", text(u"vazio um"));
+        Automation(second.Get()).put(u"IF_IsEmpty", text(u"vazio dois"));
+        IUnknown* selected[] = {first.Get(), second.Get()};
         opened = frame.open(selected, L"dois campos");
         frame.select(geralPage);
     }
@@ -36,8 +36,8 @@ public:
         SendMessageW(frame.window(), WM_COMMAND, button, 0);
         pump();
     }
-    [[nodiscard]] std::u16string ofFirst() const { return Automation(first.get()).textOf(u"IF_IsEmpty"); }
-    [[nodiscard]] std::u16string ofSecond() const { return Automation(second.get()).textOf(u"IF_IsEmpty"); }
+    [[nodiscard]] std::u16string ofFirst() const { return Automation(first.Get()).textOf(u"IF_IsEmpty"); }
+    [[nodiscard]] std::u16string ofSecond() const { return Automation(second.Get()).textOf(u"IF_IsEmpty"); }
 
     ComPtr<IUnknown> first = create();
     ComPtr<IUnknown> second = create();
@@ -85,7 +85,7 @@ TEST(PropertyFrame, OpenedAndClosedManyTimes)
     const int rounds = asked("VELA_TEST_COUNT", 6);
     const auto once = [&] {
         demo::PropertyFrame frame(GetModuleHandleW(nullptr), nullptr);
-        IUnknown* selected[] = {control.get()};
+        IUnknown* selected[] = {control.Get()};
         ASSERT_TRUE(frame.open(selected, L"campo"));
         for (std::size_t page = 0; page < frame.pageCount(); ++page)
             frame.select(page);
@@ -137,9 +137,8 @@ TEST(PropertyFrame, TheSystemsShowsAllPages)
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
     SetTimer(nullptr, 0, 50, FrameVisit::step);
-    EXPECT_EQ(
-        ComPtr<IOleObject>::from(control.get())->DoVerb(OLEIVERB_PROPERTIES, nullptr, nullptr, 0, nullptr, nullptr),
-        S_OK);
+    EXPECT_EQ(query<IOleObject>(control.Get())->DoVerb(OLEIVERB_PROPERTIES, nullptr, nullptr, 0, nullptr, nullptr),
+              S_OK);
     EXPECT_EQ(FrameVisit::tabs, 5);
     EXPECT_EQ(FrameVisit::shown, 5);
 }

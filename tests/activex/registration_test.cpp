@@ -127,7 +127,7 @@ TEST_F(Registration, ForOneUserAndBack)
     if (usersClassesAreSeen()) {
         EXPECT_TRUE(create(L"Vela.Vela"));
         ComPtr<ITypeLib> found;
-        EXPECT_EQ(LoadRegTypeLib(activex::libraryId, 1, 0, 0, found.put()), S_OK);
+        EXPECT_EQ(LoadRegTypeLib(activex::libraryId, 1, 0, 0, &found), S_OK);
     }
     ASSERT_EQ(callInstall(false, L"user"), S_OK);
     expectNothing(HKEY_CURRENT_USER);
@@ -215,17 +215,17 @@ void expectActivation()
 {
     const ComPtr<IUnknown> control = create();
     ASSERT_TRUE(control);
-    const Automation field(control.get());
+    const Automation field(control.Get());
     EXPECT_EQ(field.put(u"Text", text(u"sem registro")).result, S_OK);
     EXPECT_EQ(field.textOf(u"Text"), u"sem registro");
     EXPECT_TRUE(create(L"Vela.cCalendar"));
     ComPtr<ITypeInfo> info;
-    EXPECT_EQ(field.dispatch()->GetTypeInfo(0, 0, info.put()), S_OK);
+    EXPECT_EQ(field.dispatch()->GetTypeInfo(0, 0, &info), S_OK);
     DWORD status = 0;
     EXPECT_EQ(OleRegGetMiscStatus(activex::velaClass, DVASPECT_CONTENT, &status), S_OK);
     EXPECT_EQ(status, 0x20191u);
     ComPtr<ITypeLib> found;
-    EXPECT_EQ(LoadRegTypeLib(activex::libraryId, 1, 0, 0, found.put()), S_OK);
+    EXPECT_EQ(LoadRegTypeLib(activex::libraryId, 1, 0, 0, &found), S_OK);
 }
 
 // A program beside the library whose manifest names the library's as a dependency, as the manual tells.

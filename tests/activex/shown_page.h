@@ -67,8 +67,8 @@ public:
         button_ = CreateWindowExW(0, L"BUTTON", L"Fechar", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 400, 460, 80, 24,
                                   window_, nullptr, nullptr, nullptr);
         ShowWindow(window_, SW_SHOWNOACTIVATE);
-        EXPECT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IPropertyPage2, page.putVoid()), S_OK);
-        EXPECT_EQ(page->SetPageSite(frame.get()), S_OK);
+        EXPECT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&page)), S_OK);
+        EXPECT_EQ(page->SetPageSite(frame.Get()), S_OK);
         PROPPAGEINFO info{};
         info.cb = sizeof info;
         EXPECT_EQ(page->GetPageInfo(&info), S_OK);
@@ -96,7 +96,7 @@ public:
         page->Deactivate();
         page->SetObjects(0, nullptr);
         page->SetPageSite(nullptr);
-        page.reset();
+        page.Reset();
     }
     [[nodiscard]] HRESULT select(IUnknown* object) const { return page->SetObjects(1, &object); }
     [[nodiscard]] HWND find(const wchar_t* windowClass, std::u16string_view text) const

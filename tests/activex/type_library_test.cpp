@@ -23,14 +23,14 @@ using control::PropertyType;
 ComPtr<ITypeLib> loadLibrary()
 {
     ComPtr<ITypeLib> library;
-    EXPECT_EQ(LoadTypeLibEx(libraryPath().c_str(), REGKIND_NONE, library.put()), S_OK);
+    EXPECT_EQ(LoadTypeLibEx(libraryPath().c_str(), REGKIND_NONE, &library), S_OK);
     return library;
 }
 
 ComPtr<ITypeInfo> infoOf(ITypeLib& library, const GUID& id)
 {
     ComPtr<ITypeInfo> info;
-    EXPECT_EQ(library.GetTypeInfoOfGuid(id, info.put()), S_OK);
+    EXPECT_EQ(library.GetTypeInfoOfGuid(id, &info), S_OK);
     return info;
 }
 
@@ -66,9 +66,9 @@ std::u16string typeText(ITypeInfo& info, const TYPEDESC& type)
     case VT_PTR: return typeText(info, *type.lptdesc) + u"*";
     case VT_USERDEFINED: {
         ComPtr<ITypeInfo> other;
-        if (FAILED(info.GetRefTypeInfo(type.hreftype, other.put())))
+        if (FAILED(info.GetRefTypeInfo(type.hreftype, &other)))
             return u"unresolved";
-        return nameOf(*other.get(), MEMBERID_NIL);
+        return nameOf(*other.Get(), MEMBERID_NIL);
     }
     default: return u"?";
     }
@@ -147,8 +147,8 @@ INVOKEKIND putKind(const Property& property)
 TEST(TypeLibrary, HoldsEveryPropertyOfTheTableAndNoOther)
 {
     const auto library = loadLibrary();
-    const auto info = infoOf(*library.get(), activex::velaInterface);
-    const auto functions = functionsOf(*info.get());
+    const auto info = infoOf(*library.Get(), activex::velaInterface);
+    const auto functions = functionsOf(*info.Get());
     std::size_t expected = control::methods().size();
     for (const Property& property : control::properties()) {
         SCOPED_TRACE(property.dispid);
@@ -172,7 +172,7 @@ TEST(TypeLibrary, HoldsEveryPropertyOfTheTableAndNoOther)
 TEST(TypeLibrary, HoldsMethodsAndEvents)
 {
     const auto library = loadLibrary();
-    const auto members = functionsOf(*infoOf(*library.get(), activex::velaInterface).get());
+    const auto members = functionsOf(*infoOf(*library.Get(), activex::velaInterface).Get());
     for (const control::Method& method : control::methods()) {
         const auto found = members.find(method.dispid);
         ASSERT_NE(found, members.end());
@@ -181,7 +181,7 @@ TEST(TypeLibrary, HoldsMethodsAndEvents)
         EXPECT_EQ(found->second.name, method.name);
         EXPECT_TRUE(found->second.parameters.empty());
     }
-    const auto events = functionsOf(*infoOf(*library.get(), activex::velaEvents).get());
+    const auto events = functionsOf(*infoOf(*library.Get(), activex::velaEvents).Get());
     EXPECT_EQ(events.size(), control::events().size());
     for (const control::Event& event : control::events()) {
         const auto found = events.find(event.dispid);
@@ -200,14 +200,14 @@ TEST(TypeLibrary, HoldsEnumerationsByNameAndValue)
     const auto library = loadLibrary();
     for (std::size_t i = 0; i < engine::enumerations().size(); ++i) {
         const engine::Enumeration& enumeration = engine::enumerations()[i];
-        const auto info = infoOf(*library.get(), activex::guidOf(activex::identity::enumerations[i]));
-        EXPECT_EQ(nameOf(*info.get(), MEMBERID_NIL), enumeration.name);
-        const Attributes attributes(*info.get());
+        const auto info = infoOf(*library.Get(), activex::guidOf(activex::identity::enumerations[i]));
+        EXPECT_EQ(nameOf(*info.Get(), MEMBERID_NIL), enumeration.name);
+        const Attributes attributes(*info.Get());
         ASSERT_EQ(attributes->cVars, enumeration.members.size());
         for (UINT member = 0; member < attributes->cVars; ++member) {
             VARDESC* variable = nullptr;
             ASSERT_EQ(info->GetVarDesc(member, &variable), S_OK);
-            EXPECT_EQ(nameOf(*info.get(), variable->memid), enumeration.members[member].name);
+            EXPECT_EQ(nameOf(*info.Get(), variable->memid), enumeration.members[member].name);
             EXPECT_EQ(variable->lpvarValue->lVal, enumeration.members[member].value);
             info->ReleaseVarDesc(variable);
         }
@@ -230,8 +230,8 @@ TEST(TypeLibrary, ClassesNameTheirInterfaces)
 {
     const auto library = loadLibrary();
     for (const GUID& id : {activex::velaClass, activex::calendarClass}) {
-        const auto info = infoOf(*library.get(), id);
-        const Attributes attributes(*info.get());
+        const auto info = infoOf(*library.Get(), id);
+        const Attributes attributes(*info.Get());
         EXPECT_EQ(attributes->typekind, TKIND_COCLASS);
         EXPECT_TRUE(attributes->wTypeFlags & TYPEFLAG_FCONTROL);
         ASSERT_EQ(attributes->cImplTypes, 2);
@@ -247,11 +247,11 @@ TEST(TypeLibrary, TheControlAnswersWithItsOwn)
 {
     const ComPtr<IUnknown> control = create();
     ComPtr<ITypeInfo> info;
-    ASSERT_EQ(ComPtr<IDispatch>::from(control.get())->GetTypeInfo(0, 0, info.put()), S_OK);
-    EXPECT_EQ(Attributes(*info.get())->guid, activex::velaInterface);
-    const auto provider = ComPtr<IProvideClassInfo2>::from(control.get());
-    ASSERT_EQ(provider->GetClassInfo(info.put()), S_OK);
-    EXPECT_EQ(Attributes(*info.get())->guid, activex::velaClass);
+    ASSERT_EQ(query<IDispatch>(control.Get())->GetTypeInfo(0, 0, &info), S_OK);
+    EXPECT_EQ(Attributes(*info.Get())->guid, activex::velaInterface);
+    const auto provider = query<IProvideClassInfo2>(control.Get());
+    ASSERT_EQ(provider->GetClassInfo(&info), S_OK);
+    EXPECT_EQ(Attributes(*info.Get())->guid, activex::velaClass);
     GUID events{};
     ASSERT_EQ(provider->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events), S_OK);
     EXPECT_EQ(events, activex::velaEvents);
@@ -294,8 +294,8 @@ void addMembers(std::vector<std::string>& lines, ITypeInfo& info, const std::u16
         HREFTYPE reference = 0;
         ComPtr<ITypeInfo> implemented;
         ASSERT_EQ(info.GetRefTypeOfImplType(i, &reference), S_OK);
-        ASSERT_EQ(info.GetRefTypeInfo(reference, implemented.put()), S_OK);
-        lines.push_back(narrow(type + u": " + nameOf(*implemented.get(), MEMBERID_NIL)));
+        ASSERT_EQ(info.GetRefTypeInfo(reference, &implemented), S_OK);
+        lines.push_back(narrow(type + u": " + nameOf(*implemented.Get(), MEMBERID_NIL)));
     }
 }
 
@@ -310,10 +310,10 @@ std::vector<std::string> interfaceNow(ITypeLib& library)
     library.ReleaseTLibAttr(attributes);
     for (UINT i = 0; i < library.GetTypeInfoCount(); ++i) {
         ComPtr<ITypeInfo> info;
-        library.GetTypeInfo(i, info.put());
-        const std::u16string name = nameOf(*info.get(), MEMBERID_NIL);
-        lines.push_back(narrow(name) + " " + textOf(Attributes(*info.get())->guid));
-        addMembers(lines, *info.get(), name);
+        library.GetTypeInfo(i, &info);
+        const std::u16string name = nameOf(*info.Get(), MEMBERID_NIL);
+        lines.push_back(narrow(name) + " " + textOf(Attributes(*info.Get())->guid));
+        addMembers(lines, *info.Get(), name);
     }
     for (const wchar_t* const progId : {L"Vela.Vela", L"Vela.Vela.1", L"Vela.cCalendar", L"Vela.cCalendar.1"}) {
         CLSID id{};
@@ -325,7 +325,7 @@ std::vector<std::string> interfaceNow(ITypeLib& library)
 
 TEST(TypeLibrary, HasWhatVersion1Promised)
 {
-    const std::vector<std::string> now = interfaceNow(*loadLibrary().get());
+    const std::vector<std::string> now = interfaceNow(*loadLibrary().Get());
     writeLines(VELA_BINARY_DIR "/interface.txt", now);
     EXPECT_EQ(lost(linesOf(VELA_TEST_DIR "/../../activex/idl/vela-1.0.txt"), now), std::vector<std::string>{});
 }

@@ -61,11 +61,11 @@ private:
 ComPtr<IUnknown> redField()
 {
     ComPtr<IUnknown> control = create();
-    const Automation field(control.get());
+    const Automation field(control.Get());
     field.put(u"BackColor", number(0x000000FF)); // red
     field.put(u"Text", text(u"MMMMM"));
     SIZEL extent{2646, 635}; // 100 x 24 pixels
-    ComPtr<IOleObject>::from(control.get())->SetExtent(DVASPECT_CONTENT, &extent);
+    query<IOleObject>(control.Get())->SetExtent(DVASPECT_CONTENT, &extent);
     return control;
 }
 
@@ -74,7 +74,7 @@ constexpr DWORD red = 0x00FF0000;
 TEST(View, DrawsWhereItIsToldWithoutAWindow)
 {
     const ComPtr<IUnknown> control = redField();
-    const auto view = ComPtr<IViewObject2>::from(control.get());
+    const auto view = query<IViewObject2>(control.Get());
     Picture picture(300, 100);
     const RECTL bounds{50, 20, 250, 68}; // twice the size
     ASSERT_EQ(view->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, picture.dc(), &bounds, nullptr, nullptr, 0),
@@ -98,8 +98,8 @@ TEST(View, DrawsWhereItIsToldWithoutAWindow)
 TEST(View, EveryPartNumberMeansTheWhole)
 {
     const ComPtr<IUnknown> control = redField();
-    const auto view = ComPtr<IViewObject>::from(control.get());
-    const auto data = ComPtr<IDataObject>::from(control.get());
+    const auto view = query<IViewObject>(control.Get());
+    const auto data = query<IDataObject>(control.Get());
     for (const LONG part : {-1, 0, 1, 7}) {
         SCOPED_TRACE(part);
         Picture picture(100, 24);
@@ -154,7 +154,7 @@ const Mapping mappings[] = {
 TEST(View, DrawsInAnyUnits)
 {
     const ComPtr<IUnknown> control = redField();
-    const auto view = ComPtr<IViewObject>::from(control.get());
+    const auto view = query<IViewObject>(control.Get());
     const auto draw = [&](HDC dc, const POINT(&corners)[2]) {
         const RECTL bounds{corners[0].x, corners[0].y, corners[1].x, corners[1].y};
         return view->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, dc, &bounds, nullptr, nullptr, 0);
@@ -189,7 +189,7 @@ TEST(View, DrawsInAnyUnits)
 TEST(View, AFieldHasNoNaturalSize)
 {
     const ComPtr<IUnknown> control = redField();
-    const auto view = ComPtr<IViewObjectEx>::from(control.get());
+    const auto view = query<IViewObjectEx>(control.Get());
     for (const ULONG mode : {DVEXTENT_CONTENT, DVEXTENT_INTEGRAL}) {
         DVEXTENTINFO info{sizeof info, mode, {5000, 700}};
         SIZEL extent{1, 1};
@@ -206,7 +206,7 @@ TEST(View, DrawsThroughAMetafile)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = redField();
-    const auto data = ComPtr<IDataObject>::from(control.get());
+    const auto data = query<IDataObject>(control.Get());
     FORMATETC enhanced{CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1, TYMED_ENHMF};
     STGMEDIUM medium{};
     ASSERT_EQ(data->GetData(&enhanced, &medium), S_OK);
@@ -237,7 +237,7 @@ std::u16string textData(IUnknown* control)
 {
     FORMATETC format{CF_UNICODETEXT, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
     STGMEDIUM medium{};
-    if (ComPtr<IDataObject>::from(control)->GetData(&format, &medium) != S_OK)
+    if (query<IDataObject>(control)->GetData(&format, &medium) != S_OK)
         return u"?";
     const auto* const given = static_cast<const wchar_t*>(GlobalLock(medium.hGlobal));
     std::u16string result(asText(given, wcslen(given)));
@@ -249,36 +249,36 @@ std::u16string textData(IUnknown* control)
 TEST(View, GivesItsTextButNoPassword)
 {
     const ComPtr<IUnknown> control = create();
-    const Automation field(control.get());
+    const Automation field(control.Get());
     field.put(u"Text", text(u"a\u00E7\u00E3o"));
-    EXPECT_EQ(textData(control.get()), u"a\u00E7\u00E3o");
+    EXPECT_EQ(textData(control.Get()), u"a\u00E7\u00E3o");
     field.put(u"PasswordChar", text(u"*"));
-    EXPECT_EQ(textData(control.get()), u"****");
+    EXPECT_EQ(textData(control.Get()), u"****");
     FORMATETC other{CF_BITMAP, nullptr, DVASPECT_CONTENT, -1, TYMED_GDI};
-    EXPECT_EQ(ComPtr<IDataObject>::from(control.get())->QueryGetData(&other), DV_E_FORMATETC);
+    EXPECT_EQ(query<IDataObject>(control.Get())->QueryGetData(&other), DV_E_FORMATETC);
 }
 
 TEST(View, TellsWhenItsPictureIsAnother)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const auto view = ComPtr<IViewObject>::from(control.get());
+    const auto view = query<IViewObject>(control.Get());
     const auto sink = make<AdviseSink>();
-    ASSERT_EQ(view->SetAdvise(DVASPECT_CONTENT, 0, sink.get()), S_OK);
-    Automation(control.get()).put(u"Text", text(u"x"));
+    ASSERT_EQ(view->SetAdvise(DVASPECT_CONTENT, 0, sink.Get()), S_OK);
+    Automation(control.Get()).put(u"Text", text(u"x"));
     EXPECT_GE(sink->views, 1);
     ComPtr<IAdviseSink> kept;
     DWORD aspects = 0;
-    EXPECT_EQ(view->GetAdvise(&aspects, nullptr, kept.put()), S_OK);
-    EXPECT_EQ(kept.get(), sink.get());
-    kept.reset();
+    EXPECT_EQ(view->GetAdvise(&aspects, nullptr, &kept), S_OK);
+    EXPECT_EQ(kept.Get(), sink.Get());
+    kept.Reset();
     view->SetAdvise(DVASPECT_CONTENT, 0, nullptr);
 }
 
 TEST(View, TheCalendarDrawsItsMonth)
 {
     const ComPtr<IUnknown> control = create(L"Vela.cCalendar");
-    const auto view = ComPtr<IViewObject>::from(control.get());
+    const auto view = query<IViewObject>(control.Get());
     Picture picture(200, 200);
     const RECTL bounds{0, 0, 200, 200};
     ASSERT_EQ(view->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, picture.dc(), &bounds, nullptr, nullptr, 0),
@@ -295,14 +295,14 @@ TEST(View, TheCalendarDrawsItsMonth)
 TEST(View, TheChosenDayIsRoundInThePicture)
 {
     const ComPtr<IUnknown> field = create();
-    Automation(field.get()).set({{u"Calendar_BackColor", 0x00FFFFFF}, {u"Calendar_Selected", 0x00C0FFFF}});
+    Automation(field.Get()).set({{u"Calendar_BackColor", 0x00FFFFFF}, {u"Calendar_Selected", 0x00C0FFFF}});
     const ComPtr<IUnknown> control = create(L"Vela.cCalendar");
     std::vector<Variant> date;
     date.push_back(text(u"15/03/2024"));
-    ASSERT_EQ(Automation(control.get()).call(u"IniciaCalendario", std::move(date)).result, S_OK);
+    ASSERT_EQ(Automation(control.Get()).call(u"IniciaCalendario", std::move(date)).result, S_OK);
     Picture picture(184, 167);
     const RECTL bounds{0, 0, 184, 167};
-    ASSERT_EQ(ComPtr<IViewObject>::from(control.get())
+    ASSERT_EQ(query<IViewObject>(control.Get())
                   ->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, picture.dc(), &bounds, nullptr, nullptr, 0),
               S_OK);
     const DWORD panel = picture.at(6, 120);

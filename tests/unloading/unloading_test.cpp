@@ -201,7 +201,7 @@ TEST(Unloading, AnAccessibleObjectKeepsIt)
         const HMODULE service = LoadLibraryW(L"oleacc.dll");
         const auto take = reinterpret_cast<HRESULT(WINAPI*)(LRESULT, REFIID, WPARAM, void**)>(
             reinterpret_cast<void*>(GetProcAddress(service, "ObjectFromLresult")));
-        ASSERT_EQ(take(answer, __uuidof(IAccessible), 0, held.putVoid()), S_OK);
+        ASSERT_EQ(take(answer, __uuidof(IAccessible), 0, &held), S_OK);
     }
     EXPECT_EQ(popupOfThread(), nullptr);
     EXPECT_EQ(canUnload(), S_FALSE);
@@ -209,7 +209,7 @@ TEST(Unloading, AnAccessibleObjectKeepsIt)
     self.vt = VT_I4;
     VARIANT role{};
     EXPECT_NE(held->get_accRole(self, &role), E_NOTIMPL); // code of the library, without a form
-    held.reset();
+    held.Reset();
     pump();
     EXPECT_EQ(canUnload(), S_OK);
     FreeLibrary(kept);

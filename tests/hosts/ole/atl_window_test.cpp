@@ -36,7 +36,7 @@ public:
     ComPtr<IUnknown> controlOf(HWND window)
     {
         ComPtr<IUnknown> control;
-        EXPECT_EQ(entry<HRESULT(WINAPI*)(HWND, IUnknown**)>("AtlAxGetControl")(window, control.put()), S_OK);
+        EXPECT_EQ(entry<HRESULT(WINAPI*)(HWND, IUnknown**)>("AtlAxGetControl")(window, &control), S_OK);
         return control;
     }
     // A key as the keyboard has it, through a dialog's loop.
@@ -91,23 +91,23 @@ TEST(AtlWindow, FieldsAreTypedIntoAndLeftByTab)
     ASSERT_TRUE(first && second);
     const ComPtr<IUnknown> name = form.controlOf(first), amount = form.controlOf(second);
     ASSERT_TRUE(name && amount);
-    asAmount(Automation(amount.get()));
-    Automation(amount.get()).set({{u"SimbolDecRet", 2}});
-    Automation(name.get()).set({{u"EnterAsTab", true}});
-    SetFocus(editOf(name.get()));
+    asAmount(Automation(amount.Get()));
+    Automation(amount.Get()).set({{u"SimbolDecRet", 2}});
+    Automation(name.Get()).set({{u"EnterAsTab", true}});
+    SetFocus(editOf(name.Get()));
     form.run();
     for (const WORD key : {'O', 'I'})
         form.press(key);
-    EXPECT_EQ(Automation(name.get()).textOf(u"Text"), u"oi");
+    EXPECT_EQ(Automation(name.Get()).textOf(u"Text"), u"oi");
     form.press(VK_TAB);
-    EXPECT_EQ(GetFocus(), editOf(amount.get()));
+    EXPECT_EQ(GetFocus(), editOf(amount.Get()));
     for (const WORD key : {'1', '2', '3', '4', '5'})
         form.press(key);
     form.press(VK_TAB, true);
-    EXPECT_EQ(GetFocus(), editOf(name.get())) << "Shift+Tab";
-    EXPECT_EQ(Automation(amount.get()).textOf(u"Value"), u"123,45");
+    EXPECT_EQ(GetFocus(), editOf(name.Get())) << "Shift+Tab";
+    EXPECT_EQ(Automation(amount.Get()).textOf(u"Value"), u"123,45");
     form.press(VK_RETURN);
-    EXPECT_EQ(GetFocus(), editOf(amount.get())) << "Enter as Tab";
+    EXPECT_EQ(GetFocus(), editOf(amount.Get())) << "Enter as Tab";
 }
 
 TEST(AtlWindow, AWrongDateHoldsTheFocus)
@@ -116,21 +116,21 @@ TEST(AtlWindow, AWrongDateHoldsTheFocus)
     AtlForm form;
     const ComPtr<IUnknown> date = form.controlOf(form.add(L"Vela.Vela", 0));
     const ComPtr<IUnknown> next = form.controlOf(form.add(L"Vela.Vela", 40));
-    asDate(Automation(date.get()));
-    Automation(date.get()).set({{u"ErrorAlert", false}, {u"ErrorFocus", true}});
-    SetFocus(editOf(date.get()));
+    asDate(Automation(date.Get()));
+    Automation(date.Get()).set({{u"ErrorAlert", false}, {u"ErrorFocus", true}});
+    SetFocus(editOf(date.Get()));
     form.run();
     for (const WORD key : {'3', '1', '0', '2', '2', '0', '2', '4'})
         form.press(key);
     form.press(VK_TAB);
-    EXPECT_EQ(GetFocus(), editOf(date.get()));
+    EXPECT_EQ(GetFocus(), editOf(date.Get()));
     form.press(VK_TAB);
-    EXPECT_EQ(GetFocus(), editOf(date.get())) << "until it is right";
+    EXPECT_EQ(GetFocus(), editOf(date.Get())) << "until it is right";
     form.press(VK_HOME);
     for (const WORD key : {'2', '8', '0', '2', '2', '0', '2', '4'})
         form.press(key);
     form.press(VK_TAB);
-    EXPECT_EQ(GetFocus(), editOf(next.get())) << Bstr(Automation(date.get()).textOf(u"Text")).get();
+    EXPECT_EQ(GetFocus(), editOf(next.Get())) << Bstr(Automation(date.Get()).textOf(u"Text")).get();
 }
 
 TEST(AtlWindow, TheCalendarToo)
@@ -150,11 +150,11 @@ TEST(AtlWindow, ItsWindowDestroyedUnderTheFocus)
     AtlForm form;
     const HWND place = form.add(L"Vela.Vela", 0);
     const ComPtr<IUnknown> field = form.controlOf(place);
-    SetFocus(editOf(field.get()));
+    SetFocus(editOf(field.Get()));
     form.press('A');
     DestroyWindow(place);
     form.run();
-    EXPECT_EQ(Automation(field.get()).textOf(u"Text"), u"a");
+    EXPECT_EQ(Automation(field.Get()).textOf(u"Text"), u"a");
 }
 
 } // namespace vela::test

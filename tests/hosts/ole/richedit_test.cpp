@@ -22,10 +22,10 @@ ComPtr<IStorage> storageInMemory()
 {
     ComPtr<ILockBytes> bytes;
     ComPtr<IStorage> storage;
-    EXPECT_EQ(CreateILockBytesOnHGlobal(nullptr, TRUE, bytes.put()), S_OK);
-    EXPECT_EQ(StgCreateDocfileOnILockBytes(bytes.get(), STGM_SHARE_EXCLUSIVE | STGM_CREATE | STGM_READWRITE, 0,
-                                           storage.put()),
-              S_OK);
+    EXPECT_EQ(CreateILockBytesOnHGlobal(nullptr, TRUE, &bytes), S_OK);
+    EXPECT_EQ(
+        StgCreateDocfileOnILockBytes(bytes.Get(), STGM_SHARE_EXCLUSIVE | STGM_CREATE | STGM_READWRITE, 0, &storage),
+        S_OK);
     return storage;
 }
 
@@ -45,17 +45,17 @@ public:
           window_(CreateWindowExW(0, L"RichEdit20W", nullptr, WS_POPUP | WS_VISIBLE | ES_MULTILINE, 40, 40, 400, 120,
                                   nullptr, nullptr, nullptr, nullptr))
     {
-        SendMessageW(window_, EM_GETOLEINTERFACE, 0, reinterpret_cast<LPARAM>(rich_.put()));
+        SendMessageW(window_, EM_GETOLEINTERFACE, 0, reinterpret_cast<LPARAM>(rich_.ReleaseAndGetAddressOf()));
         if (rich_)
-            rich_->GetClientSite(site_.put());
+            rich_->GetClientSite(&site_);
         storage_ = storageInMemory();
     }
     RichBox(const RichBox&) = delete;
     RichBox& operator=(const RichBox&) = delete;
     ~RichBox()
     {
-        site_.reset();
-        rich_.reset();
+        site_.Reset();
+        rich_.Reset();
         DestroyWindow(window_);
         FreeLibrary(module_);
     }
@@ -65,14 +65,13 @@ public:
         CLSID id;
         ComPtr<IOleObject> object;
         EXPECT_EQ(CLSIDFromProgID(L"Vela.Vela", &id), S_OK);
-        EXPECT_EQ(OleCreate(id, IID_IOleObject, OLERENDER_DRAW, nullptr, site_.get(), storage_.get(), object.putVoid()),
-                  S_OK);
+        EXPECT_EQ(OleCreate(id, IID_IOleObject, OLERENDER_DRAW, nullptr, site_.Get(), storage_.Get(), &object), S_OK);
         return object;
     }
     ComPtr<IOleObject> load(IStorage* from)
     {
         ComPtr<IOleObject> object;
-        EXPECT_EQ(OleLoad(from, IID_IOleObject, site_.get(), object.putVoid()), S_OK);
+        EXPECT_EQ(OleLoad(from, IID_IOleObject, site_.Get(), &object), S_OK);
         return object;
     }
     HRESULT insert(IOleObject* object)
@@ -81,8 +80,8 @@ public:
         entry.cbStruct = sizeof entry;
         entry.cp = REO_CP_SELECTION;
         entry.poleobj = object;
-        entry.pstg = storage_.get();
-        entry.polesite = site_.get();
+        entry.pstg = storage_.Get();
+        entry.polesite = site_.Get();
         entry.dvaspect = DVASPECT_CONTENT;
         entry.dwFlags = REO_RESIZABLE | REO_BELOWBASELINE;
         EXPECT_EQ(object->GetUserClassID(&entry.clsid), S_OK);
@@ -99,9 +98,9 @@ public:
         ReleaseDC(window_, dc);
         return seen;
     }
-    [[nodiscard]] IRichEditOle* ole() const { return rich_.get(); }
-    [[nodiscard]] IOleClientSite* site() const { return site_.get(); }
-    [[nodiscard]] IStorage* storage() const { return storage_.get(); }
+    [[nodiscard]] IRichEditOle* ole() const { return rich_.Get(); }
+    [[nodiscard]] IOleClientSite* site() const { return site_.Get(); }
+    [[nodiscard]] IStorage* storage() const { return storage_.Get(); }
     [[nodiscard]] HWND window() const { return window_; }
 
 private:
@@ -149,16 +148,16 @@ TEST(RichEdit, AFieldInsertedIsDrawnAmongTheText)
     const std::size_t empty = box.ink();
     const ComPtr<IOleObject> object = box.create();
     ASSERT_TRUE(object);
-    const Automation field(object.get());
+    const Automation field(object.Get());
     field.set({{u"Text", u"valor da nota"}});
-    ASSERT_EQ(box.insert(object.get()), S_OK);
+    ASSERT_EQ(box.insert(object.Get()), S_OK);
     EXPECT_EQ(box.ole()->GetObjectCount(), 1);
 
     REOBJECT entry{};
     entry.cbStruct = sizeof entry;
     ASSERT_EQ(box.ole()->GetObject(0, &entry, REO_GETOBJ_POLEOBJ), S_OK);
-    const auto kept = ComPtr<IOleObject>::adopt(entry.poleobj);
-    EXPECT_EQ(Automation(kept.get()).textOf(u"Text"), u"valor da nota");
+    const auto kept = adopt<IOleObject>(entry.poleobj);
+    EXPECT_EQ(Automation(kept.Get()).textOf(u"Text"), u"valor da nota");
     EXPECT_GT(box.ink(), empty + 100) << "the box draws the field in its place";
     SendMessageW(box.window(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L""));
     EXPECT_EQ(box.ole()->GetObjectCount(), 0);
@@ -173,22 +172,22 @@ TEST(RichEdit, StoredAndLoadedTheFieldIsDrawnAlike)
     std::vector<COLORREF> before;
     {
         const ComPtr<IOleObject> object = box.create();
-        const Automation field(object.get());
+        const Automation field(object.Get());
         field.set({{u"tipoLetra", 1}, {u"Alignment", 1}, {u"ValorPadrao", u"NOTA"}, {u"Text", u"NOTA"}});
-        ASSERT_EQ(box.insert(object.get()), S_OK);
-        before = drawn(object.get());
+        ASSERT_EQ(box.insert(object.Get()), S_OK);
+        before = drawn(object.Get());
         EXPECT_GT(darkOf(before), 20u) << "the text is drawn";
-        const auto persistent = ComPtr<IPersistStorage>::from(object.get());
-        ASSERT_EQ(OleSave(persistent.get(), box.storage(), TRUE), S_OK);
+        const auto persistent = query<IPersistStorage>(object.Get());
+        ASSERT_EQ(OleSave(persistent.Get(), box.storage(), TRUE), S_OK);
         EXPECT_EQ(persistent->SaveCompleted(nullptr), S_OK);
     }
     RichBox other;
     const ComPtr<IOleObject> loaded = other.load(box.storage());
     ASSERT_TRUE(loaded);
-    EXPECT_EQ(Automation(loaded.get()).textOf(u"tipoLetra"), u"1");
-    ASSERT_EQ(other.insert(loaded.get()), S_OK);
-    EXPECT_EQ(Automation(loaded.get()).textOf(u"Text"), u"NOTA");
-    EXPECT_EQ(drawn(loaded.get()), before);
+    EXPECT_EQ(Automation(loaded.Get()).textOf(u"tipoLetra"), u"1");
+    ASSERT_EQ(other.insert(loaded.Get()), S_OK);
+    EXPECT_EQ(Automation(loaded.Get()).textOf(u"Text"), u"NOTA");
+    EXPECT_EQ(drawn(loaded.Get()), before);
 }
 
 // The box's site refuses in-place activation, each verb with an answer of its own; none may hurt.
@@ -198,7 +197,7 @@ TEST(RichEdit, VerbsInASiteThatDoesNotActivate)
     RichBox box;
     ASSERT_NE(box.ole(), nullptr);
     const ComPtr<IOleObject> object = box.create();
-    ASSERT_EQ(box.insert(object.get()), S_OK);
+    ASSERT_EQ(box.insert(object.Get()), S_OK);
     for (const LONG verb : {OLEIVERB_PRIMARY, OLEIVERB_SHOW, OLEIVERB_OPEN, OLEIVERB_UIACTIVATE,
                             OLEIVERB_INPLACEACTIVATE, OLEIVERB_HIDE}) {
         const RECT place{0, 0, 100, 20};
@@ -206,8 +205,8 @@ TEST(RichEdit, VerbsInASiteThatDoesNotActivate)
         std::printf("verb %ld: %08lX\n", verb, static_cast<unsigned long>(result));
         pump();
     }
-    Automation(object.get()).set({{u"Text", u"depois"}});
-    EXPECT_EQ(Automation(object.get()).textOf(u"Text"), u"depois");
+    Automation(object.Get()).set({{u"Text", u"depois"}});
+    EXPECT_EQ(Automation(object.Get()).textOf(u"Text"), u"depois");
     EXPECT_EQ(object->Close(OLECLOSE_NOSAVE), S_OK);
 }
 
