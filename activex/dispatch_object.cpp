@@ -24,7 +24,7 @@ void invoke(IDispatch& object, DISPID id, WORD flags, DISPPARAMS& parameters, VA
 int DispatchObject::find(std::u16string_view name)
 {
     const std::u16string text(name);
-    auto* wanted = const_cast<wchar_t*>(asWide(text));
+    auto* wanted = const_cast<wchar_t*>(wide(text.c_str()));
     DISPID id = DISPID_UNKNOWN;
     if (FAILED(object_->GetIDsOfNames(IID_NULL, &wanted, 1, LOCALE_USER_DEFAULT, &id)))
         engine::raise(engine::error_number::unsupportedMember);

@@ -16,12 +16,6 @@ namespace {
 
 constexpr double sizeUnits = 10000; // a size in points is a currency value
 
-void check(HRESULT result)
-{
-    if (FAILED(result))
-        throw errorFromHresult(result);
-}
-
 platform::FontDescription describe(IFont& font)
 {
     Bstr name;
@@ -55,7 +49,7 @@ ComPtr<IFont> makeFont(const platform::FontDescription& description)
 {
     FONTDESC wanted{};
     wanted.cbSizeofstruct = sizeof wanted;
-    wanted.lpstrName = const_cast<wchar_t*>(asWide(description.name));
+    wanted.lpstrName = const_cast<wchar_t*>(wide(description.name.c_str()));
     wanted.cySize = sizeOf(description);
     wanted.sWeight = description.bold ? FW_BOLD : FW_NORMAL;
     wanted.sCharset = DEFAULT_CHARSET;

@@ -25,12 +25,6 @@ constexpr Bitness ownBitness = Bitness::win32;
 constexpr REGSAM otherView = KEY_WOW64_64KEY;
 #endif
 
-std::wstring decimal(long number)
-{
-    const std::string digits = std::to_string(number);
-    return {digits.begin(), digits.end()};
-}
-
 win32::UniqueKey opened(HKEY root, const std::wstring& key, REGSAM access)
 {
     HKEY found = nullptr;
@@ -126,17 +120,9 @@ private:
 
 bool otherBitnessRegistered(HKEY root)
 {
-    HKEY found = nullptr;
-    const std::wstring path = classes + registryClassKey(identity::velaClass);
-    if (RegOpenKeyExW(root, path.c_str(), 0, KEY_QUERY_VALUE | otherView, &found) != ERROR_SUCCESS)
-        return false;
-    const win32::UniqueKey close(found);
     // Where the two bitnesses see one key, it is the one that was just deleted, or it names another kind of server.
-    HKEY server = nullptr;
-    if (RegOpenKeyExW(found, L"InprocServer32", 0, KEY_QUERY_VALUE | otherView, &server) != ERROR_SUCCESS)
-        return false;
-    const win32::UniqueKey closeServer(server);
-    return true;
+    const std::wstring server = registryClassKey(identity::velaClass) + L"\\InprocServer32";
+    return static_cast<bool>(opened(root, server, KEY_QUERY_VALUE | otherView));
 }
 
 // A user has these keys from the first registration on only.

@@ -58,11 +58,6 @@ std::wstring libraryKey()
     return L"TypeLib\\" + keyOf(identity::library);
 }
 
-std::wstring decimal(std::uint32_t number)
-{
-    return wide(std::string_view(std::to_string(number)));
-}
-
 // "Vela.Vela.1" -> "Vela.Vela"
 std::wstring withoutVersion(const std::wstring& progId)
 {
@@ -127,6 +122,11 @@ void addLibrary(std::vector<RegistryEntry>& entries, const std::wstring& module,
 }
 
 } // namespace
+
+std::wstring decimal(long long number)
+{
+    return wide(std::string_view(std::to_string(number)));
+}
 
 std::wstring registryClassKey(std::string_view id)
 {

@@ -9,8 +9,8 @@
 
 namespace vela::activex {
 
-// Copy: `static void give(const Kept&, Given&)` writes an element the caller will own.
-template <class Interface, class Given, class Kept, class Copy>
+// `give` writes an element that the caller will own.
+template <class Interface, class Given, class Kept, void (*give)(const Kept&, Given&)>
 class Enumerator final : public win32::ComObject<Interface> {
 public:
     using List = std::shared_ptr<const std::vector<Kept>>;
@@ -27,7 +27,7 @@ public:
         ULONG given = 0;
         const HRESULT result = guarded([&] {
             for (; given < wanted && next_ < list_->size(); ++given, ++next_)
-                Copy::give((*list_)[next_], into[given]);
+                give((*list_)[next_], into[given]);
             return given == wanted ? S_OK : S_FALSE;
         });
         if (fetched)

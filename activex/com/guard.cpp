@@ -36,7 +36,7 @@ int numberOf(HRESULT failure) noexcept
 
 BSTR newText(std::u16string_view text) noexcept
 {
-    return SysAllocStringLen(asWide(text.data()), static_cast<UINT>(text.size()));
+    return SysAllocStringLen(wide(text.data()), static_cast<UINT>(text.size()));
 }
 
 } // namespace
@@ -88,8 +88,8 @@ HRESULT reportError(const engine::Error& error) noexcept
     ComPtr<ICreateErrorInfo> info;
     if (SUCCEEDED(CreateErrorInfo(&info))) {
         info->SetGUID(GUID_NULL);
-        info->SetSource(const_cast<wchar_t*>(asWide(error.source)));
-        info->SetDescription(const_cast<wchar_t*>(asWide(error.description)));
+        info->SetSource(const_cast<wchar_t*>(wide(error.source.c_str())));
+        info->SetDescription(const_cast<wchar_t*>(wide(error.description.c_str())));
         if (const auto shown = query<IErrorInfo>(info.Get()))
             SetErrorInfo(0, shown.Get());
     }

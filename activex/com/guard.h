@@ -17,7 +17,12 @@ namespace vela::activex {
 
 // What a host's failure means to the library: 0x800A03E9 -> 1001, DISP_E_OVERFLOW -> 6; anything unknown -> 5.
 [[nodiscard]] engine::Error errorFromHresult(HRESULT failure);
-// The same, with the description and source of the thread's error information when the host's object supports error
+inline void check(HRESULT result) // throws what a failure means
+{
+    if (FAILED(result))
+        throw errorFromHresult(result);
+}
+// errorFromHresult() with the description and source of the thread's error information when the host's object supports error
 // information; otherwise that information belongs to an older failure.
 [[nodiscard]] engine::Error errorFromHost(HRESULT failure, IUnknown& host, REFIID called);
 [[nodiscard]] engine::Error errorFromException(EXCEPINFO& info); // frees the texts of `info`

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/win32/com_object.h"
+#include "platform/win32/text.h"
 
 #include <objbase.h>
 #include <oleauto.h>
@@ -12,29 +13,17 @@
 
 namespace vela::activex {
 
-// UTF-16 as the library holds it and as the system spells it: one representation, two names.
-inline std::u16string_view asText(const wchar_t* text, std::size_t length) noexcept
-{
-    return {reinterpret_cast<const char16_t*>(text), length};
-}
-inline const wchar_t* asWide(const char16_t* text) noexcept
-{
-    return reinterpret_cast<const wchar_t*>(text);
-}
-inline const wchar_t* asWide(const std::u16string& text) noexcept
-{
-    return asWide(text.c_str());
-}
-
 using win32::adopt;
+using win32::asText;
 using win32::ComPtr;
 using win32::query;
+using win32::wide;
 
 class Bstr {
 public:
     Bstr() noexcept = default;
     explicit Bstr(std::u16string_view text) // throws std::bad_alloc
-        : text_(SysAllocStringLen(asWide(text.data()), static_cast<UINT>(text.size())))
+        : text_(SysAllocStringLen(wide(text.data()), static_cast<UINT>(text.size())))
     {
         if (!text_)
             throw std::bad_alloc();
@@ -50,7 +39,7 @@ public:
         return &text_;
     }
     [[nodiscard]] BSTR release() noexcept { return std::exchange(text_, nullptr); }
-    [[nodiscard]] std::u16string_view text() const noexcept { return asText(text_, SysStringLen(text_)); }
+    [[nodiscard]] std::u16string_view text() const noexcept { return asText({text_, SysStringLen(text_)}); }
 
 private:
     BSTR text_ = nullptr;

@@ -16,12 +16,6 @@ constexpr int deepestDefault = 8; // objects whose default property is an object
     engine::raise(engine::error_number::typeMismatch);
 }
 
-void check(HRESULT result)
-{
-    if (FAILED(result))
-        throw errorFromHresult(result);
-}
-
 template <class Whole>
 engine::Value wholeValue(Whole number)
 {
@@ -90,7 +84,7 @@ engine::Value convert(const VARIANT& variant, int depth)
     case VT_CY:
     case VT_DECIMAL: return decimalValue(variant);
     case VT_DATE: return engine::Date{variant.date};
-    case VT_BSTR: return std::u16string(asText(variant.bstrVal, SysStringLen(variant.bstrVal)));
+    case VT_BSTR: return std::u16string(asText({variant.bstrVal, SysStringLen(variant.bstrVal)}));
     case VT_DISPATCH: return defaultOf(variant.pdispVal, depth);
     case VT_UNKNOWN: return defaultOf(query<IDispatch>(variant.punkVal).Get(), depth);
     default: break;

@@ -118,7 +118,7 @@ HRESULT Activation::activateInterface(bool takeFocus)
 
 void Activation::offer(IOleInPlaceActiveObject* active) noexcept
 {
-    const wchar_t* const name = active ? asWide(shell_.facts().name.data()) : nullptr;
+    const wchar_t* const name = active ? wide(shell_.facts().name.data()) : nullptr;
     if (const auto frame = frame_) {
         frame->SetActiveObject(active, name);
         if (active && interface_)

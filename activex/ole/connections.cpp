@@ -12,25 +12,17 @@ namespace vela::activex {
 
 namespace {
 
-struct KeptConnection {
-    DWORD cookie;
-    ComPtr<IUnknown> sink;
-};
-
-struct CopyConnection {
-    static void give(const KeptConnection& from, CONNECTDATA& into)
-    {
-        into.dwCookie = from.cookie;
-        into.pUnk = ComPtr(from.sink).Detach();
-    }
-};
-
-struct CopyPoint {
-    static void give(const ComPtr<IConnectionPoint>& from, IConnectionPoint*& into) { into = ComPtr(from).Detach(); }
-};
-
-using ConnectionEnumerator = Enumerator<IEnumConnections, CONNECTDATA, KeptConnection, CopyConnection>;
-using PointEnumerator = Enumerator<IEnumConnectionPoints, IConnectionPoint*, ComPtr<IConnectionPoint>, CopyPoint>;
+void giveConnection(const Connection& from, CONNECTDATA& into)
+{
+    into.dwCookie = from.cookie;
+    from.sink.CopyTo(&into.pUnk);
+}
+void givePoint(const ComPtr<IConnectionPoint>& from, IConnectionPoint*& into)
+{
+    from.CopyTo(&into);
+}
+using ConnectionEnumerator = Enumerator<IEnumConnections, CONNECTDATA, Connection, giveConnection>;
+using PointEnumerator = Enumerator<IEnumConnectionPoints, IConnectionPoint*, ComPtr<IConnectionPoint>, givePoint>;
 
 constexpr std::size_t mostArguments = 2;
 
@@ -137,10 +129,7 @@ HRESULT Sinks::EnumConnections(IEnumConnections** connections) noexcept
         return E_POINTER;
     *connections = nullptr;
     return guarded([&] {
-        auto list = std::make_shared<std::vector<KeptConnection>>();
-        for (const Connection& connection : sinks_)
-            list->push_back({connection.cookie, connection.sink});
-        *connections = ConnectionEnumerator::make(std::move(list)).Detach();
+        *connections = ConnectionEnumerator::make(std::make_shared<std::vector<Connection>>(sinks_)).Detach();
     });
 }
 

@@ -11,6 +11,11 @@
 
 namespace vela::activex {
 
+struct Connection {
+    DWORD cookie;
+    ComPtr<IUnknown> sink;
+};
+
 // The sinks of one interface. A sink may come or go while another is being told.
 class Sinks final : public IConnectionPoint {
 public:
@@ -43,11 +48,6 @@ public:
     HRESULT STDMETHODCALLTYPE EnumConnections(IEnumConnections** connections) noexcept override;
 
 private:
-    struct Connection {
-        DWORD cookie;
-        ComPtr<IUnknown> sink;
-    };
-
     // The next connection with a cookie above `told` and not above `newest`; its cookie is then stored in `told`.
     [[nodiscard]] ComPtr<IUnknown> after(DWORD& told, DWORD newest) const noexcept;
 

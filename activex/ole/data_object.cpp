@@ -3,6 +3,7 @@
 
 #include "activex/com/enumerator.h"
 #include "activex/ole/shell.h"
+#include "platform/win32/owners.h"
 
 #include <cstring>
 #include <iterator>
@@ -19,47 +20,20 @@ constexpr FORMATETC formats[] = {
     {CF_TEXT, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL},
 };
 
-struct CopyFormat {
-    static void give(const FORMATETC& from, FORMATETC& into) { into = from; }
+void give(const FORMATETC& from, FORMATETC& into)
+{
+    into = from;
+}
+using FormatEnumerator = Enumerator<IEnumFORMATETC, FORMATETC, FORMATETC, give>;
+
+// A metafile under construction: its device context, until the recording is closed.
+struct MetafileTraits {
+    using Handle = HDC;
+    static void close(HDC dc) noexcept { DeleteMetaFile(CloseMetaFile(dc)); }
 };
-using FormatEnumerator = Enumerator<IEnumFORMATETC, FORMATETC, FORMATETC, CopyFormat>;
-
-// Metafiles under construction; close() gives the handle away.
-class MetafileDc {
-public:
-    MetafileDc() noexcept : dc_(CreateMetaFileW(nullptr)) {}
-    MetafileDc(const MetafileDc&) = delete;
-    MetafileDc& operator=(const MetafileDc&) = delete;
-    ~MetafileDc()
-    {
-        if (dc_)
-            DeleteMetaFile(CloseMetaFile(dc_));
-    }
-    [[nodiscard]] HDC get() const noexcept { return dc_; }
-    [[nodiscard]] HMETAFILE close() noexcept { return CloseMetaFile(std::exchange(dc_, nullptr)); }
-
-private:
-    HDC dc_;
-};
-
-class EnhancedMetafileDc {
-public:
-    explicit EnhancedMetafileDc(const RECT& himetric) noexcept
-        : dc_(CreateEnhMetaFileW(nullptr, nullptr, &himetric, nullptr))
-    {
-    }
-    EnhancedMetafileDc(const EnhancedMetafileDc&) = delete;
-    EnhancedMetafileDc& operator=(const EnhancedMetafileDc&) = delete;
-    ~EnhancedMetafileDc()
-    {
-        if (dc_)
-            DeleteEnhMetaFile(CloseEnhMetaFile(dc_));
-    }
-    [[nodiscard]] HDC get() const noexcept { return dc_; }
-    [[nodiscard]] HENHMETAFILE close() noexcept { return CloseEnhMetaFile(std::exchange(dc_, nullptr)); }
-
-private:
-    HDC dc_;
+struct EnhancedMetafileTraits {
+    using Handle = HDC;
+    static void close(HDC dc) noexcept { DeleteEnhMetaFile(CloseEnhMetaFile(dc)); }
 };
 
 HGLOBAL newBlock(const void* from, std::size_t size)
@@ -95,12 +69,12 @@ SIZE pixelsOf(SIZEL himetric, HDC dc) noexcept
 
 HRESULT giveMetafile(Shell& shell, STGMEDIUM& medium)
 {
-    MetafileDc dc;
-    if (!dc.get())
+    win32::Unique<MetafileTraits> dc(CreateMetaFileW(nullptr));
+    if (!dc)
         return E_OUTOFMEMORY;
     drawScaled(shell, dc.get());
     const SIZEL extent = shell.extent();
-    METAFILEPICT picture{MM_ANISOTROPIC, extent.cx, extent.cy, dc.close()};
+    METAFILEPICT picture{MM_ANISOTROPIC, extent.cx, extent.cy, CloseMetaFile(dc.release())};
     medium.hMetaFilePict = newBlock(&picture, sizeof picture);
     return S_OK;
 }
@@ -108,11 +82,12 @@ HRESULT giveMetafile(Shell& shell, STGMEDIUM& medium)
 HRESULT giveEnhancedMetafile(Shell& shell, STGMEDIUM& medium)
 {
     const SIZEL extent = shell.extent();
-    EnhancedMetafileDc dc({0, 0, extent.cx, extent.cy});
-    if (!dc.get())
+    const RECT frame{0, 0, extent.cx, extent.cy};
+    win32::Unique<EnhancedMetafileTraits> dc(CreateEnhMetaFileW(nullptr, nullptr, &frame, nullptr));
+    if (!dc)
         return E_OUTOFMEMORY;
     drawScaled(shell, dc.get(), pixelsOf(extent, dc.get()));
-    medium.hEnhMetaFile = dc.close();
+    medium.hEnhMetaFile = CloseEnhMetaFile(dc.release());
     return S_OK;
 }
 
@@ -125,12 +100,8 @@ HRESULT giveText(Shell& shell, STGMEDIUM& medium)
 
 HRESULT giveNarrowText(Shell& shell, STGMEDIUM& medium)
 {
-    const std::u16string text = shell.content().plainText();
-    const int length = static_cast<int>(text.size()) + 1;
-    const int size = WideCharToMultiByte(CP_ACP, 0, asWide(text), length, nullptr, 0, nullptr, nullptr);
-    std::string narrow(static_cast<std::size_t>(size), '\0');
-    WideCharToMultiByte(CP_ACP, 0, asWide(text), length, narrow.data(), size, nullptr, nullptr);
-    medium.hGlobal = newBlock(narrow.data(), narrow.size());
+    const std::string narrow = win32::narrow(shell.content().plainText());
+    medium.hGlobal = newBlock(narrow.c_str(), narrow.size() + 1);
     return S_OK;
 }
 

@@ -68,14 +68,14 @@ HRESULT Dispatch::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPI
     std::fill_n(ids, count, DISPID_UNKNOWN);
     return shell_.guarded([&]() -> HRESULT {
         const std::wstring_view name(names[0] ? names[0] : L"");
-        const Member* const member = findMember(shell_.content().members(), asText(name.data(), name.size()));
+        const Member* const member = findMember(shell_.content().members(), asText(name));
         if (!member)
             return DISP_E_UNKNOWNNAME;
         ids[0] = member->id;
         bool known = true;
         for (UINT i = 1; i < count; ++i) {
             const std::wstring_view parameter(names[i] ? names[i] : L"");
-            if (!parameter.empty() && sameName(member->parameter, asText(parameter.data(), parameter.size())))
+            if (!parameter.empty() && sameName(member->parameter, asText(parameter)))
                 ids[i] = 0;
             else
                 known = false;

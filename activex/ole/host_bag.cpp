@@ -12,9 +12,9 @@ engine::Value HostBag::read(std::u16string_view key, const engine::Value& defaul
     // The type of the variant asks the host to convert the value. A host that cannot is asked again without a type.
     Variant value;
     value.ref().vt = variantType(defaultValue);
-    HRESULT result = bag_.Read(asWide(name), &value.ref(), log_);
+    HRESULT result = bag_.Read(wide(name.c_str()), &value.ref(), log_);
     if (result == DISP_E_TYPEMISMATCH || result == DISP_E_BADVARTYPE)
-        result = bag_.Read(asWide(name), value.put(), log_);
+        result = bag_.Read(wide(name.c_str()), value.put(), log_);
     if (result == E_INVALIDARG)
         return defaultValue;
     if (FAILED(result))
@@ -29,7 +29,7 @@ void HostBag::write(std::u16string_view key, const engine::Value& value,
         return;
     const std::u16string name(key);
     Variant given = variantFromValue(value);
-    if (const HRESULT result = bag_.Write(asWide(name), &given.ref()); FAILED(result))
+    if (const HRESULT result = bag_.Write(wide(name.c_str()), &given.ref()); FAILED(result))
         fail(result);
 }
 

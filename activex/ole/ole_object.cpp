@@ -26,10 +26,11 @@ constexpr Verb verbs[] = {
     {OLEIVERB_INPLACEACTIVATE, u"A&brir", 0},
 };
 
-struct CopyVerb {
-    static void give(const Verb& from, OLEVERB& into) { into = {from.id, newTaskText(from.name), 0, from.attributes}; }
-};
-using VerbEnumerator = Enumerator<IEnumOLEVERB, OLEVERB, Verb, CopyVerb>;
+void give(const Verb& from, OLEVERB& into)
+{
+    into = {from.id, newTaskText(from.name), 0, from.attributes};
+}
+using VerbEnumerator = Enumerator<IEnumOLEVERB, OLEVERB, Verb, give>;
 
 } // namespace
 
@@ -139,7 +140,7 @@ HRESULT OleObject::showProperties(HWND parent)
         return S_OK;
     const win32::Modal dialog;
     IUnknown* object = &shell_;
-    return OleCreatePropertyFrame(parent, 0, 0, asWide(shell_.facts().name.data()), 1, &object,
+    return OleCreatePropertyFrame(parent, 0, 0, wide(shell_.facts().name.data()), 1, &object,
                                   static_cast<ULONG>(pages.size()), const_cast<CLSID*>(pages.data()),
                                   GetUserDefaultLCID(), 0, nullptr);
 }

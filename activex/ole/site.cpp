@@ -83,7 +83,7 @@ std::u16string Site::containerName() const
     auto name = propertyOf(container.Get(), L"Name");
     if (!name || name->get().vt != VT_BSTR)
         return {};
-    return std::u16string(asText(name->get().bstrVal, SysStringLen(name->get().bstrVal)));
+    return std::u16string(asText({name->get().bstrVal, SysStringLen(name->get().bstrVal)}));
 }
 
 bool Site::translate(MSG* message) const noexcept

@@ -20,9 +20,13 @@ static_assert(sizeof(wchar_t) == sizeof(char16_t));
 {
     return {wide(text.data()), text.size()};
 }
-[[nodiscard]] inline std::u16string utf16(std::wstring_view text)
+[[nodiscard]] inline std::u16string_view asText(std::wstring_view text) noexcept // the same units, not copied
 {
     return {reinterpret_cast<const char16_t*>(text.data()), text.size()};
+}
+[[nodiscard]] inline std::u16string utf16(std::wstring_view text)
+{
+    return std::u16string(asText(text));
 }
 // In the process's narrow code page.
 [[nodiscard]] std::string narrow(std::u16string_view text);

@@ -45,7 +45,7 @@ Automation::Automation(IUnknown* object) : object_(query<IDispatch>(object)) {}
 std::optional<DISPID> Automation::id(std::u16string_view name) const
 {
     const std::u16string kept(name);
-    auto* wanted = const_cast<wchar_t*>(asWide(kept));
+    auto* wanted = const_cast<wchar_t*>(wide(kept.c_str()));
     DISPID found = DISPID_UNKNOWN;
     if (object_->GetIDsOfNames(IID_NULL, &wanted, 1, LOCALE_USER_DEFAULT, &found) != S_OK)
         return std::nullopt;
@@ -104,7 +104,7 @@ std::u16string Automation::textOf(std::u16string_view name) const
     if (FAILED(outcome.result) ||
         FAILED(VariantChangeType(&outcome.value.ref(), &outcome.value.ref(), VARIANT_ALPHABOOL, VT_BSTR)))
         return u"?";
-    return std::u16string(asText(outcome.value.get().bstrVal, SysStringLen(outcome.value.get().bstrVal)));
+    return std::u16string(asText({outcome.value.get().bstrVal, SysStringLen(outcome.value.get().bstrVal)}));
 }
 
 } // namespace vela::test

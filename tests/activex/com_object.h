@@ -12,13 +12,13 @@
 namespace vela::test {
 
 using activex::asText;
-using activex::asWide;
 using activex::Bstr;
 using activex::Variant;
 using win32::adopt;
 using win32::ComPtr;
 using win32::make;
 using win32::query;
+using win32::wide;
 
 inline std::atomic<int> liveObjects{0};
 

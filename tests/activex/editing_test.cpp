@@ -27,7 +27,7 @@ std::u16string clipboard()
     std::u16string text;
     if (memory) {
         const auto* const units = static_cast<const wchar_t*>(GlobalLock(memory));
-        text = asText(units, wcslen(units));
+        text = asText(units);
         GlobalUnlock(memory);
     }
     CloseClipboard();

@@ -260,7 +260,7 @@ std::wstring nameOf(HWND window)
     self.vt = VT_I4;
     Bstr name;
     reader->get_accName(self, name.put());
-    return std::wstring(asWide(std::u16string(name.text()).c_str()));
+    return wide(name.text());
 }
 
 TEST(HostsKeys, AReaderHearsTheFieldsNameOrItsLabels)

@@ -140,7 +140,7 @@ TEST(Interfaces, EnumeratedValuesAreBrowsedByName)
         ASSERT_EQ(names.cElems, control::enumerationOf(property)->members.size());
         for (ULONG i = 0; i < names.cElems; ++i) {
             const engine::Enumerator& member = control::enumerationOf(property)->members[i];
-            EXPECT_EQ(asText(names.pElems[i], wcslen(names.pElems[i])), member.name);
+            EXPECT_EQ(asText(names.pElems[i]), member.name);
             Variant value;
             EXPECT_EQ(browsing->GetPredefinedValue(property.dispid, cookies.pElems[i], value.put()), S_OK);
             EXPECT_EQ(value.get().lVal, member.value);

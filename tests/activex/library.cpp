@@ -113,7 +113,7 @@ BOOL CALLBACK takeText(HWND child, LPARAM)
     GetClassNameW(child, name, 16);
     GetWindowTextW(child, text, 256);
     if (lstrcmpiW(name, L"Static") == 0 && *text)
-        boxTexts.emplace_back(asText(text, std::wcslen(text)));
+        boxTexts.emplace_back(asText(text));
     return TRUE;
 }
 

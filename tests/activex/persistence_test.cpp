@@ -310,7 +310,7 @@ TEST(Persistence, TheCalendarKeepsItsDate)
     EXPECT_EQ(Automation(calendar.Get()).get(u"DateInitial").value.get().date, 45351);
     const auto written = make<Bag>();
     ASSERT_EQ(persistence->Save(written.Get(), TRUE, FALSE), S_OK);
-    EXPECT_EQ(asText(written->values[u"DateInitial"].get().bstrVal, 10), u"29/02/2024");
+    EXPECT_EQ(asText({written->values[u"DateInitial"].get().bstrVal, 10}), u"29/02/2024");
 }
 
 } // namespace

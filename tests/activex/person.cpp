@@ -206,13 +206,13 @@ std::u16string shownBy(HWND window)
 {
     wchar_t shown[256]{};
     const int length = GetWindowTextW(window, shown, 256);
-    return std::u16string(asText(shown, static_cast<std::size_t>(length)));
+    return std::u16string(asText({shown, static_cast<std::size_t>(length)}));
 }
 
 void makeDate(const Site& site, std::u16string_view shown)
 {
     asDate(site.automation());
-    SetWindowTextW(site.edit(), asWide(std::u16string(shown).c_str()));
+    SetWindowTextW(site.edit(), wide(std::u16string(shown).c_str()));
 }
 
 FocusPath::FocusPath() : hook_(SetWindowsHookExW(WH_CBT, followFocus, nullptr, GetCurrentThreadId()))

@@ -240,7 +240,7 @@ std::u16string textData(IUnknown* control)
     if (query<IDataObject>(control)->GetData(&format, &medium) != S_OK)
         return u"?";
     const auto* const given = static_cast<const wchar_t*>(GlobalLock(medium.hGlobal));
-    std::u16string result(asText(given, wcslen(given)));
+    std::u16string result(asText(given));
     GlobalUnlock(medium.hGlobal);
     ReleaseStgMedium(&medium);
     return result;
