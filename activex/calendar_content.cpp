@@ -96,31 +96,11 @@ Variant CalendarContent::call(const Member& member, const Arguments& arguments)
     return result;
 }
 
-void CalendarContent::initNew()
-{
-    calendar_.initNew();
-}
-
-void CalendarContent::load(platform::PropertyBag& bag)
-{
-    calendar_.load(bag);
-}
-
-void CalendarContent::save(platform::PropertyBag& bag)
-{
-    calendar_.save(bag);
-}
-
 void CalendarContent::terminate() noexcept
 {
     calendar_.picked = nullptr;
     form().setListener(nullptr);
     detach();
-}
-
-HWND CalendarContent::window() const noexcept
-{
-    return form().handle();
 }
 
 void CalendarContent::attach(HWND parent, const RECT& place)
@@ -158,50 +138,15 @@ void CalendarContent::clip(const RECT* shown)
         SetWindowRgn(calendar, shown ? CreateRectRgnIndirect(shown) : nullptr, TRUE);
 }
 
-void CalendarContent::show(bool visible)
-{
-    form().showChildWindow(visible);
-}
-
-FieldSize CalendarContent::size()
-{
-    return size_;
-}
-
-void CalendarContent::resize(FieldSize size)
-{
-    size_ = size;
-}
-
 void CalendarContent::takeFocus()
 {
     if (const HWND calendar = window())
         SetFocus(calendar); // which hands it to the widget that had it last
 }
 
-bool CalendarContent::hasFocus() const
-{
-    const HWND calendar = window();
-    const HWND focus = GetFocus();
-    return calendar && focus && (focus == calendar || IsChild(calendar, focus));
-}
-
 bool CalendarContent::wantsKey(const MSG& message) const
 {
-    if (message.message != WM_KEYDOWN || dead_)
-        return false;
-    switch (message.wParam) {
-    case VK_LEFT:
-    case VK_RIGHT:
-    case VK_UP:
-    case VK_DOWN:
-    case VK_PRIOR:
-    case VK_NEXT:
-    case VK_HOME:
-    case VK_END:
-    case VK_RETURN: return true;
-    default: return false;
-    }
+    return message.message == WM_KEYDOWN && !dead_ && (movesCaret(message.wParam) || message.wParam == VK_RETURN);
 }
 
 int CalendarContent::dpi()
@@ -213,27 +158,6 @@ void CalendarContent::draw(HDC dc, const RECT& bounds)
 {
     calendar_.refresh();
     drawForm(dc, bounds, form().widgets());
-}
-
-std::u16string CalendarContent::plainText()
-{
-    return calendar_.grid().selectedText();
-}
-
-void CalendarContent::focusEntered()
-{
-    shell_.focusMoved(true);
-}
-
-void CalendarContent::focusLeft()
-{
-    shell_.focusMoved(false);
-}
-
-void CalendarContent::windowDestroyed()
-{
-    const Shell::Hold hold(shell_);
-    shell_.activation().windowLost();
 }
 
 } // namespace vela::activex

@@ -13,44 +13,39 @@ class CalendarContent final : public Content, private win32::FormListener {
 public:
     explicit CalendarContent(Shell& shell);
     ~CalendarContent() override;
-    [[nodiscard]] static std::unique_ptr<Content> make(Shell& shell)
-    {
-        return std::make_unique<CalendarContent>(shell);
-    }
 
     [[nodiscard]] std::span<const Member> members() const noexcept override;
     [[nodiscard]] Variant get(const Member& member) override;
     void put(const Member& member, const VARIANT& value) override;
     [[nodiscard]] Variant call(const Member& member, const Arguments& arguments) override;
 
-    void initNew() override;
-    void load(platform::PropertyBag& bag) override;
-    void save(platform::PropertyBag& bag) override;
+    void initNew() override { calendar_.initNew(); }
+    void load(platform::PropertyBag& bag) override { calendar_.load(bag); }
+    void save(platform::PropertyBag& bag) override { calendar_.save(bag); }
     void terminate() noexcept override;
 
-    [[nodiscard]] HWND window() const noexcept override;
+    [[nodiscard]] HWND window() const noexcept override { return form().handle(); }
     void attach(HWND parent, const RECT& place) override;
     void detach() noexcept override;
     void place(const RECT& place) override;
     void clip(const RECT* shown) override;
-    void show(bool visible) override;
-    [[nodiscard]] FieldSize size() override;
-    void resize(FieldSize size) override;
+    void show(bool visible) override { form().showChildWindow(visible); }
+    [[nodiscard]] FieldSize size() override { return size_; }
+    void resize(FieldSize size) override { size_ = size; }
     void takeFocus() override;
-    [[nodiscard]] bool hasFocus() const override;
     [[nodiscard]] bool wantsKey(const MSG& message) const override;
     [[nodiscard]] bool eatsReturn() const override { return true; } // Enter picks a day
     [[nodiscard]] int dpi() override;
     void ambientChanged(DISPID id) override;
 
     void draw(HDC dc, const RECT& bounds) override;
-    [[nodiscard]] std::u16string plainText() override;
+    [[nodiscard]] std::u16string plainText() override { return calendar_.grid().selectedText(); }
 
 private:
     // win32::FormListener
-    void focusEntered() override;
-    void focusLeft() override;
-    void windowDestroyed() override;
+    void focusEntered() override { shell_.focusMoved(true); }
+    void focusLeft() override { shell_.focusMoved(false); }
+    void windowDestroyed() override { shell_.windowLost(); }
 
     [[nodiscard]] win32::Form& form() const;
     void picked();

@@ -21,7 +21,8 @@ struct Creator {
 template <auto Facts, class Content>
 ComPtr<IUnknown> createControl()
 {
-    return adopt<IUnknown>(new Shell(Facts(), &Content::make));
+    return adopt<IUnknown>(new Shell(
+        Facts(), [](Shell& shell) -> std::unique_ptr<activex::Content> { return std::make_unique<Content>(shell); }));
 }
 
 template <pages::PageKind Kind>
@@ -44,7 +45,7 @@ class ClassFactory final : public win32::ComObject<IClassFactory> {
 public:
     explicit ClassFactory(Create create) noexcept : create_(create) {}
 
-    HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** object) noexcept override
+    STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** object) noexcept override
     {
         if (!object)
             return E_POINTER;
@@ -53,7 +54,7 @@ public:
             return CLASS_E_NOAGGREGATION;
         return guarded([&] { return create_()->QueryInterface(iid, object); });
     }
-    HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) noexcept override
+    STDMETHODIMP LockServer(BOOL lock) noexcept override
     {
         if (lock)
             win32::useModule();

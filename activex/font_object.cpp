@@ -69,13 +69,13 @@ public:
 
     void forget() noexcept { owner_ = nullptr; } // the font object may outlive the control
 
-    HRESULT STDMETHODCALLTYPE OnChanged(DISPID part) noexcept override
+    STDMETHODIMP OnChanged(DISPID part) noexcept override
     {
         if (owner_)
             owner_->changed_(part);
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) noexcept override { return S_OK; }
+    STDMETHODIMP OnRequestEdit(DISPID) noexcept override { return S_OK; }
 
 private:
     HeardFont* owner_;

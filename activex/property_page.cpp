@@ -33,18 +33,18 @@ public:
     {
     }
 
-    HRESULT STDMETHODCALLTYPE SetPageSite(IPropertyPageSite* site) noexcept override;
-    HRESULT STDMETHODCALLTYPE Activate(HWND parent, LPCRECT place, BOOL modal) noexcept override;
-    HRESULT STDMETHODCALLTYPE Deactivate() noexcept override;
-    HRESULT STDMETHODCALLTYPE GetPageInfo(PROPPAGEINFO* info) noexcept override;
-    HRESULT STDMETHODCALLTYPE SetObjects(ULONG count, IUnknown** objects) noexcept override;
-    HRESULT STDMETHODCALLTYPE Show(UINT command) noexcept override;
-    HRESULT STDMETHODCALLTYPE Move(LPCRECT place) noexcept override;
-    HRESULT STDMETHODCALLTYPE IsPageDirty() noexcept override;
-    HRESULT STDMETHODCALLTYPE Apply() noexcept override;
-    HRESULT STDMETHODCALLTYPE Help(LPCOLESTR folder) noexcept override;
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG message) noexcept override;
-    HRESULT STDMETHODCALLTYPE EditProperty(DISPID id) noexcept override;
+    STDMETHODIMP SetPageSite(IPropertyPageSite* site) noexcept override;
+    STDMETHODIMP Activate(HWND parent, LPCRECT place, BOOL modal) noexcept override;
+    STDMETHODIMP Deactivate() noexcept override;
+    STDMETHODIMP GetPageInfo(PROPPAGEINFO* info) noexcept override;
+    STDMETHODIMP SetObjects(ULONG count, IUnknown** objects) noexcept override;
+    STDMETHODIMP Show(UINT command) noexcept override;
+    STDMETHODIMP Move(LPCRECT place) noexcept override;
+    STDMETHODIMP IsPageDirty() noexcept override;
+    STDMETHODIMP Apply() noexcept override;
+    STDMETHODIMP Help(LPCOLESTR folder) noexcept override;
+    STDMETHODIMP TranslateAccelerator(LPMSG message) noexcept override;
+    STDMETHODIMP EditProperty(DISPID id) noexcept override;
 
 private:
     ~PropertyPage() override { Deactivate(); }

@@ -23,7 +23,7 @@ struct RegistryEntry {
 [[nodiscard]] std::vector<std::wstring> keysOfBothBitnesses();
 [[nodiscard]] std::wstring libraryFileKey(Bitness bitness); // the type library's file, below a shared key
 
-[[nodiscard]] std::wstring decimal(long long number); // "-12"
+[[nodiscard]] std::wstring decimal(long long number);             // "-12"
 [[nodiscard]] std::wstring registryClassKey(std::string_view id); // "CLSID\\{...}"
 
 } // namespace vela::activex

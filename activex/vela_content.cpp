@@ -34,20 +34,7 @@ bool isEditKey(WPARAM key, bool control) noexcept
 {
     if (control && (key == 'A' || key == 'C' || key == 'V' || key == 'X' || key == 'Y' || key == 'Z'))
         return true;
-    switch (key) {
-    case VK_LEFT:
-    case VK_RIGHT:
-    case VK_UP:
-    case VK_DOWN:
-    case VK_HOME:
-    case VK_END:
-    case VK_PRIOR:
-    case VK_NEXT:
-    case VK_INSERT:
-    case VK_DELETE:
-    case VK_BACK: return true;
-    default: return false;
-    }
+    return movesCaret(key) || key == VK_INSERT || key == VK_DELETE || key == VK_BACK;
 }
 
 } // namespace
@@ -159,11 +146,6 @@ void VelaContent::load(platform::PropertyBag& bag)
     fontChanged();
 }
 
-void VelaContent::save(platform::PropertyBag& bag)
-{
-    vela_.save(bag);
-}
-
 void VelaContent::terminate() noexcept
 {
     contained([&] { vela_.terminate(); });
@@ -223,32 +205,10 @@ void VelaContent::clip(const RECT* shown)
     surface_.clip(shown ? std::optional(*shown) : std::nullopt);
 }
 
-void VelaContent::show(bool visible)
-{
-    surface_.show(visible);
-}
-
 FieldSize VelaContent::size()
 {
     const engine::RectPixels client = surface_.clientRect();
     return {client.width, client.height};
-}
-
-void VelaContent::resize(FieldSize size)
-{
-    surface_.place({0, 0, size.width, size.height});
-}
-
-void VelaContent::takeFocus()
-{
-    surface_.edit().takeFocus();
-}
-
-bool VelaContent::hasFocus() const
-{
-    const HWND window = surface_.handle();
-    const HWND focus = GetFocus();
-    return window && focus && (focus == window || IsChild(window, focus));
 }
 
 bool VelaContent::wantsKey(const MSG& message) const
@@ -258,11 +218,6 @@ bool VelaContent::wantsKey(const MSG& message) const
     if (message.wParam == VK_RETURN)
         return eatsReturn();
     return isEditKey(message.wParam, GetKeyState(VK_CONTROL) < 0);
-}
-
-bool VelaContent::eatsReturn() const
-{
-    return vela_.settings().enterAsTab || vela_.settings().multLine;
 }
 
 // A host's library asks without naming the key; then it is the one that the host's message loop has just handed over.
@@ -276,11 +231,6 @@ bool VelaContent::tabUnused(MSG& message)
 {
     const Shell::Hold hold(shell_);
     return shell_.site().translate(&message);
-}
-
-std::u16string VelaContent::fieldName() const
-{
-    return vela_.settings().nomeCampo;
 }
 
 // A put may fail with its value stored.
@@ -346,61 +296,36 @@ platform::ParentForm VelaContent::parentForm() const
 
 void VelaContent::raiseChange()
 {
-    static const DISPID change = eventId(u"Change");
     const Shell::Hold hold(shell_);
     for (const Member& member : members())
         if (member.bindable)
             shell_.boundChanged(member.id);
-    shell_.fire(change);
+    shell_.fire(eventId(u"Change"));
 }
 
 void VelaContent::raiseClick()
 {
-    static const DISPID click = eventId(u"Click");
-    shell_.fire(click);
+    shell_.fire(eventId(u"Click"));
 }
 
 void VelaContent::raiseKeyPress(std::int16_t& key)
 {
-    static const DISPID keyPress = eventId(u"KeyPress");
-    std::int16_t* const arguments[] = {&key};
-    shell_.fire(keyPress, arguments);
+    shell_.fire(eventId(u"KeyPress"), {&key});
 }
 
 void VelaContent::raiseKeyDown(std::int16_t& code, std::int16_t& shift)
 {
-    static const DISPID keyDown = eventId(u"KeyDown");
-    std::int16_t* const arguments[] = {&code, &shift};
-    shell_.fire(keyDown, arguments);
+    shell_.fire(eventId(u"KeyDown"), {&code, &shift});
 }
 
 void VelaContent::raiseKeyUp(std::int16_t& code, std::int16_t& shift)
 {
-    static const DISPID keyUp = eventId(u"KeyUp");
-    std::int16_t* const arguments[] = {&code, &shift};
-    shell_.fire(keyUp, arguments);
+    shell_.fire(eventId(u"KeyUp"), {&code, &shift});
 }
 
 void VelaContent::raiseMouseOut()
 {
-    static const DISPID mouseOut = eventId(u"MouseOut");
-    shell_.fire(mouseOut);
-}
-
-void VelaContent::focusEntered()
-{
-    shell_.focusMoved(true);
-}
-
-void VelaContent::focusLeft()
-{
-    shell_.focusMoved(false);
-}
-
-void VelaContent::windowDestroyed()
-{
-    const Shell::Hold hold(shell_);
-    shell_.activation().windowLost();
+    shell_.fire(eventId(u"MouseOut"));
 }
 
 } // namespace vela::activex

@@ -16,7 +16,6 @@ class VelaContent final : public Content, private platform::ControlHost, private
 public:
     explicit VelaContent(Shell& shell);
     ~VelaContent() override;
-    [[nodiscard]] static std::unique_ptr<Content> make(Shell& shell) { return std::make_unique<VelaContent>(shell); }
 
     [[nodiscard]] std::span<const Member> members() const noexcept override;
     [[nodiscard]] Variant get(const Member& member) override;
@@ -25,7 +24,7 @@ public:
 
     void initNew() override;
     void load(platform::PropertyBag& bag) override;
-    void save(platform::PropertyBag& bag) override;
+    void save(platform::PropertyBag& bag) override { vela_.save(bag); }
     void terminate() noexcept override;
 
     [[nodiscard]] HWND window() const noexcept override { return surface_.handle(); }
@@ -33,13 +32,12 @@ public:
     void detach() noexcept override;
     void place(const RECT& place) override;
     void clip(const RECT* shown) override;
-    void show(bool visible) override;
+    void show(bool visible) override { surface_.show(visible); }
     [[nodiscard]] FieldSize size() override;
-    void resize(FieldSize size) override;
-    void takeFocus() override;
-    [[nodiscard]] bool hasFocus() const override;
+    void resize(FieldSize size) override { surface_.place({0, 0, size.width, size.height}); }
+    void takeFocus() override { surface_.edit().takeFocus(); }
     [[nodiscard]] bool wantsKey(const MSG& message) const override;
-    [[nodiscard]] bool eatsReturn() const override;
+    [[nodiscard]] bool eatsReturn() const override { return vela_.settings().enterAsTab || vela_.settings().multLine; }
     [[nodiscard]] int dpi() override { return surface_.dpi(); }
     void ambientChanged(DISPID id) override;
 
@@ -60,12 +58,12 @@ private:
     void raiseMouseOut() override;
 
     // win32::SurfaceListener
-    void focusEntered() override;
-    void focusLeft() override;
-    void windowDestroyed() override;
+    void focusEntered() override { shell_.focusMoved(true); }
+    void focusLeft() override { shell_.focusMoved(false); }
+    void windowDestroyed() override { shell_.windowLost(); }
     bool tabUnused(MSG& message) override;
     [[nodiscard]] bool eatsEnter(WPARAM key) const override;
-    [[nodiscard]] std::u16string fieldName() const override;
+    [[nodiscard]] std::u16string fieldName() const override { return vela_.settings().nomeCampo; }
 
     // Notifies the host and screen readers, at the end of a scope, of what has changed for them in it.
     class Told {

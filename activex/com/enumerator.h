@@ -20,7 +20,7 @@ public:
         return adopt<Interface>(new Enumerator(std::move(list), next));
     }
 
-    HRESULT STDMETHODCALLTYPE Next(ULONG wanted, Given* into, ULONG* fetched) noexcept override
+    STDMETHODIMP Next(ULONG wanted, Given* into, ULONG* fetched) noexcept override
     {
         if (!into || (!fetched && wanted != 1))
             return E_POINTER;
@@ -34,18 +34,18 @@ public:
             *fetched = given;
         return result;
     }
-    HRESULT STDMETHODCALLTYPE Skip(ULONG count) noexcept override
+    STDMETHODIMP Skip(ULONG count) noexcept override
     {
         const std::size_t left = list_->size() - next_;
         next_ += count < left ? count : left;
         return count <= left ? S_OK : S_FALSE;
     }
-    HRESULT STDMETHODCALLTYPE Reset() noexcept override
+    STDMETHODIMP Reset() noexcept override
     {
         next_ = 0;
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE Clone(Interface** copy) noexcept override
+    STDMETHODIMP Clone(Interface** copy) noexcept override
     {
         if (!copy)
             return E_POINTER;

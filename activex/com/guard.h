@@ -22,8 +22,8 @@ inline void check(HRESULT result) // throws what a failure means
     if (FAILED(result))
         throw errorFromHresult(result);
 }
-// errorFromHresult() with the description and source of the thread's error information when the host's object supports error
-// information; otherwise that information belongs to an older failure.
+// errorFromHresult() with the description and source of the thread's error information when the host's object supports
+// error information; otherwise that information belongs to an older failure.
 [[nodiscard]] engine::Error errorFromHost(HRESULT failure, IUnknown& host, REFIID called);
 [[nodiscard]] engine::Error errorFromException(EXCEPINFO& info); // frees the texts of `info`
 

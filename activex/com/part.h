@@ -1,29 +1,27 @@
-// One interface of a larger object: its references and its other interfaces are the object's.
+// One interface of a control's shell: its references and its other interfaces are the shell's.
 #pragma once
 
 #include <unknwn.h>
 
 namespace vela::activex {
 
-template <class Interface>
+class Shell;
+
+template <class Interface, class Whole = Shell>
 class Part : public Interface {
 public:
-    explicit Part(IUnknown& whole) noexcept : whole_(whole) {}
+    explicit Part(Whole& shell) noexcept : shell_(shell) {}
     Part(const Part&) = delete;
     Part& operator=(const Part&) = delete;
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept final
-    {
-        return whole_.QueryInterface(iid, object);
-    }
-    ULONG STDMETHODCALLTYPE AddRef() noexcept final { return whole_.AddRef(); }
-    ULONG STDMETHODCALLTYPE Release() noexcept final { return whole_.Release(); }
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) noexcept final { return shell_.QueryInterface(iid, object); }
+    STDMETHODIMP_(ULONG) AddRef() noexcept final { return shell_.AddRef(); }
+    STDMETHODIMP_(ULONG) Release() noexcept final { return shell_.Release(); }
 
 protected:
     ~Part() = default;
 
-private:
-    IUnknown& whole_;
+    Whole& shell_;
 };
 
 } // namespace vela::activex

@@ -181,9 +181,4 @@ void Activation::clip(const RECT& place, const RECT& bounds) noexcept
     contained([&] { content->clip(contains(bounds, place) ? nullptr : &shown); });
 }
 
-void Activation::windowLost() noexcept
-{
-    deactivate();
-}
-
 } // namespace vela::activex

@@ -21,7 +21,6 @@ public:
     void deactivateInterface() noexcept;
     void deactivate() noexcept;
     void putRects(const RECT& place, const RECT& clip);
-    void windowLost() noexcept; // the host destroyed the window without a word
 
 private:
     HRESULT enter();

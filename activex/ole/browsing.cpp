@@ -14,7 +14,7 @@ namespace {
 
 const engine::Enumeration* enumerationOf(Shell& shell, DISPID id)
 {
-    const Member* const member = findMember(shell.content().members(), id);
+    const Member* const member = shell.member(id);
     return member ? member->enumeration : nullptr;
 }
 
@@ -44,8 +44,6 @@ private:
 
 } // namespace
 
-Browsing::Browsing(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
 HRESULT Browsing::GetDisplayString(DISPID id, BSTR* text) noexcept
 {
     if (!text)
@@ -55,7 +53,7 @@ HRESULT Browsing::GetDisplayString(DISPID id, BSTR* text) noexcept
         const auto* const enumeration = enumerationOf(shell_, id);
         if (!enumeration)
             return S_FALSE; // the host converts the value itself
-        const auto value = valueFromVariant(shell_.content().get(*findMember(shell_.content().members(), id)).get());
+        const auto value = valueFromVariant(shell_.content().get(*shell_.member(id)).get());
         for (const engine::Enumerator& member : enumeration->members)
             if (value == engine::Value(member.value)) {
                 *text = Bstr(member.name).release();
@@ -71,7 +69,7 @@ HRESULT Browsing::MapPropertyToPage(DISPID id, CLSID* page) noexcept
         return E_POINTER;
     *page = CLSID_NULL;
     return shell_.guarded([&]() -> HRESULT {
-        const Member* const member = findMember(shell_.content().members(), id);
+        const Member* const member = shell_.member(id);
         if (!member)
             return DISP_E_MEMBERNOTFOUND;
         if (!member->page)
@@ -123,15 +121,13 @@ HRESULT Browsing::GetPredefinedValue(DISPID id, DWORD cookie, VARIANT* value) no
     });
 }
 
-Categories::Categories(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
 HRESULT Categories::MapPropertyToCategory(DISPID id, int* found) noexcept
 {
     if (!found)
         return E_POINTER;
     *found = 0;
     return shell_.guarded([&]() -> HRESULT {
-        const Member* const member = findMember(shell_.content().members(), id);
+        const Member* const member = shell_.member(id);
         if (!member)
             return E_FAIL;
         *found = member->category;

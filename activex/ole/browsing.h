@@ -7,25 +7,20 @@
 
 namespace vela::activex {
 
-class Shell;
-
 class Browsing final : public Part<IPerPropertyBrowsing> {
 public:
-    explicit Browsing(Shell& shell) noexcept;
+    using Part::Part;
 
-    HRESULT STDMETHODCALLTYPE GetDisplayString(DISPID id, BSTR* text) noexcept override;
-    HRESULT STDMETHODCALLTYPE MapPropertyToPage(DISPID id, CLSID* page) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetPredefinedStrings(DISPID id, CALPOLESTR* texts, CADWORD* cookies) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetPredefinedValue(DISPID id, DWORD cookie, VARIANT* value) noexcept override;
-
-private:
-    Shell& shell_;
+    STDMETHODIMP GetDisplayString(DISPID id, BSTR* text) noexcept override;
+    STDMETHODIMP MapPropertyToPage(DISPID id, CLSID* page) noexcept override;
+    STDMETHODIMP GetPredefinedStrings(DISPID id, CALPOLESTR* texts, CADWORD* cookies) noexcept override;
+    STDMETHODIMP GetPredefinedValue(DISPID id, DWORD cookie, VARIANT* value) noexcept override;
 };
 
 // The system's headers here do not declare it.
 struct ICategorizeProperties : public IUnknown {
-    virtual HRESULT STDMETHODCALLTYPE MapPropertyToCategory(DISPID id, int* category) noexcept = 0;
-    virtual HRESULT STDMETHODCALLTYPE GetCategoryName(int category, LCID locale, BSTR* name) noexcept = 0;
+    virtual STDMETHODIMP MapPropertyToCategory(DISPID id, int* category) noexcept = 0;
+    virtual STDMETHODIMP GetCategoryName(int category, LCID locale, BSTR* name) noexcept = 0;
 };
 // {4D07FC10-F931-11CE-B001-00AA006884E5}
 inline constexpr IID categorizePropertiesId{
@@ -43,13 +38,10 @@ inline constexpr int text = -9;
 
 class Categories final : public Part<ICategorizeProperties> {
 public:
-    explicit Categories(Shell& shell) noexcept;
+    using Part::Part;
 
-    HRESULT STDMETHODCALLTYPE MapPropertyToCategory(DISPID id, int* category) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetCategoryName(int category, LCID locale, BSTR* name) noexcept override;
-
-private:
-    Shell& shell_;
+    STDMETHODIMP MapPropertyToCategory(DISPID id, int* category) noexcept override;
+    STDMETHODIMP GetCategoryName(int category, LCID locale, BSTR* name) noexcept override;
 };
 
 } // namespace vela::activex

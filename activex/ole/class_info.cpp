@@ -9,8 +9,6 @@
 
 namespace vela::activex {
 
-ClassInfo::ClassInfo(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
 HRESULT ClassInfo::GetClassInfo(ITypeInfo** info) noexcept
 {
     return info ? loadTypeInfo(shell_.facts().clsid, info) : E_POINTER;
@@ -28,8 +26,6 @@ HRESULT ClassInfo::GetGUID(DWORD kind, GUID* id) noexcept
     *id = *shell_.facts().events;
     return S_OK;
 }
-
-PageList::PageList(Shell& shell) noexcept : Part(shell), shell_(shell) {}
 
 HRESULT PageList::GetPages(CAUUID* pages) noexcept
 {

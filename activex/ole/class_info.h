@@ -7,35 +7,27 @@
 
 namespace vela::activex {
 
-class Shell;
-
 class ClassInfo final : public Part<IProvideClassInfo2> {
 public:
-    explicit ClassInfo(Shell& shell) noexcept;
+    using Part::Part;
 
-    HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** info) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetGUID(DWORD kind, GUID* id) noexcept override;
-
-private:
-    Shell& shell_;
+    STDMETHODIMP GetClassInfo(ITypeInfo** info) noexcept override;
+    STDMETHODIMP GetGUID(DWORD kind, GUID* id) noexcept override;
 };
 
 class ErrorSupport final : public Part<ISupportErrorInfo> {
 public:
-    explicit ErrorSupport(IUnknown& whole) noexcept : Part(whole) {}
+    using Part::Part;
 
     // Every interface of the control reports its errors in full.
-    HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID) noexcept override { return S_OK; }
+    STDMETHODIMP InterfaceSupportsErrorInfo(REFIID) noexcept override { return S_OK; }
 };
 
 class PageList final : public Part<ISpecifyPropertyPages> {
 public:
-    explicit PageList(Shell& shell) noexcept;
+    using Part::Part;
 
-    HRESULT STDMETHODCALLTYPE GetPages(CAUUID* pages) noexcept override;
-
-private:
-    Shell& shell_;
+    STDMETHODIMP GetPages(CAUUID* pages) noexcept override;
 };
 
 } // namespace vela::activex

@@ -2,6 +2,7 @@
 #include "activex/ole/connections.h"
 
 #include "activex/com/enumerator.h"
+#include "activex/ole/shell.h"
 
 #include <olectl.h>
 
@@ -128,9 +129,13 @@ HRESULT Sinks::EnumConnections(IEnumConnections** connections) noexcept
     if (!connections)
         return E_POINTER;
     *connections = nullptr;
-    return guarded([&] {
-        *connections = ConnectionEnumerator::make(std::make_shared<std::vector<Connection>>(sinks_)).Detach();
-    });
+    return guarded(
+        [&] { *connections = ConnectionEnumerator::make(std::make_shared<std::vector<Connection>>(sinks_)).Detach(); });
+}
+
+Connections::Connections(Shell& shell, const IID* events) noexcept
+    : Part(shell), events_(*this, events), properties_(*this, &IID_IPropertyNotifySink)
+{
 }
 
 void Connections::clear() noexcept

@@ -38,14 +38,14 @@ public:
     }
 
     // A connection point is an object of its own, kept by the whole's references.
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override;
-    ULONG STDMETHODCALLTYPE AddRef() noexcept override { return container_.AddRef(); }
-    ULONG STDMETHODCALLTYPE Release() noexcept override { return container_.Release(); }
-    HRESULT STDMETHODCALLTYPE GetConnectionInterface(IID* iid) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetConnectionPointContainer(IConnectionPointContainer** container) noexcept override;
-    HRESULT STDMETHODCALLTYPE Advise(IUnknown* sink, DWORD* cookie) noexcept override;
-    HRESULT STDMETHODCALLTYPE Unadvise(DWORD cookie) noexcept override;
-    HRESULT STDMETHODCALLTYPE EnumConnections(IEnumConnections** connections) noexcept override;
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) noexcept override;
+    STDMETHODIMP_(ULONG) AddRef() noexcept override { return container_.AddRef(); }
+    STDMETHODIMP_(ULONG) Release() noexcept override { return container_.Release(); }
+    STDMETHODIMP GetConnectionInterface(IID* iid) noexcept override;
+    STDMETHODIMP GetConnectionPointContainer(IConnectionPointContainer** container) noexcept override;
+    STDMETHODIMP Advise(IUnknown* sink, DWORD* cookie) noexcept override;
+    STDMETHODIMP Unadvise(DWORD cookie) noexcept override;
+    STDMETHODIMP EnumConnections(IEnumConnections** connections) noexcept override;
 
 private:
     // The next connection with a cookie above `told` and not above `newest`; its cookie is then stored in `told`.
@@ -59,10 +59,7 @@ private:
 
 class Connections final : public Part<IConnectionPointContainer> {
 public:
-    Connections(IUnknown& whole, const IID* events) noexcept
-        : Part(whole), events_(*this, events), properties_(*this, &IID_IPropertyNotifySink)
-    {
-    }
+    Connections(Shell& shell, const IID* events) noexcept;
 
     [[nodiscard]] Sinks& events() noexcept { return events_; }
     [[nodiscard]] Sinks& properties() noexcept { return properties_; }
@@ -74,8 +71,8 @@ public:
     void changed(DISPID property) noexcept;
     [[nodiscard]] bool mayChange(DISPID property) noexcept; // no sink refuses
 
-    HRESULT STDMETHODCALLTYPE EnumConnectionPoints(IEnumConnectionPoints** points) noexcept override;
-    HRESULT STDMETHODCALLTYPE FindConnectionPoint(REFIID iid, IConnectionPoint** point) noexcept override;
+    STDMETHODIMP EnumConnectionPoints(IEnumConnectionPoints** points) noexcept override;
+    STDMETHODIMP FindConnectionPoint(REFIID iid, IConnectionPoint** point) noexcept override;
 
 private:
     Sinks events_;

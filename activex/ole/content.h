@@ -47,6 +47,12 @@ struct ClassFacts {
     FieldSize size;                                  // of a new one, at 96 dots per inch
 };
 
+// The arrows, Home, End, Page Up and Page Down.
+[[nodiscard]] constexpr bool movesCaret(WPARAM key) noexcept
+{
+    return key >= VK_PRIOR && key <= VK_DOWN;
+}
+
 class Content {
 public:
     virtual ~Content() = default;
@@ -73,7 +79,12 @@ public:
     [[nodiscard]] virtual FieldSize size() = 0;
     virtual void resize(FieldSize size) = 0; // without a window
     virtual void takeFocus() = 0;
-    [[nodiscard]] virtual bool hasFocus() const = 0;
+    [[nodiscard]] bool hasFocus() const noexcept // a window in it counts
+    {
+        const HWND own = window();
+        const HWND focus = GetFocus();
+        return own && focus && (focus == own || IsChild(own, focus));
+    }
     [[nodiscard]] virtual bool wantsKey(const MSG& message) const = 0; // its own rather than the container's
     [[nodiscard]] virtual bool eatsReturn() const = 0;
     [[nodiscard]] virtual int dpi() = 0;

@@ -125,8 +125,6 @@ const FORMATETC* find(const FORMATETC& wanted) noexcept
 
 } // namespace
 
-DataObject::DataObject(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
 void DataObject::changed() noexcept
 {
     if (const auto advised = advised_)
@@ -149,11 +147,6 @@ HRESULT DataObject::GetData(FORMATETC* format, STGMEDIUM* medium) noexcept
     });
 }
 
-HRESULT DataObject::GetDataHere(FORMATETC*, STGMEDIUM*) noexcept
-{
-    return E_NOTIMPL;
-}
-
 HRESULT DataObject::QueryGetData(FORMATETC* format) noexcept
 {
     if (!format)
@@ -170,11 +163,6 @@ HRESULT DataObject::GetCanonicalFormatEtc(FORMATETC* from, FORMATETC* into) noex
     *into = *from;
     into->ptd = nullptr;
     return DATA_S_SAMEFORMATETC;
-}
-
-HRESULT DataObject::SetData(FORMATETC*, STGMEDIUM*, BOOL) noexcept
-{
-    return E_NOTIMPL;
 }
 
 HRESULT DataObject::EnumFormatEtc(DWORD direction, IEnumFORMATETC** list) noexcept

@@ -8,28 +8,24 @@
 
 namespace vela::activex {
 
-class Shell;
-
 // CF_METAFILEPICT, CF_ENHMETAFILE, CF_UNICODETEXT and CF_TEXT.
 class DataObject final : public Part<IDataObject> {
 public:
-    explicit DataObject(Shell& shell) noexcept;
+    using Part::Part;
 
     void changed() noexcept; // tells those who asked to be told
 
-    HRESULT STDMETHODCALLTYPE GetData(FORMATETC* format, STGMEDIUM* medium) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetDataHere(FORMATETC* format, STGMEDIUM* medium) noexcept override;
-    HRESULT STDMETHODCALLTYPE QueryGetData(FORMATETC* format) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetCanonicalFormatEtc(FORMATETC* from, FORMATETC* into) noexcept override;
-    HRESULT STDMETHODCALLTYPE SetData(FORMATETC* format, STGMEDIUM* medium, BOOL release) noexcept override;
-    HRESULT STDMETHODCALLTYPE EnumFormatEtc(DWORD direction, IEnumFORMATETC** formats) noexcept override;
-    HRESULT STDMETHODCALLTYPE DAdvise(FORMATETC* format, DWORD flags, IAdviseSink* sink,
-                                      DWORD* connection) noexcept override;
-    HRESULT STDMETHODCALLTYPE DUnadvise(DWORD connection) noexcept override;
-    HRESULT STDMETHODCALLTYPE EnumDAdvise(IEnumSTATDATA** connections) noexcept override;
+    STDMETHODIMP GetData(FORMATETC* format, STGMEDIUM* medium) noexcept override;
+    STDMETHODIMP GetDataHere(FORMATETC*, STGMEDIUM*) noexcept override { return E_NOTIMPL; }
+    STDMETHODIMP QueryGetData(FORMATETC* format) noexcept override;
+    STDMETHODIMP GetCanonicalFormatEtc(FORMATETC* from, FORMATETC* into) noexcept override;
+    STDMETHODIMP SetData(FORMATETC*, STGMEDIUM*, BOOL) noexcept override { return E_NOTIMPL; }
+    STDMETHODIMP EnumFormatEtc(DWORD direction, IEnumFORMATETC** formats) noexcept override;
+    STDMETHODIMP DAdvise(FORMATETC* format, DWORD flags, IAdviseSink* sink, DWORD* connection) noexcept override;
+    STDMETHODIMP DUnadvise(DWORD connection) noexcept override;
+    STDMETHODIMP EnumDAdvise(IEnumSTATDATA** connections) noexcept override;
 
 private:
-    Shell& shell_;
     ComPtr<IDataAdviseHolder> advised_;
 };
 

@@ -41,8 +41,6 @@ const Member* findMember(std::span<const Member> members, std::u16string_view na
     return found != members.end() ? &*found : nullptr;
 }
 
-Dispatch::Dispatch(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
 HRESULT Dispatch::GetTypeInfoCount(UINT* count) noexcept
 {
     if (!count)
@@ -96,7 +94,7 @@ HRESULT Dispatch::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parame
     const Shell::Hold hold(shell_);
     try {
         if (!last_ || last_->id != id) // loops ask for one property again and again
-            last_ = findMember(shell_.content().members(), id);
+            last_ = shell_.member(id);
         const Member* const member = last_;
         if (!member || (member->access & flags) == 0)
             return DISP_E_MEMBERNOTFOUND;

@@ -6,29 +6,25 @@
 
 namespace vela::activex {
 
-class Shell;
-
 // Null when there is none.
 [[nodiscard]] const Member* findMember(std::span<const Member> members, DISPID id) noexcept;
 [[nodiscard]] const Member* findMember(std::span<const Member> members, std::u16string_view name) noexcept; // any case
 
 class Dispatch final : public Part<IDispatch> {
 public:
-    explicit Dispatch(Shell& shell) noexcept;
+    using Part::Part;
 
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale,
-                                            DISPID* ids) noexcept override;
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* parameters,
-                                     VARIANT* result, EXCEPINFO* exception, UINT* argument) noexcept override;
+    STDMETHODIMP GetTypeInfoCount(UINT* count) noexcept override;
+    STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) noexcept override;
+    STDMETHODIMP GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) noexcept override;
+    STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+                        EXCEPINFO* exception, UINT* argument) noexcept override;
 
 private:
     HRESULT get(const Member& member, const Arguments& arguments, VARIANT* result);
     HRESULT put(const Member& member, const Arguments& arguments);
     HRESULT call(const Member& member, const Arguments& arguments, VARIANT* result);
 
-    Shell& shell_;
     const Member* last_ = nullptr; // of the table, the one invoked last
 };
 

@@ -7,28 +7,12 @@
 
 namespace vela::activex {
 
-namespace {
-
 HRESULT windowOf(Shell& shell, HWND* window) noexcept
 {
     if (!window)
         return E_POINTER;
     *window = shell.made() ? shell.made()->window() : nullptr;
     return *window ? S_OK : E_FAIL;
-}
-
-} // namespace
-
-InPlaceObject::InPlaceObject(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
-HRESULT InPlaceObject::GetWindow(HWND* window) noexcept
-{
-    return windowOf(shell_, window);
-}
-
-HRESULT InPlaceObject::ContextSensitiveHelp(BOOL) noexcept
-{
-    return E_NOTIMPL;
 }
 
 HRESULT InPlaceObject::InPlaceDeactivate() noexcept
@@ -52,23 +36,6 @@ HRESULT InPlaceObject::SetObjectRects(LPCRECT place, LPCRECT clip) noexcept
     return shell_.guarded([&] { shell_.activation().putRects(*place, clip ? *clip : *place); });
 }
 
-HRESULT InPlaceObject::ReactivateAndUndo() noexcept
-{
-    return INPLACE_E_NOTUNDOABLE;
-}
-
-ActiveObject::ActiveObject(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
-HRESULT ActiveObject::GetWindow(HWND* window) noexcept
-{
-    return windowOf(shell_, window);
-}
-
-HRESULT ActiveObject::ContextSensitiveHelp(BOOL) noexcept
-{
-    return E_NOTIMPL;
-}
-
 HRESULT ActiveObject::TranslateAccelerator(LPMSG message) noexcept
 {
     if (!message)
@@ -87,26 +54,6 @@ HRESULT ActiveObject::TranslateAccelerator(LPMSG message) noexcept
     });
     translated_ = outer;
     return result;
-}
-
-HRESULT ActiveObject::OnFrameWindowActivate(BOOL) noexcept
-{
-    return S_OK;
-}
-
-HRESULT ActiveObject::OnDocWindowActivate(BOOL) noexcept
-{
-    return S_OK;
-}
-
-HRESULT ActiveObject::ResizeBorder(LPCRECT, IOleInPlaceUIWindow*, BOOL) noexcept
-{
-    return S_OK;
-}
-
-HRESULT ActiveObject::EnableModeless(BOOL) noexcept
-{
-    return S_OK;
 }
 
 } // namespace vela::activex

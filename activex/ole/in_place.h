@@ -7,40 +7,36 @@
 
 namespace vela::activex {
 
-class Shell;
+HRESULT windowOf(Shell& shell, HWND* window) noexcept; // of the control
 
 class InPlaceObject final : public Part<IOleInPlaceObject> {
 public:
-    explicit InPlaceObject(Shell& shell) noexcept;
+    using Part::Part;
 
-    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) noexcept override;
-    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL enter) noexcept override;
-    HRESULT STDMETHODCALLTYPE InPlaceDeactivate() noexcept override;
-    HRESULT STDMETHODCALLTYPE UIDeactivate() noexcept override;
-    HRESULT STDMETHODCALLTYPE SetObjectRects(LPCRECT place, LPCRECT clip) noexcept override;
-    HRESULT STDMETHODCALLTYPE ReactivateAndUndo() noexcept override;
-
-private:
-    Shell& shell_;
+    STDMETHODIMP GetWindow(HWND* window) noexcept override { return windowOf(shell_, window); }
+    STDMETHODIMP ContextSensitiveHelp(BOOL) noexcept override { return E_NOTIMPL; }
+    STDMETHODIMP InPlaceDeactivate() noexcept override;
+    STDMETHODIMP UIDeactivate() noexcept override;
+    STDMETHODIMP SetObjectRects(LPCRECT place, LPCRECT clip) noexcept override;
+    STDMETHODIMP ReactivateAndUndo() noexcept override { return INPLACE_E_NOTUNDOABLE; }
 };
 
 class ActiveObject final : public Part<IOleInPlaceActiveObject> {
 public:
-    explicit ActiveObject(Shell& shell) noexcept;
+    using Part::Part;
 
-    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) noexcept override;
-    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL enter) noexcept override;
+    STDMETHODIMP GetWindow(HWND* window) noexcept override { return windowOf(shell_, window); }
+    STDMETHODIMP ContextSensitiveHelp(BOOL) noexcept override { return E_NOTIMPL; }
     // The host's site first; Tab stays with the container; the edit box's own keys go straight to it.
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG message) noexcept override;
-    HRESULT STDMETHODCALLTYPE OnFrameWindowActivate(BOOL active) noexcept override;
-    HRESULT STDMETHODCALLTYPE OnDocWindowActivate(BOOL active) noexcept override;
-    HRESULT STDMETHODCALLTYPE ResizeBorder(LPCRECT border, IOleInPlaceUIWindow* window, BOOL frame) noexcept override;
-    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL enable) noexcept override;
+    STDMETHODIMP TranslateAccelerator(LPMSG message) noexcept override;
+    STDMETHODIMP OnFrameWindowActivate(BOOL) noexcept override { return S_OK; }
+    STDMETHODIMP OnDocWindowActivate(BOOL) noexcept override { return S_OK; }
+    STDMETHODIMP ResizeBorder(LPCRECT, IOleInPlaceUIWindow*, BOOL) noexcept override { return S_OK; }
+    STDMETHODIMP EnableModeless(BOOL) noexcept override { return S_OK; }
 
     [[nodiscard]] WPARAM translated() const noexcept { return translated_; } // the key under way here; 0 for none
 
 private:
-    Shell& shell_;
     WPARAM translated_ = 0;
 };
 

@@ -5,8 +5,6 @@
 
 namespace vela::activex {
 
-OleControl::OleControl(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
 // A field has no access key of its own: its label's leads to it.
 HRESULT OleControl::GetControlInfo(CONTROLINFO* info) noexcept
 {

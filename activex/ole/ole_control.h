@@ -7,19 +7,14 @@
 
 namespace vela::activex {
 
-class Shell;
-
 class OleControl final : public Part<IOleControl> {
 public:
-    explicit OleControl(Shell& shell) noexcept;
+    using Part::Part;
 
-    HRESULT STDMETHODCALLTYPE GetControlInfo(CONTROLINFO* info) noexcept override;
-    HRESULT STDMETHODCALLTYPE OnMnemonic(MSG* message) noexcept override;
-    HRESULT STDMETHODCALLTYPE OnAmbientPropertyChange(DISPID id) noexcept override;
-    HRESULT STDMETHODCALLTYPE FreezeEvents(BOOL freeze) noexcept override;
-
-private:
-    Shell& shell_;
+    STDMETHODIMP GetControlInfo(CONTROLINFO* info) noexcept override;
+    STDMETHODIMP OnMnemonic(MSG* message) noexcept override;
+    STDMETHODIMP OnAmbientPropertyChange(DISPID id) noexcept override;
+    STDMETHODIMP FreezeEvents(BOOL freeze) noexcept override;
 };
 
 } // namespace vela::activex

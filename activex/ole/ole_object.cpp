@@ -34,8 +34,6 @@ using VerbEnumerator = Enumerator<IEnumOLEVERB, OLEVERB, Verb, give>;
 
 } // namespace
 
-OleObject::OleObject(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
 void OleObject::saved() noexcept
 {
     if (const auto advised = advised_)
@@ -61,11 +59,6 @@ HRESULT OleObject::GetClientSite(IOleClientSite** site) noexcept
     return S_OK;
 }
 
-HRESULT OleObject::SetHostNames(LPCOLESTR, LPCOLESTR) noexcept
-{
-    return S_OK;
-}
-
 HRESULT OleObject::Close(DWORD option) noexcept
 {
     const Shell::Hold hold(shell_);
@@ -77,11 +70,6 @@ HRESULT OleObject::Close(DWORD option) noexcept
     return S_OK;
 }
 
-HRESULT OleObject::SetMoniker(DWORD, IMoniker*) noexcept
-{
-    return E_NOTIMPL;
-}
-
 HRESULT OleObject::GetMoniker(DWORD assign, DWORD which, IMoniker** moniker) noexcept
 {
     if (!moniker)
@@ -90,11 +78,6 @@ HRESULT OleObject::GetMoniker(DWORD assign, DWORD which, IMoniker** moniker) noe
     const Shell::Hold hold(shell_);
     const auto client = ComPtr<IOleClientSite>(shell_.site().client());
     return client ? client->GetMoniker(assign, which, moniker) : E_UNEXPECTED;
-}
-
-HRESULT OleObject::InitFromData(IDataObject*, BOOL, DWORD) noexcept
-{
-    return E_NOTIMPL;
 }
 
 HRESULT OleObject::GetClipboardData(DWORD, IDataObject** data) noexcept
@@ -158,16 +141,6 @@ HRESULT OleObject::EnumVerbs(IEnumOLEVERB** list) noexcept
                 kept->push_back(verb);
         *list = VerbEnumerator::make(std::move(kept)).Detach();
     });
-}
-
-HRESULT OleObject::Update() noexcept
-{
-    return S_OK;
-}
-
-HRESULT OleObject::IsUpToDate() noexcept
-{
-    return S_OK;
 }
 
 HRESULT OleObject::GetUserClassID(CLSID* id) noexcept
@@ -234,11 +207,6 @@ HRESULT OleObject::GetMiscStatus(DWORD aspect, DWORD* status) noexcept
         return E_POINTER;
     *status = aspect == DVASPECT_CONTENT ? miscStatus : 0;
     return aspect == DVASPECT_CONTENT ? S_OK : DV_E_DVASPECT;
-}
-
-HRESULT OleObject::SetColorScheme(LOGPALETTE*) noexcept
-{
-    return E_NOTIMPL;
 }
 
 } // namespace vela::activex

@@ -9,43 +9,40 @@
 
 namespace vela::activex {
 
-class Shell;
-
 using identity::miscStatus;
 
 class OleObject final : public Part<IOleObject> {
 public:
-    explicit OleObject(Shell& shell) noexcept;
+    using Part::Part;
 
     void saved() noexcept; // tells those who asked to be told
     void closed() noexcept;
     HRESULT showProperties(HWND parent);
 
-    HRESULT STDMETHODCALLTYPE SetClientSite(IOleClientSite* site) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetClientSite(IOleClientSite** site) noexcept override;
-    HRESULT STDMETHODCALLTYPE SetHostNames(LPCOLESTR application, LPCOLESTR object) noexcept override;
-    HRESULT STDMETHODCALLTYPE Close(DWORD option) noexcept override;
-    HRESULT STDMETHODCALLTYPE SetMoniker(DWORD which, IMoniker* moniker) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetMoniker(DWORD assign, DWORD which, IMoniker** moniker) noexcept override;
-    HRESULT STDMETHODCALLTYPE InitFromData(IDataObject* data, BOOL creation, DWORD reserved) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetClipboardData(DWORD reserved, IDataObject** data) noexcept override;
-    HRESULT STDMETHODCALLTYPE DoVerb(LONG verb, LPMSG message, IOleClientSite* site, LONG index, HWND parent,
-                                     LPCRECT place) noexcept override;
-    HRESULT STDMETHODCALLTYPE EnumVerbs(IEnumOLEVERB** verbs) noexcept override;
-    HRESULT STDMETHODCALLTYPE Update() noexcept override;
-    HRESULT STDMETHODCALLTYPE IsUpToDate() noexcept override;
-    HRESULT STDMETHODCALLTYPE GetUserClassID(CLSID* id) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetUserType(DWORD form, LPOLESTR* type) noexcept override;
-    HRESULT STDMETHODCALLTYPE SetExtent(DWORD aspect, SIZEL* extent) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetExtent(DWORD aspect, SIZEL* extent) noexcept override;
-    HRESULT STDMETHODCALLTYPE Advise(IAdviseSink* sink, DWORD* connection) noexcept override;
-    HRESULT STDMETHODCALLTYPE Unadvise(DWORD connection) noexcept override;
-    HRESULT STDMETHODCALLTYPE EnumAdvise(IEnumSTATDATA** connections) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetMiscStatus(DWORD aspect, DWORD* status) noexcept override;
-    HRESULT STDMETHODCALLTYPE SetColorScheme(LOGPALETTE* palette) noexcept override;
+    STDMETHODIMP SetClientSite(IOleClientSite* site) noexcept override;
+    STDMETHODIMP GetClientSite(IOleClientSite** site) noexcept override;
+    STDMETHODIMP SetHostNames(LPCOLESTR, LPCOLESTR) noexcept override { return S_OK; }
+    STDMETHODIMP Close(DWORD option) noexcept override;
+    STDMETHODIMP SetMoniker(DWORD, IMoniker*) noexcept override { return E_NOTIMPL; }
+    STDMETHODIMP GetMoniker(DWORD assign, DWORD which, IMoniker** moniker) noexcept override;
+    STDMETHODIMP InitFromData(IDataObject*, BOOL, DWORD) noexcept override { return E_NOTIMPL; }
+    STDMETHODIMP GetClipboardData(DWORD reserved, IDataObject** data) noexcept override;
+    STDMETHODIMP DoVerb(LONG verb, LPMSG message, IOleClientSite* site, LONG index, HWND parent,
+                        LPCRECT place) noexcept override;
+    STDMETHODIMP EnumVerbs(IEnumOLEVERB** verbs) noexcept override;
+    STDMETHODIMP Update() noexcept override { return S_OK; }
+    STDMETHODIMP IsUpToDate() noexcept override { return S_OK; }
+    STDMETHODIMP GetUserClassID(CLSID* id) noexcept override;
+    STDMETHODIMP GetUserType(DWORD form, LPOLESTR* type) noexcept override;
+    STDMETHODIMP SetExtent(DWORD aspect, SIZEL* extent) noexcept override;
+    STDMETHODIMP GetExtent(DWORD aspect, SIZEL* extent) noexcept override;
+    STDMETHODIMP Advise(IAdviseSink* sink, DWORD* connection) noexcept override;
+    STDMETHODIMP Unadvise(DWORD connection) noexcept override;
+    STDMETHODIMP EnumAdvise(IEnumSTATDATA** connections) noexcept override;
+    STDMETHODIMP GetMiscStatus(DWORD aspect, DWORD* status) noexcept override;
+    STDMETHODIMP SetColorScheme(LOGPALETTE*) noexcept override { return E_NOTIMPL; }
 
 private:
-    Shell& shell_;
     ComPtr<IOleAdviseHolder> advised_;
 };
 

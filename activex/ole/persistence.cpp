@@ -14,19 +14,6 @@ namespace {
 constexpr wchar_t contents[] = L"Contents";
 constexpr std::size_t chunk = 0x10000;
 
-HRESULT giveClass(const Shell& shell, CLSID* id) noexcept
-{
-    if (!id)
-        return E_POINTER;
-    *id = shell.facts().clsid;
-    return S_OK;
-}
-
-HRESULT dirtyState(const Shell& shell) noexcept
-{
-    return shell.dirty() ? S_OK : S_FALSE;
-}
-
 // Reads to the length wanted or to the stream's end, in pieces: a length that lies costs no memory.
 HRESULT readBytes(IStream& stream, std::size_t wanted, std::string& into)
 {
@@ -82,16 +69,17 @@ HRESULT saveStream(Shell& shell, IStream& stream)
 
 } // namespace
 
-StreamPersistence::StreamPersistence(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
-HRESULT StreamPersistence::GetClassID(CLSID* id) noexcept
+HRESULT giveClass(const Shell& shell, CLSID* id) noexcept
 {
-    return giveClass(shell_, id);
+    if (!id)
+        return E_POINTER;
+    *id = shell.facts().clsid;
+    return S_OK;
 }
 
-HRESULT StreamPersistence::IsDirty() noexcept
+HRESULT dirtyState(const Shell& shell) noexcept
 {
-    return dirtyState(shell_);
+    return shell.dirty() ? S_OK : S_FALSE;
 }
 
 HRESULT StreamPersistence::Load(IStream* stream) noexcept
@@ -123,18 +111,6 @@ HRESULT StreamPersistence::GetSizeMax(ULARGE_INTEGER* size) noexcept
 HRESULT StreamPersistence::InitNew() noexcept
 {
     return shell_.guarded([&] { shell_.initNew(); });
-}
-
-StoragePersistence::StoragePersistence(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
-HRESULT StoragePersistence::GetClassID(CLSID* id) noexcept
-{
-    return giveClass(shell_, id);
-}
-
-HRESULT StoragePersistence::IsDirty() noexcept
-{
-    return dirtyState(shell_);
 }
 
 HRESULT StoragePersistence::InitNew(IStorage*) noexcept
@@ -180,18 +156,6 @@ HRESULT StoragePersistence::SaveCompleted(IStorage*) noexcept
         shell_.object().saved();
     }
     return S_OK;
-}
-
-HRESULT StoragePersistence::HandsOffStorage() noexcept
-{
-    return S_OK;
-}
-
-BagPersistence::BagPersistence(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
-HRESULT BagPersistence::GetClassID(CLSID* id) noexcept
-{
-    return giveClass(shell_, id);
 }
 
 HRESULT BagPersistence::InitNew() noexcept

@@ -7,53 +7,48 @@
 
 namespace vela::activex {
 
-class Shell;
+// What the interfaces answer alike.
+HRESULT giveClass(const Shell& shell, CLSID* id) noexcept;
+HRESULT dirtyState(const Shell& shell) noexcept;
 
 class StreamPersistence final : public Part<IPersistStreamInit> {
 public:
-    explicit StreamPersistence(Shell& shell) noexcept;
+    using Part::Part;
 
-    HRESULT STDMETHODCALLTYPE GetClassID(CLSID* id) noexcept override;
-    HRESULT STDMETHODCALLTYPE IsDirty() noexcept override;
-    HRESULT STDMETHODCALLTYPE Load(IStream* stream) noexcept override;
-    HRESULT STDMETHODCALLTYPE Save(IStream* stream, BOOL clearDirty) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetSizeMax(ULARGE_INTEGER* size) noexcept override;
-    HRESULT STDMETHODCALLTYPE InitNew() noexcept override;
-
-private:
-    Shell& shell_;
+    STDMETHODIMP GetClassID(CLSID* id) noexcept override { return giveClass(shell_, id); }
+    STDMETHODIMP IsDirty() noexcept override { return dirtyState(shell_); }
+    STDMETHODIMP Load(IStream* stream) noexcept override;
+    STDMETHODIMP Save(IStream* stream, BOOL clearDirty) noexcept override;
+    STDMETHODIMP GetSizeMax(ULARGE_INTEGER* size) noexcept override;
+    STDMETHODIMP InitNew() noexcept override;
 };
 
 // The settings stand in the storage's stream "Contents"; the storage itself is never kept.
 class StoragePersistence final : public Part<IPersistStorage> {
 public:
-    explicit StoragePersistence(Shell& shell) noexcept;
+    using Part::Part;
 
-    HRESULT STDMETHODCALLTYPE GetClassID(CLSID* id) noexcept override;
-    HRESULT STDMETHODCALLTYPE IsDirty() noexcept override;
-    HRESULT STDMETHODCALLTYPE InitNew(IStorage* storage) noexcept override;
-    HRESULT STDMETHODCALLTYPE Load(IStorage* storage) noexcept override;
-    HRESULT STDMETHODCALLTYPE Save(IStorage* storage, BOOL sameAsLoad) noexcept override;
-    HRESULT STDMETHODCALLTYPE SaveCompleted(IStorage* storage) noexcept override;
-    HRESULT STDMETHODCALLTYPE HandsOffStorage() noexcept override;
+    STDMETHODIMP GetClassID(CLSID* id) noexcept override { return giveClass(shell_, id); }
+    STDMETHODIMP IsDirty() noexcept override { return dirtyState(shell_); }
+    STDMETHODIMP InitNew(IStorage* storage) noexcept override;
+    STDMETHODIMP Load(IStorage* storage) noexcept override;
+    STDMETHODIMP Save(IStorage* storage, BOOL sameAsLoad) noexcept override;
+    STDMETHODIMP SaveCompleted(IStorage* storage) noexcept override;
+    STDMETHODIMP HandsOffStorage() noexcept override { return S_OK; }
 
 private:
-    Shell& shell_;
     bool savedHere_ = false; // what SaveCompleted() declares clean
 };
 
 class BagPersistence final : public Part<IPersistPropertyBag> {
 public:
-    explicit BagPersistence(Shell& shell) noexcept;
+    using Part::Part;
 
-    HRESULT STDMETHODCALLTYPE GetClassID(CLSID* id) noexcept override;
-    HRESULT STDMETHODCALLTYPE InitNew() noexcept override;
-    HRESULT STDMETHODCALLTYPE Load(IPropertyBag* bag, IErrorLog* log) noexcept override;
+    STDMETHODIMP GetClassID(CLSID* id) noexcept override { return giveClass(shell_, id); }
+    STDMETHODIMP InitNew() noexcept override;
+    STDMETHODIMP Load(IPropertyBag* bag, IErrorLog* log) noexcept override;
     // Values equal to their defaults are left out unless all are asked for: their absence means them.
-    HRESULT STDMETHODCALLTYPE Save(IPropertyBag* bag, BOOL clearDirty, BOOL all) noexcept override;
-
-private:
-    Shell& shell_;
+    STDMETHODIMP Save(IPropertyBag* bag, BOOL clearDirty, BOOL all) noexcept override;
 };
 
 } // namespace vela::activex

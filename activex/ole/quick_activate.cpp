@@ -17,8 +17,6 @@ DWORD connect(Sinks& sinks, IUnknown* sink) noexcept
 
 } // namespace
 
-FastActivation::FastActivation(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
 HRESULT FastActivation::QuickActivate(QACONTAINER* container, QACONTROL* control) noexcept
 {
     if (!container || !control)

@@ -7,18 +7,13 @@
 
 namespace vela::activex {
 
-class Shell;
-
 class FastActivation final : public Part<IQuickActivate> {
 public:
-    explicit FastActivation(Shell& shell) noexcept;
+    using Part::Part;
 
-    HRESULT STDMETHODCALLTYPE QuickActivate(QACONTAINER* container, QACONTROL* control) noexcept override;
-    HRESULT STDMETHODCALLTYPE SetContentExtent(LPSIZEL extent) noexcept override;
-    HRESULT STDMETHODCALLTYPE GetContentExtent(LPSIZEL extent) noexcept override;
-
-private:
-    Shell& shell_;
+    STDMETHODIMP QuickActivate(QACONTAINER* container, QACONTROL* control) noexcept override;
+    STDMETHODIMP SetContentExtent(LPSIZEL extent) noexcept override;
+    STDMETHODIMP GetContentExtent(LPSIZEL extent) noexcept override;
 };
 
 } // namespace vela::activex

@@ -191,12 +191,12 @@ void Shell::followWindow() noexcept
     });
 }
 
-void Shell::fire(DISPID event, std::span<std::int16_t* const> arguments)
+void Shell::fire(DISPID event, std::initializer_list<std::int16_t*> arguments)
 {
     if (frozen_ != 0 || ended_)
         return;
     const Hold hold(*this);
-    connections_.fire(event, arguments);
+    connections_.fire(event, {arguments.begin(), arguments.size()});
 }
 
 void Shell::propertyChanged(DISPID property) noexcept
@@ -228,6 +228,12 @@ void Shell::focusMoved(bool has) noexcept
     if (has && activation_.inPlace())
         guarded([&] { return activation_.activateInterface(false); });
     site_.focusChanged(has);
+}
+
+void Shell::windowLost() noexcept
+{
+    const Hold hold(*this);
+    activation_.deactivate();
 }
 
 void Shell::looksChanged() noexcept

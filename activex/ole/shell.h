@@ -33,9 +33,9 @@ public:
     Shell(const Shell&) = delete;
     Shell& operator=(const Shell&) = delete;
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override;
-    ULONG STDMETHODCALLTYPE AddRef() noexcept override;
-    ULONG STDMETHODCALLTYPE Release() noexcept override;
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) noexcept override;
+    STDMETHODIMP_(ULONG) AddRef() noexcept override;
+    STDMETHODIMP_(ULONG) Release() noexcept override;
 
     // Keeps the shell alive for a scope that calls the host. When the host has released it meanwhile, it is closed at
     // once; its memory is freed when the outermost call into the library ends on this thread, because routines of the
@@ -64,6 +64,7 @@ public:
     [[nodiscard]] const ClassFacts& facts() const noexcept { return facts_; }
     // Made at its first use; a new instance until a host loads it. Raises what that raises, 91 after the end.
     [[nodiscard]] Content& content();
+    [[nodiscard]] const Member* member(DISPID id) { return findMember(content().members(), id); } // null: there is none
     void initNew();
     void load(platform::PropertyBag& bag);                                  // raises; the content stays usable
     [[nodiscard]] Content* made() const noexcept { return content_.get(); } // null before its first use
@@ -87,11 +88,12 @@ public:
     void followWindow() noexcept; // the extent becomes the window's size
 
     // From the content.
-    void fire(DISPID event, std::span<std::int16_t* const> arguments = {}); // raises what a handler raised
-    void propertyChanged(DISPID property) noexcept;                         // the settings are to be saved
-    void boundChanged(DISPID property) noexcept;                            // tells bound sinks only
-    void requestEdit(const Member& member);                                 // raises 387 when a sink refuses
+    void fire(DISPID event, std::initializer_list<std::int16_t*> arguments = {}); // raises what a handler raised
+    void propertyChanged(DISPID property) noexcept;                               // the settings are to be saved
+    void boundChanged(DISPID property) noexcept;                                  // tells bound sinks only
+    void requestEdit(const Member& member);                                       // raises 387 when a sink refuses
     void focusMoved(bool has) noexcept;
+    void windowLost() noexcept;   // the host destroyed the window without a word
     void looksChanged() noexcept; // views are to be drawn again
 
 private:

@@ -54,8 +54,6 @@ private:
 
 } // namespace
 
-ViewObject::ViewObject(Shell& shell) noexcept : Part(shell), shell_(shell) {}
-
 void ViewObject::changed() noexcept
 {
     const auto sink = sink_;
@@ -92,16 +90,6 @@ HRESULT ViewObject::GetColorSet(DWORD, LONG, void*, DVTARGETDEVICE*, HDC, LOGPAL
     if (colours)
         *colours = nullptr;
     return S_FALSE;
-}
-
-HRESULT ViewObject::Freeze(DWORD, LONG, void*, DWORD*) noexcept
-{
-    return E_NOTIMPL;
-}
-
-HRESULT ViewObject::Unfreeze(DWORD) noexcept
-{
-    return E_NOTIMPL;
 }
 
 HRESULT ViewObject::SetAdvise(DWORD aspects, DWORD flags, IAdviseSink* sink) noexcept
