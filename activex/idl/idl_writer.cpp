@@ -3,6 +3,7 @@
 
 #include "activex/identities.h"
 #include "control/property_table.h"
+#include "engine/text/utf8.h"
 
 #include <span>
 #include <string_view>
@@ -15,6 +16,7 @@ using control::Access;
 using control::Browsable;
 using control::Property;
 using control::PropertyType;
+using engine::toUtf8;
 
 constexpr std::string_view head =
     R"(// Written by vela-idl from the table of members: change that, and let the tool write this again.
@@ -22,23 +24,6 @@ constexpr std::string_view head =
 import "prelude.idl";
 
 )";
-
-std::string narrow(std::u16string_view text)
-{
-    std::string bytes;
-    for (const char16_t unit : text) // the texts hold no surrogates
-        if (unit < 0x80) {
-            bytes += static_cast<char>(unit);
-        } else if (unit < 0x800) {
-            bytes += static_cast<char>(0xC0 | (unit >> 6));
-            bytes += static_cast<char>(0x80 | (unit & 0x3F));
-        } else {
-            bytes += static_cast<char>(0xE0 | (unit >> 12));
-            bytes += static_cast<char>(0x80 | ((unit >> 6) & 0x3F));
-            bytes += static_cast<char>(0x80 | (unit & 0x3F));
-        }
-    return bytes;
-}
 
 std::string quoted(std::string_view text)
 {
@@ -63,11 +48,11 @@ std::string identified(std::string_view identity, std::string_view more = {})
 
 std::string enumerationText(const engine::Enumeration& enumeration, std::string_view identity)
 {
-    const std::string name = narrow(enumeration.name);
+    const std::string name = toUtf8(enumeration.name);
     std::string text = line(1, "typedef " + identified(identity) + " enum " + name) + line(1, "{");
     for (std::size_t i = 0; i < enumeration.members.size(); ++i) {
         const engine::Enumerator& member = enumeration.members[i];
-        text += line(2, narrow(member.name) + " = " + std::to_string(member.value) +
+        text += line(2, toUtf8(member.name) + " = " + std::to_string(member.value) +
                             (i + 1 < enumeration.members.size() ? "," : ""));
     }
     return text + line(1, "} " + name + ";") + "\n";
@@ -82,7 +67,7 @@ std::string typeOf(const Property& property)
     case PropertyType::longInteger: return "long";
     case PropertyType::colour: return "OLE_COLOR";
     case PropertyType::enumeration:
-        return control::enumerationOf(property) ? narrow(control::enumerationOf(property)->name) : "long";
+        return control::enumerationOf(property) ? toUtf8(control::enumerationOf(property)->name) : "long";
     case PropertyType::text: return "BSTR";
     case PropertyType::font: return "IFontDisp*";
     case PropertyType::variant: return "VARIANT";
@@ -92,7 +77,7 @@ std::string typeOf(const Property& property)
 
 std::string helpOf(std::u16string_view text)
 {
-    return "helpstring(" + quoted(narrow(text)) + ")";
+    return "helpstring(" + quoted(toUtf8(text)) + ")";
 }
 
 // What both the get and the put of a property carry.
@@ -114,7 +99,7 @@ std::string propertyText(const Property& property)
 {
     const std::string id = "[id(" + std::to_string(property.dispid) + "), ";
     const std::string attributes = attributesOf(property) + "] ";
-    const std::string name = narrow(property.name);
+    const std::string name = toUtf8(property.name);
     const std::string type = typeOf(property);
     std::string text = line(2, id + "propget" + attributes + type + " " + name + "();");
     if (property.access() != Access::read) {
@@ -132,7 +117,7 @@ std::string velaInterfaceText()
         text += propertyText(property);
     for (const control::Method& method : control::methods())
         text += line(2, "[id(" + std::to_string(method.dispid) + "), " + helpOf(method.help) + "] void " +
-                            narrow(method.name) + "();");
+                            toUtf8(method.name) + "();");
     return text + line(1, "}") + "\n";
 }
 
@@ -144,9 +129,9 @@ std::string velaEventsText()
     for (const control::Event& event : control::events()) {
         std::string parameters;
         for (const control::EventParameter& parameter : event.parameters)
-            parameters += (parameters.empty() ? "" : ", ") + ("[in, out] short* " + narrow(parameter.name));
+            parameters += (parameters.empty() ? "" : ", ") + ("[in, out] short* " + toUtf8(parameter.name));
         text += line(2, "[id(" + std::to_string(event.dispid) + "), " + helpOf(event.help) + "] void " +
-                            narrow(event.name) + "(" + parameters + ");");
+                            toUtf8(event.name) + "(" + parameters + ");");
     }
     return text + line(1, "}") + "\n";
 }

@@ -1,7 +1,7 @@
 // Windows-1252 differs from Latin 1 in 32 places.
 #include "apps/console/ansi.h"
 
-#include "apps/console/script_line.h"
+#include "engine/text/utf8.h"
 
 namespace vela::console {
 
@@ -17,7 +17,7 @@ std::string utf8FromAnsi(std::string_view bytes)
         const auto code = static_cast<unsigned char>(byte);
         text += code >= 0x80 && code < 0xA0 ? from80[code - 0x80] : static_cast<char16_t>(code);
     }
-    return toUtf8(text);
+    return engine::toUtf8(text);
 }
 
 } // namespace vela::console

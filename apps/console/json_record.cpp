@@ -2,7 +2,7 @@
 #include "apps/console/json_record.h"
 
 #include "apps/console/ansi.h"
-#include "apps/console/script_line.h"
+#include "engine/text/utf8.h"
 
 #include <cstdio>
 
@@ -29,22 +29,12 @@ std::string jsonText(std::string_view utf8)
     return text + '"';
 }
 
-std::string readable(std::string_view bytes)
-{
-    try {
-        static_cast<void>(fromUtf8(bytes));
-        return std::string(bytes);
-    } catch (const NotACommand&) {
-        return utf8FromAnsi(bytes);
-    }
-}
-
 std::string jsonError(const engine::Error* error)
 {
     if (error == nullptr)
         return "null";
-    return "{\"number\":" + std::to_string(error->number) + ",\"source\":" + jsonText(toUtf8(error->source)) +
-           ",\"description\":" + jsonText(toUtf8(error->description)) + "}";
+    return "{\"number\":" + std::to_string(error->number) + ",\"source\":" + jsonText(engine::toUtf8(error->source)) +
+           ",\"description\":" + jsonText(engine::toUtf8(error->description)) + "}";
 }
 
 } // namespace
@@ -52,8 +42,9 @@ std::string jsonError(const engine::Error* error)
 std::string jsonRecord(long line, std::string_view command, const std::vector<std::string>& output,
                        const engine::Error* error)
 {
-    std::string record =
-        "{\"line\":" + std::to_string(line) + ",\"command\":" + jsonText(readable(command)) + ",\"output\":[";
+    std::string record = "{\"line\":" + std::to_string(line) + ",\"command\":" +
+                         jsonText(engine::fromUtf8(command) ? std::string(command) : utf8FromAnsi(command)) +
+                         ",\"output\":[";
     for (const std::string& printed : output)
         record += (&printed == output.data() ? "" : ",") + jsonText(printed);
     return record + "],\"error\":" + jsonError(error) + "}";

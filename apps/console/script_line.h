@@ -1,6 +1,8 @@
 // One line of a script: its words with their quotes and escapes read, and what makes a line not a command.
 #pragma once
 
+#include "engine/text/utf8.h"
+
 #include <span>
 #include <string>
 #include <string_view>
@@ -53,6 +55,6 @@ template <class Rows>
 void requireWords(Words words, std::size_t least, std::size_t most); // the command's own name counts
 
 [[nodiscard]] std::u16string fromUtf8(std::string_view bytes); // raises NotACommand
-[[nodiscard]] std::string toUtf8(std::u16string_view text);    // a lone surrogate as U+FFFD
+using engine::toUtf8;
 
 } // namespace vela::console

@@ -1,6 +1,9 @@
 // The prompt on Windows: the console window itself edits the line and keeps the history.
 #include "apps/console/main/prompt.h"
 
+#include "engine/text/utf8.h"
+#include "platform/win32/text.h"
+
 #include <windows.h>
 
 #include <string>
@@ -10,16 +13,6 @@ namespace vela::console {
 namespace {
 
 constexpr wchar_t endOfInput = 26; // Ctrl+Z at the start of a line
-
-std::string utf8(const std::wstring& text)
-{
-    const int length = static_cast<int>(text.size());
-    std::string bytes(text.size() * 3, '\0');
-    const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), length, bytes.data(), static_cast<int>(bytes.size()),
-                                         nullptr, nullptr);
-    bytes.resize(static_cast<std::size_t>(size));
-    return bytes;
-}
 
 void write(const wchar_t* text, DWORD length)
 {
@@ -57,7 +50,7 @@ bool Prompt::read(std::string& line)
     if (typed.front() == endOfInput)
         return false;
     typed.erase(typed.find_last_not_of(L"\r\n") + 1);
-    line = utf8(typed);
+    line = engine::toUtf8(win32::asText(typed));
     return true;
 }
 
