@@ -62,7 +62,7 @@ engine::Date cCalendar::selectedDate() const
 
 void cCalendar::pick(int cell)
 {
-    clickDay(cell);
+    pickDay(cell);
     tellPicked();
 }
 

@@ -23,9 +23,9 @@ public:
     // The selected date; 13 while the text is none.
     [[nodiscard]] engine::Date selectedDate() const;
 
-    void clickDay(int cell) { calendar_.clickDay(cell); }
-    void chooseMonth(int index) { calendar_.putMonthIndex(index); }
-    void chooseYear(int index) { calendar_.putYearIndex(index); }
+    void pickDay(int cell) { calendar_.clickDay(cell); }
+    void putMonthIndex(int index) { calendar_.putMonthIndex(index); }
+    void putYearIndex(int index) { calendar_.putYearIndex(index); }
     [[nodiscard]] const CalendarGrid& grid() const noexcept { return calendar_.grid; }
     [[nodiscard]] platform::Form& form() noexcept { return *form_; } // for the host to embed
 

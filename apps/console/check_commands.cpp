@@ -11,7 +11,6 @@ namespace {
 // Both as they print: 5 and 5.0 are one value, "5" is another.
 void runExpect(Session& session, Words words)
 {
-    requireWords(words, 4, 4);
     Field& field = session.fieldOf(words[1]);
     if (words[2].quoted)
         notACommand("a name is wanted", words[2]);
@@ -22,21 +21,13 @@ void runExpect(Session& session, Words words)
         session.failExpectation(toUtf8(field.name() + u"." + property) + " = " + wanted, found);
 }
 
-std::string named(const std::optional<engine::Error>& error)
-{
-    if (!error)
-        return "no error";
-    return "error " + std::to_string(error->number) + " " + quoted(error->source) + " " + quoted(error->description);
-}
-
 // Judges the command before it; 0 expects that it ended without an error.
 void runExpectError(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     const int number = integerOf(words[1]);
     const std::optional<engine::Error> error = session.takeError();
     if ((error ? error->number : 0) != number)
-        session.failExpectation("error " + std::to_string(number), named(error));
+        session.failExpectation("error " + std::to_string(number), error ? printed(*error) : "no error");
 }
 
 } // namespace
@@ -44,11 +35,11 @@ void runExpectError(Session& session, Words words)
 CommandTable checkCommands() noexcept
 {
     static constexpr Command commands[] = {
-        {u"expect", runExpect,
+        {u"expect", 4, 4, runExpect,
          "expect NAME PROPERTY VALUE\n"
          "  Checks that the property has the value. A failure is told with both values on standard error and makes\n"
          "  the exit status 4; the script goes on."},
-        {u"expect-error", runExpectError,
+        {u"expect-error", 2, 2, runExpectError,
          "expect-error NUMBER\n"
          "  Checks that the command before it ended with that error (0: with none), which is then an expected one,\n"
          "  with --strict too."},

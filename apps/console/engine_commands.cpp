@@ -30,20 +30,13 @@ void answer(Session& session, const std::string& printedValue)
     session.printLine("= " + printedValue);
 }
 
-Value onlyValue(Words words)
-{
-    requireWords(words, 2, 2);
-    return valueOf(words[1]);
-}
-
 std::u16string onlyText(Session& session, Words words)
 {
-    return engine::toText(onlyValue(words), localeOf(session));
+    return engine::toText(valueOf(words[1]), localeOf(session));
 }
 
 void runFormat(Session& session, Words words)
 {
-    requireWords(words, 3, 3);
     const Value value = valueOf(words[1]);
     const std::u16string& pattern = textOf(words[2]);
     answer(session, quoted(engine::format(value, pattern, localeOf(session), todayOf(session))));
@@ -51,12 +44,12 @@ void runFormat(Session& session, Words words)
 
 void runIsNumeric(Session& session, Words words)
 {
-    answer(session, printed(engine::isNumeric(onlyValue(words), localeOf(session))));
+    answer(session, printed(engine::isNumeric(valueOf(words[1]), localeOf(session))));
 }
 
 void runIsDate(Session& session, Words words)
 {
-    const Value value = onlyValue(words);
+    const Value value = valueOf(words[1]);
     const auto* const text = std::get_if<std::u16string>(&value);
     const bool date = text != nullptr ? engine::isDate(*text, localeOf(session), todayOf(session))
                                       : std::holds_alternative<engine::Date>(value);
@@ -65,12 +58,12 @@ void runIsDate(Session& session, Words words)
 
 void runToDouble(Session& session, Words words)
 {
-    answer(session, printed(Value(engine::toDouble(onlyValue(words), localeOf(session)))));
+    answer(session, printed(Value(engine::toDouble(valueOf(words[1]), localeOf(session)))));
 }
 
 void runToDate(Session& session, Words words)
 {
-    answer(session, printed(Value(engine::toDate(onlyValue(words), localeOf(session), todayOf(session)))));
+    answer(session, printed(Value(engine::toDate(valueOf(words[1]), localeOf(session), todayOf(session)))));
 }
 
 // Exactly, without the zeros at the end: {-125000} -> "-12.5".
@@ -87,7 +80,7 @@ std::string printedCurrency(engine::Currency amount)
 // Texts are read as amounts; any other value is its number's: True -> -1.
 void runToCurrency(Session& session, Words words)
 {
-    const Value value = onlyValue(words);
+    const Value value = valueOf(words[1]);
     const engine::Locale& locale = localeOf(session);
     const auto* const text = std::get_if<std::u16string>(&value);
     const auto amount = text != nullptr ? *text : engine::numberToText(engine::toDouble(value, locale), locale);
@@ -106,7 +99,6 @@ void runToText(Session& session, Words words)
 
 void runFormatNumber(Session& session, Words words)
 {
-    requireWords(words, 3, 3);
     const Value value = valueOf(words[1]);
     const int decimals = integerOf(words[2]);
     const double number = engine::toDouble(value, localeOf(session));
@@ -120,9 +112,8 @@ void runProperCase(Session& session, Words words)
     answer(session, quoted(engine::properCase(onlyText(session, words))));
 }
 
-void runWindowsVersion(Session& session, Words words)
+void runWindowsVersion(Session& session, Words)
 {
-    requireWords(words, 1, 1);
     answer(session, quoted(tooltip::VersaoWindows(session.machine().system)));
 }
 
@@ -131,37 +122,37 @@ void runWindowsVersion(Session& session, Words words)
 CommandTable engineCommands() noexcept
 {
     static constexpr Command commands[] = {
-        {u"format", runFormat,
+        {u"format", 3, 3, runFormat,
          "format VALUE \"PATTERN\"\n"
          "  Prints the value formatted with the pattern."},
-        {u"isnumeric", runIsNumeric,
+        {u"isnumeric", 2, 2, runIsNumeric,
          "isnumeric \"TEXT\"\n"
          "  Prints whether the text is a number in the locale."},
-        {u"isdate", runIsDate,
+        {u"isdate", 2, 2, runIsDate,
          "isdate \"TEXT\"\n"
          "  Prints whether the text is a date or time in the locale."},
-        {u"todouble", runToDouble,
+        {u"todouble", 2, 2, runToDouble,
          "todouble \"TEXT\"\n"
          "  Prints the number that the text is."},
-        {u"todate", runToDate,
+        {u"todate", 2, 2, runToDate,
          "todate \"TEXT\"\n"
          "  Prints the date that the text is."},
-        {u"tocurrency", runToCurrency,
+        {u"tocurrency", 2, 2, runToCurrency,
          "tocurrency \"TEXT\"\n"
          "  Prints the amount that the text is, with at most four decimals."},
-        {u"val", runVal,
+        {u"val", 2, 2, runVal,
          "val \"TEXT\"\n"
          "  Prints the number that the text begins with; a dot is its decimal symbol in every locale."},
-        {u"totext", runToText,
+        {u"totext", 2, 2, runToText,
          "totext VALUE\n"
          "  Prints the value as a text in the locale."},
-        {u"formatnumber", runFormatNumber,
+        {u"formatnumber", 3, 3, runFormatNumber,
          "formatnumber VALUE DECIMALS\n"
          "  Prints the number with so many decimals and no grouping."},
-        {u"propercase", runProperCase,
+        {u"propercase", 2, 2, runProperCase,
          "propercase \"TEXT\"\n"
          "  Prints the text as a proper name is written."},
-        {u"windowsversion", runWindowsVersion,
+        {u"windowsversion", 1, 1, runWindowsVersion,
          "windowsversion\n"
          "  Prints the name of the reported version of the system."},
     };

@@ -20,7 +20,6 @@ const std::u16string& bareOf(const Word& word)
 
 void runNew(Session& session, Words words)
 {
-    requireWords(words, 2, 3);
     if (words.size() == 3 && !words[2].is(u"design"))
         notACommand("design or nothing is wanted", words[2]);
     session.addField(session.freshName(words[1]), words.size() == 2).control.initNew();
@@ -39,7 +38,6 @@ std::pair<std::u16string, engine::Value> entryOf(const Word& word)
 
 void runLoad(Session& session, Words words)
 {
-    requireWords(words, 2, words.size());
     const std::u16string& name = session.freshName(words[1]);
     const bool design = words.size() > 2 && words[2].is(u"design");
     headless::PropertyBag bag(&session.machine().faults);
@@ -52,7 +50,6 @@ void runLoad(Session& session, Words words)
 
 void runSave(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     Field& field = session.fieldOf(words[1]);
     headless::PropertyBag bag(&session.machine().faults);
     field.control.save(bag);
@@ -62,7 +59,6 @@ void runSave(Session& session, Words words)
 
 void runReload(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     Field& field = session.fieldOf(words[1]);
     headless::PropertyBag bag(&session.machine().faults);
     field.control.save(bag);
@@ -71,19 +67,16 @@ void runReload(Session& session, Words words)
 
 void runDestroy(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     session.destroyField(session.fieldOf(words[1]));
 }
 
 void runPlain(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     session.form().addPlain(session.freshName(words[1]));
 }
 
 void runSet(Session& session, Words words)
 {
-    requireWords(words, 4, 4);
     Field& field = session.fieldOf(words[1]);
     const std::u16string& property = bareOf(words[2]);
     const engine::Value value = valueFor(property, words[3]);
@@ -92,7 +85,6 @@ void runSet(Session& session, Words words)
 
 void runGet(Session& session, Words words)
 {
-    requireWords(words, 3, 3);
     Field& field = session.fieldOf(words[1]);
     const std::u16string& property = bareOf(words[2]);
     const engine::Value value = control::getProperty(field.control, property);
@@ -101,7 +93,6 @@ void runGet(Session& session, Words words)
 
 void runCall(Session& session, Words words)
 {
-    requireWords(words, 3, 3);
     Field& field = session.fieldOf(words[1]);
     const auto method =
         std::ranges::find_if(control::methods(), [&](const control::Method& m) { return words[2].is(m.name); });
@@ -119,7 +110,6 @@ void runFail(Session& session, Words words)
         {u"put-caret", BoxOperation::putCaret},
         {u"put-colour", BoxOperation::putColour},
     };
-    requireWords(words, 5, 5);
     Field& field = session.fieldOf(words[1]);
     const auto operation =
         std::ranges::find_if(operations, [&](const auto& candidate) { return words[2].is(candidate.first); });
@@ -137,7 +127,6 @@ void requireBox(Field& field)
 
 void runShow(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     Field& field = session.fieldOf(words[1]);
     requireBox(field);
     const headless::EditBox& box = field.surface.activeBox();
@@ -157,38 +146,38 @@ void runShow(Session& session, Words words)
 CommandTable formCommands() noexcept
 {
     static constexpr Command commands[] = {
-        {u"new", runNew,
+        {u"new", 2, 3, runNew,
          "new NAME [design]\n"
          "  Makes a control with the settings of a new one, next in the tab order; in design mode where asked for."},
-        {u"load", runLoad,
+        {u"load", 2, anyNumber, runLoad,
          "load NAME [design] KEY=VALUE...\n"
          "  Makes a control from saved settings that hold just these keys."},
-        {u"save", runSave,
+        {u"save", 2, 2, runSave,
          "save NAME\n"
          "  Prints the settings that are kept, in the order in which they are written."},
-        {u"reload", runReload,
+        {u"reload", 2, 2, runReload,
          "reload NAME\n"
          "  Saves, destroys and loads the control again."},
-        {u"destroy", runDestroy,
+        {u"destroy", 2, 2, runDestroy,
          "destroy NAME\n"
          "  Ends the control."},
-        {u"plain", runPlain,
+        {u"plain", 2, 2, runPlain,
          "plain NAME\n"
          "  Puts a plain element of the host on the form, next in the tab order."},
-        {u"set", runSet,
+        {u"set", 4, 4, runSet,
          "set NAME PROPERTY VALUE\n"
          "  Puts a property. Values: True, 12, 12.5, &H00BBGGRR, \"text\", #2024-02-29#, Empty, or an enumerator's "
          "name."},
-        {u"get", runGet,
+        {u"get", 3, 3, runGet,
          "get NAME PROPERTY\n"
          "  Prints a property."},
-        {u"call", runCall,
+        {u"call", 3, 3, runCall,
          "call NAME About|DestruirToolTip|LimparMemoria\n"
          "  Calls a method."},
-        {u"fail", runFail,
+        {u"fail", 5, 5, runFail,
          "fail NAME text|put-text|put-caret|put-colour NUMBER \"DESCRIPTION\"\n"
          "  The edit box's next operation of that kind fails with that error, once."},
-        {u"show", runShow,
+        {u"show", 2, 2, runShow,
          "show NAME\n"
          "  Prints the edit box: text, caret, selection, colours, limits, state."},
     };

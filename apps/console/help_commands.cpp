@@ -4,6 +4,9 @@
 
 #include "control/property_table.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace vela::console {
 
 namespace {
@@ -23,9 +26,8 @@ void printLines(Session& session, std::string_view text)
 // How each command is written: the lines of its help that are not indented.
 void printCommands(Session& session)
 {
-    for (const CommandTable table : allCommands())
-        for (const Command& command : table)
-            printLines(session, command.help.substr(0, command.help.find("\n  ")));
+    for (const Command& command : allCommands())
+        printLines(session, command.help.substr(0, command.help.find("\n  ")));
     session.printLine("help COMMAND and help PROPERTY tell more; help properties lists the properties");
 }
 
@@ -64,7 +66,6 @@ void printProperties(Session& session)
 
 void runHelp(Session& session, Words words)
 {
-    requireWords(words, 1, 2);
     if (words.size() == 1)
         return printCommands(session);
     if (words[1].is(u"properties"))
@@ -75,9 +76,7 @@ void runHelp(Session& session, Words words)
     if (const Property* property = control::findProperty(name))
         return printProperty(session, *property);
     std::vector<std::u16string_view> known = namesOf(control::properties());
-    for (const CommandTable table : allCommands())
-        for (const Command& command : table)
-            known.push_back(command.name);
+    std::ranges::copy(namesOf(allCommands()), std::back_inserter(known));
     notACommand("no such command or property", words[1], known);
 }
 
@@ -86,7 +85,7 @@ void runHelp(Session& session, Words words)
 CommandTable helpCommands() noexcept
 {
     static constexpr Command commands[] = {
-        {u"help", runHelp,
+        {u"help", 1, 2, runHelp,
          "help [COMMAND|PROPERTY|properties]\n"
          "  Without a word, how each command is written; with one, what that command or property is."},
     };

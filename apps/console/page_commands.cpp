@@ -53,25 +53,6 @@ ControlName controlName(const Word& word)
     return control;
 }
 
-bool isInput(WidgetKind kind)
-{
-    switch (kind) {
-    case WidgetKind::comboBox:
-    case WidgetKind::dropDownList:
-    case WidgetKind::listBox:
-    case WidgetKind::checkBox:
-    case WidgetKind::optionButton:
-    case WidgetKind::textBox:
-    case WidgetKind::swatch: return true;
-    case WidgetKind::label:
-    case WidgetKind::button:
-    case WidgetKind::frame:
-    case WidgetKind::preview:
-    case WidgetKind::tabStrip: return false;
-    }
-    return false;
-}
-
 using Kinds = std::initializer_list<WidgetKind>;
 constexpr Kinds inputs = {WidgetKind::comboBox,     WidgetKind::dropDownList, WidgetKind::listBox, WidgetKind::checkBox,
                           WidgetKind::optionButton, WidgetKind::textBox,      WidgetKind::swatch};
@@ -85,6 +66,11 @@ constexpr Kinds typed = {WidgetKind::comboBox, WidgetKind::textBox};
 constexpr Kinds clickable = {WidgetKind::button, WidgetKind::checkBox, WidgetKind::optionButton};
 constexpr Kinds doubleClickable = {WidgetKind::swatch};
 
+bool isOne(WidgetKind kind, Kinds of)
+{
+    return std::ranges::find(of, kind) != of.end();
+}
+
 const WidgetRow& rowOf(const FormLayout& layout, WidgetId widget)
 {
     return layout.rows[static_cast<std::size_t>(widget.value)];
@@ -93,7 +79,7 @@ const WidgetRow& rowOf(const FormLayout& layout, WidgetId widget)
 WidgetId findControl(const FormLayout& layout, const ControlName& control, Kinds kinds)
 {
     const WidgetId widget = platform::findWidget(layout, control.name, control.index);
-    const bool fits = widget && std::ranges::find(kinds, rowOf(layout, widget).kind) != kinds.end();
+    const bool fits = widget && isOne(rowOf(layout, widget).kind, kinds);
     return fits ? widget : WidgetId{};
 }
 
@@ -156,7 +142,7 @@ void printPage(Session& session)
     const FormLayout& layout = pageDesk.page().layout();
     session.printLine("page " + toUtf8(layout.name) + " changed=" + printed(pageDesk.page().changed()));
     for (std::size_t i = 0; i < layout.rows.size(); ++i)
-        if (isInput(layout.rows[i].kind))
+        if (isOne(layout.rows[i].kind, inputs))
             printControl(session, pageDesk.pageForm(), WidgetId{static_cast<int>(i)});
 }
 
@@ -164,7 +150,7 @@ void printPage(Session& session)
 
 void openPage(Session& session, Words words)
 {
-    requireWords(words, 4, words.size() < 4 ? 4 : words.size());
+    requireWords(words, 4, anyNumber);
     const auto kind = words[2].quoted ? std::nullopt : pages::findPageKind(words[2].bare);
     if (!kind)
         notACommand("no such page", words[2], {u"ppPrincipal", u"ppGeral", u"ppErros", u"ppFonte", u"ppCalendario"});
@@ -182,21 +168,15 @@ int indexOf(const platform::ItemList& list, std::u16string_view item)
     return -1;
 }
 
-void setCombo(headless::WidgetForm& form, WidgetId widget, std::u16string_view text)
+// An item; a combo takes other texts too.
+void setText(headless::WidgetForm& form, WidgetId widget, std::u16string_view text)
 {
-    const int item = indexOf(form.items(widget), text);
-    if (item >= 0)
+    if (const int item = indexOf(form.items(widget), text); item >= 0)
         form.choose(widget, item);
-    else
+    else if (rowOf(form.layout(), widget).kind == WidgetKind::comboBox)
         form.enterText(widget, text);
-}
-
-void setList(headless::WidgetForm& form, WidgetId widget, std::u16string_view text)
-{
-    const int item = indexOf(form.items(widget), text);
-    if (item < 0)
+    else
         engine::raise(engine::error_number::invalidPropertyValue);
-    form.choose(widget, item);
 }
 
 void setLetters(headless::WidgetForm& form, WidgetId widget, std::u16string_view letters)
@@ -223,8 +203,8 @@ void setValue(Session& session, WidgetId widget, const engine::Value& value)
             form.click(widget);
         break;
     case WidgetKind::listBox: setLetters(form, widget, engine::toText(value, locale)); break;
-    case WidgetKind::dropDownList: setList(form, widget, engine::toText(value, locale)); break;
-    case WidgetKind::comboBox: setCombo(form, widget, engine::toText(value, locale)); break;
+    case WidgetKind::dropDownList:
+    case WidgetKind::comboBox: setText(form, widget, engine::toText(value, locale)); break;
     default: form.enterText(widget, engine::toText(value, locale)); break;
     }
 }
@@ -388,16 +368,15 @@ void palette(Session& session, Words words)
 
 // --- the store
 
-void store(Session& session, Words words)
+void store(Session& session, Words)
 {
-    requireWords(words, 1, 1);
     for (const headless::SettingsStore::Row& row : session.machine().settings.rows())
         session.printLine("store " + quoted(row.application) + " " + quoted(row.section) + " " + quoted(row.key) +
                           " = " + quoted(row.value));
 }
 
 constexpr std::array<Command, 3> commands{
-    {{u"page", page,
+    {{u"page", 1, anyNumber, page,
       "page\n"
       "page open PAGE NAME...\n"
       "page get|items|click|dblclick|focus CONTROL\n"
@@ -405,13 +384,13 @@ constexpr std::array<Command, 3> commands{
       "page keys CONTROL \"TEXT\"\n"
       "page apply|close\n"
       "  Opens ppPrincipal, ppGeral, ppErros, ppFonte or ppCalendario for these controls; prints it, acts in it."},
-     {u"palette", palette,
+     {u"palette", 1, anyNumber, palette,
       "palette\n"
       "palette open|ok|cancel|close\n"
       "palette focus INDEX\n"
       "palette keys CONTROL \"TEXT\"\n"
       "  Drives one colour palette."},
-     {u"store", store,
+     {u"store", 1, 1, store,
       "store\n"
       "  Prints the settings that are kept for the user: masks and profiles."}}};
 

@@ -1,15 +1,12 @@
 // Opens and closes the page and the palette of a run.
 #include "activex/page_fields.h"
 #include "apps/console/page_commands.h"
-#include "engine/error.h"
 
 namespace vela::console {
 
 control::Vela& SelectedField::alive() const
 {
-    if (field_ == nullptr)
-        engine::raise(engine::error_number::objectNotSet);
-    return field_->control;
+    return needed(field_).control;
 }
 
 int SelectedField::find(std::u16string_view name)
@@ -51,9 +48,7 @@ void PageDesk::closePage()
 
 pages::Page& PageDesk::page() const
 {
-    if (!page_)
-        engine::raise(engine::error_number::objectNotSet);
-    return *page_;
+    return needed(page_);
 }
 
 headless::WidgetForm& PageDesk::pageForm() const
@@ -69,9 +64,7 @@ void PageDesk::openPalette()
 
 pages::frmPaleta& PageDesk::palette() const
 {
-    if (!palette_)
-        engine::raise(engine::error_number::objectNotSet);
-    return *palette_;
+    return needed(palette_);
 }
 
 headless::WidgetForm& PageDesk::paletteForm() const

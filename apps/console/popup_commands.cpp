@@ -1,9 +1,8 @@
 // The commands calendar, grid and calculator.
-#include "apps/console/popup_commands.h"
-
 #include "apps/console/key_text.h"
+#include "apps/console/session.h"
 #include "apps/console/value_text.h"
-#include "engine/error.h"
+#include "popups/c_calendar.h"
 #include "popups/calculator_layout.h"
 #include "popups/calendario_sdi.h"
 #include "popups/frm_calculadora.h"
@@ -13,6 +12,17 @@
 namespace vela::console {
 
 namespace {
+
+// The free-standing calendar of a run, made by its first use.
+struct GridDesk {
+    explicit GridDesk(Session& session)
+        : calendar(session.machine().environment, session.machine().forms, session.popups().colours())
+    {
+        calendar.initNew();
+    }
+
+    popups::cCalendar calendar;
+};
 
 std::string orDots(std::u16string_view text)
 {
@@ -31,30 +41,17 @@ std::u16string_view monthText(const popups::CalendarGrid& grid)
                                  : popups::monthNames()[static_cast<std::size_t>(grid.monthIndex())];
 }
 
-// Both calendars take the same acts under names of their own.
-void clickDay(popups::CalendarioSDI& calendar, int cell)
+// "grid Março 2024 selected "15/03/2024" frame 19" and the six lines of its cells.
+void printGrid(Session& session, std::string_view heading, const popups::CalendarGrid& grid)
 {
-    calendar.pickDay(cell);
-}
-void clickDay(popups::cCalendar& calendar, int cell)
-{
-    calendar.clickDay(cell);
-}
-void chooseMonth(popups::CalendarioSDI& calendar, int index)
-{
-    calendar.putMonthIndex(index);
-}
-void chooseMonth(popups::cCalendar& calendar, int index)
-{
-    calendar.chooseMonth(index);
-}
-void chooseYear(popups::CalendarioSDI& calendar, int index)
-{
-    calendar.putYearIndex(index);
-}
-void chooseYear(popups::cCalendar& calendar, int index)
-{
-    calendar.chooseYear(index);
+    session.printLine(std::string(heading) + " " + orDots(monthText(grid)) + " " + orDots(grid.yearText()) +
+                      " selected " + quoted(grid.selectedText()) + " frame " + std::to_string(grid.frameCell()));
+    for (std::size_t row = 0; row < 6; ++row) {
+        std::string line;
+        for (std::size_t column = 0; column < 7; ++column)
+            line += (column == 0 ? "" : " ") + cellText(grid.cells()[row * 7 + column]);
+        session.printLine(line);
+    }
 }
 
 enum class Act { print, click, month, year, highlight, start };
@@ -91,9 +88,9 @@ void carryOut(Calendar& calendar, const Request& request)
 {
     switch (request.act) {
     case Act::print: return;
-    case Act::click: return clickDay(calendar, request.integer);
-    case Act::month: return chooseMonth(calendar, request.integer);
-    case Act::year: return chooseYear(calendar, request.integer);
+    case Act::click: return calendar.pickDay(request.integer);
+    case Act::month: return calendar.putMonthIndex(request.integer);
+    case Act::year: return calendar.putYearIndex(request.integer);
     case Act::highlight: calendar.IncluiDataRealcada(request.value); return;
     case Act::start: calendar.IniciaCalendario(request.value); return;
     }
@@ -107,10 +104,8 @@ void calendarCommand(Session& session, Words words)
         session.printLine("calendar closed");
     else if (request.act == Act::print)
         printGrid(session, "calendar", calendar->grid());
-    else if (calendar == nullptr)
-        engine::raise(engine::error_number::objectNotSet);
     else
-        carryOut(*calendar, request);
+        carryOut(needed(calendar), request);
 }
 
 void gridCommand(Session& session, Words words)
@@ -125,10 +120,7 @@ void gridCommand(Session& session, Words words)
 
 popups::frmCalculadora& openCalculator(Session& session)
 {
-    popups::frmCalculadora* const calculator = session.popups().calculator();
-    if (calculator == nullptr)
-        engine::raise(engine::error_number::objectNotSet);
-    return *calculator;
+    return needed(session.popups().calculator());
 }
 
 std::vector<headless::Key> calculatorKeys(const Word& word)
@@ -185,38 +177,20 @@ void calculatorCommand(Session& session, Words words)
 
 } // namespace
 
-GridDesk::GridDesk(Session& session)
-    : calendar(session.machine().environment, session.machine().forms, session.popups().colours())
-{
-    calendar.initNew();
-}
-
-void printGrid(Session& session, std::string_view heading, const popups::CalendarGrid& grid)
-{
-    session.printLine(std::string(heading) + " " + orDots(monthText(grid)) + " " + orDots(grid.yearText()) +
-                      " selected " + quoted(grid.selectedText()) + " frame " + std::to_string(grid.frameCell()));
-    for (std::size_t row = 0; row < 6; ++row) {
-        std::string line;
-        for (std::size_t column = 0; column < 7; ++column)
-            line += (column == 0 ? "" : " ") + cellText(grid.cells()[row * 7 + column]);
-        session.printLine(line);
-    }
-}
-
 CommandTable popupCommands() noexcept
 {
     static constexpr Command commands[] = {
-        {u"calendar", calendarCommand,
+        {u"calendar", 1, 3, calendarCommand,
          "calendar\n"
          "calendar click CELL|month INDEX|year INDEX\n"
          "calendar highlight VALUE|start VALUE\n"
          "  Prints the open pop-up calendar, or acts in it; cells and indexes count from 0."},
-        {u"grid", gridCommand,
+        {u"grid", 1, 3, gridCommand,
          "grid\n"
          "grid click CELL|month INDEX|year INDEX\n"
          "grid highlight VALUE|start VALUE\n"
          "  The same at one calendar that belongs to no control."},
-        {u"calculator", calculatorCommand,
+        {u"calculator", 1, 3, calculatorCommand,
          "calculator\n"
          "calculator keys \"TEXT\"\n"
          "calculator click BUTTON\n"

@@ -13,7 +13,6 @@ using headless::TraceCategory;
 
 void runLocale(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     if (words[1].is(u"pt-BR"))
         session.machine().locales.use(engine::ptBr());
     else if (words[1].is(u"en-US"))
@@ -24,7 +23,6 @@ void runLocale(Session& session, Words words)
 
 void runClock(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     const engine::Value value = valueOf(words[1]);
     const auto* const date = std::get_if<engine::Date>(&value);
     if (date == nullptr)
@@ -34,13 +32,11 @@ void runClock(Session& session, Words words)
 
 void runWindows(Session& session, Words words)
 {
-    requireWords(words, 3, 3);
     session.machine().system.reportVersion(platform::WindowsVersion{integerOf(words[1]), integerOf(words[2])});
 }
 
 void runLibrary(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     session.machine().system.loadFrom(textOf(words[1]));
 }
 
@@ -62,7 +58,6 @@ std::uint32_t categoryOf(const Word& word)
 
 void runTrace(Session& session, Words words)
 {
-    requireWords(words, 2, 9);
     std::uint32_t categories = 0;
     if (words.size() == 2 && words[1].is(u"all"))
         categories = ~0U;
@@ -74,7 +69,6 @@ void runTrace(Session& session, Words words)
 
 void runAnswer(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     static constexpr std::pair<std::u16string_view, platform::BoxAnswer> names[] = {
         {u"ok", platform::BoxAnswer::ok},
         {u"yes", platform::BoxAnswer::yes},
@@ -96,7 +90,6 @@ void runAnswer(Session& session, Words words)
 
 void runPrint(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     session.printLine(toUtf8(textOf(words[1])));
 }
 
@@ -105,26 +98,26 @@ void runPrint(Session& session, Words words)
 CommandTable runCommands() noexcept
 {
     static constexpr Command commands[] = {
-        {u"locale", runLocale,
+        {u"locale", 2, 2, runLocale,
          "locale pt-BR|en-US\n"
          "  The user's locale (at the start: pt-BR)."},
-        {u"clock", runClock,
+        {u"clock", 2, 2, runClock,
          "clock DATE\n"
          "  Stops the local clock at a date such as #2024-02-29# or #2024-02-29 14:05:33#."},
-        {u"windows", runWindows,
+        {u"windows", 3, 3, runWindows,
          "windows PLATFORM MINOR\n"
          "  The version that the system reports (at the start: 2 0)."},
-        {u"library", runLibrary,
+        {u"library", 2, 2, runLibrary,
          "library \"FOLDER\"\n"
          "  The folder that the library was loaded from: its error log stands there."},
-        {u"trace", runTrace,
+        {u"trace", 2, 9, runTrace,
          "trace CATEGORY...|all|none\n"
          "  What is printed as it happens, in place of the former categories: events changed dialogs keys log tooltip\n"
          "  focus window (at the start: dialogs keys log)."},
-        {u"answer", runAnswer,
+        {u"answer", 2, 2, runAnswer,
          "answer ok|yes|no|cancel|\"TEXT\"|COLOUR\n"
          "  Queues the answer to the next message box, input box or palette."},
-        {u"print", runPrint,
+        {u"print", 2, 2, runPrint,
          "print \"TEXT\"\n"
          "  Prints the text."},
     };

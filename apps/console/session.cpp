@@ -5,7 +5,6 @@
 #include "apps/console/value_text.h"
 
 #include <algorithm>
-#include <array>
 #include <exception>
 #include <new>
 #include <stdexcept>
@@ -16,20 +15,6 @@ namespace vela::console {
 namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
-std::string errorLine(const engine::Error& error)
-{
-    return "error " + std::to_string(error.number) + " " + quoted(error.source) + " " + quoted(error.description);
-}
-
-std::vector<std::u16string_view> commandNames()
-{
-    std::vector<std::u16string_view> names;
-    for (const CommandTable table : allCommands())
-        for (const Command& command : table)
-            names.push_back(command.name);
-    return names;
-}
 
 engine::Error outOfMemory()
 {
@@ -47,21 +32,23 @@ std::vector<std::u16string_view> elementNames(const headless::FormWindow& form)
 
 } // namespace
 
-std::span<const CommandTable> allCommands() noexcept
+CommandTable allCommands()
 {
-    static const std::array tables{formCommands(),   userCommands(),    runCommands(),
-                                   engineCommands(), tooltipCommands(), popupCommands(),
-                                   pageCommands(),   checkCommands(),   helpCommands()};
-    return tables;
+    static const std::vector<Command> all = [] {
+        std::vector<Command> rows;
+        for (const CommandTable table :
+             {formCommands(), userCommands(), runCommands(), engineCommands(), tooltipCommands(), popupCommands(),
+              pageCommands(), checkCommands(), helpCommands()})
+            rows.insert(rows.end(), table.begin(), table.end());
+        return rows;
+    }();
+    return all;
 }
 
-const Command* findCommand(std::u16string_view name) noexcept
+const Command* findCommand(std::u16string_view name)
 {
-    for (const CommandTable table : allCommands())
-        for (const Command& command : table)
-            if (command.name == name)
-                return &command;
-    return nullptr;
+    const auto found = std::ranges::find(allCommands(), name, &Command::name);
+    return found != allCommands().end() ? &*found : nullptr;
 }
 
 Field::Field(headless::FormWindow& form, headless::Machine& machine, popups::Popups& popups, std::u16string name,
@@ -134,7 +121,7 @@ void Session::report(const engine::Error& error)
     errorLine_ = line_;
     errorWord_ = word_;
     if (!options_.json)
-        printLine(errorLine(error));
+        printLine(printed(error));
 }
 
 std::optional<engine::Error> Session::takeError()
@@ -145,7 +132,7 @@ std::optional<engine::Error> Session::takeError()
 void Session::stopAtError()
 {
     stopped_ = true;
-    errors_(where(errorLine_) + ": " + errorWord_ + ": " + errorLine(*error_) + "\n");
+    errors_(where(errorLine_) + ": " + errorWord_ + ": " + printed(*error_) + "\n");
 }
 
 void Session::finish()
@@ -244,7 +231,8 @@ void Session::runWords(Words words)
 {
     const Command* const command = words[0].quoted ? nullptr : findCommand(words[0].bare);
     if (command == nullptr)
-        notACommand("no such command", words[0], commandNames());
+        notACommand("no such command", words[0], namesOf(allCommands()));
+    requireWords(words, command->least, command->most);
     command->run(*this, words);
 }
 

@@ -22,6 +22,15 @@
 
 namespace vela::console {
 
+// What a pointer points to; raises 91 for none.
+template <class Pointer>
+[[nodiscard]] auto& needed(const Pointer& pointer)
+{
+    if (!pointer)
+        engine::raise(engine::error_number::objectNotSet);
+    return *pointer;
+}
+
 // A control on the form with all that belongs to it.
 class Field {
 public:

@@ -28,12 +28,7 @@ public:
         auto fresh = std::make_unique<CBalloonToolTip>(std::make_unique<headless::TooltipWindow>(form_, nullptr));
         tip_.swap(fresh);
     }
-    [[nodiscard]] CBalloonToolTip& tip() const
-    {
-        if (!tip_)
-            engine::raise(engine::error_number::objectNotSet);
-        return *tip_;
-    }
+    [[nodiscard]] CBalloonToolTip& tip() const { return needed(tip_); }
     [[nodiscard]] platform::WindowId parent() const noexcept { return parent_; }
 
 private:
@@ -89,7 +84,6 @@ void createTip(Session& session, Words words)
 
 void runTip(Session& session, Words words)
 {
-    requireWords(words, 2, 4);
     const Word& act = words[1];
     if (act.is(u"set"))
         return setTip(session, words);
@@ -113,7 +107,7 @@ void runTip(Session& session, Words words)
 
 CommandTable tooltipCommands() noexcept
 {
-    static constexpr Command commands[] = {{u"tip", runTip,
+    static constexpr Command commands[] = {{u"tip", 2, 4, runTip,
                                             "tip new|create|destroy\n"
                                             "tip set PROPERTY VALUE\n"
                                             "tip get PROPERTY\n"

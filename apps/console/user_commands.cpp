@@ -8,7 +8,6 @@ namespace {
 
 void runFocus(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     if (words[1].is(u"none"))
         session.form().focusNone();
     else
@@ -25,14 +24,12 @@ void press(headless::FormWindow& form, headless::Key key)
 
 void runKeys(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     for (const headless::Key key : keysOf(textOf(words[1]), allKeyNames()))
         press(session.form(), key);
 }
 
 void runCaret(Session& session, Words words)
 {
-    requireWords(words, 2, 3);
     const int start = integerOf(words[1]);
     const int length = words.size() == 3 ? integerOf(words[2]) : 0;
     if (start < 0 || length < 0)
@@ -42,53 +39,45 @@ void runCaret(Session& session, Words words)
 
 void runPaste(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     session.form().pasteIntoBox(textOf(words[1]));
 }
 
 void runPasteByRules(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     session.form().paste(textOf(words[1]));
 }
 
 void runClick(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     session.form().click(session.elementOf(words[1]));
 }
 
 void runDoubleClick(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     session.form().doubleClick(session.elementOf(words[1]));
 }
 
 void runMouse(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     if (words[1].is(u"none"))
         session.form().pointAway();
     else
         session.form().pointTo(session.elementOf(words[1]));
 }
 
-void runTick(Session& session, Words words)
+void runTick(Session& session, Words)
 {
-    requireWords(words, 1, 1);
     session.form().tick();
     session.machine().forms.tick();
 }
 
 void runButton(Session& session, Words words)
 {
-    requireWords(words, 2, 2);
     session.fieldOf(words[1]).surface.clickButton();
 }
 
-void runOtherWindow(Session& session, Words words)
+void runOtherWindow(Session& session, Words)
 {
-    requireWords(words, 1, 1);
     session.popups().closeAll();
     session.machine().desktop.activate(nullptr);
 }
@@ -98,39 +87,39 @@ void runOtherWindow(Session& session, Words words)
 CommandTable userCommands() noexcept
 {
     static constexpr Command commands[] = {
-        {u"focus", runFocus,
+        {u"focus", 2, 2, runFocus,
          "focus NAME|none\n"
          "  Moves the focus to a control, a plain element or another window."},
-        {u"keys", runKeys,
+        {u"keys", 2, 2, runKeys,
          "keys \"TEXT\"\n"
          "  Types at the focused control: characters, {TAB} +{TAB} {ENTER} {BACKSPACE} {DELETE} {LEFT} {RIGHT} {UP} "
          "{DOWN}\n"
          "  {HOME} {END} {ESC} {F2}, with Control {^Z} {^Y} {^X} {^C} {^V}; {+} {{} {}} stand for themselves."},
-        {u"caret", runCaret,
+        {u"caret", 2, 3, runCaret,
          "caret START [LENGTH]\n"
          "  Places the caret, or selects, in the focused control; 0 is before the first character."},
-        {u"paste", runPaste,
+        {u"paste", 2, 2, runPaste,
          "paste \"TEXT\"\n"
          "  Pastes into the edit box as a plain text box would: whole, cut to fit, without the field's rules."},
-        {u"paste-rules", runPasteByRules,
+        {u"paste-rules", 2, 2, runPasteByRules,
          "paste-rules \"TEXT\"\n"
          "  Pastes as a person does: each character by the field's rules for typing."},
-        {u"click", runClick,
+        {u"click", 2, 2, runClick,
          "click NAME\n"
          "  Clicks at the text's end; gives the focus first."},
-        {u"dblclick", runDoubleClick,
+        {u"dblclick", 2, 2, runDoubleClick,
          "dblclick NAME\n"
          "  Double-clicks at the text's end; gives the focus first."},
-        {u"mouse", runMouse,
+        {u"mouse", 2, 2, runMouse,
          "mouse NAME|none\n"
          "  Moves the pointer over a control, or away from all."},
-        {u"tick", runTick,
+        {u"tick", 1, 1, runTick,
          "tick\n"
          "  One tick of every enabled timer."},
-        {u"button", runButton,
+        {u"button", 2, 2, runButton,
          "button NAME\n"
          "  Clicks the button that opens the calendar or the calculator; gives the focus first."},
-        {u"other-window", runOtherWindow,
+        {u"other-window", 1, 1, runOtherWindow,
          "other-window\n"
          "  Another top-level window becomes active."},
     };

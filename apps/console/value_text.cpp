@@ -238,6 +238,11 @@ std::string printed(bool value)
     return value ? "True" : "False";
 }
 
+std::string printed(const engine::Error& error)
+{
+    return "error " + std::to_string(error.number) + " " + quoted(error.source) + " " + quoted(error.description);
+}
+
 // A lone surrogate has no UTF-8: it is escaped, so that the text reads back as it was.
 std::string quoted(std::u16string_view text)
 {

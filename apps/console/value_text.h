@@ -2,6 +2,7 @@
 #pragma once
 
 #include "apps/console/script_line.h"
+#include "engine/error.h"
 #include "engine/field/property_types.h"
 #include "engine/value.h"
 
@@ -21,7 +22,8 @@ namespace vela::console {
 [[nodiscard]] std::string printed(const engine::Value& value);
 [[nodiscard]] std::string printed(engine::Colour colour);
 [[nodiscard]] std::string printed(bool value);
-[[nodiscard]] std::string quoted(std::u16string_view text); // in quotes, with escapes
+[[nodiscard]] std::string printed(const engine::Error& error); // error 13 "Vela" "Type mismatch"
+[[nodiscard]] std::string quoted(std::u16string_view text);    // in quotes, with escapes
 
 // As commands write and print what belongs to a property: by its enumerators and colours, where it has them.
 [[nodiscard]] engine::Value valueFor(std::u16string_view property, const Word& word);

@@ -326,9 +326,9 @@ TEST(CCalendar, KeepsItsSelectedDate)
         calendar.save(saved);
         ASSERT_EQ(saved.entries().size(), 1U);
         EXPECT_EQ(saved.entries()[0].second, engine::Value(std::u16string(row.selected))) << row.name;
-        calendar.chooseYear(74);
-        calendar.chooseMonth(1);
-        calendar.clickDay(4);
+        calendar.putYearIndex(74);
+        calendar.putMonthIndex(1);
+        calendar.pickDay(4);
         EXPECT_EQ(calendar.selectedDate(), engine::makeDate({2024, 2, 1})) << row.name;
     }
 }
