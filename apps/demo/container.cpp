@@ -7,11 +7,6 @@ namespace vela::demo {
 
 namespace {
 
-constexpr DISPID ambientDisplayName = -702;
-constexpr DISPID ambientFont = -703;
-constexpr DISPID ambientLocale = -705;
-constexpr DISPID ambientUserMode = -709;
-
 int screenDpi()
 {
     HDC screen = GetDC(nullptr);
@@ -42,25 +37,10 @@ HRESULT ambientFontObject(IDispatch** font)
 
 } // namespace
 
-HRESULT FormFrame::QueryInterface(REFIID id, void** object)
+void* FormFrame::find(REFIID wanted) noexcept
 {
-    if (!object)
-        return E_POINTER;
-    const bool known =
-        id == IID_IUnknown || id == IID_IOleWindow || id == IID_IOleInPlaceUIWindow || id == IID_IOleInPlaceFrame;
-    *object = known ? static_cast<IOleInPlaceFrame*>(this) : nullptr;
-    if (!known)
-        return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-}
-
-ULONG FormFrame::Release()
-{
-    const ULONG left = --references_;
-    if (left == 0)
-        delete this;
-    return left;
+    const bool base = wanted == IID_IOleWindow || wanted == IID_IOleInPlaceUIWindow;
+    return CountedObject::find(base ? IID_IOleInPlaceFrame : wanted);
 }
 
 HRESULT FormFrame::GetWindow(HWND* window)
@@ -114,46 +94,36 @@ HRESULT ControlSite::open(const wchar_t* progId, RECT place, Settings settings, 
         return sited;
     if (const HRESULT loaded = loadSettings(settings); FAILED(loaded))
         return loaded;
-    control_.As(&object_);
+    object_ = as<IDispatch>();
     if (handler)
         connectEvents(std::move(handler));
     SIZEL extent = toHimetric(place_);
     control_->SetExtent(DVASPECT_CONTENT, &extent);
-    return control_->DoVerb(OLEIVERB_INPLACEACTIVATE, nullptr, this, 0, form_, &place_);
+    return activateBy(OLEIVERB_INPLACEACTIVATE);
 }
 
 HRESULT ControlSite::loadSettings(Settings settings)
 {
-    ComPtr<IPersistPropertyBag> persisted;
-    if (settings.size() != 0 && SUCCEEDED(control_.As(&persisted))) {
-        ComPtr<SettingsBag> bag;
-        bag.Attach(new SettingsBag(settings));
-        return persisted->Load(bag.Get(), nullptr);
-    }
-    ComPtr<IPersistStreamInit> fresh;
-    return SUCCEEDED(control_.As(&fresh)) ? fresh->InitNew() : S_OK;
+    if (const auto persisted = as<IPersistPropertyBag>(); persisted && !settings.empty())
+        return persisted->Load(make<SettingsBag>(settings).Get(), nullptr);
+    const auto fresh = as<IPersistStreamInit>();
+    return fresh ? fresh->InitNew() : S_OK;
 }
 
 void ControlSite::connectEvents(EventHandler handler)
 {
     IID id{};
-    ComPtr<IConnectionPointContainer> points;
-    const ComPtr<ITypeInfo> events = sourceTypeInfo(control_.Get(), id);
-    if (!events || FAILED(control_.As(&points)) || FAILED(points->FindConnectionPoint(id, &eventSource_)))
-        return;
-    ComPtr<EventSink> sink;
-    sink.Attach(new EventSink(events.Get(), id, std::move(handler)));
-    eventSource_->Advise(sink.Get(), &eventCookie_);
+    if (const ComPtr<ITypeInfo> events = sourceTypeInfo(control_.Get(), id))
+        events_.open(control_.Get(), id, make<EventSink>(events.Get(), id, std::move(handler)).Get());
 }
 
 void ControlSite::close()
 {
-    if (eventSource_ && eventCookie_ != 0)
-        eventSource_->Unadvise(eventCookie_);
-    eventSource_.Reset();
-    if (control_) {
-        control_->Close(OLECLOSE_NOSAVE);
-        control_->SetClientSite(nullptr);
+    const ComPtr<ControlSite> alive(this);
+    events_.close();
+    if (const auto control = control_) {
+        control->Close(OLECLOSE_NOSAVE);
+        control->SetClientSite(nullptr);
     }
     object_.Reset();
     control_.Reset();
@@ -161,9 +131,8 @@ void ControlSite::close()
 
 HWND ControlSite::window() const
 {
-    ComPtr<IOleInPlaceObject> inPlace;
     HWND window = nullptr;
-    if (control_ && SUCCEEDED(control_.As(&inPlace)))
+    if (const auto inPlace = as<IOleInPlaceObject>())
         inPlace->GetWindow(&window);
     return window;
 }
@@ -171,36 +140,12 @@ HWND ControlSite::window() const
 void ControlSite::takeFocus()
 {
     if (control_)
-        control_->DoVerb(OLEIVERB_UIACTIVATE, nullptr, this, 0, form_, &place_);
+        activateBy(OLEIVERB_UIACTIVATE);
 }
 
-HRESULT ControlSite::QueryInterface(REFIID id, void** object)
+void* ControlSite::find(REFIID wanted) noexcept
 {
-    if (!object)
-        return E_POINTER;
-    *object = nullptr;
-    if (id == IID_IUnknown || id == IID_IOleClientSite)
-        *object = static_cast<IOleClientSite*>(this);
-    else if (id == IID_IOleWindow || id == IID_IOleInPlaceSite)
-        *object = static_cast<IOleInPlaceSite*>(this);
-    else if (id == IID_IOleControlSite)
-        *object = static_cast<IOleControlSite*>(this);
-    else if (id == IID_IDispatch)
-        *object = static_cast<IDispatch*>(this);
-    else if (id == IID_IPropertyNotifySink)
-        *object = static_cast<IPropertyNotifySink*>(this);
-    if (!*object)
-        return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-}
-
-ULONG ControlSite::Release()
-{
-    const ULONG left = --references_;
-    if (left == 0)
-        delete this;
-    return left;
+    return NumberedObject::find(wanted == IID_IOleWindow ? IID_IOleInPlaceSite : wanted);
 }
 
 HRESULT ControlSite::GetContainer(IOleContainer** container)
@@ -241,10 +186,8 @@ HRESULT ControlSite::OnPosRectChange(LPCRECT place)
     if (!place)
         return E_POINTER;
     place_ = *place;
-    ComPtr<IOleInPlaceObject> inPlace;
-    if (control_ && SUCCEEDED(control_.As(&inPlace)))
-        return inPlace->SetObjectRects(&place_, &place_);
-    return E_UNEXPECTED;
+    const auto inPlace = as<IOleInPlaceObject>();
+    return inPlace ? inPlace->SetObjectRects(&place_, &place_) : E_UNEXPECTED;
 }
 
 // Tab and Shift+Tab go to the form's own order; everything else is the control's.
@@ -258,30 +201,22 @@ HRESULT ControlSite::TranslateAccelerator(LPMSG message, DWORD)
     return S_OK;
 }
 
-HRESULT ControlSite::GetTypeInfoCount(UINT* count)
-{
-    if (!count)
-        return E_POINTER;
-    *count = 0;
-    return S_OK;
-}
-
 HRESULT ControlSite::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*)
 {
     if (!result)
         return E_POINTER;
     VariantInit(result);
     switch (id) {
-    case ambientDisplayName:
+    case DISPID_AMBIENT_DISPLAYNAME:
         result->vt = VT_BSTR;
         result->bstrVal = SysAllocString(name_.c_str());
         return S_OK;
-    case ambientFont: result->vt = VT_DISPATCH; return frame_->font(&result->pdispVal);
-    case ambientLocale:
+    case DISPID_AMBIENT_FONT: result->vt = VT_DISPATCH; return frame_->font(&result->pdispVal);
+    case DISPID_AMBIENT_LOCALEID:
         result->vt = VT_I4;
         result->lVal = static_cast<LONG>(GetUserDefaultLCID());
         return S_OK;
-    case ambientUserMode:
+    case DISPID_AMBIENT_USERMODE:
         result->vt = VT_BOOL;
         result->boolVal = VARIANT_TRUE;
         return S_OK;

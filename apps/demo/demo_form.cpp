@@ -2,6 +2,8 @@
 #include "apps/demo/demo_form.h"
 
 #include "apps/demo/property_frame.h"
+#include "engine/text/utf8.h"
+#include "platform/win32/text.h"
 
 #include <cstdio>
 #include <utility>
@@ -18,13 +20,10 @@ constexpr int valuesTop = 470;
 
 enum CommandId { valuesCommand = 100, propertiesCommand, closeCommand, valuesBox, statusBox };
 
-std::string utf8(const std::wstring& text)
+// Its own property frame never applies what was changed.
+bool underWine()
 {
-    const int size =
-        WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), nullptr, 0, nullptr, nullptr);
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), bytes.data(), size, nullptr, nullptr);
-    return bytes;
+    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
 }
 
 } // namespace
@@ -58,7 +57,7 @@ std::wstring DemoForm::open(HINSTANCE instance)
                               size.right - size.left, size.bottom - size.top, nullptr, nullptr, instance, this);
     if (!window_)
         return L"A janela não pôde ser criada.";
-    frame_.Attach(new FormFrame(window_));
+    frame_ = make<FormFrame>(window_);
     layOut();
     std::wstring failure = openFields();
     ShowWindow(window_, SW_SHOW);
@@ -102,8 +101,7 @@ std::wstring DemoForm::openFields()
         HWND told = makeChild(L"STATIC", L"", SS_NOPREFIX | (row.lines == 1 ? SS_CENTERIMAGE | SS_ENDELLIPSIS : 0),
                               {left + fieldWidth + valueGap, y, left + columnWidth, y + height}, -1);
         y += height + rowGap;
-        Field field{&row, {}, place, told};
-        field.site.Attach(new ControlSite(*frame_.Get(), window_, row.name));
+        Field field{&row, make<ControlSite>(*frame_.Get(), window_, row.name), place, told};
         const std::size_t index = fields_.size();
         const HRESULT opened =
             field.site->open(L"Vela.Vela", place, row.settings, [this, index](const std::wstring& event) {
@@ -180,7 +178,7 @@ void DemoForm::showValues()
         showValue(field);
     }
     SetWindowTextW(values_, all.c_str());
-    const std::string bytes = utf8(all);
+    const std::string bytes = engine::toUtf8(win32::asText(all));
     DWORD written = 0;
     WriteFile(GetStdHandle(STD_OUTPUT_HANDLE), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
 }
@@ -197,7 +195,11 @@ void DemoForm::showProperties(std::size_t field)
 {
     if (field >= fields_.size())
         return;
-    IUnknown* selected = fields_[field].site->unknown();
+    if (!underWine()) {
+        fields_[field].site->showProperties();
+        return;
+    }
+    IUnknown* selected = fields_[field].site->control();
     PropertyFrame frame(instance_, window_);
     if (frame.open({&selected, 1}, fields_[field].row->name))
         frame.runModal();

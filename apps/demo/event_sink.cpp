@@ -33,33 +33,6 @@ EventSink::EventSink(ITypeInfo* events, IID id, EventHandler handler)
 {
 }
 
-HRESULT EventSink::QueryInterface(REFIID id, void** object)
-{
-    if (!object)
-        return E_POINTER;
-    *object = id == IID_IUnknown || id == IID_IDispatch || id == id_ ? static_cast<IDispatch*>(this) : nullptr;
-    if (!*object)
-        return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-}
-
-ULONG EventSink::Release()
-{
-    const ULONG left = --references_;
-    if (left == 0)
-        delete this;
-    return left;
-}
-
-HRESULT EventSink::GetTypeInfoCount(UINT* count)
-{
-    if (!count)
-        return E_POINTER;
-    *count = 0;
-    return S_OK;
-}
-
 HRESULT EventSink::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*)
 {
     auto name = names_.find(id);

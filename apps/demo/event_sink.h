@@ -7,25 +7,19 @@
 
 namespace vela::demo {
 
-class EventSink final : public IDispatch {
+class EventSink final : public NumberedObject<IDispatch> {
 public:
     // `events` describes the control's event interface; `id` is its interface id.
     EventSink(ITypeInfo* events, IID id, EventHandler handler);
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override;
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override;
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override
-    {
-        return DISP_E_UNKNOWNNAME;
-    }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override;
+    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override;
 
 private:
-    ~EventSink() = default;
-    ULONG references_ = 1;
+    [[nodiscard]] void* find(REFIID wanted) noexcept override
+    {
+        return NumberedObject::find(wanted == id_ ? IID_IDispatch : wanted);
+    }
+
     ComPtr<ITypeInfo> events_;
     IID id_;
     EventHandler handler_;

@@ -1,10 +1,12 @@
-// Small owners for the demonstration form: strings, variants and dispatch calls by name.
+// Small helpers of an OLE host: variants, sinks, and dispatch calls by name.
 #pragma once
+
+#include "platform/win32/com_object.h"
 
 #include <windows.h>
 
+#include <ocidl.h>
 #include <oleauto.h>
-#include <wrl/client.h>
 
 #include <string>
 #include <string_view>
@@ -12,7 +14,51 @@
 
 namespace vela::demo {
 
-using Microsoft::WRL::ComPtr;
+using win32::ComPtr;
+using win32::CountedObject;
+using win32::make;
+using win32::query;
+
+// Called by number only: without names and type information.
+template <class... Interfaces>
+class NumberedObject : public CountedObject<Interfaces...> {
+public:
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override
+    {
+        if (!count)
+            return E_POINTER;
+        *count = 0;
+        return S_OK;
+    }
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return DISP_E_UNKNOWNNAME; }
+};
+
+// A sink at one of an object's connection points, while this lives.
+class Connection {
+public:
+    Connection() = default;
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    ~Connection() { close(); }
+
+    bool open(IUnknown* source, REFIID events, IUnknown* sink)
+    {
+        const auto container = query<IConnectionPointContainer>(source);
+        return container && SUCCEEDED(container->FindConnectionPoint(events, &point_)) &&
+               SUCCEEDED(point_->Advise(sink, &cookie_));
+    }
+    HRESULT close()
+    {
+        const auto point = std::exchange(point_, {});
+        return point ? point->Unadvise(cookie_) : S_FALSE;
+    }
+    void forget() { point_.Reset(); } // as hosts do that release a source without a word
+
+private:
+    ComPtr<IConnectionPoint> point_;
+    DWORD cookie_ = 0;
+};
 
 // A VARIANT that clears itself.
 class OleValue {

@@ -15,53 +15,33 @@ constexpr wchar_t windowClassName[] = L"VelaPropertyFrame";
 constexpr int edge = 8, tabHeight = 24, buttonWidth = 84, buttonHeight = 26;
 enum ButtonId { applyId = 101, tabsId = 102 };
 
-class PageSite final : public IPropertyPageSite {
+class PageSite final : public CountedObject<IPropertyPageSite> {
 public:
     explicit PageSite(PropertyFrame* frame) : frame_(frame) {}
     void forget() noexcept { frame_ = nullptr; }
 
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override
-    {
-        if (!object)
-            return E_POINTER;
-        *object = id == IID_IUnknown || id == IID_IPropertyPageSite ? this : nullptr;
-        if (!*object)
-            return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-    ULONG STDMETHODCALLTYPE Release() override
-    {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
-    }
-    HRESULT STDMETHODCALLTYPE OnStatusChange(DWORD flags) override
+    STDMETHODIMP OnStatusChange(DWORD flags) override
     {
         if (frame_)
             frame_->pageStatusChanged(flags);
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE GetLocaleID(LCID* locale) override
+    STDMETHODIMP GetLocaleID(LCID* locale) override
     {
         if (!locale)
             return E_POINTER;
         *locale = GetUserDefaultLCID();
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE GetPageContainer(IUnknown** container) override
+    STDMETHODIMP GetPageContainer(IUnknown** container) override
     {
         if (container)
             *container = nullptr;
         return E_NOTIMPL;
     }
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG*) override { return S_FALSE; }
+    STDMETHODIMP TranslateAccelerator(MSG*) override { return S_FALSE; }
 
 private:
-    ~PageSite() = default;
-    ULONG references_ = 1;
     PropertyFrame* frame_;
 };
 
@@ -70,9 +50,8 @@ private:
 // One page of the frame, with its site; shown at most once at a time.
 class PageSlot {
 public:
-    PageSlot(ComPtr<IPropertyPage> page, PropertyFrame& frame) : page_(std::move(page))
+    PageSlot(ComPtr<IPropertyPage> page, PropertyFrame& frame) : page_(std::move(page)), site_(make<PageSite>(&frame))
     {
-        site_.Attach(new PageSite(&frame));
         page_->SetPageSite(site_.Get());
         PROPPAGEINFO info{};
         info.cb = sizeof info;
@@ -89,7 +68,7 @@ public:
     PageSlot& operator=(const PageSlot&) = delete;
     ~PageSlot()
     {
-        static_cast<PageSite*>(site_.Get())->forget();
+        site_->forget();
         if (active_)
             page_->Deactivate();
         page_->SetObjects(0, nullptr);
@@ -114,7 +93,7 @@ public:
 
 private:
     ComPtr<IPropertyPage> page_;
-    ComPtr<IPropertyPageSite> site_;
+    ComPtr<PageSite> site_;
     std::wstring title_;
     SIZE size_{};
     bool active_ = false;

@@ -1,4 +1,5 @@
-// A property frame of our own: tabs, OK, Cancel and Apply around the pages that the selected objects name.
+// A property frame for where the system's never applies what was changed: tabs, OK, Cancel and Apply around the pages
+// that the selected objects name.
 #pragma once
 
 #include "apps/demo/ole.h"

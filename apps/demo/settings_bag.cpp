@@ -9,25 +9,6 @@ SettingsBag::SettingsBag(Settings settings)
         values_.emplace(setting.key, setting.value);
 }
 
-HRESULT SettingsBag::QueryInterface(REFIID id, void** object)
-{
-    if (!object)
-        return E_POINTER;
-    *object = id == IID_IUnknown || id == IID_IPropertyBag ? static_cast<IPropertyBag*>(this) : nullptr;
-    if (!*object)
-        return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-}
-
-ULONG SettingsBag::Release()
-{
-    const ULONG left = --references_;
-    if (left == 0)
-        delete this;
-    return left;
-}
-
 HRESULT SettingsBag::Read(LPCOLESTR key, VARIANT* value, IErrorLog*)
 {
     if (!key || !value)

@@ -14,6 +14,7 @@ namespace {
 using vela::demo::ComPtr;
 using vela::demo::ControlSite;
 using vela::demo::FormFrame;
+using vela::demo::make;
 using vela::demo::OleValue;
 using vela::demo::Setting;
 using vela::test::Usage;
@@ -82,7 +83,7 @@ public:
     {
         window_ = CreateWindowExW(WS_EX_CONTROLPARENT, L"#32770", L"bench", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 800,
                                   600, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
-        frame_.Attach(new FormFrame(window_));
+        frame_ = make<FormFrame>(window_);
     }
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
@@ -95,8 +96,7 @@ public:
     [[nodiscard]] HWND window() const { return window_; }
     ComPtr<ControlSite> field(std::vector<Setting> settings, int top = 10)
     {
-        ComPtr<ControlSite> site;
-        site.Attach(new ControlSite(*frame_.Get(), window_, L"field"));
+        ComPtr<ControlSite> site = make<ControlSite>(*frame_.Get(), window_, L"field");
         if (FAILED(site->open(L"Vela.Vela", RECT{10, top, 210, top + 23}, settings)))
             std::printf("a field could not be created\n");
         return site;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "activex/com/owners.h"
+#include "apps/demo/ole.h"
 
 #include <ocidl.h>
 
@@ -14,6 +15,7 @@ namespace vela::test {
 using activex::asText;
 using activex::Bstr;
 using activex::Variant;
+using demo::Connection;
 using win32::adopt;
 using win32::ComPtr;
 using win32::make;
@@ -31,12 +33,16 @@ inline HRESULT called(const char* call)
     return whenCalled ? whenCalled(call) : S_OK;
 }
 
-template <class... Interfaces>
-class ComObject : public win32::CountedObject<Interfaces...> {
+class LiveObject {
 public:
-    ComObject() { ++liveObjects; }
-    ~ComObject() override { --liveObjects; }
+    LiveObject() { ++liveObjects; }
+    LiveObject(const LiveObject&) = delete;
+    LiveObject& operator=(const LiveObject&) = delete;
+    ~LiveObject() { --liveObjects; }
+};
 
+template <class... Interfaces>
+class ComObject : public win32::CountedObject<Interfaces...>, private LiveObject {
 protected:
     [[nodiscard]] void* find(REFIID iid) noexcept override
     {
@@ -50,32 +56,6 @@ public:
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-};
-
-// A sink at one of an object's connection points, while this lives.
-class Connection {
-public:
-    Connection() = default;
-    Connection(const Connection&) = delete;
-    Connection& operator=(const Connection&) = delete;
-    ~Connection() { close(); }
-
-    bool open(IUnknown* source, REFIID events, IUnknown* sink)
-    {
-        const auto container = query<IConnectionPointContainer>(source);
-        return container && SUCCEEDED(container->FindConnectionPoint(events, &point_)) &&
-               SUCCEEDED(point_->Advise(sink, &cookie_));
-    }
-    HRESULT close()
-    {
-        const auto point = std::exchange(point_, {});
-        return point ? point->Unadvise(cookie_) : S_FALSE;
-    }
-    void forget() { point_.Reset(); } // as hosts do that release a source without a word
-
-private:
-    ComPtr<IConnectionPoint> point_;
-    DWORD cookie_ = 0;
 };
 
 } // namespace vela::test

@@ -37,37 +37,36 @@ private:
     Site& site_;
 };
 
-// The form's frame behind calls that can be heard.
-class Frame final : public ComObject<IOleInPlaceFrame> {
+// The form's frame, with calls that can be heard.
+class Frame final : public demo::FormFrame, private LiveObject {
 public:
-    explicit Frame(const ComPtr<demo::FormFrame>& inner) : inner_(inner) {}
+    using FormFrame::FormFrame;
 
-    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override { return inner_->GetWindow(window); }
-    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE GetBorder(LPRECT) override { return INPLACE_E_NOTOOLSPACE; }
-    HRESULT STDMETHODCALLTYPE RequestBorderSpace(LPCBORDERWIDTHS) override { return INPLACE_E_NOTOOLSPACE; }
-    HRESULT STDMETHODCALLTYPE SetBorderSpace(LPCBORDERWIDTHS) override { return called("SetBorderSpace"); }
-    HRESULT STDMETHODCALLTYPE SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR name) override
+    STDMETHODIMP SetBorderSpace(LPCBORDERWIDTHS) override { return called("SetBorderSpace"); }
+    STDMETHODIMP SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR name) override
     {
-        inner_->SetActiveObject(object, name);
+        FormFrame::SetActiveObject(object, name);
         return called("SetActiveObject");
     }
-    HRESULT STDMETHODCALLTYPE InsertMenus(HMENU, LPOLEMENUGROUPWIDTHS) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetMenu(HMENU, HOLEMENU, HWND) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE RemoveMenus(HMENU) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE SetStatusText(LPCOLESTR) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL enable) override
+    STDMETHODIMP EnableModeless(BOOL enable) override
     {
-        inner_->EnableModeless(enable);
+        FormFrame::EnableModeless(enable);
         return called("EnableModeless");
     }
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
 
-private:
-    ComPtr<demo::FormFrame> inner_;
+protected:
+    [[nodiscard]] void* find(REFIID iid) noexcept override
+    {
+        return FAILED(called("QueryInterface")) ? nullptr : FormFrame::find(iid);
+    }
 };
 
 } // namespace
+
+Site::Site(Form& form, SiteOptions options)
+    : ControlSite(*form.frame().Get(), form.window(), {}), form_(form), options_(options)
+{
+}
 
 HRESULT Site::note(std::string word)
 {
@@ -83,15 +82,14 @@ void* Site::find(REFIID iid) noexcept
     const bool hidden = ((iid == IID_IOleInPlaceSite || iid == IID_IOleWindow) && !options_.inPlace) ||
                         (iid == IID_IOleControlSite && !options_.controlSite) ||
                         (iid == IID_IDispatch && !options_.ambients);
-    return hidden ? nullptr : ComObject::find(iid);
+    return hidden || FAILED(called("QueryInterface")) ? nullptr : ControlSite::find(iid);
 }
 
 void Site::hold(ComPtr<IUnknown> control)
 {
-    control_ = std::move(control);
+    control_ = query<IOleObject>(control.Get());
     ASSERT_TRUE(control_) << "the control could not be created";
-    if (const auto object = as<IOleObject>())
-        object->SetClientSite(this);
+    control_->SetClientSite(this);
     if (options_.initialise) {
         ASSERT_EQ(as<IPersistStreamInit>()->InitNew(), S_OK);
     }
@@ -110,21 +108,12 @@ HRESULT Site::activate(RECT place)
     return activateBy(OLEIVERB_INPLACEACTIVATE);
 }
 
-HRESULT Site::activateBy(LONG verb)
-{
-    return as<IOleObject>()->DoVerb(verb, nullptr, this, 0, form_.window(), &place_);
-}
-
 void Site::close()
 {
-    const ComPtr<Site> alive = ComPtr<Site>(this);
+    const ComPtr<Site> alive(this);
     events_.close();
     properties_.close();
-    if (const auto object = as<IOleObject>()) {
-        object->Close(OLECLOSE_NOSAVE);
-        object->SetClientSite(nullptr);
-    }
-    control_.Reset();
+    ControlSite::close();
 }
 
 void Site::abandon()
@@ -133,14 +122,6 @@ void Site::abandon()
     properties_.forget();
     form_.frame()->SetActiveObject(nullptr, nullptr);
     control_.Reset();
-}
-
-HWND Site::window() const
-{
-    HWND found = nullptr;
-    if (const auto window = as<IOleWindow>())
-        window->GetWindow(&found);
-    return found;
 }
 
 HWND Site::edit() const
@@ -170,12 +151,9 @@ HRESULT Site::OnUIActivate()
 }
 
 HRESULT Site::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT place, LPRECT clip,
-                               LPOLEINPLACEFRAMEINFO)
+                               LPOLEINPLACEFRAMEINFO info)
 {
-    *frame = form_.handedFrame().Detach();
-    *document = nullptr;
-    *place = place_;
-    GetClientRect(form_.window(), clip);
+    ControlSite::GetWindowContext(frame, document, place, clip, info);
     return note("GetWindowContext");
 }
 
@@ -216,8 +194,7 @@ Form::Form()
     window_ = CreateWindowExW(WS_EX_CONTROLPARENT, formClass, L"Vela", WS_POPUP, 0, 0, 400, 300, nullptr, nullptr,
                               description.hInstance, nullptr);
     ShowWindow(window_, SW_SHOWNOACTIVATE);
-    frame_ = adopt<demo::FormFrame>(new demo::FormFrame(window_));
-    handedFrame_ = adopt<IOleInPlaceFrame>(new Frame(frame_));
+    frame_ = make<Frame>(window_);
 }
 
 Form::~Form()
@@ -227,8 +204,6 @@ Form::~Form()
     frame_->SetActiveObject(nullptr, nullptr);
     destroyWindow();
     pump();
-    EXPECT_EQ(handedFrame_.Detach()->Release(), 0u) << "the frame is held by a control";
-    EXPECT_EQ(frame_.Detach()->Release(), 0u);
 }
 
 void Form::destroyWindow()

@@ -1,4 +1,5 @@
-// A minimal OLE container of the tests: a real form window with sites whose every service can be left out.
+// The demonstration's OLE container in the tests: a real form window with sites whose every service can be left out,
+// and whose calls are heard.
 #pragma once
 
 #include "fields.h"
@@ -26,9 +27,9 @@ struct SiteOptions {
 class Form;
 
 // One control and its site. What the control asks and tells is kept in `log`, one word each.
-class Site final : public ComObject<IOleClientSite, IOleInPlaceSite, IOleControlSite, IDispatch, IPropertyNotifySink> {
+class Site final : public demo::ControlSite, private LiveObject {
 public:
-    Site(Form& form, SiteOptions options) : form_(form), options_(options) {}
+    Site(Form& form, SiteOptions options);
 
     void hold(ComPtr<IUnknown> control); // SetClientSite, InitNew, events
     HRESULT activate(RECT place);        // as visible controls are
@@ -36,15 +37,8 @@ public:
     void close();   // Close, SetClientSite(null), release
     void abandon(); // release alone
 
-    template <class Interface>
-    [[nodiscard]] ComPtr<Interface> as() const
-    {
-        return query<Interface>(control_.Get());
-    }
-    [[nodiscard]] IUnknown* control() const noexcept { return control_.Get(); }
-    [[nodiscard]] Automation automation() const { return Automation(control_.Get()); }
-    [[nodiscard]] HWND window() const; // of the control
-    [[nodiscard]] HWND edit() const;   // its edit box
+    [[nodiscard]] Automation automation() const { return Automation(control()); }
+    [[nodiscard]] HWND edit() const; // its edit box
 
     std::vector<std::string> log;
     std::map<DISPID, Variant> ambients;
@@ -58,69 +52,48 @@ public:
     [[nodiscard]] int count(std::string_view word) const;
 
     // IOleClientSite
-    HRESULT STDMETHODCALLTYPE SaveObject() override { return note("SaveObject"); }
-    HRESULT STDMETHODCALLTYPE GetMoniker(DWORD, DWORD, IMoniker**) override
+    STDMETHODIMP SaveObject() override { return note("SaveObject"); }
+    STDMETHODIMP GetMoniker(DWORD, DWORD, IMoniker**) override
     {
         called("GetMoniker");
         return E_NOTIMPL;
     }
-    HRESULT STDMETHODCALLTYPE GetContainer(IOleContainer**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE ShowObject() override { return note("ShowObject"); }
-    HRESULT STDMETHODCALLTYPE OnShowWindow(BOOL) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE RequestNewObjectLayout() override { return E_NOTIMPL; }
+    STDMETHODIMP ShowObject() override { return note("ShowObject"); }
     // IOleInPlaceSite
-    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override;
-    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE CanInPlaceActivate() override { return note("CanInPlaceActivate"); }
-    HRESULT STDMETHODCALLTYPE OnInPlaceActivate() override { return note("OnInPlaceActivate"); }
-    HRESULT STDMETHODCALLTYPE OnUIActivate() override;
-    HRESULT STDMETHODCALLTYPE GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT place,
-                                               LPRECT clip, LPOLEINPLACEFRAMEINFO info) override;
-    HRESULT STDMETHODCALLTYPE Scroll(SIZE) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE OnUIDeactivate(BOOL) override { return note("OnUIDeactivate"); }
-    HRESULT STDMETHODCALLTYPE OnInPlaceDeactivate() override { return note("OnInPlaceDeactivate"); }
-    HRESULT STDMETHODCALLTYPE DiscardUndoState() override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE DeactivateAndUndo() override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE OnPosRectChange(LPCRECT) override { return S_OK; }
+    STDMETHODIMP GetWindow(HWND* window) override;
+    STDMETHODIMP CanInPlaceActivate() override { return note("CanInPlaceActivate"); }
+    STDMETHODIMP OnInPlaceActivate() override { return note("OnInPlaceActivate"); }
+    STDMETHODIMP OnUIActivate() override;
+    STDMETHODIMP GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT place, LPRECT clip,
+                                  LPOLEINPLACEFRAMEINFO info) override;
+    STDMETHODIMP OnUIDeactivate(BOOL) override { return note("OnUIDeactivate"); }
+    STDMETHODIMP OnInPlaceDeactivate() override { return note("OnInPlaceDeactivate"); }
     // IOleControlSite
-    HRESULT STDMETHODCALLTYPE OnControlInfoChanged() override { return note("OnControlInfoChanged"); }
-    HRESULT STDMETHODCALLTYPE LockInPlaceActive(BOOL) override { return S_OK; }
-    HRESULT STDMETHODCALLTYPE GetExtendedControl(IDispatch** object) override;
-    HRESULT STDMETHODCALLTYPE TransformCoords(POINTL*, POINTF*, DWORD) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG message, DWORD) override
+    STDMETHODIMP OnControlInfoChanged() override { return note("OnControlInfoChanged"); }
+    STDMETHODIMP GetExtendedControl(IDispatch** object) override;
+    STDMETHODIMP TranslateAccelerator(LPMSG message, DWORD) override
     {
         if (FAILED(called("TranslateAccelerator")))
             return E_FAIL;
         return onKey ? onKey(message) : S_FALSE;
     }
-    HRESULT STDMETHODCALLTYPE OnFocus(BOOL has) override { return note(has ? "OnFocus 1" : "OnFocus 0"); }
-    HRESULT STDMETHODCALLTYPE ShowPropertyFrame() override
-    {
-        return whenCalled ? called("ShowPropertyFrame") : E_NOTIMPL;
-    }
+    STDMETHODIMP OnFocus(BOOL has) override { return note(has ? "OnFocus 1" : "OnFocus 0"); }
+    STDMETHODIMP ShowPropertyFrame() override { return whenCalled ? called("ShowPropertyFrame") : E_NOTIMPL; }
     // IDispatch: ambients; another identity takes the events
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
-                                     UINT*) override;
+    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*) override;
     // IPropertyNotifySink
-    HRESULT STDMETHODCALLTYPE OnChanged(DISPID id) override { return note("changed " + std::to_string(id)); }
-    HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID id) override;
+    STDMETHODIMP OnChanged(DISPID id) override { return note("changed " + std::to_string(id)); }
+    STDMETHODIMP OnRequestEdit(DISPID id) override;
 
 protected:
     [[nodiscard]] void* find(REFIID iid) noexcept override;
 
 private:
     HRESULT note(std::string word);
-    HRESULT activateBy(LONG verb);
 
     Form& form_;
     SiteOptions options_;
-    ComPtr<IUnknown> control_;
-    Connection events_;
     Connection properties_;
-    RECT place_{};
 };
 
 // The window with its sites, a dialog-like message loop, and the frame's side of in-place activation.
@@ -136,7 +109,6 @@ public:
     void remove(Site& site);                               // closed and let go
     [[nodiscard]] HWND window() const noexcept { return window_; }
     [[nodiscard]] const ComPtr<demo::FormFrame>& frame() const noexcept { return frame_; }
-    [[nodiscard]] ComPtr<IOleInPlaceFrame> handedFrame() const noexcept { return handedFrame_; } // to controls
     [[nodiscard]] IOleInPlaceActiveObject* active() const noexcept;
 
     // A key to the focused window through the form's loop: the active object first, then the dialog keys.
@@ -149,7 +121,6 @@ public:
 private:
     HWND window_ = nullptr;
     ComPtr<demo::FormFrame> frame_;
-    ComPtr<IOleInPlaceFrame> handedFrame_; // notes its calls, then passes them on
     std::vector<ComPtr<Site>> sites_;
 };
 
