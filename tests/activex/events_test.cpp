@@ -1,6 +1,5 @@
 // Events and property notifications: by-reference arguments, script handlers, and hosts that do harm inside them.
 #include "container.h"
-#include "script_host.h"
 
 #include "activex/guids.h"
 
@@ -46,25 +45,6 @@ TEST(Events, KeysArriveInOrderAndTheirCodesMayBeChanged)
         EXPECT_EQ(site.count(event), 1) << event;
     form.type(u"xc\u00E7");
     EXPECT_EQ(textIn(site), u"Bc\u00E7");
-}
-
-TEST(Events, ScriptHandlersTakeAndChangeThem)
-{
-    Form form;
-    Site& site = form.addActive();
-    form.focus(site);
-    const ScriptHost script(L"Dim changes : changes = 0\n"
-                            L"Sub campo_Change : changes = changes + 1 : End Sub\n"
-                            L"Sub campo_KeyPress(KeyAscii)\n"
-                            L"  If KeyAscii = 65 Then KeyAscii = 66\n"
-                            L"End Sub\n",
-                            L"campo", site.control());
-    ASSERT_TRUE(script.running());
-    form.type(u"AA1");
-    EXPECT_EQ(textIn(site), u"BB1");
-    EXPECT_EQ(script.failure(), u"");
-    Variant changes = script.variable(L"changes");
-    EXPECT_EQ(SUCCEEDED(VariantChangeType(&changes.ref(), &changes.ref(), 0, VT_I4)) ? changes.get().lVal : -1, 3);
 }
 
 TEST(Events, BoundPropertiesAskBeforeAndTellAfter)
