@@ -20,12 +20,6 @@ constexpr bool isLetterOrDigit(char16_t unit) noexcept
     return (unit >= u'0' && unit <= u'9') || (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z');
 }
 
-constexpr bool isPair(char16_t first, char16_t second) noexcept
-{
-    const bool surrogates = (first & 0xFC00) == 0xD800 && (second & 0xFC00) == 0xDC00;
-    return surrogates || (first == carriageReturn && second == lineFeed);
-}
-
 // Does the text, literals included, lie on the mask from `start` on? Only then may a literal letter or digit of the
 // mask ("+55 (__)") be passed over instead of typed. Surplus at the end does not matter.
 bool liesOnMask(std::u16string_view text, std::size_t start, const engine::MaskSettings& settings)
@@ -48,25 +42,6 @@ std::size_t literalRunBefore(std::size_t caret, const engine::MaskSettings& sett
     while (start > 0 && settings.promptChar != settings.mask.substr(start - 1, 1))
         --start;
     return start;
-}
-
-// Backspace behind a line break removes one code unit or two, depending on the platform's edit box. Reads the text that
-// is left to find out which.
-void measureErased(History::Expected& edit, const platform::EditBox& box)
-{
-    std::size_t units = std::min<std::size_t>(1, edit.removed.size());
-    if (edit.removed.size() == 2 && isPair(edit.removed[0], edit.removed[1])) {
-        std::u16string next;
-        box.part({edit.at, 1}, next);
-        const bool both = edit.backwards ? edit.at - box.selection().start == 2 : next != edit.removed.substr(1);
-        units = both ? 2 : 1;
-    }
-    if (edit.backwards) {
-        edit.removed.erase(0, edit.removed.size() - units);
-        edit.at -= static_cast<int>(units);
-    } else {
-        edit.removed.resize(units);
-    }
 }
 
 } // namespace
@@ -170,10 +145,8 @@ void Vela::pasted(std::u16string_view text)
             if (!typeInto(draft, unit))
                 return;
         }
-        if (draft.text != draft.before) {
-            keepWritten(draft.before, draft.text, draft.selectionBefore, false);
+        if (draft.text != draft.before)
             writeText(draft.text, Writer::keys);
-        }
         if (draft.text != draft.before || draft.selection != draft.selectionBefore)
             box().select(draft.selection);
     });
@@ -188,8 +161,7 @@ void Vela::cut()
             return;
         if (masked()) {
             sKeyDown(keyDelete);
-        } else if (!box().traits().locked) {
-            expectErasing(false);
+        } else {
             box().insert(u"");
         }
     });
@@ -227,86 +199,18 @@ History& Vela::history()
     return *history_;
 }
 
-// When the box cannot be read, the edit cannot be undone: the history is cleared, and no error is raised.
-template <class Describe>
-void Vela::expectEdit(Describe describe)
+// Keeps what a person did, by hand or through the field's rules. An edit that came by other means ends the history.
+void Vela::keep(const platform::Edit& edit)
 {
-    History::Expected& edit = history().expected;
-    edit.removed.clear();
-    edit.inserted.clear();
-    try {
-        edit.before = box().selection();
-        edit.at = edit.before.start;
-        describe(edit);
-        history_->expecting = true;
-    } catch (const engine::Error&) {
-        history_->clear();
+    const bool person = writer_ == Writer::person;
+    if (person && !edit.typed) {
+        if (history_)
+            history_->clear();
+    } else if (person || writer_ == Writer::keys) {
+        history().add(edit, false);
+    } else if (writer_ == Writer::reformat && history_) {
+        history_->add(edit, true);
     }
-}
-
-// Remembers what the edit box will insert, so that the change it reports can be undone.
-void Vela::expectTyping(int key)
-{
-    const bool typed = key >= u' ' || key == u'\t' || key == engine::key_code::enter;
-    if (key == engine::key_code::backspace)
-        expectErasing(true);
-    else if (typed && !masked() && !box().traits().locked)
-        expectEdit([&](History::Expected& edit) {
-            edit.erasing = false;
-            if (edit.before.length > 0)
-                box().part(edit.before, edit.removed);
-            if (key == engine::key_code::enter)
-                edit.inserted = lineBreak;
-            else
-                edit.inserted.assign(1, static_cast<char16_t>(key));
-        });
-}
-
-// Remembers what Backspace or Delete will remove: the selection, or the character on one side of the caret. That is at
-// most two code units, because a surrogate pair and a line break are removed as one.
-void Vela::expectErasing(bool backwards)
-{
-    if (masked() || box().traits().locked)
-        return;
-    expectEdit([&](History::Expected& edit) {
-        edit.erasing = edit.before.length == 0;
-        edit.backwards = backwards;
-        platform::Selection gone = edit.before;
-        if (edit.erasing) {
-            gone.length = backwards ? std::min(2, gone.start) : 2;
-            gone.start -= backwards ? gone.length : 0;
-        }
-        box().part(gone, edit.removed);
-    });
-}
-
-// Records the expected edit when the edit box reports its change. A change that was not expected clears the history.
-void Vela::keepTyped()
-{
-    if (!history_)
-        return;
-    if (!history_->expecting) {
-        history_->clear();
-        return;
-    }
-    history_->expecting = false;
-    History::Expected& edit = history_->expected;
-    try {
-        if (edit.erasing)
-            measureErased(edit, box());
-        history_->add(edit.at, edit.removed, edit.inserted, edit.before, false);
-    } catch (const engine::Error&) {
-        history_->clear();
-    }
-}
-
-// Records a text that the control writes because of a key or a paste. A live re-format is undone together with the key
-// before it; when the host wrote the text there is nothing to undo.
-void Vela::keepWritten(View before, View after, platform::Selection selection, bool joined)
-{
-    if (joined && (!history_ || writer_ == Writer::host))
-        return;
-    history().addDifference(before, after, selection, joined);
 }
 
 } // namespace vela::control

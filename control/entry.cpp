@@ -140,14 +140,13 @@ void Vela::placeCaretByClick()
     }
 }
 
-void Vela::changed()
+void Vela::changed(const platform::Edit& edit)
 {
     if (deaf())
         return;
     whileAlive(life_, [&] {
         const Writer writer = writer_;
-        if (writer == Writer::person)
-            keepTyped();
+        keep(edit);
         trap(
             life_,
             [&](int& step) {
@@ -174,12 +173,10 @@ void Vela::reformatLive()
     readText(*text);
     if (!livePattern_)
         livePattern_ = std::make_unique<engine::LivePattern>();
-    const platform::Selection selection = box().selection();
-    const auto caret = engine::liveFormat(*text, selection.start, numberSettings(), *livePattern_, *shown);
+    const auto caret = engine::liveFormat(*text, box().selection().start, numberSettings(), *livePattern_, *shown);
     if (!caret)
         return;
-    keepWritten(*text, *shown, selection, true);
-    writeText(*shown, Writer::keys);
+    writeText(*shown, writer_ == Writer::host ? Writer::life : Writer::reformat);
     box().select({*caret, 0});
 }
 

@@ -27,36 +27,21 @@ std::size_t History::unitsOf(const Step& step) noexcept
     return static_cast<std::size_t>(step.removed) + static_cast<std::size_t>(step.inserted);
 }
 
-void History::add(int at, std::u16string_view removed, std::u16string_view inserted, platform::Selection before,
-                  bool joined)
+void History::add(const platform::Edit& edit, bool joined)
 {
     dropUndone();
-    if (removed.size() + inserted.size() > mostUnits) {
+    const std::size_t units = edit.removed.size() + edit.inserted.size();
+    if (units > mostUnits) {
         clear();
         return;
     }
-    while (!steps_.empty() &&
-           (steps_.size() >= mostSteps || units_.size() + removed.size() + inserted.size() > mostUnits))
+    while (!steps_.empty() && (steps_.size() >= mostSteps || units_.size() + units > mostUnits))
         dropOldest();
-    steps_.push_back(
-        {at, static_cast<int>(removed.size()), static_cast<int>(inserted.size()), before, joined && !steps_.empty()});
-    units_.append(removed).append(inserted);
+    steps_.push_back({edit.at, static_cast<int>(edit.removed.size()), static_cast<int>(edit.inserted.size()),
+                      edit.before, joined && !steps_.empty()});
+    units_.append(edit.removed).append(edit.inserted);
     done_ = steps_.size();
     doneUnits_ = units_.size();
-}
-
-void History::addDifference(std::u16string_view from, std::u16string_view to, platform::Selection before, bool joined)
-{
-    if (from == to)
-        return;
-    const auto same = static_cast<std::size_t>(std::ranges::mismatch(from, to).in1 - from.begin());
-    from.remove_prefix(same);
-    to.remove_prefix(same);
-    while (!from.empty() && !to.empty() && from.back() == to.back()) {
-        from.remove_suffix(1);
-        to.remove_suffix(1);
-    }
-    add(static_cast<int>(same), from, to, before, joined);
 }
 
 void History::clear() noexcept
@@ -65,7 +50,6 @@ void History::clear() noexcept
     units_.clear();
     done_ = 0;
     doneUnits_ = 0;
-    expecting = false;
 }
 
 void History::dropUndone()
@@ -89,7 +73,6 @@ void History::dropOldest()
 
 std::optional<platform::Selection> History::undo(std::u16string& text)
 {
-    expecting = false;
     std::optional<platform::Selection> selection;
     bool joined = true;
     while (joined && done_ > 0) {
@@ -112,7 +95,6 @@ std::optional<platform::Selection> History::undo(std::u16string& text)
 
 std::optional<platform::Selection> History::redo(std::u16string& text)
 {
-    expecting = false;
     std::optional<platform::Selection> selection;
     while (done_ < steps_.size() && (!selection || steps_[done_].joined)) {
         const Step& step = steps_[done_];

@@ -14,32 +14,14 @@ namespace vela::control {
 // Bounded: the oldest steps go when it is full. Once it has grown to its bound nothing is allocated.
 class History {
 public:
-    // A typed edit that the box has yet to carry out and report: `removed` at `at` gives way to `inserted`.
-    struct Expected {
-        int at = 0;
-        std::u16string removed;
-        std::u16string inserted;
-        platform::Selection before;
-        bool erasing = false; // how much of `removed` the box removes is read afterwards
-        bool backwards = false;
-    };
-
     // `joined`: undone and redone together with the step before it.
-    void add(int at, std::u16string_view removed, std::u16string_view inserted, platform::Selection before,
-             bool joined);
+    void add(const platform::Edit& edit, bool joined);
     void clear() noexcept;
-
-    // The step that turns one text into the other; none when they are equal.
-    // "12,3|4" -> "1.2|34": 1 removed "2,3", inserted ".23"
-    void addDifference(std::u16string_view from, std::u16string_view to, platform::Selection before, bool joined);
 
     // Edit `text` in place; the selection to put after writing it. Nothing when there is no step left. A text that is
     // not as the history left it ends the history.
     [[nodiscard]] std::optional<platform::Selection> undo(std::u16string& text);
     [[nodiscard]] std::optional<platform::Selection> redo(std::u16string& text);
-
-    Expected expected;
-    bool expecting = false;
 
 private:
     struct Step {

@@ -25,8 +25,6 @@ void Vela::keyDown(int& code, int& shift)
         return;
     whileAlive(life_, [&] {
         keypadDecimal_ = code == keyDecimal;
-        if (history_)
-            history_->expecting = false;
         keyDownByType(code);
         if (settings_.upTab && code == keyDownArrow)
             // Oddity: Down sends a Tab key-down without its key-up; a key-up would raise KeyUp in the next field.
@@ -35,12 +33,9 @@ void Vela::keyDown(int& code, int& shift)
             environment_.desktop.sendKeys(u"+{TAB}");
         auto told = static_cast<std::int16_t>(code);
         auto toldShift = static_cast<std::int16_t>(shift);
-        const engine::Alive alive(life_);
         host_.raiseKeyDown(told, toldShift);
         code = told;
         shift = toldShift;
-        if (alive && !deaf() && code == keyDelete)
-            expectErasing(false);
     });
 }
 
@@ -61,17 +56,13 @@ void Vela::sKeyDown(int code)
             return;
         }
         Scratch text(*this);
-        Scratch before(*this);
         readText(*text);
-        *before = *text;
         const platform::Selection selection = box().selection();
         const auto erasure = engine::eraseInMask(code, selection.start, selection.length, maskSettings(), *text);
         if (!erasure)
             return;
-        if (erasure->written) {
-            keepWritten(*before, *text, selection, false);
+        if (erasure->written)
             writeText(*text, Writer::keys);
-        }
         box().select({erasure->caret, 0});
     });
 }
@@ -80,12 +71,7 @@ void Vela::keyPress(int& key)
 {
     if (deaf())
         return;
-    whileAlive(life_, [&] {
-        const engine::Alive alive(life_);
-        key = filterKey(plainKey(key));
-        if (alive && !deaf())
-            expectTyping(key);
-    });
+    whileAlive(life_, [&] { key = filterKey(plainKey(key)); });
 }
 
 // A control character such as Esc raises KeyPress only: it is no text, so no rule of the field applies to it.
@@ -142,28 +128,27 @@ engine::KeyPlan Vela::planKey(int key, engine::KeyTurn turn)
     const engine::KeyNeeds needs = engine::needsOf(key, settings, turn);
     const bool mask = masked();
     Scratch text(*this);
-    platform::Selection selection;
-    engine::KeyBox seen{.maxLength = box().traits().maxLength};
+    engine::KeyBox seen;
     if (needs.room || needs.text) {
-        selection = box().selection();
+        const platform::Selection selection = box().selection();
         seen.caret = selection.start;
         seen.selected = selection.length;
     }
-    if (needs.room && seen.maxLength >= 1 && seen.selected == 0)
-        seen.length = box().textLength();
+    if (needs.room) {
+        seen.maxLength = box().traits().maxLength;
+        if (seen.maxLength >= 1 && seen.selected == 0)
+            seen.length = box().textLength();
+    }
     if (needs.text) {
         if (const auto failure = engine::trapped([&] { readText(*text); }))
             logKeyFailure(*failure, mask);
         else
             seen.text = &*text;
     }
-    Scratch before(*this);
-    *before = *text;
     const engine::KeyPlan plan = engine::planKey(key, settings, seen, turn);
     const engine::Alive alive(life_);
     const auto failure = engine::trapped([&] {
         if (plan.writtenCaret) {
-            keepWritten(*before, *text, selection, false);
             writeText(*text, Writer::keys);
             box().select({*plan.writtenCaret, 0});
         }

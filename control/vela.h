@@ -98,8 +98,7 @@ public:
     void keyPress(int& key) override;
     void controlPress(int& key) override;
     void keyUp(int code, int shift) override;
-    [[nodiscard]] bool laysOutTyping() const override { return liveNumber(); }
-    void changed() override;
+    void changed(const platform::Edit& edit) override;
     void clicked() override;
     void doubleClicked() override;
     void pointerMoved() override;
@@ -139,8 +138,8 @@ private:
     void ValorPadrao(View value);
 
     // Who writes a text. The live re-format runs for what a person or a host writes. The history records a person's
-    // edits and is cleared when a host, loading, entry or exit writes.
-    enum class Writer { person, host, life, keys, history };
+    // edits, a live re-format with the edit before it, and is cleared when a host, loading, entry or exit writes.
+    enum class Writer { person, host, life, keys, reformat, history };
     class Scratch;
     struct Draft; // the text that a paste is making (draft.h)
 
@@ -220,13 +219,8 @@ private:
 
     // History (editing.cpp)
     [[nodiscard]] History& history();
-    void expectTyping(int key);
-    void expectErasing(bool backwards);
-    template <class Describe>
-    void expectEdit(Describe describe);
-    void keepTyped();
     [[nodiscard]] bool typeInto(Draft& draft, char16_t unit);
-    void keepWritten(View before, View after, platform::Selection selection, bool joined);
+    void keep(const platform::Edit& edit);
     void restore(bool backwards);
 
     void layOut(); // look.cpp

@@ -48,6 +48,16 @@ struct EditTraits {
     friend bool operator==(const EditTraits&, const EditTraits&) = default;
 };
 
+// What became another in a text: `removed` at `at` gave way to `inserted`. The views are good until the box or the host
+// is called.
+struct Edit {
+    int at = 0;
+    std::u16string_view removed;
+    std::u16string_view inserted;
+    Selection before;   // which it replaced
+    bool typed = false; // by a person's key or by insert(); what came by other means is not to be undone
+};
+
 // Where the focus goes when it leaves a box. `away`: to another top-level window or another form of the host, or
 // nowhere because the box is disabled. The focus is then not asked back.
 enum class Leaving { within, away };
@@ -63,9 +73,7 @@ public:
     // handler that sets the key to 0 stops what the box does with it; another code has no effect.
     virtual void controlPress(int& key) = 0;
     virtual void keyUp(int code, int shift) = 0;
-    virtual void changed() = 0; // the text became another text
-    // Whether changed() re-formats what was typed: the box then need not draw the text in between.
-    [[nodiscard]] virtual bool laysOutTyping() const { return false; }
+    virtual void changed(const Edit& edit) = 0; // the text became another text
     virtual void clicked() = 0;
     virtual void doubleClicked() = 0;
     virtual void pointerMoved() = 0;
@@ -84,17 +92,6 @@ public:
 
     virtual void text(std::u16string& into) const = 0;
     [[nodiscard]] virtual int textLength() const = 0;
-    // The units of `part`, cut to the text: what the field's history keeps. A back end that can read less than the
-    // whole text does.
-    virtual void part(Selection part, std::u16string& into) const
-    {
-        text(into);
-        const auto size = static_cast<int>(into.size());
-        const int start = part.start < 0 ? 0 : part.start > size ? size : part.start;
-        into.erase(0, static_cast<std::size_t>(start));
-        if (part.length < size - start)
-            into.resize(static_cast<std::size_t>(part.length < 0 ? 0 : part.length));
-    }
     // Caret to 0, nothing selected; changed() when it is another text. Works on a locked box too.
     virtual void putText(std::u16string_view text) = 0;
     // Replaces the selection as typing does: cut to fit maxLength, caret behind it, changed() once. Locked: nothing.

@@ -1,6 +1,7 @@
 // The field's operations on a box in memory, and a person's keys in it.
 #include "platform/headless/edit_box.h"
 
+#include "engine/text/text_edit.h"
 #include "platform/headless/control_surface.h"
 
 #include <algorithm>
@@ -48,38 +49,32 @@ int EditBox::textLength() const
     return length();
 }
 
-void EditBox::part(Selection part, std::u16string& into) const
-{
-    faults_.pass();
-    const int start = std::clamp(part.start, 0, length());
-    const int count = std::clamp(part.length, 0, length() - start);
-    into.assign(text_, static_cast<std::size_t>(start), static_cast<std::size_t>(count));
-}
-
 void EditBox::putText(std::u16string_view text)
 {
     check(BoxOperation::putText);
-    const bool different = text != text_;
-    text_.assign(text);
-    selection_ = {};
-    if (different)
-        reportChange();
+    const Selection before = std::exchange(selection_, {});
+    if (text == text_)
+        return;
+    former_ = text_;
+    text_ = text;
+    const auto [at, removed, inserted] = engine::editBetween(former_, text_);
+    report({at, removed, inserted, before});
 }
 
 void EditBox::insert(std::u16string_view text)
 {
     check(BoxOperation::putText);
-    paste(text);
+    fill(text, true);
 }
 
-void EditBox::paste(std::u16string_view text)
+void EditBox::fill(std::u16string_view text, bool typed)
 {
     if (traits_.locked)
         return;
     const int space = room();
     if (space >= 0 && static_cast<int>(text.size()) > space)
         text = text.substr(0, static_cast<std::size_t>(space));
-    replaceSelection(text);
+    replace(selection_, text, typed);
 }
 
 void EditBox::select(Selection selection)
@@ -136,29 +131,29 @@ void EditBox::placeCaret(int start, int length)
     selection_.length = std::clamp(length, 0, this->length() - selection_.start);
 }
 
-void EditBox::replaceSelection(std::u16string_view text)
+void EditBox::replace(Selection part, std::u16string_view by, bool typed)
 {
-    const auto start = static_cast<std::size_t>(selection_.start);
-    const auto length = static_cast<std::size_t>(selection_.length);
-    const bool different = std::u16string_view(text_).substr(start, length) != text;
-    text_.replace(start, length, text);
-    selection_ = {selection_.start + static_cast<int>(text.size()), 0};
-    if (different)
-        reportChange();
+    const auto start = static_cast<std::size_t>(part.start);
+    const auto length = static_cast<std::size_t>(part.length);
+    const Selection before = selection_;
+    former_ = text_;
+    text_.replace(start, length, by);
+    selection_ = {part.start + static_cast<int>(by.size()), 0};
+    if (text_ != former_)
+        report({part.start, std::u16string_view(former_).substr(start, length),
+                std::u16string_view(text_).substr(start, by.size()), before, typed});
 }
 
 void EditBox::erase(int start, int length)
 {
-    if (traits_.locked)
-        return;
-    placeCaret(start, length);
-    replaceSelection({});
+    if (!traits_.locked)
+        replace({start, length}, {}, true);
 }
 
-void EditBox::reportChange()
+void EditBox::report(const platform::Edit& edit)
 {
     if (platform::EditBoxEvents* events = surface_.boxEvents(*this))
-        events->changed();
+        events->changed(edit);
 }
 
 // A handler may destroy the box: after that no member is used. A handler that disables the box ends the key.
@@ -214,7 +209,7 @@ void EditBox::typeText(std::u16string_view text)
 {
     const int space = room();
     if (space < 0 || static_cast<int>(text.size()) <= space)
-        replaceSelection(text);
+        replace(selection_, text, true);
 }
 
 void EditBox::applyNamedKey(int code)

@@ -29,8 +29,6 @@ public:
     // The field's own operations: each may be made to fail.
     void text(std::u16string& into) const override;
     [[nodiscard]] int textLength() const override;
-    // Read for the field's history only: a failure planned for the text stays for the next reading by text().
-    void part(platform::Selection part, std::u16string& into) const override;
     void putText(std::u16string_view text) override;
     void insert(std::u16string_view text) override;
     [[nodiscard]] platform::Selection selection() const override { return selection_; }
@@ -54,7 +52,7 @@ public:
 
     // Acts of a person, reported to the box's events.
     void key(Key key);
-    void paste(std::u16string_view text); // without the field's filter
+    void paste(std::u16string_view text) { fill(text, false); } // without the field's filter
     void placeCaret(int start, int length);
     void clickAtEnd();
     void doubleClick();
@@ -69,15 +67,16 @@ private:
             failIfAsked(operation);
     }
     void failIfAsked(BoxOperation operation) const;
-    void replaceSelection(std::u16string_view text);
+    void replace(platform::Selection part, std::u16string_view by, bool typed);
     void erase(int start, int length);
     void applyCharacter(int key);
     void typeText(std::u16string_view text);
+    void fill(std::u16string_view text, bool typed); // the selection, cut to fit
     void applyNamedKey(int code);
     void applyControlKey(int letter);
     void copySelection();
     void moveCaret(int start);
-    void reportChange();
+    void report(const platform::Edit& edit);
     [[nodiscard]] int room() const noexcept; // units that still fit, the selection given up
     [[nodiscard]] int length() const noexcept { return static_cast<int>(text_.size()); }
 
@@ -88,6 +87,7 @@ private:
     platform::Selection selection_;
     platform::EditColours colours_;
     std::u16string text_;
+    std::u16string former_; // the text before the edit that is being reported
     platform::EditTraits traits_;
     mutable std::unique_ptr<Failures> failures_;
     engine::Life life_;

@@ -2,6 +2,8 @@
 #include "platform/win32/edit_box.h"
 
 #include "engine/error.h"
+#include "engine/scoped_value.h"
+#include "engine/text/text_edit.h"
 #include "platform/win32/activation_context.h"
 #include "platform/win32/control_surface.h"
 #include "platform/win32/focus_arbiter.h"
@@ -29,28 +31,6 @@ platform::Selection clamped(platform::Selection wanted, int length) noexcept
     return {start, std::clamp(wanted.length, 0, length - start)};
 }
 
-std::u16string spliced(std::u16string_view text, platform::Selection selection, std::u16string_view by)
-{
-    const auto start = static_cast<std::size_t>(selection.start);
-    std::u16string result(text.substr(0, start));
-    result += by;
-    result += text.substr(start + static_cast<std::size_t>(selection.length));
-    return result;
-}
-
-// A flag that is on for a scope.
-class Raised {
-public:
-    explicit Raised(bool& flag) noexcept : flag_(flag), before_(flag) { flag = true; }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
-    ~Raised() { flag_ = before_; }
-
-private:
-    bool& flag_;
-    bool before_;
-};
-
 } // namespace
 
 EditBox::EditBox(ControlSurface& surface, platform::EditBoxKind kind)
@@ -67,71 +47,64 @@ EditBox::~EditBox()
 
 void EditBox::text(std::u16string& into) const
 {
-    refresh();
-    into.assign(text_);
-}
-
-void EditBox::part(platform::Selection part, std::u16string& into) const
-{
-    refresh();
-    const platform::Selection within = clamped(part, static_cast<int>(text_.size()));
-    into.assign(text_, static_cast<std::size_t>(within.start), static_cast<std::size_t>(within.length));
+    if (changed_ && edit_)
+        readWindow(into);
+    else
+        into.assign(text_);
 }
 
 int EditBox::textLength() const
 {
-    return static_cast<int>(edit_ && stale_ ? native(WM_GETTEXTLENGTH, 0, 0) : static_cast<LRESULT>(text_.size()));
+    return static_cast<int>(changed_ && edit_ ? native(WM_GETTEXTLENGTH, 0, 0) : static_cast<LRESULT>(text_.size()));
 }
 
 void EditBox::putText(std::u16string_view text)
 {
     const std::u16string_view wanted = upToNull(text);
-    refresh();
+    const platform::Selection before = selection();
     if (wanted == text_) {
         select({});
         return;
     }
-    text_.assign(wanted);
-    kept_ = {};
-    behind_ = false;
+    former_.assign(wanted);
     if (edit_) {
-        const Raised quiet(quiet_);
-        if (!native(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text_.c_str()))) {
-            stale_ = true;
+        const engine::ScopedFlag quiet(life_, quiet_, true);
+        if (!native(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(former_.c_str())))
             engine::raise(engine::error_number::outOfMemory);
-        }
     }
-    reportChange();
+    text_.swap(former_);
+    kept_ = {};
+    const auto [at, removed, inserted] = engine::editBetween(former_, text_);
+    report({at, removed, inserted, before});
 }
 
 void EditBox::insert(std::u16string_view text)
 {
     if (traits_.locked)
         return;
-    refresh();
-    showText();
-    const platform::Selection replaced = selection();
+    const platform::Selection replaced = clamped(selection(), static_cast<int>(text_.size()));
+    const auto start = static_cast<std::size_t>(replaced.start);
+    const auto length = static_cast<std::size_t>(replaced.length);
     std::u16string_view fitting = upToNull(text);
     if (traits_.maxLength > 0) {
         const int room = traits_.maxLength - (static_cast<int>(text_.size()) - replaced.length);
         fitting = fitting.substr(0, static_cast<std::size_t>(std::max(room, 0)));
     }
     const std::u16string inserted(fitting);
-    std::u16string result = spliced(text_, replaced, inserted);
-    const bool another = result != text_;
-    text_ = std::move(result);
+    former_ = text_;
+    text_.replace(start, length, inserted);
     kept_ = {replaced.start + static_cast<int>(inserted.size()), 0};
     if (edit_) {
-        const Raised quiet(quiet_);
+        const engine::ScopedFlag quiet(life_, quiet_, true);
         native(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(inserted.c_str()));
     }
-    if (another)
-        reportChange();
+    if (text_ != former_)
+        report({replaced.start, std::u16string_view(former_).substr(start, length), inserted, replaced, true});
 }
 
 platform::Selection EditBox::selection() const
 {
-    if (!edit_ || behind_)
+    if (!edit_)
         return kept_;
     DWORD start = 0;
     DWORD end = 0;
@@ -142,7 +115,7 @@ platform::Selection EditBox::selection() const
 void EditBox::select(platform::Selection selection)
 {
     kept_ = clamped(selection, textLength());
-    if (!edit_ || behind_ || this->selection() == kept_)
+    if (!edit_ || this->selection() == kept_)
         return;
     native(EM_SETSEL, static_cast<WPARAM>(kept_.start), kept_.start + kept_.length);
     native(EM_SCROLLCARET, 0, 0);
@@ -247,8 +220,7 @@ void EditBox::createWindow(const RECT& place, bool visible)
         engine::raise(engine::error_number::outOfMemory);
     original_ = subclass(made, this, &EditBox::procedure);
     edit_ = made;
-    stale_ = false;
-    behind_ = false;
+    changed_ = false;
     applyFont();
     applyLimit();
     if (traits_.passwordChar)
@@ -273,7 +245,8 @@ void EditBox::destroyWindow()
 
 void EditBox::keepState()
 {
-    refresh();
+    if (changed_)
+        readWindow(text_);
     kept_ = selection();
 }
 
@@ -281,7 +254,7 @@ void EditBox::keepState()
 void EditBox::rebuild()
 {
     keepState();
-    const Raised rebuilding(rebuilding_);
+    const engine::ScopedFlag rebuilding(life_, rebuilding_, true);
     const bool focused = GetFocus() == edit_;
     const bool entered = entered_;
     const bool visible = (GetWindowLongPtrW(edit_, GWL_STYLE) & WS_VISIBLE) != 0;
@@ -321,95 +294,23 @@ void EditBox::applyLimit() const
     native(EM_LIMITTEXT, static_cast<WPARAM>(std::max(traits_.maxLength, 0)), 0);
 }
 
-void EditBox::refresh() const
+void EditBox::readWindow(std::u16string& into) const
 {
-    if (!stale_ || !edit_)
+    into.resize(static_cast<std::size_t>(native(WM_GETTEXTLENGTH, 0, 0)) + 1);
+    const LRESULT read = native(WM_GETTEXT, into.size(), reinterpret_cast<LPARAM>(into.data()));
+    into.resize(static_cast<std::size_t>(read));
+}
+
+// EN_CHANGE comes also when the EDIT was full or got the same text.
+void EditBox::adopt(platform::Selection before, bool typed)
+{
+    readWindow(former_);
+    if (former_ == text_)
         return;
-    const auto length = static_cast<std::size_t>(native(WM_GETTEXTLENGTH, 0, 0));
-    text_.resize(length + 1);
-    const LRESULT read = native(WM_GETTEXT, length + 1, reinterpret_cast<LPARAM>(text_.data()));
-    text_.resize(static_cast<std::size_t>(read));
-    stale_ = false;
-}
-
-bool EditBox::sameText() const
-{
-    if (stale_ || native(WM_GETTEXTLENGTH, 0, 0) != static_cast<LRESULT>(text_.size()))
-        return false;
-    scratch_.resize(text_.size() + 1);
-    native(WM_GETTEXT, scratch_.size(), reinterpret_cast<LPARAM>(scratch_.data()));
-    scratch_.pop_back();
-    return scratch_ == text_;
-}
-
-// A code unit that the field re-formats as soon as it is typed: the window gets one text instead of two. A message from
-// elsewhere in between first writes the typed text to the window, so that nobody reads an old one.
-bool EditBox::typeUnseen(int unit)
-{
-    platform::EditBoxEvents* const listener = events();
-    if (!listener || !listener->laysOutTyping() || !isSingle() || traits_.locked || unit < ' ')
-        return false;
-    refresh();
-    const platform::Selection replaced = selection();
-    const auto at = static_cast<std::size_t>(replaced.start);
-    const auto typed = static_cast<char16_t>(unit);
-    const bool full = traits_.maxLength > 0 && static_cast<int>(text_.size()) - replaced.length >= traits_.maxLength;
-    if (full || (replaced.length == 1 && text_[at] == typed))
-        return false;
-    text_.replace(at, static_cast<std::size_t>(replaced.length), 1, typed);
-    kept_ = {replaced.start + 1, 0};
-    behind_ = true;
-    const engine::Alive alive(life_);
-    contained([this] { reportChange(); });
-    if (alive)
-        showText();
-    return true;
-}
-
-void EditBox::showText()
-{
-    if (!std::exchange(behind_, false) || !edit_)
-        return;
-    const platform::Selection caret = kept_;
-    const Raised quiet(quiet_);
-    native(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text_.c_str()));
-    select(caret);
-}
-
-// Remembers a code unit that is about to be typed or erased without a selection, so that the window need not be read
-// again.
-void EditBox::expectTyped(int unit, LRESULT selected) noexcept
-{
-    const int caret = LOWORD(selected);
-    const bool back = unit == VK_BACK;
-    const bool known = !stale_ && selected != -1 && LOWORD(selected) == HIWORD(selected) && (back || unit >= ' ');
-    typedAt_ = known ? caret - (back ? 1 : 0) : -1;
-    typedUnit_ = back ? u'\0' : static_cast<char16_t>(unit);
-}
-
-// Puts the remembered code unit into text_ when the window's length agrees: "ab|c" + 'X' -> "abXc".
-bool EditBox::adoptTyped()
-{
-    const int at = std::exchange(typedAt_, -1);
-    const auto size = static_cast<LRESULT>(text_.size());
-    if (at < 0 || at > size || native(WM_GETTEXTLENGTH, 0, 0) != size + (typedUnit_ ? 1 : -1))
-        return false;
-    if (typedUnit_)
-        text_.insert(static_cast<std::size_t>(at), 1, typedUnit_);
-    else
-        text_.erase(static_cast<std::size_t>(at), 1);
-    return true;
-}
-
-// Whether the text differs: EN_CHANGE comes also when the EDIT was full or got the same text.
-bool EditBox::becameAnother()
-{
-    if (adoptTyped())
-        return true;
-    if (sameText())
-        return false;
-    stale_ = true;
-    return true;
+    text_.swap(former_);
+    const auto [at, removed, inserted] =
+        engine::editAtCaret(former_, text_, before.start, before.start + before.length, selection().start);
+    report({at, removed, inserted, before, typed});
 }
 
 void EditBox::editChanged() noexcept
@@ -418,10 +319,10 @@ void EditBox::editChanged() noexcept
         changed_ = true;
 }
 
-void EditBox::reportChange()
+void EditBox::report(const platform::Edit& edit)
 {
     if (platform::EditBoxEvents* listener = events())
-        listener->changed();
+        listener->changed(edit);
 }
 
 LRESULT EditBox::native(UINT message, WPARAM first, LPARAM second) const noexcept
@@ -433,16 +334,15 @@ LRESULT EditBox::native(UINT message, WPARAM first, LPARAM second) const noexcep
 LRESULT EditBox::pass(UINT message, WPARAM first, LPARAM second)
 {
     const engine::Alive alive(life_);
+    const bool key = message == WM_CHAR || message == WM_KEYDOWN;
+    const platform::Selection before = key ? selection() : platform::Selection{};
     ++passing_;
     const LRESULT result = native(message, first, second);
     if (!alive)
         return result;
     --passing_;
-    if (changed_ && passing_ == 0) {
-        changed_ = false;
-        if (becameAnother())
-            contained([this] { reportChange(); });
-    }
+    if (passing_ == 0 && std::exchange(changed_, false) && edit_)
+        contained([&] { adopt(before, key); });
     return result;
 }
 

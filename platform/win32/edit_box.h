@@ -23,7 +23,6 @@ public:
 
     void text(std::u16string& into) const override;
     [[nodiscard]] int textLength() const override;
-    void part(platform::Selection part, std::u16string& into) const override;
     void putText(std::u16string_view text) override;
     void insert(std::u16string_view text) override;
     [[nodiscard]] platform::Selection selection() const override;
@@ -73,7 +72,6 @@ private:
     LRESULT onDoubleClick(WPARAM first, LPARAM second);
     LRESULT onMove(WPARAM first, LPARAM second);
     LRESULT onMenu(LPARAM point);
-    LRESULT onSetText(WPARAM first, LPARAM second);
     LRESULT onDestroyed(WPARAM first, LPARAM second);
     LRESULT dialogCode(WPARAM first, LPARAM second);
     bool shortcut(int code, int shift);
@@ -84,14 +82,9 @@ private:
 
     LRESULT pass(UINT message, WPARAM first, LPARAM second); // to the EDIT, then reports what it changed
     LRESULT native(UINT message, WPARAM first, LPARAM second) const noexcept;
-    void refresh() const; // text_ is what the window shows
-    [[nodiscard]] bool sameText() const;
-    [[nodiscard]] bool typeUnseen(int unit);
-    void showText();
-    void expectTyped(int unit, LRESULT selected) noexcept;
-    [[nodiscard]] bool adoptTyped();
-    [[nodiscard]] bool becameAnother();
-    void reportChange();
+    void readWindow(std::u16string& into) const;
+    void adopt(platform::Selection before, bool typed); // the window's text, reported when it is another one
+    void report(const platform::Edit& edit);
     void keepState();
     void rebuild();
     [[nodiscard]] DWORD style(bool visible) const noexcept;
@@ -106,25 +99,21 @@ private:
     platform::EditBoxKind kind_;
     bool entered_ = false;     // gotFocus() reported, lostFocus() not yet
     bool quiet_ = false;       // the text is being written by the control
-    bool changed_ = false;     // to be reported when the EDIT has returned
+    bool changed_ = false;     // the window may hold another text than text_; to be reported when the EDIT has returned
     bool swallowChar_ = false; // the key-down handler took the key
     std::optional<int> shift_; // as of the last key here; nothing before the first
     bool skipClick_ = false;   // the button's way up after a double click
     bool rebuilding_ = false;
     bool dropTarget_ = false;
-    mutable bool stale_ = false; // the window holds a newer text than text_
-    bool behind_ = false;        // the window holds an older text than text_, and kept_ is the caret to set
     int passing_ = 0;
-    int typedAt_ = -1; // where one unit is about to be typed, or rubbed out (0); -1: not known
-    char16_t typedUnit_ = 0;
     HWND edit_ = nullptr;
     WNDPROC original_ = nullptr;
     FocusArbiter& arbiter_;
     platform::EditColours colours_;
     platform::EditTraits traits_;
     SharedFont font_;
-    mutable std::u16string text_;
-    mutable std::u16string scratch_;
+    std::u16string text_;
+    std::u16string former_;    // the text before the edit that is being reported
     platform::Selection kept_; // while there is no window
 };
 

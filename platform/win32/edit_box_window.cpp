@@ -20,17 +20,8 @@ namespace {
 
 // The characters that the Control key makes of these letters.
 constexpr WPARAM controlA = 1, controlC = 3, controlV = 22, controlX = 24, controlY = 25, controlZ = 26;
-constexpr WPARAM controlEnter = 10, controlBackspace = 127;
+constexpr WPARAM controlBackspace = 127;
 constexpr int shiftKey = 1, controlKey = 2, altKey = 4;
-
-// The EDIT acts on the WM_CHAR of these keys. Their WM_KEYDOWN only makes it read the shift keys, which is slow where
-// each reading asks a server, as under Wine.
-bool onlyTypes(int key) noexcept
-{
-    const bool keypad = key >= VK_NUMPAD0 && key <= VK_DIVIDE;
-    const bool punctuation = (key >= VK_OEM_1 && key <= VK_OEM_3) || (key >= VK_OEM_4 && key <= VK_OEM_102);
-    return key == VK_SPACE || (key >= '0' && key <= '9') || (key >= 'A' && key <= 'Z') || keypad || punctuation;
-}
 
 constexpr bool isControl(WPARAM unit) noexcept
 {
@@ -74,7 +65,6 @@ LRESULT CALLBACK EditBox::procedure(HWND window, UINT message, WPARAM first, LPA
 
 LRESULT EditBox::handle(UINT message, WPARAM first, LPARAM second)
 {
-    showText();
     if (surface_.dead() && isInput(message))
         return 0;
     switch (message) {
@@ -93,8 +83,7 @@ LRESULT EditBox::handle(UINT message, WPARAM first, LPARAM second)
     case WM_UNICHAR: return onUnicode(first, second);
     case WM_IME_COMPOSITION: return onComposition(first, second);
     case WM_CONTEXTMENU: return onMenu(second);
-    case WM_SETTEXT: return onSetText(first, second);
-    case EM_REPLACESEL: refresh(); return pass(message, first, second);
+    case WM_SETTEXT: changed_ = true; return pass(message, first, second); // a multi-line EDIT sends no EN_CHANGE
     case WM_PASTE: paste(); return 0;
     case WM_COPY: copy(); return 0;
     case WM_CUT: cut(true); return 0;
@@ -126,22 +115,6 @@ LRESULT EditBox::onDestroyed(WPARAM first, LPARAM second)
     return behindProcedure(window, WM_NCDESTROY, first, second);
 }
 
-LRESULT EditBox::onSetText(WPARAM first, LPARAM second)
-{
-    refresh();
-    const LRESULT result = native(WM_SETTEXT, first, second);
-    // A multi-line EDIT sends no EN_CHANGE for WM_SETTEXT, so the texts are compared.
-    const engine::Alive alive(life_);
-    if (result && !sameText()) {
-        changed_ = false;
-        stale_ = true;
-        reportChange();
-    }
-    if (alive)
-        changed_ = false;
-    return result;
-}
-
 LRESULT EditBox::onKeyDown(UINT message, WPARAM code, LPARAM data)
 {
     const engine::Alive alive(life_);
@@ -158,10 +131,9 @@ LRESULT EditBox::onKeyDown(UINT message, WPARAM code, LPARAM data)
     swallowChar_ = key == 0;
     if (key == 0 || shortcut(key, shift))
         return 0;
-    if (message == WM_KEYDOWN && onlyTypes(key))
+    // Wine's EDIT selects all already here, before the host has heard the character.
+    if ((shift & controlKey) && key == 'A')
         return 0;
-    if (key == VK_DELETE)
-        refresh();
     return pass(message, static_cast<WPARAM>(key), data);
 }
 
@@ -189,17 +161,7 @@ LRESULT EditBox::onChar(WPARAM unit, LPARAM data)
         listener->keyPress(key);
     if (!alive || edit_ != window || key == 0)
         return 0;
-    if (isSingle() && (key == VK_RETURN || key == '\n' || key == VK_ESCAPE))
-        return 0; // the EDIT would only beep
-    if (typeUnseen(key))
-        return 0;
-    const LRESULT selected = native(EM_GETSEL, 0, 0);
-    refresh();
-    expectTyped(key, selected);
-    const LRESULT result = pass(WM_CHAR, static_cast<WPARAM>(key), data);
-    if (alive)
-        typedAt_ = -1;
-    return result;
+    return pass(WM_CHAR, static_cast<WPARAM>(key), data);
 }
 
 // The box still acts on the control character unless the host set the key to 0. Another code that the host sets is not
@@ -220,12 +182,9 @@ LRESULT EditBox::onControl(WPARAM unit, LPARAM data)
     case controlX: command(editCut); return 0;
     case controlY: command(editRedo); return 0;
     case controlZ: command(editUndo); return 0;
-    case controlEnter:
-        if (isSingle())
-            return 0;
-        refresh();
-        return pass(WM_CHAR, unit, data);
-    default: return 0; // the EDIT would only beep
+    case VK_TAB:
+    case controlBackspace: return 0; // the EDIT would insert a character that no rule has seen
+    default: return pass(WM_CHAR, unit, data);
     }
 }
 

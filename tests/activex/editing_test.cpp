@@ -1,6 +1,7 @@
 // The clipboard, undo and unusual characters at the windows of the control.
 #include "person.h"
 
+#include <array>
 #include <gtest/gtest.h>
 
 namespace vela::test {
@@ -148,6 +149,24 @@ TEST(Editing, CutUndoAndRedo)
         Field untouched(row.kind);
         EXPECT_EQ(field.shown(), untouched.shown()) << "each step back";
     }
+}
+
+// Control and Delete: the EDIT takes the rest of the line.
+TEST(Editing, WhatTheEditDoesOfItsOwnIsUndoneWhole)
+{
+    const LeakCheck leaks;
+    Field field(asPlainText);
+    field.form.type(u"um dois");
+    field.select(3, 3);
+    std::array<BYTE, 256> keys{};
+    keys[VK_CONTROL] = 0x80;
+    SetKeyboardState(keys.data());
+    field.form.press(VK_DELETE);
+    keys[VK_CONTROL] = 0;
+    SetKeyboardState(keys.data());
+    EXPECT_EQ(field.shown(), u"um ");
+    field.form.type(u"\x1A");
+    EXPECT_EQ(field.shown(), u"um dois");
 }
 
 TEST(Editing, TheMenusCommands)

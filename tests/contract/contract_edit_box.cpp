@@ -9,18 +9,6 @@ using platform::Selection;
 
 class EditBoxContract : public FieldCase {};
 
-// The result is the same whether or not the field re-formats what is typed.
-class TypingContract : public FieldCase, public testing::WithParamInterface<bool> {
-protected:
-    TypingContract()
-    {
-        first.layingOut = GetParam();
-        stage->focus(0);
-        log.clear();
-    }
-};
-INSTANTIATE_TEST_SUITE_P(LayingOut, TypingContract, testing::Bool());
-
 TEST_F(EditBoxContract, PutTextPutsTheCaretAtTheStartAndReportsOnlyAnotherText)
 {
     struct Row {
@@ -122,16 +110,20 @@ TEST_F(EditBoxContract, TraitsAreKeptAndTextAndSelectionOutliveThem)
     EXPECT_TRUE(log.empty());
 }
 
-TEST_P(TypingContract, AKeyIsDownPressChangeUp)
+TEST_F(EditBoxContract, AKeyIsDownPressChangeUp)
 {
+    stage->focus(0);
+    log.clear();
     stage->type(u"a");
     EXPECT_EQ(log, (Log{"A down", "A press", "A changed", "A up"}));
     EXPECT_EQ(text(), u"a");
     EXPECT_EQ(box().selection(), (Selection{1, 0}));
 }
 
-TEST_P(TypingContract, TypingFollowsTheFilterTheLimitAndTheLock)
+TEST_F(EditBoxContract, TypingFollowsTheFilterTheLimitAndTheLock)
 {
+    stage->focus(0);
+    log.clear();
     first.filter = [](int& key) { key = key == 'x' ? 0 : key == 'a' ? 'A' : key; };
     EditTraits traits = box().traits();
     traits.maxLength = 3;
@@ -157,8 +149,10 @@ TEST_F(EditBoxContract, ASwallowedKeyTypesNothing)
     EXPECT_EQ(log, (Log{"A down", "A up"}));
 }
 
-TEST_P(TypingContract, TypingOverASelectionWithTheSameTextReportsNothing)
+TEST_F(EditBoxContract, TypingOverASelectionWithTheSameTextReportsNothing)
 {
+    stage->focus(0);
+    log.clear();
     box().putText(u"abc");
     box().select({1, 1});
     log.clear();
@@ -194,8 +188,10 @@ TEST_F(EditBoxContract, NamedKeysEditTheText)
     EXPECT_EQ(only({"changed"}), (Log{"A changed", "A changed"}));
 }
 
-TEST_P(TypingContract, AHandlerOfChangeMayPutTheTextAndTheCaret)
+TEST_F(EditBoxContract, AHandlerOfChangeMayPutTheTextAndTheCaret)
 {
+    stage->focus(0);
+    log.clear();
     first.during("changed", [this] {
         if (text() == u"1") {
             EXPECT_EQ(box().selection(), (Selection{1, 0}));
@@ -269,15 +265,56 @@ TEST_F(EditBoxContract, MouseReports)
     EXPECT_GE(count("B pointer"), 1);
 }
 
-TEST_F(EditBoxContract, PartsOfTheTextAreCutToIt)
+// "a[b]c" and the keys: what is reported, whatever common letters stand beside it.
+TEST_F(EditBoxContract, AChangeSaysWhatGaveWayToWhat)
 {
-    box().putText(u"abcdef");
-    std::u16string part;
-    for (const auto& [asked, got] : {std::pair{Selection{1, 2}, u"bc"}, std::pair{Selection{4, 9}, u"ef"},
-                                     std::pair{Selection{9, 1}, u""}, std::pair{Selection{-1, 2}, u"ab"}}) {
-        box().part(asked, part);
-        EXPECT_EQ(part, got);
+    constexpr int none = 0, del = 46;
+    struct Row {
+        const char* rule;
+        std::u16string_view before;
+        Selection selection;
+        std::u16string_view typed;
+        int pressed;
+        int at;
+        std::u16string_view removed, inserted;
+    };
+    const Row rows[] = {
+        {"a character", u"aa", {1, 0}, u"a", none, 1, u"", u"a"},
+        {"over a selection that begins alike", u"aXab", {1, 2}, u"X", none, 1, u"Xa", u"X"},
+        {"over a selection that ends alike", u"aXa", {1, 2}, u"a", none, 1, u"Xa", u"a"},
+        {"Backspace among the same letters", u"aaa", {2, 0}, u"\b", none, 1, u"a", u""},
+        {"Backspace on a selection", u"abbb", {1, 2}, u"\b", none, 1, u"bb", u""},
+        {"Delete among the same letters", u"aaa", {1, 0}, u"", del, 1, u"a", u""},
+        {"Delete on a selection", u"abab", {0, 2}, u"", del, 0, u"ab", u""},
+    };
+    stage->focus(0);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.rule);
+        box().putText(row.before);
+        box().select(row.selection);
+        if (row.pressed != none)
+            stage->press(row.pressed);
+        else
+            stage->type(row.typed);
+        EXPECT_EQ(first.lastEdit.at, row.at);
+        EXPECT_EQ(first.removed, row.removed);
+        EXPECT_EQ(first.inserted, row.inserted);
+        EXPECT_EQ(first.lastEdit.before, row.selection);
+        EXPECT_TRUE(first.lastEdit.typed);
     }
+    box().putText(u"12,34");
+    box().select({5, 0});
+    box().putText(u"1.234");
+    EXPECT_EQ(first.lastEdit.at, 1);
+    EXPECT_EQ(first.removed, u"2,");
+    EXPECT_EQ(first.inserted, u".2");
+    EXPECT_EQ(first.lastEdit.before, (Selection{5, 0}));
+    EXPECT_FALSE(first.lastEdit.typed);
+    box().select({1, 2});
+    box().insert(u"2");
+    EXPECT_EQ(first.removed, u".2");
+    EXPECT_EQ(first.inserted, u"2");
+    EXPECT_TRUE(first.lastEdit.typed);
 }
 
 } // namespace

@@ -21,7 +21,8 @@ public:
     std::u16string lastPasted;
     int lastShift = 0;
     platform::Leaving lastLeaving = platform::Leaving::within;
-    bool layingOut = false;
+    std::u16string removed, inserted; // of the last edit, its views read at once
+    platform::Edit lastEdit;
 
     void gotFocus() override { tell("got"); }
     void lostFocus(platform::Leaving leaving) override
@@ -49,8 +50,13 @@ public:
         tell("control");
     }
     void keyUp(int, int) override { tell("up"); }
-    [[nodiscard]] bool laysOutTyping() const override { return layingOut; }
-    void changed() override { tell("changed"); }
+    void changed(const platform::Edit& edit) override
+    {
+        removed = edit.removed;
+        inserted = edit.inserted;
+        lastEdit = {edit.at, removed, inserted, edit.before, edit.typed};
+        tell("changed");
+    }
     void clicked() override { tell("clicked"); }
     void doubleClicked() override { tell("double"); }
     void pointerMoved() override { tell("pointer"); }

@@ -161,7 +161,7 @@ TEST(Undo, NeverPartsJoinedSteps)
         std::u16string text;
         const auto put = [&](int at, std::u16string_view removed, std::u16string_view inserted, bool joined) {
             text.replace(static_cast<std::size_t>(at), removed.size(), inserted);
-            history.add(at, removed, inserted, {at, 0}, joined);
+            history.add({at, removed, inserted, {at, 0}}, joined);
         };
         for (int i = 0; i < single; ++i)
             put(0, u"", u"s", false);

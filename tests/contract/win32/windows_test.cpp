@@ -121,29 +121,25 @@ TEST_F(Windows, TheBoxIsAnEditThatOthersMayWriteTo)
     SendMessageW(edit(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"De"));
     EXPECT_EQ(text(), u"De fora");
     EXPECT_EQ(log, (Log{"A changed", "A changed"}));
+    EXPECT_FALSE(first.lastEdit.typed);
 }
 
-TEST_F(Windows, AWindowShowsWhatWasTypedToWhoeverLooksBeforeItIsLaidOut)
+// Control and Delete take the rest of the line, which is an edit of the EDIT's own.
+TEST_F(Windows, AnEditOfTheWindowsOwnIsReportedWhole)
 {
-    const auto shown = [this] {
-        std::array<wchar_t, 16> read{};
-        GetWindowTextW(edit(), read.data(), static_cast<int>(read.size()));
-        return std::wstring(read.data());
-    };
-    first.layingOut = true;
     stage->focus(0);
-    stage->type(u"0,01");
-    first.during("changed", [&] {
-        if (text() == u"0,012") {
-            EXPECT_EQ(shown(), L"0,012");
-            EXPECT_EQ(SendMessageW(edit(), EM_GETSEL, 0, 0), MAKELRESULT(5, 5));
-            box().putText(u"0,12");
-            box().select({4, 0});
-        }
-    });
-    stage->type(u"2");
-    EXPECT_EQ(shown(), L"0,12");
-    EXPECT_EQ(SendMessageW(edit(), EM_GETSEL, 0, 0), MAKELRESULT(4, 4));
+    box().putText(u"um dois");
+    box().select({3, 0});
+    std::array<BYTE, 256> keys{};
+    keys[VK_CONTROL] = 0x80;
+    SetKeyboardState(keys.data());
+    stage->press(VK_DELETE);
+    keys[VK_CONTROL] = 0;
+    SetKeyboardState(keys.data());
+    EXPECT_EQ(text(), u"um ");
+    EXPECT_EQ(first.lastEdit.at, 3);
+    EXPECT_EQ(first.removed, u"dois");
+    EXPECT_TRUE(first.lastEdit.typed);
 }
 
 TEST_F(Windows, ALockedBoxIsReadOnlyInItsOwnColours)
