@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace {
@@ -101,11 +102,10 @@ public:
             std::printf("a field could not be created\n");
         return site;
     }
-    [[nodiscard]] HWND edit(int top = 10) const
+    [[nodiscard]] HWND edit(int top = 10, DWORD style = ES_AUTOHSCROLL) const
     {
-        const HWND made =
-            CreateWindowExW(WS_EX_CLIENTEDGE, L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL, 10,
-                            top, 200, 23, window_, nullptr, GetModuleHandleW(nullptr), nullptr);
+        const HWND made = CreateWindowExW(WS_EX_CLIENTEDGE, L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | style,
+                                          10, top, 200, 23, window_, nullptr, GetModuleHandleW(nullptr), nullptr);
         SendMessageW(made, WM_SETFONT, reinterpret_cast<WPARAM>(font_), FALSE); // a scalable one, as forms have
         return made;
     }
@@ -194,9 +194,85 @@ void freeTextRow(Form& form)
     SetFocus(bare);
     const double theirs = each(bare);
     SetFocus(mine);
-    row("a character typed into free text", each(mine), "into a bare EDIT", theirs, 1.1);
+    row("a character typed into free text", each(mine), "into a bare EDIT", theirs, 1.4);
     DestroyWindow(bare);
     site->close();
+}
+
+// A hundred thousand characters in lines, typed into in the middle.
+void longTextRow(Form& form)
+{
+    std::wstring lines;
+    while (lines.size() < 100000)
+        lines += std::wstring(98, L'x') + L"\r\n";
+    const auto site = form.field({{L"MultLine", OleValue(true)}});
+    HWND mine = editOf(*site.Get());
+    HWND bare = form.edit(60, ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL | WS_VSCROLL);
+    SendMessageW(bare, EM_LIMITTEXT, 0, 0);
+    const auto each = [&lines](HWND window) {
+        SetFocus(window);
+        SetWindowTextW(window, lines.c_str());
+        return measure(5,
+                       [window](int) {
+                           SendMessageW(window, EM_SETSEL, 50000, 50000);
+                           typeInto(window, L"abcdefghij", 10);
+                       }) /
+               10;
+    };
+    const double theirs = each(bare);
+    row("a character into 100,000 characters", each(mine), "into a bare EDIT", theirs, 2.0);
+    DestroyWindow(bare);
+    site->close();
+}
+
+struct FormTimes {
+    double created = 1e300;
+    double loaded = 1e300;
+    double key = 1e300;
+};
+
+// A form of `count` fields: the least of `rounds`, in microseconds a field, and a key into one of them.
+FormTimes timesOf(Form& form, int count, int rounds)
+{
+    const std::vector<Setting> mask{number(L"TextType", 3), text(L"Mask", L"___-____-____"),
+                                    text(L"MaskRules", L"@@@-####-####")};
+    FormTimes best;
+    const auto fill = [&](const std::vector<Setting>& settings, double& least) {
+        std::vector<ComPtr<ControlSite>> fields;
+        fields.reserve(static_cast<std::size_t>(count));
+        const double start = now();
+        for (int i = 0; i < count; ++i)
+            fields.push_back(form.field(settings));
+        least = std::min(least, (now() - start) / count);
+        HWND typed = editOf(*fields.back().Get());
+        SetFocus(typed);
+        SendMessageW(typed, EM_SETSEL, 0, 0);
+        const double before = now();
+        typeInto(typed, L"abc12345678", 11);
+        if (!settings.empty())
+            best.key = std::min(best.key, (now() - before) / 11);
+        for (auto& site : fields)
+            site->close();
+        pump();
+    };
+    for (int round = 0; round < rounds; ++round) {
+        fill({}, best.created);
+        fill(mask, best.loaded);
+    }
+    return best;
+}
+
+void formSizeRows(Form& form)
+{
+    const FormTimes ten = timesOf(form, 10, 40);
+    const FormTimes hundred = timesOf(form, 100, 6);
+    const FormTimes thousand = timesOf(form, 1000, 2);
+    for (const auto& [name, at] : {std::pair{"100", hundred}, std::pair{"1,000", thousand}}) {
+        const std::string form_ = std::string("on a form of ") + name;
+        row(("a field created " + form_).c_str(), at.created, "on a form of 10", ten.created, 1.2);
+        row(("a mask field loaded " + form_).c_str(), at.loaded, "on a form of 10", ten.loaded, 1.2);
+        row(("a key into a mask " + form_).c_str(), at.key, "on a form of 10", ten.key, 1.2);
+    }
 }
 
 void maskRow(Form& form)
@@ -269,7 +345,7 @@ void liveAmountRow(Form& form)
     plainEdit =
         reinterpret_cast<WNDPROC>(SetWindowLongPtrW(bare, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&amountProcedure)));
     SetFocus(bare);
-    row("a digit typed into a live amount", field, "an EDIT with VarFormat and WM_SETTEXT", amount(bare), 0.9);
+    row("a digit typed into a live amount", field, "an EDIT with VarFormat and WM_SETTEXT", amount(bare), 1.2);
     DestroyWindow(bare);
     site->close();
 }
@@ -379,6 +455,7 @@ int main()
         pump();
         creationRows(form);
         freeTextRow(form);
+        longTextRow(form);
         maskRow(form);
         liveAmountRow(form);
         focusRow(form);
@@ -387,6 +464,7 @@ int main()
         popupRow(form, "opening and closing the calculator",
                  {number(L"TextType", 1), {L"ShowButtonCalculadora", OleValue(true)}});
         automationRow(form);
+        formSizeRows(form);
     }
     OleUninitialize();
     return 0;
