@@ -54,16 +54,27 @@ inline constexpr PropertyValue textValue{
     .save = [](const StoredState& state) -> engine::Value { return state.text; },
     .load = [](StoredState& state, const engine::Value& value) { state.text = std::get<std::u16string>(value); }};
 
+// Oddity: BackColor also sets BackColorGotFocus; forms put BackColor alone and expect to see it during the entry.
 inline constexpr PropertyValue backColour{
     .type = PropertyType::colour,
     .get = [](Vela& control) { return toValue(PropertyAccess::box(control).colours().back); },
-    .put = [](Vela& control, const engine::Value& value) { control.putBackColor(ownValue<engine::Colour>(value)); },
+    .put =
+        [](Vela& control, const engine::Value& value) {
+            const auto colour = ownValue<engine::Colour>(value);
+            platform::EditBox& box = PropertyAccess::box(control);
+            box.putColours({box.colours().fore, colour});
+            control.BackColorGotFocus(colour);
+        },
     .save = [](const StoredState& state) { return toValue(state.back); },
     .load = [](StoredState& state, const engine::Value& value) { state.back = ownValue<engine::Colour>(value); }};
 
 inline constexpr PropertyValue enabledValue = [] {
     PropertyValue value = trait<&platform::EditTraits::enabled>;
-    value.put = [](Vela& control, const engine::Value& wanted) { control.putEnabled(std::get<bool>(wanted)); };
+    value.put = [](Vela& control, const engine::Value& wanted) {
+        Context& context = PropertyAccess::context(control);
+        context.putTrait(&platform::EditTraits::enabled, std::get<bool>(wanted));
+        context.surface.putEnabled(std::get<bool>(wanted));
+    };
     return value;
 }();
 
@@ -113,7 +124,7 @@ inline constexpr PropertyValue fontValue{
 
 inline constexpr PropertyValue variantValue{
     .type = PropertyType::variant,
-    .get = [](Vela& control) { return control.Value(); },
-    .put = [](Vela& control, const engine::Value& value) { control.Value(value); }};
+    .get = [](Vela& control) { return PropertyAccess::content(control).value(); },
+    .put = [](Vela& control, const engine::Value& value) { PropertyAccess::content(control).putValue(value); }};
 
 } // namespace vela::control

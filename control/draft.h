@@ -1,13 +1,13 @@
 // What a paste makes of the text: its keys are typed here one by one, and the box is written once.
 #pragma once
 
-#include "control/internal.h"
+#include "control/context.h"
 #include "engine/field/keystroke.h"
 
 namespace vela::control {
 
-struct Vela::Draft {
-    explicit Draft(Vela& field);
+struct Draft {
+    explicit Draft(Context& context);
 
     [[nodiscard]] engine::KeyBox seen() noexcept;
     void placeCaret(int caret) noexcept { selection = {caret, 0}; }

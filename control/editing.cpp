@@ -1,5 +1,5 @@
 // Paste, cut, undo and redo: the same rules as typing, and the field's own history.
-#include "control/internal.h"
+#include "control/typing.h"
 
 #include "control/draft.h"
 #include "engine/field/keystroke.h"
@@ -46,19 +46,19 @@ std::size_t literalRunBefore(std::size_t caret, const engine::MaskSettings& sett
 
 } // namespace
 
-Vela::Draft::Draft(Vela& field)
+Draft::Draft(Context& context)
 {
-    field.readText(before);
+    context.readText(before);
     text = before;
     const int length = static_cast<int>(text.size());
-    selectionBefore = field.box().selection();
+    selectionBefore = context.box().selection();
     selection.start = std::clamp(selectionBefore.start, 0, length);
     selection.length = std::clamp(selectionBefore.length, 0, length - selection.start);
-    maxLength = field.box().traits().maxLength;
-    locked = field.box().traits().locked;
+    maxLength = context.box().traits().maxLength;
+    locked = context.box().traits().locked;
 }
 
-engine::KeyBox Vela::Draft::seen() noexcept
+engine::KeyBox Draft::seen() noexcept
 {
     return {.text = &text,
             .length = static_cast<int>(text.size()),
@@ -67,7 +67,7 @@ engine::KeyBox Vela::Draft::seen() noexcept
             .maxLength = maxLength};
 }
 
-bool Vela::Draft::insert(std::u16string_view typed)
+bool Draft::insert(std::u16string_view typed)
 {
     const auto start = static_cast<std::size_t>(selection.start);
     const auto length = static_cast<std::size_t>(selection.length);
@@ -81,10 +81,10 @@ bool Vela::Draft::insert(std::u16string_view typed)
 }
 
 // When a key replaces a selection in a full mask, no prompt draws the caret on, so a run of literals is skipped here.
-engine::KeyPlan Vela::planKey(int key, engine::KeyTurn turn, Draft& draft)
+engine::KeyPlan Typing::planKey(int key, engine::KeyTurn turn, Draft& draft)
 {
     const engine::KeystrokeSettings settings = keystrokeSettings();
-    const bool inMask = masked() && engine::needsOf(key, settings, turn).text;
+    const bool inMask = context_.masked() && engine::needsOf(key, settings, turn).text;
     if (inMask && draft.selectionBefore.length > 0 && key <= u'z' && isLetterOrDigit(static_cast<char16_t>(key))) {
         const auto next = engine::nextInputPosition(draft.selection.start, settings.mask);
         if (next && *next > draft.selection.start + 1) // a single literal is skipped by the mask engine
@@ -97,20 +97,21 @@ engine::KeyPlan Vela::planKey(int key, engine::KeyTurn turn, Draft& draft)
 }
 
 // One character of a paste; false when the control did not survive it.
-bool Vela::typeInto(Draft& draft, char16_t unit)
+bool Typing::typeInto(Draft& draft, char16_t unit)
 {
-    const engine::Alive alive(life_);
+    const engine::Alive alive(context_.life);
     const int key = filterKey(plainKey(unit), &draft);
     if (!alive)
         return false;
     const auto typed = static_cast<char16_t>(key);
-    if (key == 0 || !draft.insert(key == carriageReturn ? lineBreak : View(&typed, 1)) || !liveNumber())
+    if (key == 0 || !draft.insert(key == carriageReturn ? lineBreak : std::u16string_view(&typed, 1)) ||
+        !context_.liveNumber())
         return true;
     if (!livePattern_)
         livePattern_ = std::make_unique<engine::LivePattern>();
-    Text16 shown;
+    std::u16string shown;
     if (const auto caret =
-            engine::liveFormat(draft.text, draft.selection.start, numberSettings(), *livePattern_, shown)) {
+            engine::liveFormat(draft.text, draft.selection.start, context_.numberSettings(), *livePattern_, shown)) {
         draft.text = shown;
         draft.placeCaret(*caret);
     }
@@ -118,15 +119,15 @@ bool Vela::typeInto(Draft& draft, char16_t unit)
 }
 
 // Character by character through the filter; what is refused is left out. A line break is one Enter key.
-void Vela::pasted(std::u16string_view text)
+void Typing::paste(std::u16string_view text)
 {
-    if (deaf())
+    if (context_.deaf())
         return;
-    whileAlive(life_, [&] {
-        Draft draft(*this);
-        const engine::MaskSettings mask = maskSettings();
+    whileAlive(context_.life, [&] {
+        Draft draft(context_);
+        const engine::MaskSettings mask = context_.maskSettings();
         const std::size_t start = literalRunBefore(static_cast<std::size_t>(draft.selection.start), mask);
-        const bool aligned = masked() && liesOnMask(text, start, mask);
+        const bool aligned = context_.masked() && liesOnMask(text, start, mask);
         for (std::size_t i = 0; i < text.size(); ++i) {
             char16_t unit = text[i];
             if (unit == 0 || unit == engine::key_code::backspace)
@@ -135,8 +136,9 @@ void Vela::pasted(std::u16string_view text)
                 continue;
             if (unit == lineFeed)
                 unit = carriageReturn;
-            if (aligned && start + i < settings_.mask.size()) {
-                const bool input = settings_.promptChar == View(settings_.mask).substr(start + i, 1);
+            if (aligned && start + i < context_.settings.mask.size()) {
+                const bool input =
+                    context_.settings.promptChar == std::u16string_view(context_.settings.mask).substr(start + i, 1);
                 if (!input && isLetterOrDigit(unit))
                     continue;
                 if (input)
@@ -146,70 +148,54 @@ void Vela::pasted(std::u16string_view text)
                 return;
         }
         if (draft.text != draft.before)
-            writeText(draft.text, Writer::keys);
+            content_.writeText(draft.text, Writer::keys);
         if (draft.text != draft.before || draft.selection != draft.selectionBefore)
-            box().select(draft.selection);
+            context_.box().select(draft.selection);
     });
 }
 
-void Vela::cut()
+void Typing::cut()
 {
-    if (deaf())
+    if (context_.deaf())
         return;
-    whileAlive(life_, [&] {
-        if (box().selection().length == 0)
+    whileAlive(context_.life, [&] {
+        if (context_.box().selection().length == 0)
             return;
-        if (masked()) {
+        if (context_.masked()) {
             sKeyDown(keyDelete);
         } else {
-            box().insert(u"");
+            context_.box().insert(u"");
         }
     });
 }
 
-void Vela::undo()
+void Typing::restore(bool backwards)
 {
-    restore(true);
-}
-
-void Vela::redo()
-{
-    restore(false);
-}
-
-void Vela::restore(bool backwards)
-{
-    if (deaf() || !history_ || settings_.locked || (!masked() && box().traits().locked))
+    if (context_.deaf() || content_.keptHistory() == nullptr || context_.settings.locked ||
+        (!context_.masked() && context_.box().traits().locked))
         return;
-    whileAlive(life_, [&] {
-        Scratch text(*this);
-        readText(*text);
-        const auto selection = backwards ? history_->undo(*text) : history_->redo(*text);
+    whileAlive(context_.life, [&] {
+        Context::Scratch text(context_);
+        context_.readText(*text);
+        const auto selection = backwards ? content_.keptHistory()->undo(*text) : content_.keptHistory()->redo(*text);
         if (!selection)
             return;
-        writeText(*text, Writer::history);
-        box().select(*selection);
+        content_.writeText(*text, Writer::history);
+        context_.box().select(*selection);
     });
 }
 
-History& Vela::history()
-{
-    if (!history_)
-        history_ = std::make_unique<History>();
-    return *history_;
-}
-
 // Keeps what a person did, by hand or through the field's rules. An edit that came by other means ends the history.
-void Vela::keep(const platform::Edit& edit)
+void Typing::keep(const platform::Edit& edit)
 {
-    const bool person = writer_ == Writer::person;
+    const bool person = content_.writer() == Writer::person;
     if (person && !edit.typed) {
-        if (history_)
-            history_->clear();
-    } else if (person || writer_ == Writer::keys) {
-        history().add(edit, false);
-    } else if (writer_ == Writer::reformat && history_) {
-        history_->add(edit, true);
+        if (content_.keptHistory() != nullptr)
+            content_.keptHistory()->clear();
+    } else if (person || content_.writer() == Writer::keys) {
+        content_.history().add(edit, false);
+    } else if (content_.writer() == Writer::reformat && content_.keptHistory() != nullptr) {
+        content_.keptHistory()->add(edit, true);
     }
 }
 

@@ -1,183 +1,119 @@
-// Entering the field: colours, tip, edit form, selection; and what clicks and changes do.
-#include "control/internal.h"
+// Entering the field, and clicks in it.
+#include "control/visit.h"
 
+#include "control/error_log.h"
+#include "engine/field/mask.h"
 #include "tooltip/windows_version.h"
+
+#include <utility>
 
 namespace vela::control {
 
-void Vela::raise(void (platform::ControlHost::*event)())
+void Visit::enter()
 {
-    const engine::Alive alive(life_);
-    (host_.*event)();
-    if (!alive)
-        engine::raise(engine::error_number::objectNotSet);
+    firstClick_ = true;
+    trap(
+        context_.life,
+        [&](int& step) {
+            step = 1;
+            look_.enter(held_); // the error colour stays when the focus returned because this field's entry is wrong
+            showEntryTip();
+            step = 2;
+            enterText();
+            step = 3;
+            enterSelection();
+            step = 4;
+            context_.popups.closeAll();
+        },
+        [&](const engine::Error& failure) {
+            context_.showBox(platform::BoxIcon::information, u"Vela.GotFocus", gotFocusFailureText(failure));
+        });
 }
 
-void Vela::gotFocus()
+void Visit::showEntryTip()
 {
-    if (deaf())
+    if (context_.settings.toolTipGotFocus.empty() || returnedFocus_ ||
+        tooltip::VersaoWindows(context_.environment.system) != u"NT")
         return;
-    whileAlive(life_, [&] {
-        firstClick_ = true;
-        trap(
-            life_,
-            [&](int& step) {
-                step = 1;
-                enterColours();
-                showEntryTip();
-                step = 2;
-                enterText();
-                step = 3;
-                enterSelection();
-                step = 4;
-                popups_.closeAll();
-            },
-            [&](const engine::Error& failure) {
-                showBox(platform::BoxIcon::information, u"Vela.GotFocus", gotFocusFailureText(failure));
-            });
-    });
-}
-
-// When the focus returned because this field's entry is wrong, keep the error colour.
-void Vela::enterColours()
-{
-    box().putColours({held_ ? settings_.errorForeColor : settings_.foreColorGotFocus, settings_.backColorGotFocus});
-    surfaceBack_ = settings_.backColorGotFocus;
-    border_ = settings_.borderColorGotfocus;
-    layOut();
-}
-
-void Vela::showEntryTip()
-{
-    if (settings_.toolTipGotFocus.empty() || returnedFocus_ || tooltip::VersaoWindows(environment_.system) != u"NT")
-        return;
-    const platform::WindowId window = box().window();
+    const platform::WindowId window = context_.box().window();
     tooltip::CBalloonToolTip& tip = made(tip_);
-    tip.Title(settings_.nomeCampo);
-    tip.Icon(settings_.toolTipGotFocusTipo);
-    tip.TipText(settings_.toolTipGotFocus);
+    tip.Title(context_.settings.nomeCampo);
+    tip.Icon(context_.settings.toolTipGotFocusTipo);
+    tip.TipText(context_.settings.toolTipGotFocus);
     tip.CreateToolTip(window);
-    tip.ShowAt(0, arrangement().edit.height, window);
+    tip.ShowAt(0, look_.arrangement().edit.height, window);
 }
 
 // Writes the form that is edited ("R$ 1.234,50" -> "1234,50"). In a mask the caret goes before the first prompt.
 // Oddity: entering a field with MaskToNumeric leaves the symbol in the text; the live re-format works on the text as it
 // stands.
-void Vela::enterText()
+void Visit::enterText()
 {
-    Scratch text(*this);
-    if (masked()) {
-        readText(*text);
-        if (const auto caret = engine::firstPrompt(*text, settings_.promptChar))
-            box().select({*caret, 0});
-    } else if (settings_.textType == TipoText::Numerico && !settings_.maskToNumeric) {
-        readText(*text);
+    Context::Scratch text(context_);
+    if (context_.masked()) {
+        context_.readText(*text);
+        if (const auto caret = engine::firstPrompt(*text, context_.settings.promptChar))
+            context_.box().select({*caret, 0});
+    } else if (context_.settings.textType == TipoText::Numerico && !context_.settings.maskToNumeric) {
+        context_.readText(*text);
         if (text->empty())
             return;
-        Scratch form(*this);
-        engine::entryForm(*text, settings_.simboloMonetario, numberSettings().grouping, *form);
-        writeText(*form, Writer::life);
+        Context::Scratch form(context_);
+        engine::entryForm(*text, context_.settings.simboloMonetario, context_.numberSettings().grouping, *form);
+        content_.writeText(*form, Writer::life);
     } else {
-        box().select({box().textLength(), 0});
+        context_.box().select({context_.box().textLength(), 0});
     }
 }
 
 // An untouched mask keeps the caret at its first prompt.
-void Vela::enterSelection()
+void Visit::enterSelection()
 {
-    if (!settings_.autoSelect || liveNumber())
+    if (!context_.settings.autoSelect || context_.liveNumber())
         return;
-    if (masked()) {
-        Scratch text(*this);
-        readText(*text);
-        if (*text != settings_.mask)
+    if (context_.masked()) {
+        Context::Scratch text(context_);
+        context_.readText(*text);
+        if (*text != context_.settings.mask)
             selectAll();
-    } else if (settings_.textType == TipoText::TextoNormal || settings_.textType == TipoText::Numerico) {
+    } else if (context_.settings.textType == TipoText::TextoNormal ||
+               context_.settings.textType == TipoText::Numerico) {
         selectAll();
     }
 }
 
-void Vela::selectAll()
+void Visit::selectAll()
 {
-    box().select({0, box().textLength()});
+    context_.box().select({0, context_.box().textLength()});
 }
 
-void Vela::clicked()
+void Visit::click()
 {
-    if (deaf())
-        return;
-    whileAlive(life_, [&] {
-        trap(
-            life_,
-            [&](int&) {
-                placeCaretByClick();
-                raise(&platform::ControlHost::raiseClick);
-            },
-            [&](const engine::Error& failure) {
-                showBox(platform::BoxIcon::exclamation, u"Vela.ErrNumber: " + decimalText(failure.number),
-                        clickFailureText(failure));
-            });
-    });
+    trap(
+        context_.life,
+        [&](int&) {
+            placeCaretByClick();
+            context_.raise(&platform::ControlHost::raiseClick);
+        },
+        [&](const engine::Error& failure) {
+            context_.showBox(platform::BoxIcon::exclamation, u"Vela.ErrNumber: " + decimalText(failure.number),
+                             clickFailureText(failure));
+        });
 }
 
-// The back end reports both clicks of a double click; the second runs the click handler again.
-void Vela::doubleClicked()
-{
-    clicked();
-}
-
-void Vela::placeCaretByClick()
+void Visit::placeCaretByClick()
 {
     const bool first = std::exchange(firstClick_, false);
-    if (masked()) {
-        Scratch text(*this);
-        readText(*text);
-        if (const auto caret = engine::firstPrompt(*text, settings_.promptChar))
-            box().select({*caret, 0});
-    } else if (first && settings_.autoSelect &&
-               (settings_.textType == TipoText::TextoNormal || settings_.textType == TipoText::Numerico)) {
+    if (context_.masked()) {
+        Context::Scratch text(context_);
+        context_.readText(*text);
+        if (const auto caret = engine::firstPrompt(*text, context_.settings.promptChar))
+            context_.box().select({*caret, 0});
+    } else if (first && context_.settings.autoSelect &&
+               (context_.settings.textType == TipoText::TextoNormal ||
+                context_.settings.textType == TipoText::Numerico)) {
         selectAll();
     }
-}
-
-void Vela::changed(const platform::Edit& edit)
-{
-    if (deaf())
-        return;
-    whileAlive(life_, [&] {
-        const Writer writer = writer_;
-        keep(edit);
-        trap(
-            life_,
-            [&](int& step) {
-                step = 1;
-                raise(&platform::ControlHost::raiseChange);
-                step = 2;
-                if (!liveNumber() || (writer != Writer::person && writer != Writer::host))
-                    return;
-                step = 3;
-                reformatLive();
-            },
-            [&](const engine::Error& failure) {
-                showBox(platform::BoxIcon::exclamation, u"", changeFailureText(failure));
-            });
-    });
-}
-
-// Re-formats an amount as a cash register does: "0,001" -> "0,01". The caret keeps its distance from the end. The text
-// written here is not re-formatted again.
-void Vela::reformatLive()
-{
-    Scratch text(*this);
-    Scratch shown(*this);
-    readText(*text);
-    if (!livePattern_)
-        livePattern_ = std::make_unique<engine::LivePattern>();
-    const auto caret = engine::liveFormat(*text, box().selection().start, numberSettings(), *livePattern_, *shown);
-    if (!caret)
-        return;
-    writeText(*shown, writer_ == Writer::host ? Writer::life : Writer::reformat);
-    box().select({*caret, 0});
 }
 
 } // namespace vela::control

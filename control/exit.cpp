@@ -1,6 +1,8 @@
 // Leaving the field: its look restored, its text checked and formatted, a wrong entry answered.
-#include "control/internal.h"
+#include "control/visit.h"
 
+#include "control/error_log.h"
+#include "engine/field/number_display.h"
 #include "engine/text/conversions.h"
 #include "engine/text/letter_case.h"
 #include "tooltip/balloon_tip.h"
@@ -14,63 +16,45 @@ constexpr int alertIcon = 3;
 
 } // namespace
 
-void Vela::lostFocus(platform::Leaving leaving)
+void Visit::leave(platform::Leaving leaving)
 {
-    if (deaf())
-        return;
-    whileAlive(life_, [&] {
-        held_ = false;
-        trap(
-            life_, [&](int&) { leave(leaving); },
-            [&](const engine::Error& failure) {
-                if (failure.number != engine::error_number::invalidCall)
-                    log(failure, label::lostFocus);
-            });
-    });
+    held_ = false;
+    trap(
+        context_.life, [&](int&) { check(leaving); },
+        [&](const engine::Error& failure) {
+            if (failure.number != engine::error_number::invalidCall)
+                context_.log(failure, label::lostFocus);
+        });
 }
 
-void Vela::leave(platform::Leaving leaving)
+void Visit::check(platform::Leaving leaving)
 {
     hideTip();
-    leaveColours();
-    Scratch text(*this);
-    readText(*text);
+    look_.leave();
+    Context::Scratch text(context_);
+    context_.readText(*text);
     if (text->empty())
-        writeText(settings_.ifIsEmpty, Writer::life);
-    if (const auto wrong = leaveByType())
+        content_.writeText(context_.settings.ifIsEmpty, Writer::life);
+    if (const auto wrong = checkByType())
         answerWrong(*wrong, leaving);
-    else {
-        hideTip();
-        hideAlert();
-    }
+    else
+        hideTips();
 }
 
-void Vela::leaveColours()
+std::optional<Visit::Wrong> Visit::checkByType()
 {
-    putBackColours(settings_.backColorLostFocus);
-    border_ = settings_.borderColorLostfocus;
-    putForeColour(settings_.foreColorLostFocus);
-    layOut();
-    if (settings_.appearance == Aparencia::cFlat && settings_.borderStyle != eEstiloBorda::XP) {
-        surface_.clear();
-        surface_.drawRectangle(settings_.borderColorLostfocus, 1);
-    }
-}
-
-std::optional<Vela::Wrong> Vela::leaveByType()
-{
-    switch (settings_.textType) {
+    switch (context_.settings.textType) {
     case TipoText::TextoNormal:
-        if (settings_.tipoLetra == tipoTamanhoLetra::ProperCase) {
-            Scratch text(*this);
-            Scratch cased(*this);
-            readText(*text);
+        if (context_.settings.tipoLetra == tipoTamanhoLetra::ProperCase) {
+            Context::Scratch text(context_);
+            Context::Scratch cased(context_);
+            context_.readText(*text);
             engine::properCase(*text, *cased);
-            writeText(*cased, Writer::life);
+            content_.writeText(*cased, Writer::life);
         }
         break;
-    case TipoText::Numerico: return leaveNumber();
-    case TipoText::Data: return leaveDate();
+    case TipoText::Numerico: return checkNumber();
+    case TipoText::Data: return checkDate();
     case TipoText::Mascara: break;
     }
     return std::nullopt;
@@ -78,103 +62,112 @@ std::optional<Vela::Wrong> Vela::leaveByType()
 
 // Formats the number, sets the colour of its sign, then adds the symbol: "1234,5" -> "1.234,50" -> "R$ 1.234,50". When
 // the locale does not read the formatted text as a number, this ends with that error, without colour and symbol.
-std::optional<Vela::Wrong> Vela::leaveNumber()
+std::optional<Visit::Wrong> Visit::checkNumber()
 {
-    Scratch text(*this);
-    Scratch next(*this);
-    readText(*text);
-    if (engine::isSymbolAlone(*text, numberSettings().decimal)) {
-        putForeColour(settings_.errorForeColor);
+    Context::Scratch text(context_);
+    Context::Scratch next(context_);
+    context_.readText(*text);
+    if (engine::isSymbolAlone(*text, context_.numberSettings().decimal)) {
+        look_.putForeColour(context_.settings.errorForeColor);
         return Wrong{engine::wrongNumberTitle, engine::wrongNumberText};
     }
-    if (engine::isNumeric(*text, locale())) {
-        engine::displayNumber(*text, numberSettings(), *next);
-        writeText(*next, Writer::life);
+    if (engine::isNumeric(*text, context_.locale())) {
+        engine::displayNumber(*text, context_.numberSettings(), *next);
+        content_.writeText(*next, Writer::life);
         text->swap(*next);
         if (!text->empty()) {
-            switch (engine::currencySign(*text, locale())) {
-            case engine::NumberSign::negative: putForeColour(settings_.corValorNeg); break;
-            case engine::NumberSign::positive: putForeColour(settings_.corValorPos); break;
-            case engine::NumberSign::zero: putForeColour(settings_.foreColorLostFocus); break;
+            switch (engine::currencySign(*text, context_.locale())) {
+            case engine::NumberSign::negative: look_.putForeColour(context_.settings.corValorNeg); break;
+            case engine::NumberSign::positive: look_.putForeColour(context_.settings.corValorPos); break;
+            case engine::NumberSign::zero: look_.putForeColour(context_.settings.foreColorLostFocus); break;
             }
         }
     }
-    if (engine::applySymbol(*text, settings_.simboloMonetario, *next))
-        writeText(*next, Writer::life);
+    if (engine::applySymbol(*text, context_.settings.simboloMonetario, *next))
+        content_.writeText(*next, Writer::life);
     return std::nullopt;
 }
 
 // The untouched template is accepted. A date that is refused for its day or month gets prompts in their place.
 // Oddity: a Data field without DateFormat is not checked; forms use such fields for texts that are no dates.
-std::optional<Vela::Wrong> Vela::leaveDate()
+std::optional<Visit::Wrong> Visit::checkDate()
 {
-    Scratch text(*this);
-    readText(*text);
-    if (*text == settings_.formatoExibData)
+    Context::Scratch text(context_);
+    context_.readText(*text);
+    if (*text == context_.settings.formatoExibData)
         return std::nullopt;
-    const bool time = engine::isTimeFormat(settings_.dateFormat);
-    Text16 corrected;
-    const engine::DateVerdict verdict =
-        time ? engine::checkTime(*text, checkSettings()) : engine::checkDate(*text, checkSettings(), corrected);
+    const bool time = engine::isTimeFormat(context_.settings.dateFormat);
+    std::u16string corrected;
+    const engine::DateVerdict verdict = time ? engine::checkTime(*text, content_.checkSettings())
+                                             : engine::checkDate(*text, content_.checkSettings(), corrected);
     if (verdict.failure)
-        log(*verdict.failure, label::date);
+        context_.log(*verdict.failure, label::date);
     if (verdict.corrected)
-        correctText(corrected);
+        content_.correctText(corrected);
     if (verdict.accepted)
         return std::nullopt;
-    putForeColour(settings_.errorForeColor);
+    look_.putForeColour(context_.settings.errorForeColor);
     return Wrong{engine::wrongDateTitle, time ? engine::wrongTimeText : engine::wrongDateText};
 }
 
 // The focus returns to a wrong entry at the first attempt to leave. The next attempt succeeds, unless ErrorFocus keeps
 // the focus for good. When the focus goes to another window, or the field is disabled, the alert is shown but the focus
 // does not return.
-void Vela::answerWrong(const Wrong& wrong, platform::Leaving leaving)
+void Visit::answerWrong(const Wrong& wrong, platform::Leaving leaving)
 {
-    if (settings_.errorTextClear)
-        putText(u"", Writer::life);
-    if (settings_.errorAlert && tooltip::VersaoWindows(environment_.system) == u"NT")
+    if (context_.settings.errorTextClear)
+        content_.putText(u"", Writer::life);
+    if (context_.settings.errorAlert && tooltip::VersaoWindows(context_.environment.system) == u"NT")
         showAlert(wrong);
     if (leaving == platform::Leaving::away)
         return;
     returnedFocus_ = !returnedFocus_;
     if (returnedFocus_) {
         held_ = true;
-        box().takeFocus();
+        context_.box().takeFocus();
     } else {
         hideTip();
     }
-    if (settings_.errorFocus) {
+    if (context_.settings.errorFocus) {
         held_ = true;
-        box().takeFocus();
+        context_.box().takeFocus();
     }
 }
 
 // A custom message replaces the alert's text, not its title.
-void Vela::showAlert(const Wrong& wrong)
+void Visit::showAlert(const Wrong& wrong)
 {
-    const View text = settings_.errorMsgCustom ? View(settings_.errorTextMessage) : wrong.text;
+    const std::u16string_view text =
+        context_.settings.errorMsgCustom ? std::u16string_view(context_.settings.errorTextMessage) : wrong.text;
     if (!text.empty())
-        tooltip::ShowBalloonTip(text, wrong.title, alertIcon, box(), arrangement().edit.height, made(alert_));
+        tooltip::ShowBalloonTip(text, wrong.title, alertIcon, context_.box(), look_.arrangement().edit.height,
+                                made(alert_));
 }
 
-tooltip::CBalloonToolTip& Vela::made(Tip& tip)
+tooltip::CBalloonToolTip& Visit::made(Tip& tip)
 {
     if (!tip)
-        tip = std::make_unique<tooltip::CBalloonToolTip>(surface_.makeTooltip());
+        tip = std::make_unique<tooltip::CBalloonToolTip>(context_.surface.makeTooltip());
     return *tip;
 }
 
-void Vela::hideTip()
+void Visit::hideTip()
 {
     if (tip_)
         tip_->Destroy();
 }
 
-void Vela::hideAlert()
+void Visit::hideTips()
 {
+    hideTip();
     if (alert_)
         alert_->Destroy();
+}
+
+void Visit::end()
+{
+    tip_.reset();
+    alert_.reset();
 }
 
 } // namespace vela::control

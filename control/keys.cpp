@@ -1,9 +1,10 @@
 // Keys: navigation and erasing on the way down, the filter in between, the caret's next prompt on the way up.
-#include "control/internal.h"
+#include "control/typing.h"
 
 #include "control/draft.h"
+#include "control/error_log.h"
+#include "control/internal.h"
 #include "engine/field/keystroke.h"
-#include "engine/text/conversions.h"
 
 namespace vela::control {
 
@@ -19,67 +20,68 @@ constexpr int keyF2 = 113;
 
 } // namespace
 
-void Vela::keyDown(int& code, int& shift)
+void Typing::keyDown(int& code, int& shift)
 {
-    if (deaf())
+    if (context_.deaf())
         return;
-    whileAlive(life_, [&] {
+    whileAlive(context_.life, [&] {
         keypadDecimal_ = code == keyDecimal;
         keyDownByType(code);
-        if (settings_.upTab && code == keyDownArrow)
+        if (context_.settings.upTab && code == keyDownArrow)
             // Oddity: Down sends a Tab key-down without its key-up; a key-up would raise KeyUp in the next field.
-            environment_.desktop.keyDown(keyTab);
-        if (settings_.upTab && code == keyUpArrow)
-            environment_.desktop.sendKeys(u"+{TAB}");
+            context_.environment.desktop.keyDown(keyTab);
+        if (context_.settings.upTab && code == keyUpArrow)
+            context_.environment.desktop.sendKeys(u"+{TAB}");
         auto told = static_cast<std::int16_t>(code);
         auto toldShift = static_cast<std::int16_t>(shift);
-        host_.raiseKeyDown(told, toldShift);
+        context_.host.raiseKeyDown(told, toldShift);
         code = told;
         shift = toldShift;
     });
 }
 
-void Vela::keyDownByType(int code)
+void Typing::keyDownByType(int code)
 {
-    if (settings_.textType == TipoText::Numerico && code == keyF2 && settings_.showButtonCalculadora)
+    if (context_.settings.textType == TipoText::Numerico && code == keyF2 && context_.settings.showButtonCalculadora)
         openPopup();
-    else if (masked())
+    else if (context_.masked())
         sKeyDown(code);
 }
 
 // Delete and Backspace put prompts back: the locked box erases nothing itself.
-void Vela::sKeyDown(int code)
+void Typing::sKeyDown(int code)
 {
-    trapToLog(label::keyDown, [&] {
+    context_.trapToLog(label::keyDown, [&] {
         if (code != keyDelete && code != engine::key_code::backspace) {
-            static_cast<void>(box().textLength()); // a failing box is logged with every key
+            static_cast<void>(context_.box().textLength()); // a failing box is logged with every key
             return;
         }
-        Scratch text(*this);
-        readText(*text);
-        const platform::Selection selection = box().selection();
-        const auto erasure = engine::eraseInMask(code, selection.start, selection.length, maskSettings(), *text);
+        Context::Scratch text(context_);
+        context_.readText(*text);
+        const platform::Selection selection = context_.box().selection();
+        const auto erasure =
+            engine::eraseInMask(code, selection.start, selection.length, context_.maskSettings(), *text);
         if (!erasure)
             return;
         if (erasure->written)
-            writeText(*text, Writer::keys);
-        box().select({erasure->caret, 0});
+            content_.writeText(*text, Writer::keys);
+        context_.box().select({erasure->caret, 0});
     });
 }
 
-void Vela::keyPress(int& key)
+void Typing::keyPress(int& key)
 {
-    if (deaf())
+    if (context_.deaf())
         return;
-    whileAlive(life_, [&] { key = filterKey(plainKey(key)); });
+    whileAlive(context_.life, [&] { key = filterKey(plainKey(key)); });
 }
 
 // A control character such as Esc raises KeyPress only: it is no text, so no rule of the field applies to it.
-void Vela::controlPress(int& key)
+void Typing::controlPress(int& key)
 {
-    if (deaf())
+    if (context_.deaf())
         return;
-    whileAlive(life_, [&] {
+    whileAlive(context_.life, [&] {
         int told = key;
         if (!raiseKeyPress(told) || told == 0)
             key = 0;
@@ -87,22 +89,22 @@ void Vela::controlPress(int& key)
 }
 
 // Full-width digits count as digits where digits are wanted; the keypad's decimal key gives the field's symbol.
-int Vela::plainKey(int key) const noexcept
+int Typing::plainKey(int key) const noexcept
 {
     constexpr int fullWidthZero = 0xFF10;
     constexpr int fullWidthNine = 0xFF19;
-    const bool number = settings_.textType == TipoText::Numerico;
-    if ((number || masked()) && key >= fullWidthZero && key <= fullWidthNine)
+    const bool number = context_.settings.textType == TipoText::Numerico;
+    if ((number || context_.masked()) && key >= fullWidthZero && key <= fullWidthNine)
         return key - fullWidthZero + u'0';
-    if (number && keypadDecimal_ && settings_.displayDecimal != 0 && (key == u',' || key == u'.'))
-        return settings_.displayDecimal;
+    if (number && keypadDecimal_ && context_.settings.displayDecimal != 0 && (key == u',' || key == u'.'))
+        return context_.settings.displayDecimal;
     return key;
 }
 
 // A key typed at the box, or pasted into the draft: its plan before KeyPress, the event, what comes after it.
-int Vela::filterKey(int key, Draft* draft)
+int Typing::filterKey(int key, Draft* draft)
 {
-    const engine::Alive alive(life_);
+    const engine::Alive alive(context_.life);
     for (auto turn = engine::KeyTurn::first;; turn = engine::KeyTurn::second) {
         const engine::KeyPlan plan = draft != nullptr ? planKey(key, turn, *draft) : planKey(key, turn);
         key = plan.key;
@@ -113,7 +115,7 @@ int Vela::filterKey(int key, Draft* draft)
         if (plan.after != engine::AfterPress::enter)
             return key;
         switch (engine::enterMeans(keystrokeSettings())) {
-        case engine::EnterMeans::tab: environment_.desktop.keyDown(keyTab); return 0;
+        case engine::EnterMeans::tab: context_.environment.desktop.keyDown(keyTab); return 0;
         case engine::EnterMeans::nothing: return 0;
         case engine::EnterMeans::line: break;
         }
@@ -122,163 +124,164 @@ int Vela::filterKey(int key, Draft* draft)
 
 // Reads of the box what the key's rule needs and writes what the rule says. A failing box refuses the key of a number
 // and lets that of a mask pass.
-engine::KeyPlan Vela::planKey(int key, engine::KeyTurn turn)
+engine::KeyPlan Typing::planKey(int key, engine::KeyTurn turn)
 {
     const engine::KeystrokeSettings settings = keystrokeSettings();
     const engine::KeyNeeds needs = engine::needsOf(key, settings, turn);
-    const bool mask = masked();
-    Scratch text(*this);
+    const bool mask = context_.masked();
+    Context::Scratch text(context_);
     engine::KeyBox seen;
     if (needs.room || needs.text) {
-        const platform::Selection selection = box().selection();
+        const platform::Selection selection = context_.box().selection();
         seen.caret = selection.start;
         seen.selected = selection.length;
     }
     if (needs.room) {
-        seen.maxLength = box().traits().maxLength;
+        seen.maxLength = context_.box().traits().maxLength;
         if (seen.maxLength >= 1 && seen.selected == 0)
-            seen.length = box().textLength();
+            seen.length = context_.box().textLength();
     }
     if (needs.text) {
-        if (const auto failure = engine::trapped([&] { readText(*text); }))
+        if (const auto failure = engine::trapped([&] { context_.readText(*text); }))
             logKeyFailure(*failure, mask);
         else
             seen.text = &*text;
     }
     const engine::KeyPlan plan = engine::planKey(key, settings, seen, turn);
-    const engine::Alive alive(life_);
+    const engine::Alive alive(context_.life);
     const auto failure = engine::trapped([&] {
         if (plan.writtenCaret) {
-            writeText(*text, Writer::keys);
-            box().select({*plan.writtenCaret, 0});
+            content_.writeText(*text, Writer::keys);
+            context_.box().select({*plan.writtenCaret, 0});
         }
         if (plan.promptCaret)
-            box().select({*plan.promptCaret, 0});
+            context_.box().select({*plan.promptCaret, 0});
     });
     if (failure && alive)
         logKeyFailure(*failure, mask);
     return plan;
 }
 
-void Vela::logKeyFailure(const engine::Error& failure, bool mask)
+void Typing::logKeyFailure(const engine::Error& failure, bool mask)
 {
     if (!mask)
-        log(failure, label::number);
+        context_.log(failure, label::number);
     else if (failure.number != 0 && failure.number != engine::error_number::invalidPropertyValue)
-        log(failure, label::mask);
+        context_.log(failure, label::mask);
 }
 
-void Vela::tabBehind(int key, Draft* draft)
+void Typing::tabBehind(int key, Draft* draft)
 {
-    if (!settings_.autoTab)
+    if (!context_.settings.autoTab)
         return;
-    Scratch text(*this);
+    Context::Scratch text(context_);
     engine::KeyBox seen{.text = &*text};
     if (draft != nullptr) {
         seen = draft->seen();
     } else {
-        if (masked())
-            readText(*text);
-        seen.caret = box().selection().start;
-        seen.maxLength = box().traits().maxLength;
+        if (context_.masked())
+            context_.readText(*text);
+        seen.caret = context_.box().selection().start;
+        seen.maxLength = context_.box().traits().maxLength;
     }
     if (engine::tabFollows(key, keystrokeSettings(), seen))
-        environment_.desktop.sendKeys(u"{TAB}");
+        context_.environment.desktop.sendKeys(u"{TAB}");
 }
 
 // The host's handler may change the key and the settings, and may destroy the control.
-bool Vela::raiseKeyPress(int& key)
+bool Typing::raiseKeyPress(int& key)
 {
-    const engine::Alive alive(life_);
+    const engine::Alive alive(context_.life);
     auto told = static_cast<std::int16_t>(key);
-    host_.raiseKeyPress(told);
+    context_.host.raiseKeyPress(told);
     key = static_cast<std::uint16_t>(told);
     return static_cast<bool>(alive);
 }
 
-void Vela::keyUp(int code, int shift)
+void Typing::keyUp(int code, int shift)
 {
-    if (deaf())
+    if (context_.deaf())
         return;
-    whileAlive(life_, [&] {
+    whileAlive(context_.life, [&] {
         auto told = static_cast<std::int16_t>(code);
         auto toldShift = static_cast<std::int16_t>(shift);
-        const engine::Alive alive(life_);
-        host_.raiseKeyUp(told, toldShift);
-        if (!alive || told != keyRightArrow || !masked())
+        const engine::Alive alive(context_.life);
+        context_.host.raiseKeyUp(told, toldShift);
+        if (!alive || told != keyRightArrow || !context_.masked())
             return;
-        if (const auto caret = engine::nextInputPosition(box().selection().start, maskSettings()))
-            box().select({*caret, 0});
+        if (const auto caret = engine::nextInputPosition(context_.box().selection().start, context_.maskSettings()))
+            context_.box().select({*caret, 0});
     });
 }
 
-void Vela::buttonClicked()
-{
-    if (!life_.ended())
-        whileAlive(life_, [&] { openPopup(); });
-}
-
 // Opening reports its own failures; free text and masks have no pop-up.
-void Vela::openPopup()
+void Typing::openPopup()
 {
-    const engine::Alive alive(life_);
-    if (settings_.textType == TipoText::Numerico)
-        popups_.openCalculator(*this);
-    else if (settings_.textType == TipoText::Data)
-        popups_.openCalendar(*this);
+    const engine::Alive alive(context_.life);
+    if (context_.settings.textType == TipoText::Numerico)
+        context_.popups.openCalculator(owner_);
+    else if (context_.settings.textType == TipoText::Data)
+        context_.popups.openCalendar(owner_);
     if (!alive)
         engine::raise(engine::error_number::objectNotSet);
 }
 
-std::u16string Vela::popupText()
+engine::KeystrokeSettings Typing::keystrokeSettings() const
 {
-    return Text();
+    return {.textType = context_.settings.textType,
+            .letterCase = context_.settings.tipoLetra,
+            .displayDecimal = context_.settings.simbolDecExib,
+            .decimal = viewOf(context_.settings.displayDecimal),
+            .decimals = context_.settings.qtdCasasDec,
+            .enterAsTab = context_.settings.enterAsTab,
+            .multiLine = context_.settings.multLine,
+            .maskToNumeric = context_.settings.maskToNumeric,
+            .freeText = context_.settings.textoLivre,
+            .autoTab = context_.settings.autoTab,
+            .negatives = context_.settings.aceitaNegativos,
+            .allowed = context_.settings.caractLiberados,
+            .mask = context_.maskSettings()};
 }
 
-void Vela::putPopupText(const engine::Value& value)
+void Typing::changed(const platform::Edit& edit)
 {
-    Text(engine::toText(value, locale()));
-    if (!box().hasFocus())
+    if (context_.deaf())
         return;
-    enterText();
-    enterSelection();
+    whileAlive(context_.life, [&] {
+        const Writer writer = content_.writer();
+        keep(edit);
+        trap(
+            context_.life,
+            [&](int& step) {
+                step = 1;
+                context_.raise(&platform::ControlHost::raiseChange);
+                step = 2;
+                if (!context_.liveNumber() || (writer != Writer::person && writer != Writer::host))
+                    return;
+                step = 3;
+                reformatLive();
+            },
+            [&](const engine::Error& failure) {
+                context_.showBox(platform::BoxIcon::exclamation, u"", changeFailureText(failure));
+            });
+    });
 }
 
-void Vela::hideEntryTip()
+// Re-formats an amount as a cash register does: "0,001" -> "0,01". The caret keeps its distance from the end. The text
+// written here is not re-formatted again.
+void Typing::reformatLive()
 {
-    hideTip();
-}
-
-void Vela::takePopupFocus()
-{
-    box().takeFocus();
-}
-
-engine::RectPixels Vela::popupAnchor()
-{
-    return surface_.screenRect();
-}
-
-platform::ParentForm Vela::popupParent()
-{
-    return host_.parentForm();
-}
-
-engine::KeystrokeSettings Vela::keystrokeSettings() const
-{
-    return {.textType = settings_.textType,
-            .letterCase = settings_.tipoLetra,
-            .displayDecimal = settings_.simbolDecExib,
-            .decimal = viewOf(settings_.displayDecimal),
-            .decimals = settings_.qtdCasasDec,
-            .enterAsTab = settings_.enterAsTab,
-            .multiLine = settings_.multLine,
-            .maskToNumeric = settings_.maskToNumeric,
-            .freeText = settings_.textoLivre,
-            .autoTab = settings_.autoTab,
-            .negatives = settings_.aceitaNegativos,
-            .allowed = settings_.caractLiberados,
-            .mask = maskSettings()};
+    Context::Scratch text(context_);
+    Context::Scratch shown(context_);
+    context_.readText(*text);
+    if (!livePattern_)
+        livePattern_ = std::make_unique<engine::LivePattern>();
+    const auto caret =
+        engine::liveFormat(*text, context_.box().selection().start, context_.numberSettings(), *livePattern_, *shown);
+    if (!caret)
+        return;
+    content_.writeText(*shown, content_.writer() == Writer::host ? Writer::life : Writer::reformat);
+    context_.box().select({*caret, 0});
 }
 
 } // namespace vela::control

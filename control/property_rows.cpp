@@ -2,8 +2,8 @@
 #include "control/property_table.h"
 
 #include "control/box_values.h"
-#include "control/internal.h"
 #include "control/property_values.h"
+#include "control/window_values.h"
 
 #include <algorithm>
 #include <array>
@@ -37,7 +37,7 @@ constexpr auto rows = std::to_array<Property>({
      .manual = {"TNDM", "2", "", "Where the text stands in the box. Setting `TextType` sets it, too."}},
     {.name = u"Appearance", .dispid = -520, .category = appearance,
      .help = u"Borda rebaixada da própria caixa, ou borda desenhada pelo controle",
-     .value = setting<&Settings::appearance, &Vela::putAppearance>, .enumeration = u"Aparencia", .notification = silent,
+     .value = setting<&Settings::appearance, &Look::putAppearance>, .enumeration = u"Aparencia", .notification = silent,
      .saved = {.read = 57, .written = 15, .loaded = 1},
      .manual = {"TNDM", "0", "",
                 "Whether the box has its own sunken border (`c3D`) or the control draws the border (`cFlat`)."}},
@@ -87,12 +87,12 @@ constexpr auto rows = std::to_array<Property>({
      .manual = {"TNDM", "&H00C07000", "", "The border's colour while the field has the focus."}},
     {.name = u"BorderColorLostfocus", .dispid = 10, .category = appearance,
      .help = u"Cor da borda enquanto o campo não tem o foco",
-     .value = setting<&Settings::borderColorLostfocus, &Vela::putBorderColorLostfocus>,
+     .value = setting<&Settings::borderColorLostfocus, &Look::putBorderColorLostfocus>,
      .saved = {.read = 7, .written = 7, .loaded = 0x00FFFFFF}, .fresh = {10, 0x00FFFFFF},
      .manual = {"TNDM", "&H00909090", "", "The border's colour while it has not."}},
     {.name = u"BorderStyle", .dispid = -504, .category = appearance,
      .help = u"Estando true, o controle colocar uma borda Flat",
-     .value = setting<&Settings::borderStyle, &Vela::putBorderStyle>, .enumeration = u"eEstiloBorda",
+     .value = setting<&Settings::borderStyle, &Look::putBorderStyle>, .enumeration = u"eEstiloBorda",
      .saved = {.read = 4, .written = 4},
      .manual = {"TNDM", "5", "",
                 "The line of the border, drawn with `Appearance` `cFlat`; `XP` rounds the corners and takes no "
@@ -310,11 +310,11 @@ constexpr auto rows = std::to_array<Property>({
      .manual = {"D", "\"dd.mm.yyyy\"", "", "The same for the fourth."}},
     {.name = u"hwnd", .dispid = -515, .category = behaviour,
      .help = u"Hwnd do TextBox",
-     .value = readOnly<&Vela::editWindow>, .notification = silent,
+     .value = editWindow, .notification = silent,
      .manual = {"TNDM", "", "438", "The window of the edit box.", "A janela da caixa de edição."}},
     {.name = u"HwndCtl", .dispid = 47, .category = behaviour,
      .help = u"Hwnd do UserControl",
-     .value = readOnly<&Vela::surfaceWindow>, .notification = silent,
+     .value = surfaceWindow, .notification = silent,
      .manual = {"TNDM", "", "438", "The window of the control.", "A janela do controle."}},
     {.name = u"IF_IsEmpty", .dispid = 48, .category = data,
      .help = u"Assume o texto informado nesta propriedade quando a caixa de texto perde o foco vazia",
@@ -330,7 +330,7 @@ constexpr auto rows = std::to_array<Property>({
      .manual = {"N", "True", "", "Whether the decimals are filled with zeros when the field is left."}},
     {.name = u"Locked", .dispid = 50, .category = behaviour,
      .help = u"Se a digitação é recusada",
-     .value = setting<&Settings::locked, &Vela::putLocked>, .notification = silent,
+     .value = setting<&Settings::locked, &TextKind::putLocked>, .notification = silent,
      .saved = {.read = 32, .written = 18},
      .manual = {"TNDM", "True", "",
                 "Whether typing is refused; a mask's box is always locked, because the mask writes the text itself."}},
@@ -341,25 +341,25 @@ constexpr auto rows = std::to_array<Property>({
                 "The field's name for people: the title of its tip, and what a screen reader says."}},
     {.name = u"Mask", .dispid = 52, .browsable = no, .category = mask,
      .help = u"Modelo do campo com máscara: PromptChar em cada posição de entrada",
-     .value = setting<&Settings::mask, &Vela::putMask>, .saved = {.read = 24, .written = 41},
+     .value = setting<&Settings::mask, &TextKind::putMask>, .saved = {.read = 24, .written = 41},
      .page = {u"ppPrincipal", u"txtMascara", 18, 11},
      .manual = {"M", "\"___-____\"", "1001",
                 "The template of a mask field, `PromptChar` at each input position. Setting it sets `MaxLength` and "
                 "empties the text."}},
     {.name = u"MaskRules", .dispid = 53, .browsable = no, .category = mask,
      .help = u"O que cada posição aceita: # algarismo, @ letra, ? letra ou algarismo",
-     .value = setting<&Settings::maskRules, &Vela::putMaskRules>, .saved = {.read = 25, .written = 42},
+     .value = setting<&Settings::maskRules, &TextKind::putMaskRules>, .saved = {.read = 25, .written = 42},
      .page = {u"ppPrincipal", u"txtMaskRules", 19, 12},
      .manual = {"M", "\"@@@-####\"", "",
                 "What each input position takes: `#` digit, `@` letter, `?` either; kept by `Mascara` fields only."}},
     {.name = u"MaskSomenteNumeros", .dispid = 54, .browsable = no, .category = mask,
      .help = u"Guardada e salva em campos Data e Mascara; sem efeito",
-     .value = setting<&Settings::maskSomenteNumeros, &Vela::putMaskSomenteNumeros>,
+     .value = setting<&Settings::maskSomenteNumeros, &TextKind::putMaskSomenteNumeros>,
      .saved = {.read = 26, .written = 43}, .page = {u"ppPrincipal", u"chkMaskSomenteNumeros", 17, 10},
      .manual = {"DM", "True", "", "Kept and saved for `Data` and `Mascara` fields; nothing reads it."}},
     {.name = u"MaskToNumeric", .dispid = 55, .category = mask,
      .help = u"Utilizar Máscara de Entrada para o tipo de dados númericos",
-     .value = setting<&Settings::maskToNumeric, &Vela::putMaskToNumeric>, .saved = {.read = 27, .written = 44},
+     .value = setting<&Settings::maskToNumeric, &TextKind::putMaskToNumeric>, .saved = {.read = 27, .written = 44},
      .manual = {"N", "True", "",
                 "Whether a number is laid out with its decimals while it is typed; kept by `Numerico` fields only.",
                 "Se o número é arrumado com as casas decimais enquanto é digitado; só é guardada em campos "
@@ -378,12 +378,12 @@ constexpr auto rows = std::to_array<Property>({
                 "Um texto para o programa, junto de `CampoRequerido`."}},
     {.name = u"MultLine", .dispid = 58, .category = behaviour,
      .help = u"Se a caixa tem várias linhas; só no projeto",
-     .value = setting<&Settings::multLine, &Vela::putMultLine>, .notification = silent,
+     .value = setting<&Settings::multLine, &TextKind::putMultLine>, .notification = silent,
      .saved = {.read = 1, .written = 3, .leftOut = other(11)}, .fresh = {.place = 3, .designOnly = true},
      .manual = {"T", "", "1002", "Whether the box is multi-line; set at design time."}},
     {.name = u"nomeContainer", .dispid = 59, .category = behaviour,
      .help = u"Nome do formulário ou da moldura que contém o controle",
-     .value = readOnly<&Vela::containerName>, .notification = silent,
+     .value = containerName, .notification = silent,
      .manual = {"TNDM", "", "438", "The name of the form or frame that holds the control."}},
     {.name = u"PasswordChar", .dispid = 60, .category = behaviour,
      .help = u"Caractere mostrado no lugar de cada um digitado",
@@ -396,25 +396,25 @@ constexpr auto rows = std::to_array<Property>({
      .manual = {"DM", "\"_\"", "", "The character that marks input positions in `Mask`."}},
     {.name = u"QtdCasasDec", .dispid = 62, .browsable = no, .category = number,
      .help = u"Casas decimais; 0 desliga os três símbolos e InserirZeros",
-     .value = setting<&Settings::qtdCasasDec, &Vela::putDecimals>, .saved = {.read = 38, .written = 56},
+     .value = setting<&Settings::qtdCasasDec, &TextKind::putQtdCasasDec>, .saved = {.read = 38, .written = 56},
      .page = {u"ppPrincipal", u"txtQtdCasasDec", 6, 5},
      .manual = {"N", "2", "6", "Decimal places, 0 to 255; 0 resets the three symbols and `InserirZeros`."}},
     {.name = u"SelLength", .dispid = 63, .browsable = no, .category = text,
      .help = u"Quantos caracteres estão selecionados",
-     .value = live<&Vela::selLength, &Vela::putSelLength>, .notification = silent,
+     .value = selLength, .notification = silent,
      .manual = {"TNDM", "2", "380", "How many characters are selected."}},
     {.name = u"SelStart", .dispid = 64, .browsable = no, .category = text,
      .help = u"Posição do cursor, 0 antes do primeiro caractere",
-     .value = live<&Vela::selStart, &Vela::putSelStart>, .notification = silent,
+     .value = selStart, .notification = silent,
      .manual = {"TNDM", "2", "380", "The caret, 0 before the first character; setting it selects nothing."}},
     {.name = u"ShowButtonCalendario", .dispid = 65, .browsable = no, .category = behaviour,
      .help = u"Se aparece o botão que abre o calendário",
-     .value = setting<&Settings::showButtonCalendario, &Vela::putCalendarButton>, .notification = silent,
+     .value = setting<&Settings::showButtonCalendario, &Look::putShowButtonCalendario>, .notification = silent,
      .saved = {.read = 28, .written = 45}, .page = {u"ppPrincipal", u"chkShowButtonCalendario", 23, 22},
      .manual = {"D", "True", "", "Whether the button that opens the calendar shows."}},
     {.name = u"ShowButtonCalculadora", .dispid = 66, .category = behaviour,
      .help = u"Se aparece o botão que abre a calculadora, e F2 a abre",
-     .value = setting<&Settings::showButtonCalculadora, &Vela::putCalculatorButton>, .notification = silent,
+     .value = setting<&Settings::showButtonCalculadora, &Look::putShowButtonCalculadora>, .notification = silent,
      .saved = {.read = 29, .written = 46}, .page = {u"ppPrincipal", u"chkShowButtonCalculadora", 24, 23},
      .manual = {"N", "True", "", "Whether the button that opens the calculator shows, and F2 opens it."}},
     {.name = u"SimbolAgrupMilhar", .dispid = 67, .browsable = no, .category = number,
@@ -451,7 +451,7 @@ constexpr auto rows = std::to_array<Property>({
      .manual = {"T", "False", "", "Whether any character may be typed."}},
     {.name = u"TextType", .dispid = 72, .category = text,
      .help = u"Tipo de dado que o campo contém",
-     .value = setting<&Settings::textType, &Vela::putTextType>, .enumeration = u"TipoText",
+     .value = setting<&Settings::textType, &TextKind::putTextType>, .enumeration = u"TipoText",
      .saved = {.read = 13, .written = 28}, .fresh = {4, 0}, .page = {u"ppPrincipal", u"cboTextType", 1, 24},
      .manual = {"TNDM", "1", "",
                 "What kind of data the field holds; switching clears the default value and the text."}},
@@ -477,7 +477,7 @@ constexpr auto rows = std::to_array<Property>({
      .manual = {"TNDM", "False", "", "Whether the Down and Up arrows move to the next and the previous field."}},
     {.name = u"ValorPadrao", .dispid = 77, .category = data,
      .help = u"Conteúdo padrão ou, em campos de data, uma fórmula: %date, %hour",
-     .value = setting<&Settings::valorPadrao, &Vela::putDefault>, .saved = {.read = 44, .written = 35},
+     .value = setting<&Settings::valorPadrao, &Content::putValorPadrao>, .saved = {.read = 44, .written = 35},
      .manual = {"TNDM", "\"abc\"", "",
                 "The default content, or on a date field a formula: `%date`, `%hour`. Set it after `TextType`."}},
     {.name = u"Value", .dispid = 78, .browsable = no, .bindable = true, .category = data,
@@ -487,7 +487,8 @@ constexpr auto rows = std::to_array<Property>({
                 "The content as the application wants it; depends on `TextType` and the return scheme."}},
     {.name = u"EsquemaRetornoAtual", .dispid = 79, .category = data,
      .help = u"Esquema de retorno em vigor; defina depois do formato e do delimitador",
-     .value = setting<&Settings::esquemaRetornoAtual, &Vela::putScheme>, .enumeration = u"eEsquemasRetorno",
+     .value = setting<&Settings::esquemaRetornoAtual, &Content::putEsquemaRetornoAtual>,
+     .enumeration = u"eEsquemasRetorno",
      .saved = {.read = 2, .written = 1, .loaded = 1}, .fresh = {1, 1},
      .manual = {"TNDM", "1", "", "Which return scheme is in force. Set it after the scheme's format and delimiter."}},
 });
@@ -538,7 +539,7 @@ PropertyOrder freshOrder() noexcept
 
 // The properties that code puts by name.
 // clang-format off
-void Vela::BackColorGotFocus(Colour value) { put(row(u"BackColorGotFocus"), toValue(value)); }
+void Vela::BackColorGotFocus(engine::Colour value) { put(row(u"BackColorGotFocus"), toValue(value)); }
 void Vela::CaractLiberados(View value) { put(row(u"CaractLiberados"), toValue(value)); }
 void Vela::InserirZeros(bool value) { put(row(u"InserirZeros"), value); }
 void Vela::Mask(View value) { put(row(u"Mask"), toValue(value)); }
@@ -549,10 +550,10 @@ void Vela::SimbolDecRet(Simbolos value) { put(row(u"SimbolDecRet"), toValue(valu
 void Vela::ValorPadrao(View value) { put(row(u"ValorPadrao"), toValue(value)); }
 // clang-format on
 
-void Vela::Font(const FontDescription& value)
+void Vela::Font(const platform::FontDescription& value)
 {
-    putTrait(&platform::EditTraits::font, value);
-    notify(row(u"Font"));
+    context_.putTrait(&platform::EditTraits::font, value);
+    context_.notify(row(u"Font"));
 }
 
 } // namespace vela::control

@@ -11,9 +11,27 @@
 namespace vela::control {
 
 struct PropertyAccess {
-    static Settings& settings(Vela& control) { return control.settings_; }
+    static Context& context(Vela& control) { return control.context_; }
+    static Settings& settings(Vela& control) { return control.context_.settings; }
     static platform::EditBox& box(Vela& control) { return control.box(); }
-    static popups::SharedCalendarColours& colours(Vela& control) { return control.popups_.colours(); }
+    static popups::SharedCalendarColours& colours(Vela& control) { return control.context_.popups.colours(); }
+    // The part of the control that a put is a member of.
+    template <class Argument>
+    static Content& part(Vela& control, void (Content::*)(Argument))
+    {
+        return control.content_;
+    }
+    template <class Argument>
+    static Look& part(Vela& control, void (Look::*)(Argument))
+    {
+        return control.look_;
+    }
+    template <class Argument>
+    static TextKind& part(Vela& control, void (TextKind::*)(Argument))
+    {
+        return control.kind_;
+    }
+    static Content& content(Vela& control) { return control.content_; }
 };
 
 template <auto member>
@@ -37,7 +55,7 @@ constexpr PropertyValue settingAt()
                 if constexpr (std::is_null_pointer_v<decltype(put)>)
                     Place::in(PropertyAccess::settings(control)) = ownValue<T>(value);
                 else
-                    (control.*put)(ownValue<T>(value));
+                    (PropertyAccess::part(control, put).*put)(ownValue<T>(value));
             },
         .save = [](const StoredState& state) { return toValue(Place::in(state.settings)); },
         .load = [](StoredState& state, const engine::Value& value) { Place::in(state.settings) = ownValue<T>(value); }};
@@ -73,27 +91,5 @@ inline constexpr PropertyValue calendarColour{
     .load = [](StoredState& state,
                const engine::Value& value) { state.colours.*member = ownValue<engine::Colour>(value); },
     .shared = true};
-
-template <class T>
-struct ResultOf;
-template <class T>
-struct ResultOf<T (Vela::*)() const> {
-    using type = T;
-};
-
-template <auto get>
-inline constexpr PropertyValue readOnly{.type = propertyTypeOf<typename ResultOf<decltype(get)>::type>(),
-                                        .access = Access::read,
-                                        .get = [](Vela& control) { return toValue((control.*get)()); }};
-// Not saved.
-template <auto get, auto put>
-inline constexpr PropertyValue live = [] {
-    PropertyValue value = readOnly<get>;
-    value.access = Access::readWrite;
-    value.put = [](Vela& control, const engine::Value& wanted) {
-        (control.*put)(ownValue<typename ResultOf<decltype(get)>::type>(wanted));
-    };
-    return value;
-}();
 
 } // namespace vela::control

@@ -1,6 +1,9 @@
 // What the field takes from the application and hands back: Value, Text and the default value.
-#include "control/internal.h"
+#include "control/content.h"
 
+#include "control/error_log.h"
+#include "control/internal.h"
+#include "engine/scoped_value.h"
 #include "engine/text/conversions.h"
 #include "engine/text/letter_case.h"
 #include "engine/text/pattern.h"
@@ -22,72 +25,63 @@ engine::Date dayOf(engine::Date moment) noexcept
 
 } // namespace
 
-engine::FieldSettings Vela::fieldSettings() const
+engine::FieldSettings Content::fieldSettings() const
 {
-    const bool date = settings_.textType == TipoText::Data; // only dates ask the clock
-    return {.textType = settings_.textType,
-            .returnDateFormat = formatoRetornoAtual_,
-            .delimiter = delimitadorAtual_,
-            .displayDecimal = viewOf(settings_.displayDecimal),
-            .returnDecimal = viewOf(settings_.returnDecimal),
-            .grouping = viewOf(settings_.grouping),
-            .currencySymbol = settings_.simboloMonetario,
-            .decimals = settings_.qtdCasasDec,
-            .dateFormat = settings_.dateFormat,
-            .emptyDate = settings_.formatoExibData,
-            .mask = settings_.mask,
-            .promptChar = settings_.promptChar,
-            .defaultValue = settings_.valorPadrao,
-            .locale = locale(),
-            .today = date ? dayOf(environment_.clock.now()) : engine::Date{}};
+    const bool date = context_.settings.textType == TipoText::Data; // only dates ask the clock
+    return {.textType = context_.settings.textType,
+            .returnDateFormat = returnFormat_,
+            .delimiter = delimiter_,
+            .displayDecimal = viewOf(context_.settings.displayDecimal),
+            .returnDecimal = viewOf(context_.settings.returnDecimal),
+            .grouping = viewOf(context_.settings.grouping),
+            .currencySymbol = context_.settings.simboloMonetario,
+            .decimals = context_.settings.qtdCasasDec,
+            .dateFormat = context_.settings.dateFormat,
+            .emptyDate = context_.settings.formatoExibData,
+            .mask = context_.settings.mask,
+            .promptChar = context_.settings.promptChar,
+            .defaultValue = context_.settings.valorPadrao,
+            .locale = context_.locale(),
+            .today = date ? dayOf(context_.environment.clock.now()) : engine::Date{}};
 }
 
-engine::NumberSettings Vela::numberSettings() const
+engine::DateCheckSettings Content::checkSettings() const
 {
-    return {.decimal = viewOf(settings_.displayDecimal),
-            .grouping = viewOf(settings_.grouping),
-            .decimals = settings_.qtdCasasDec,
-            .insertZeros = settings_.inserirZeros,
-            .locale = locale()};
-}
-
-engine::DateCheckSettings Vela::checkSettings() const
-{
-    return {settings_.mask, settings_.dateFormat, settings_.promptChar, locale()};
+    return {context_.settings.mask, context_.settings.dateFormat, context_.settings.promptChar, context_.locale()};
 }
 
 // Oddity: reading Value of a wrong date corrects the text as leaving does; handlers read Value to correct a field.
-engine::Value Vela::Value()
+engine::Value Content::value()
 {
     engine::Value result;
     trap(
-        life_,
+        context_.life,
         [&](int&) {
-            Scratch text(*this);
-            Text16 corrected;
-            readText(*text);
+            Context::Scratch text(context_);
+            std::u16string corrected;
+            context_.readText(*text);
             engine::FieldReading reading = engine::readValue(*text, fieldSettings(), corrected);
             result = std::move(reading.value);
             if (reading.checkFailure)
-                log(*reading.checkFailure, label::date);
+                context_.log(*reading.checkFailure, label::date);
             if (reading.corrected)
                 correctText(corrected);
             if (reading.error)
                 throw *reading.error;
         },
         [&](const engine::Error& failure) {
-            showBox(platform::BoxIcon::exclamation, u"Vela.Value", numberAndDescription(failure));
+            context_.showBox(platform::BoxIcon::exclamation, u"Vela.Value", numberAndDescription(failure));
         });
     return result;
 }
 
 // An error while the corrected date is written is logged like an error of the check.
-void Vela::correctText(View text)
+void Content::correctText(std::u16string_view text)
 {
-    trapToLog(label::date, [&] { writeText(text, Writer::life); });
+    context_.trapToLog(label::date, [&] { writeText(text, Writer::life); });
 }
 
-void Vela::Value(const engine::Value& value)
+void Content::putValue(const engine::Value& value)
 {
     if (const auto text = engine::textForValue(value, fieldSettings()))
         writeText(*text, Writer::host);
@@ -98,9 +92,9 @@ void Vela::Value(const engine::Value& value)
 // forms fill fields with texts that nobody could type.
 // Oddity: a text that is no number, written to the Text of a number field, empties the field without an error; forms
 // clear fields that way.
-void Vela::putText(View value, Writer writer)
+void Content::putText(std::u16string_view value, Writer writer)
 {
-    if (settings_.textType == TipoText::TextoNormal) {
+    if (context_.settings.textType == TipoText::TextoNormal) {
         writeText(value, writer);
         return;
     }
@@ -108,42 +102,125 @@ void Vela::putText(View value, Writer writer)
     if (!text)
         return;
     writeText(*text, writer);
-    if (settings_.textType == TipoText::Numerico && !settings_.maskToNumeric) {
-        Scratch shown(*this);
-        engine::displayNumber(*text, numberSettings(), *shown);
+    if (context_.settings.textType == TipoText::Numerico && !context_.settings.maskToNumeric) {
+        Context::Scratch shown(context_);
+        engine::displayNumber(*text, context_.numberSettings(), *shown);
         writeText(*shown, writer);
     }
 }
 
 // A formula ("%date") on a field that is no date is stored without a message. A plain default of a date field is
 // cleared when its length is not the mask's.
-void Vela::putDefault(View value)
+void Content::putValorPadrao(std::u16string_view value)
 {
-    settings_.valorPadrao = value;
-    const bool date = settings_.textType == TipoText::Data;
-    const bool formula = settings_.valorPadrao.starts_with(formulaMarker);
+    context_.settings.valorPadrao = value;
+    const bool date = context_.settings.textType == TipoText::Data;
+    const bool formula = context_.settings.valorPadrao.starts_with(formulaMarker);
     if (formula && date)
         applyFormula();
-    else if (!formula && date && settings_.valorPadrao.size() != settings_.mask.size())
-        settings_.valorPadrao.clear();
+    else if (!formula && date && context_.settings.valorPadrao.size() != context_.settings.mask.size())
+        context_.settings.valorPadrao.clear();
     else if (!formula)
-        Text(Text16(settings_.valorPadrao));
+        putText(std::u16string(context_.settings.valorPadrao), Writer::host);
 }
 
 // Writes the text of the formula "%date" or "%hour", in any case.
-void Vela::applyFormula()
+void Content::applyFormula()
 {
-    const Text16 name = engine::lowerCase(View(settings_.valorPadrao).substr(1));
-    const engine::Date now = environment_.clock.now();
+    const std::u16string name = engine::lowerCase(std::u16string_view(context_.settings.valorPadrao).substr(1));
+    const engine::Date now = context_.environment.clock.now();
     if (name == u"date") {
-        Text(engine::format(dayOf(now), settings_.dateFormat, locale(), dayOf(now)));
+        putText(engine::format(dayOf(now), context_.settings.dateFormat, context_.locale(), dayOf(now)), Writer::host);
     } else if (name == u"hour") {
-        Text(engine::format(now, u"hh:nn", locale(), dayOf(now)));
+        putText(engine::format(now, u"hh:nn", context_.locale(), dayOf(now)), Writer::host);
     } else {
-        showBox(platform::BoxIcon::information, u"", unknownFormula);
-        Text(u"");
-        settings_.valorPadrao.clear();
+        context_.showBox(platform::BoxIcon::information, u"", unknownFormula);
+        putText(u"", Writer::host);
+        context_.settings.valorPadrao.clear();
     }
+}
+
+void Content::putEsquemaRetornoAtual(eEsquemasRetorno value)
+{
+    context_.settings.esquemaRetornoAtual = value;
+    adoptScheme();
+}
+
+// Copies the scheme's texts: a later change of them counts when the scheme is chosen again.
+// Oddity: EsquemaRetornoAtual outside 1 to 4 is stored and changes nothing; an error would stop forms that put it.
+void Content::adoptScheme()
+{
+    const auto scheme = static_cast<std::int32_t>(context_.settings.esquemaRetornoAtual);
+    if (scheme < 1 || scheme > 4)
+        return;
+    const auto index = static_cast<std::size_t>(scheme - 1);
+    returnFormat_ = context_.settings.returnFormats[index];
+    delimiter_ = context_.settings.delimiters[index];
+}
+
+// The empty display of the type. A date without a mask takes its display format for one.
+void Content::prepareText()
+{
+    switch (context_.settings.textType) {
+    case TipoText::TextoNormal: return;
+    case TipoText::Numerico:
+        context_.settings.displayDecimal = symbolOf(context_.settings.simbolDecExib);
+        context_.settings.returnDecimal = symbolOf(context_.settings.simbolDecRet);
+        context_.settings.grouping = symbolOf(context_.settings.simbolAgrupMilhar);
+        if (context_.settings.displayDecimal != 0)
+            writeText(engine::numericTemplate(context_.numberSettings().decimal, context_.settings.qtdCasasDec),
+                      Writer::life);
+        return;
+    case TipoText::Data:
+        if (context_.settings.mask.empty())
+            context_.settings.mask = context_.settings.formatoExibData;
+        writeText(std::u16string(context_.settings.formatoExibData), Writer::life);
+        context_.putTrait(&platform::EditTraits::maxLength, int{lengthAsInteger(context_.settings.formatoExibData)});
+        return;
+    case TipoText::Mascara:
+        writeText(std::u16string(context_.settings.mask), Writer::life);
+        context_.putTrait(&platform::EditTraits::maxLength, int{lengthAsInteger(context_.settings.mask)});
+        return;
+    }
+}
+
+// Oddity: a loaded ValorPadrao is not tested for its length, and a formula on a field that is no date shows a box;
+// forms with such defaults would load with other texts.
+void Content::applyLoadedDefault()
+{
+    if (context_.settings.valorPadrao.empty())
+        return;
+    if (!context_.settings.valorPadrao.starts_with(u'%'))
+        putText(std::u16string(context_.settings.valorPadrao), Writer::host);
+    else if (context_.settings.textType == TipoText::Data)
+        applyFormula();
+    else
+        context_.showBox(platform::BoxIcon::information, u"", u"Formula não reconhecida!");
+}
+
+std::u16string Content::text() const
+{
+    std::u16string text;
+    context_.readText(text);
+    return text;
+}
+
+void Content::writeText(std::u16string_view text, Writer writer)
+{
+    if (history_ && (writer == Writer::host || writer == Writer::life))
+        history_->clear();
+    const engine::Alive alive(context_.life);
+    const engine::ScopedValue scope(context_.life, writer_, writer);
+    context_.box().putText(text);
+    if (!alive)
+        engine::raise(engine::error_number::objectNotSet);
+}
+
+History& Content::history()
+{
+    if (!history_)
+        history_ = std::make_unique<History>();
+    return *history_;
 }
 
 } // namespace vela::control
