@@ -166,53 +166,20 @@ void ControlSurface::leave(platform::Leaving leaving)
         surfaceEvents_->surfaceLostFocus();
 }
 
-void ControlSurface::key(Key key)
+// Pasting, cutting and taking back are the field's: its box only reports them.
+void ControlSurface::take(const Act& act)
 {
-    activeBox().key(key);
-}
-
-void ControlSurface::paste(std::u16string_view text)
-{
-    if (boxEvents_ != nullptr)
-        boxEvents_->pasted(text);
-}
-
-void ControlSurface::pasteIntoBox(std::u16string_view text)
-{
-    activeBox().paste(text);
-}
-
-void ControlSurface::cut()
-{
-    if (boxEvents_ != nullptr)
-        boxEvents_->cut();
-}
-
-void ControlSurface::undo()
-{
-    if (boxEvents_ != nullptr)
-        boxEvents_->undo();
-}
-
-void ControlSurface::redo()
-{
-    if (boxEvents_ != nullptr)
-        boxEvents_->redo();
-}
-
-void ControlSurface::placeCaret(int start, int length)
-{
-    activeBox().placeCaret(start, length);
-}
-
-void ControlSurface::click()
-{
-    activeBox().clickAtEnd();
-}
-
-void ControlSurface::doubleClick()
-{
-    activeBox().doubleClick();
+    switch (act.kind) {
+    case Act::strike: return activeBox().key(act.key);
+    case Act::pasteIntoBox: return activeBox().paste(act.text);
+    case Act::placeCaret: return activeBox().placeCaret(act.start, act.length);
+    case Act::click: return activeBox().clickAtEnd();
+    case Act::doubleClick: return activeBox().doubleClick();
+    case Act::paste: return boxEvents_ ? boxEvents_->pasted(act.text) : void();
+    case Act::cut: return boxEvents_ ? boxEvents_->cut() : void();
+    case Act::undo: return boxEvents_ ? boxEvents_->undo() : void();
+    case Act::redo: return boxEvents_ ? boxEvents_->redo() : void();
+    }
 }
 
 void ControlSurface::pointerMoved()

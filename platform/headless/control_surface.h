@@ -52,15 +52,7 @@ public:
     [[nodiscard]] std::optional<engine::PointPixels> originOf(platform::WindowId window) const override;
     void enter() override;
     void leave(platform::Leaving leaving) override;
-    void key(Key key) override;
-    void paste(std::u16string_view text) override;
-    void pasteIntoBox(std::u16string_view text) override;
-    void cut() override;
-    void undo() override;
-    void redo() override;
-    void placeCaret(int start, int length) override;
-    void click() override;
-    void doubleClick() override;
+    void take(const Act& act) override;
     void pointerMoved() override;
     void tick() override;
 

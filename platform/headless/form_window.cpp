@@ -185,13 +185,12 @@ void FormWindow::arriveAt(Element* target)
 }
 
 // Tabs that the act asked for are carried out even when it failed.
-template <class Act>
-void FormWindow::act(Act&& what)
+void FormWindow::act(const Act& what)
 {
     if (focused_ == nullptr)
         return;
     std::exception_ptr failure;
-    guarded(failure, [&] { what(*focused_); });
+    guarded(failure, [&] { focused_->take(what); });
     guarded(failure, [&] { runPendingTabs(); });
     rethrow(failure);
 }
@@ -206,53 +205,11 @@ void FormWindow::runPendingTabs()
     }
 }
 
-void FormWindow::key(Key key)
-{
-    act([&](Element& element) { element.key(key); });
-}
-
-void FormWindow::paste(std::u16string_view text)
-{
-    act([&](Element& element) { element.paste(text); });
-}
-
-void FormWindow::pasteIntoBox(std::u16string_view text)
-{
-    act([&](Element& element) { element.pasteIntoBox(text); });
-}
-
-void FormWindow::cut()
-{
-    act([](Element& element) { element.cut(); });
-}
-
-void FormWindow::undo()
-{
-    act([](Element& element) { element.undo(); });
-}
-
-void FormWindow::redo()
-{
-    act([](Element& element) { element.redo(); });
-}
-
-void FormWindow::placeCaret(int start, int length)
-{
-    act([&](Element& element) { element.placeCaret(start, length); });
-}
-
-void FormWindow::click(Element& element)
+void FormWindow::clickAt(Element& element, Act::Kind kind)
 {
     focus(element);
     if (focused_ == &element)
-        act([](Element& clicked) { clicked.click(); });
-}
-
-void FormWindow::doubleClick(Element& element)
-{
-    focus(element);
-    if (focused_ == &element)
-        act([](Element& clicked) { clicked.doubleClick(); });
+        act({.kind = kind});
 }
 
 void FormWindow::pointTo(Element& element)

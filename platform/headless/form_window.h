@@ -20,6 +20,26 @@ namespace vela::headless {
 
 class FormWindow;
 
+// What a person does at the element that has the focus.
+struct Act {
+    enum Kind {
+        strike,
+        paste,        // as the field has it: through its filter
+        pasteIntoBox, // as the box itself has it: whole, cut to fit, refused when locked
+        cut,
+        undo,
+        redo,
+        placeCaret, // cut to the text
+        click,
+        doubleClick, // a click and the second one
+    };
+    Kind kind = click;
+    Key key = {};
+    std::u16string_view text = {};
+    int start = 0; // of the caret
+    int length = 0;
+};
+
 // Something on the form that can take the focus. When it is destroyed it is removed from the form without reporting
 // that the focus left.
 class Element {
@@ -39,15 +59,7 @@ public:
     [[nodiscard]] virtual std::optional<engine::PointPixels> originOf(platform::WindowId) const { return std::nullopt; }
     virtual void enter() {}
     virtual void leave(platform::Leaving) {}
-    virtual void key(Key) {}
-    virtual void paste(std::u16string_view) {}
-    virtual void pasteIntoBox(std::u16string_view) {}
-    virtual void cut() {}
-    virtual void undo() {}
-    virtual void redo() {}
-    virtual void placeCaret(int, int) {} // start, length; cut to the text
-    virtual void click() {}
-    virtual void doubleClick() {} // a click and the second one
+    virtual void take(const Act&) {}
     virtual void pointerMoved() {}
     virtual void tick() {}
 
@@ -91,16 +103,16 @@ public:
     std::function<void()> focusArrived; // after the element that has it now has been entered
 
     // Acts of a person at the focused element; nothing without one. Tabs asked for are carried out at the end.
-    void key(Key key);
-    void paste(std::u16string_view text);        // as the field has it: through its filter
-    void pasteIntoBox(std::u16string_view text); // as the box itself has it: whole, cut to fit, refused when locked
-    void cut();
-    void undo();
-    void redo();
-    void placeCaret(int start, int length);
+    void key(Key key) { act({.kind = Act::strike, .key = key}); }
+    void paste(std::u16string_view text) { act({.kind = Act::paste, .text = text}); }
+    void pasteIntoBox(std::u16string_view text) { act({.kind = Act::pasteIntoBox, .text = text}); }
+    void cut() { act({.kind = Act::cut}); }
+    void undo() { act({.kind = Act::undo}); }
+    void redo() { act({.kind = Act::redo}); }
+    void placeCaret(int start, int length) { act({.kind = Act::placeCaret, .start = start, .length = length}); }
     // Give the focus first; where it is not granted nothing follows.
-    void click(Element& element);
-    void doubleClick(Element& element);
+    void click(Element& element) { clickAt(element, Act::click); }
+    void doubleClick(Element& element) { clickAt(element, Act::doubleClick); }
     void pointTo(Element& element); // nothing over one that does not accept the focus
     void pointAway();
     void tick(); // of every element's enabled timer, in tab order
@@ -121,8 +133,8 @@ private:
     void moveFocus(Element* target);
     void leaveFocused();
     void arriveAt(Element* target);
-    template <class Act>
-    void act(Act&& what);
+    void act(const Act& what);
+    void clickAt(Element& element, Act::Kind kind);
     void runPendingTabs();
     [[nodiscard]] bool holds(const Element* element) const noexcept;
 
