@@ -59,9 +59,9 @@ CalendarContent::~CalendarContent()
     terminate();
 }
 
-win32::Form& CalendarContent::form() const
+win32::FormWindow& CalendarContent::form() const
 {
-    return static_cast<win32::Form&>(calendar_.form());
+    return static_cast<win32::FormWindow&>(calendar_.form());
 }
 
 void CalendarContent::picked()

@@ -3,6 +3,7 @@
 
 #include "activex/ole/shell.h"
 #include "activex/session.h"
+#include "platform/win32/form_window.h"
 #include "popups/c_calendar.h"
 
 namespace vela::activex {
@@ -47,7 +48,7 @@ private:
     void focusLeft() override { shell_.focusMoved(false); }
     void windowDestroyed() override { shell_.windowLost(); }
 
-    [[nodiscard]] win32::Form& form() const;
+    [[nodiscard]] win32::FormWindow& form() const;
     void picked();
 
     Shell& shell_;

@@ -9,6 +9,7 @@
 #include "activex/vela_members.h"
 #include "pages/frm_paleta.h"
 #include "platform/win32/dpi.h"
+#include "platform/win32/form_window.h"
 
 #include <olectl.h>
 #include <optional>
@@ -73,7 +74,7 @@ private:
     void changed(bool dirty) override;
     void runAct(const std::function<void()>& act) override;
     void settle() noexcept;
-    [[nodiscard]] win32::Form& form() const { return static_cast<win32::Form&>(page_->form()); }
+    [[nodiscard]] win32::FormWindow& form() const { return static_cast<win32::FormWindow&>(page_->form()); }
     void openSelection();
     void openSelectionOrSayWhyNot();
     void showFailure(const engine::Error& error);
@@ -111,7 +112,7 @@ HRESULT PropertyPage::Activate(HWND parent, LPCRECT place, BOOL) noexcept
     const Act act(*this);
     return guarded([&] {
         auto page = pages::makePage(kind_, services_, *this);
-        auto& shown = static_cast<win32::Form&>(page->form());
+        auto& shown = static_cast<win32::FormWindow&>(page->form());
         shown.showChild(parent, *place);
         shown.showChildWindow(false); // the frame calls Show
         page_ = std::move(page);
@@ -156,7 +157,7 @@ HRESULT PropertyPage::Deactivate() noexcept
     if (!page_)
         return S_OK;
     left_ = std::move(page_);
-    contained([&] { static_cast<win32::Form&>(left_->form()).leaveParent(); });
+    contained([&] { static_cast<win32::FormWindow&>(left_->form()).leaveParent(); });
     if (acts_ == 0)
         settle();
     return S_OK;

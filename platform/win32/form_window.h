@@ -34,7 +34,11 @@ struct WidgetWindow {
     [[nodiscard]] platform::WidgetKind kind() const noexcept { return values.kind(); }
 };
 
-class FormWindow final : public Form, private WindowHandler, private SpokenForm, private platform::WidgetDisplay {
+// Its windows are made when it is shown and go when it is closed or leaves its parent; the values stay.
+class FormWindow final : public platform::Form,
+                         private WindowHandler,
+                         private SpokenForm,
+                         private platform::WidgetDisplay {
 public:
     FormWindow(const platform::FormLayout& layout, const platform::FormEvents& events);
     FormWindow(const FormWindow&) = delete;
@@ -51,15 +55,20 @@ public:
     [[nodiscard]] bool isShown() const override { return shown_; }
     [[nodiscard]] platform::WindowId window() const override;
 
-    void showChild(HWND parent, const RECT& place) override;
-    void setListener(FormListener* listener) noexcept override { listener_ = listener; }
-    void showChildWindow(bool visible) override;
-    void moveChild(const RECT& place) override;
-    void putDead(bool dead) override { dead_ = dead; }
-    void leaveParent() override;
-    [[nodiscard]] bool translate(MSG& message) override;
-    [[nodiscard]] SIZE naturalSize(int dpi) const override;
-    [[nodiscard]] HWND handle() const noexcept override { return window_; }
+    // As a child of `parent` (a property page of a frame), at this place, in pixels, at the natural size's scale.
+    void showChild(HWND parent, const RECT& place);
+    // Null: none, which is how a form begins. With one, a click anywhere in a child form takes the focus.
+    void setListener(FormListener* listener) noexcept { listener_ = listener; }
+    void showChildWindow(bool visible);
+    void moveChild(const RECT& place);
+    void putDead(bool dead) noexcept { dead_ = dead; } // keys and clicks are not answered
+    void leaveParent();                                // the windows go
+    // Tab, arrows and access keys among its widgets; true when the message was one of them. Enter and Esc are left to
+    // the frame.
+    [[nodiscard]] bool translate(MSG& message);
+    // Of its client area as the table gives it, at this many dots per inch.
+    [[nodiscard]] SIZE naturalSize(int dpi) const;
+    [[nodiscard]] HWND handle() const noexcept { return window_; }
 
     // For its widgets' windows.
     LRESULT widgetMessage(WidgetWindow& widget, HWND window, UINT message, WPARAM first, LPARAM second);
