@@ -1,4 +1,4 @@
-// In-place activation, focus and keys, in the tests' own container and in the system's.
+// In-place activation, focus and keys.
 #include "person.h"
 
 #include <gtest/gtest.h>
@@ -170,69 +170,6 @@ TEST(Activation, TheFormMayGoFirst)
     EXPECT_EQ(site.count("OnInPlaceDeactivate"), 1) << "the control says that it has no window any more";
     EXPECT_EQ(site.automation().textOf(u"Text"), u"fica");
     EXPECT_EQ(site.automation().put(u"BorderStyle", number(2)).result, S_OK);
-}
-
-// The system's own container, as quick form programs use it.
-class AtlHost {
-public:
-    AtlHost()
-    {
-        module_ = LoadLibraryW(L"atl100.dll");
-        if (const auto start = entry<BOOL(WINAPI*)()>("AtlAxWinInit"))
-            start();
-        window_ = CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", nullptr, WS_POPUP, 0, 0, 300, 100, nullptr, nullptr,
-                                  nullptr, nullptr);
-        ShowWindow(window_, SW_SHOWNOACTIVATE);
-    }
-    AtlHost(const AtlHost&) = delete;
-    AtlHost& operator=(const AtlHost&) = delete;
-    ~AtlHost() { DestroyWindow(window_); }
-
-    [[nodiscard]] bool available() const { return module_ != nullptr; }
-    [[nodiscard]] HWND window() const { return window_; }
-    ComPtr<IUnknown> add(int top)
-    {
-        const HWND place = CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", nullptr, WS_CHILD | WS_VISIBLE, 0, top, 200,
-                                           24, window_, nullptr, nullptr, nullptr);
-        const auto make = entry<HRESULT(WINAPI*)(LPCOLESTR, HWND, IStream*, IUnknown**, IUnknown**, REFIID, IUnknown*)>(
-            "AtlAxCreateControlEx");
-        ComPtr<IUnknown> container;
-        ComPtr<IUnknown> control;
-        EXPECT_EQ(make(L"Vela.Vela", place, nullptr, &container, &control, IID_NULL, nullptr), S_OK);
-        return control;
-    }
-
-private:
-    template <class Function>
-    Function entry(const char* name)
-    {
-        return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module_, name)));
-    }
-    HMODULE module_;
-    HWND window_;
-};
-
-TEST(Activation, TheSystemsContainer)
-{
-    const LeakCheck leaks;
-    AtlHost host;
-    if (!host.available())
-        GTEST_SKIP() << "no atl100.dll here";
-    const ComPtr<IUnknown> first = host.add(0);
-    const ComPtr<IUnknown> second = host.add(40);
-    ASSERT_TRUE(first && second);
-    const auto editOf = [](IUnknown* control) {
-        return reinterpret_cast<HWND>(static_cast<LONG_PTR>(Automation(control).get(u"hwnd").value.get().lVal));
-    };
-    ASSERT_TRUE(IsWindowVisible(editOf(first.Get())));
-    SetForegroundWindow(host.window());
-    SetFocus(editOf(first.Get()));
-    for (const wchar_t unit : {L'o', L'i'})
-        SendMessageW(GetFocus(), WM_CHAR, static_cast<WPARAM>(unit), 1);
-    EXPECT_EQ(Automation(first.Get()).textOf(u"Text"), u"oi");
-    MSG tab{GetFocus(), WM_KEYDOWN, VK_TAB, 1, 0, {}};
-    IsDialogMessageW(host.window(), &tab);
-    EXPECT_EQ(GetFocus(), editOf(second.Get()));
 }
 
 TEST(Activation, TheFrameIsToldOfABoxOnce)

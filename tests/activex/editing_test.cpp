@@ -8,33 +8,6 @@ namespace vela::test {
 
 namespace {
 
-void putClipboard(std::u16string_view text)
-{
-    const std::size_t bytes = (text.size() + 1) * sizeof(char16_t);
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, bytes);
-    CopyMemory(GlobalLock(memory), text.data(), text.size() * sizeof(char16_t));
-    GlobalUnlock(memory);
-    ASSERT_TRUE(OpenClipboard(nullptr));
-    EmptyClipboard();
-    SetClipboardData(CF_UNICODETEXT, memory);
-    CloseClipboard();
-}
-
-std::u16string clipboard()
-{
-    if (!OpenClipboard(nullptr))
-        return u"?";
-    const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
-    std::u16string text;
-    if (memory) {
-        const auto* const units = static_cast<const wchar_t*>(GlobalLock(memory));
-        text = asText(units);
-        GlobalUnlock(memory);
-    }
-    CloseClipboard();
-    return text;
-}
-
 // A control with the focus, of one kind.
 class Field {
 public:

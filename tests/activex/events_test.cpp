@@ -1,4 +1,4 @@
-// Events and property notifications: by-reference arguments, script handlers, and hosts that do harm inside them.
+// Events and property notifications: by-reference arguments, and hosts that do harm inside them.
 #include "container.h"
 
 #include "activex/guids.h"

@@ -58,17 +58,6 @@ const ControlKey controlKeys[] = {
     {"undo", 'Z', VK_CONTROL, 26, u"abc"},
 };
 
-void putClipboard(std::wstring_view text)
-{
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, (text.size() + 1) * sizeof(wchar_t));
-    CopyMemory(GlobalLock(memory), text.data(), text.size() * sizeof(wchar_t));
-    GlobalUnlock(memory);
-    ASSERT_TRUE(OpenClipboard(nullptr));
-    EmptyClipboard();
-    SetClipboardData(CF_UNICODETEXT, memory);
-    CloseClipboard();
-}
-
 TEST(HostsKeys, ControlCharactersAreHeardAndPassByTheFilter)
 {
     const LeakCheck leaks;
@@ -82,7 +71,7 @@ TEST(HostsKeys, ControlCharactersAreHeardAndPassByTheFilter)
             form.type(u"abcd");
             site.automation().set({{u"MaxLength", 5}, {u"AutoTAB", true}, {u"TextoLivre", false}});
             SendMessageW(site.edit(), EM_SETSEL, row.code == 27 ? 4 : 1, row.code == 27 ? 4 : 3);
-            putClipboard(L"XY");
+            putClipboard(u"XY");
             site.automation().put(u"CaractLiberados", text(u"abcdXY"));
             std::vector<int> heard;
             site.onEvent = [&](DISPID id, DISPPARAMS& parameters) {

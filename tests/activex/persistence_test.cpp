@@ -139,26 +139,6 @@ TEST(Persistence, StorageGivesEverythingBack)
     expectSame(saved.Get(), loaded.Get());
 }
 
-// Written by either bitness, kept with the tests, loaded by both: "Mask" "__-__", "QtdCasasDec" 2.
-TEST(Persistence, TheBytesAreTheSameInBothBitnesses)
-{
-    const std::string bytes("VelaSet\x1A"
-                            "\x01\0\0\0"
-                            "\x3E\0\0\0"
-                            "\xEC\xCD\xC1\x9E"
-                            "\x02\0\0\0"
-                            "\x04\0M\0a\0s\0k\0\x04\x0A\0\0\0_\0_\0-\0_\0_\0"
-                            "\x0B\0Q\0t\0d\0C\0a\0s\0a\0s\0D\0e\0c\0\x02\x04\0\0\0\x02\0\0\0",
-                            20 + 62);
-    const ComPtr<IUnknown> control = create();
-    const auto stream = memoryStream(bytes);
-    ASSERT_EQ(query<IPersistStreamInit>(control.Get())->Load(stream.Get()), S_OK);
-    const Automation field(control.Get());
-    EXPECT_EQ(field.textOf(u"Mask"), u"__-__");
-    EXPECT_EQ(field.textOf(u"QtdCasasDec"), u"2");
-    EXPECT_EQ(field.textOf(u"InserirZeros"), u"True") << "the loaded default";
-}
-
 // "saved.QtdCasasDec = 3" of a control that has loaded these bytes.
 void addLoaded(std::vector<std::string>& lines, const std::string& source, const std::string& bytes)
 {
@@ -289,28 +269,6 @@ TEST(Persistence, ValuesOfOtherTypesAreConvertedOrRefused)
     bag->values.emplace(u"QtdCasasDec", text(u"dois"));
     EXPECT_EQ(target->Load(bag.Get(), nullptr), static_cast<HRESULT>(0x800A000D)) << "type mismatch";
     EXPECT_EQ(field.put(u"Text", text(u"usable")).result, S_OK);
-}
-
-TEST(Persistence, NullArgumentsAreRefused)
-{
-    const ComPtr<IUnknown> control = create();
-    EXPECT_EQ(query<IPersistStreamInit>(control.Get())->Load(nullptr), E_POINTER);
-    EXPECT_EQ(query<IPersistStreamInit>(control.Get())->Save(nullptr, TRUE), E_POINTER);
-    EXPECT_EQ(query<IPersistPropertyBag>(control.Get())->Load(nullptr, nullptr), E_POINTER);
-    EXPECT_EQ(query<IPersistStorage>(control.Get())->Load(nullptr), E_POINTER);
-}
-
-TEST(Persistence, TheCalendarKeepsItsDate)
-{
-    const auto bag = make<Bag>();
-    bag->values.emplace(u"DateInitial", text(u"29/02/2024"));
-    const ComPtr<IUnknown> calendar = create(L"Vela.cCalendar");
-    const auto persistence = query<IPersistPropertyBag>(calendar.Get());
-    ASSERT_EQ(persistence->Load(bag.Get(), nullptr), S_OK);
-    EXPECT_EQ(Automation(calendar.Get()).get(u"DateInitial").value.get().date, 45351);
-    const auto written = make<Bag>();
-    ASSERT_EQ(persistence->Save(written.Get(), TRUE, FALSE), S_OK);
-    EXPECT_EQ(asText({written->values[u"DateInitial"].get().bstrVal, 10}), u"29/02/2024");
 }
 
 } // namespace

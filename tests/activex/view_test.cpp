@@ -272,6 +272,10 @@ TEST(View, TellsWhenItsPictureIsAnother)
     EXPECT_EQ(view->GetAdvise(&aspects, nullptr, &kept), S_OK);
     EXPECT_EQ(kept.Get(), sink.Get());
     kept.Reset();
+    view->SetAdvise(DVASPECT_CONTENT, ADVF_ONLYONCE | ADVF_PRIMEFIRST, sink.Get());
+    const int views = sink->views;
+    Automation(control.Get()).put(u"Text", text(u"y"));
+    EXPECT_EQ(sink->views, views) << "told once, and at once";
     view->SetAdvise(DVASPECT_CONTENT, 0, nullptr);
 }
 
