@@ -3,8 +3,6 @@
 #include "person.h"
 
 #include <gtest/gtest.h>
-#include <initguid.h>
-#include <oleacc.h>
 #include <olectl.h>
 
 namespace vela::test {
@@ -238,18 +236,9 @@ TEST(HostsKeys, ATabThatNobodyUsedGoesOn)
 
 std::wstring nameOf(HWND window)
 {
-    using FromWindow = HRESULT(WINAPI*)(HWND, DWORD, REFIID, void**);
-    const auto fromWindow = reinterpret_cast<FromWindow>(
-        reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(L"oleacc.dll"), "AccessibleObjectFromWindow")));
     ComPtr<IAccessible> reader;
-    const IID wanted{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
-    if (fromWindow(window, static_cast<DWORD>(OBJID_CLIENT), wanted, &reader) != S_OK)
-        return L"?";
-    VARIANT self{};
-    self.vt = VT_I4;
-    Bstr name;
-    reader->get_accName(self, name.put());
-    return wide(name.text());
+    reader.Attach(readerOf(window));
+    return reader ? heardOf(*reader.Get()) : L"?";
 }
 
 TEST(HostsKeys, AReaderHearsTheFieldsNameOrItsLabels)

@@ -209,33 +209,6 @@ std::u16string shownBy(HWND window)
     return std::u16string(asText({shown, static_cast<std::size_t>(length)}));
 }
 
-void putClipboard(std::u16string_view text)
-{
-    const std::size_t bytes = (text.size() + 1) * sizeof(char16_t);
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, bytes);
-    CopyMemory(GlobalLock(memory), text.data(), text.size() * sizeof(char16_t));
-    GlobalUnlock(memory);
-    ASSERT_TRUE(OpenClipboard(nullptr));
-    EmptyClipboard();
-    SetClipboardData(CF_UNICODETEXT, memory);
-    CloseClipboard();
-}
-
-std::u16string clipboard()
-{
-    if (!OpenClipboard(nullptr))
-        return u"?";
-    const HANDLE memory = GetClipboardData(CF_UNICODETEXT);
-    std::u16string text;
-    if (memory) {
-        const auto* const units = static_cast<const wchar_t*>(GlobalLock(memory));
-        text = asText(units, wcslen(units));
-        GlobalUnlock(memory);
-    }
-    CloseClipboard();
-    return text;
-}
-
 void makeDate(const Site& site, std::u16string_view shown)
 {
     asDate(site.automation());

@@ -3,6 +3,8 @@
 
 #include "container.h"
 
+#include "tests/support/windows.h"
+
 #include <functional>
 #include <string>
 #include <string_view>
@@ -38,9 +40,6 @@ struct SeenColours {
 HWND openPopup(Form& form, const Site& site);  // by its button
 HWND popupOf(Form& form);                      // once it is up and active
 [[nodiscard]] std::u16string shownBy(HWND window);
-
-void putClipboard(std::u16string_view text);
-[[nodiscard]] std::u16string clipboard();
 
 // A date field whose entry is no date.
 void makeDate(const Site& site, std::u16string_view shown);

@@ -9,6 +9,7 @@
 #include "platform/win32/settings_store.h"
 #include "platform/win32/text.h"
 #include "platform/win32/tooltip_window.h"
+#include "tests/support/windows.h"
 
 #include <array>
 #include <fstream>
@@ -20,19 +21,6 @@ namespace {
 HWND windowOf(platform::WindowId id)
 {
     return reinterpret_cast<HWND>(id.value);
-}
-
-void putOnClipboard(std::u16string_view text)
-{
-    const std::size_t bytes = (text.size() + 1) * sizeof(char16_t);
-    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
-    auto* units = static_cast<char16_t*>(GlobalLock(memory));
-    units[text.copy(units, text.size())] = u'\0';
-    GlobalUnlock(memory);
-    OpenClipboard(nullptr);
-    EmptyClipboard();
-    SetClipboardData(CF_UNICODETEXT, memory);
-    CloseClipboard();
 }
 
 HWND makeForm()
@@ -117,7 +105,7 @@ public:
     }
     void paste(std::u16string_view text) override
     {
-        putOnClipboard(text);
+        test::putClipboard(text);
         send(WM_CHAR, 22, 1); // Control+V
     }
     void cut() override { send(WM_CHAR, 24, 1); }

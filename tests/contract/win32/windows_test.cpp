@@ -1,6 +1,7 @@
 // What only real windows have: the EDIT itself, colours asked for by it, tooltip records, windows that go, names for
 // readers.
 #include "tests/contract/form_case.h"
+#include "tests/support/windows.h"
 
 #include "engine/text/calendar_date.h"
 #include "engine/text/conversions.h"
@@ -11,15 +12,15 @@
 
 #include <commctrl.h>
 #include <objbase.h>
-#include <oleauto.h>
-
-#include <oleacc.h>
 
 #include <array>
 #include <string>
 
 namespace vela::contract {
 namespace {
+
+using test::heardOf;
+using test::readerOf;
 
 HWND windowOf(platform::WindowId id)
 {
@@ -48,32 +49,6 @@ int inkIn(HWND window, const RECT& place)
         for (LONG x = place.left; x < place.right; ++x)
             ink += GetPixel(dc.get(), x, y) != ground;
     return ink;
-}
-
-// As a screen reader asks.
-IAccessible* readerOf(HWND window)
-{
-    using FromWindow = HRESULT(WINAPI*)(HWND, DWORD, REFIID, void**);
-    const HMODULE service = LoadLibraryW(L"oleacc.dll");
-    const auto fromWindow =
-        reinterpret_cast<FromWindow>(reinterpret_cast<void*>(GetProcAddress(service, "AccessibleObjectFromWindow")));
-    const IID wanted{0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
-    void* found = nullptr;
-    return fromWindow(window, static_cast<DWORD>(OBJID_CLIENT), wanted, &found) == S_OK
-               ? static_cast<IAccessible*>(found)
-               : nullptr;
-}
-
-std::wstring heardOf(IAccessible& reader, LONG child)
-{
-    VARIANT number{};
-    number.vt = VT_I4;
-    number.lVal = child;
-    BSTR name = nullptr;
-    reader.get_accName(number, &name);
-    const std::wstring heard = name ? name : L"";
-    SysFreeString(name);
-    return heard;
 }
 
 class Windows : public FieldCase {
@@ -400,7 +375,7 @@ TEST_F(Windows, AReaderHearsTheNamesOfBoxesAndLists)
                 continue;
             IAccessible* const reader = readerOf(asked);
             ASSERT_TRUE(reader);
-            EXPECT_EQ(heardOf(*reader, CHILDID_SELF), L"Nome " + std::to_wstring(i));
+            EXPECT_EQ(heardOf(*reader), L"Nome " + std::to_wstring(i));
             reader->Release();
         }
     }

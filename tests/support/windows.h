@@ -1,0 +1,62 @@
+// The clipboard, and what a reader program hears, for tests on Windows.
+#pragma once
+
+#include <windows.h>
+
+#include <oleacc.h>
+
+#include <string>
+#include <string_view>
+
+namespace vela::test {
+
+inline void putClipboard(std::u16string_view text)
+{
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, (text.size() + 1) * sizeof(char16_t));
+    CopyMemory(GlobalLock(memory), text.data(), text.size() * sizeof(char16_t));
+    GlobalUnlock(memory);
+    if (!OpenClipboard(nullptr))
+        return;
+    EmptyClipboard();
+    SetClipboardData(CF_UNICODETEXT, memory);
+    CloseClipboard();
+}
+
+[[nodiscard]] inline std::u16string clipboard()
+{
+    if (!OpenClipboard(nullptr))
+        return u"?";
+    std::u16string text;
+    if (const HANDLE memory = GetClipboardData(CF_UNICODETEXT)) {
+        text = static_cast<const char16_t*>(GlobalLock(memory));
+        GlobalUnlock(memory);
+    }
+    CloseClipboard();
+    return text;
+}
+
+// Null when nobody answers; released by the caller.
+[[nodiscard]] inline IAccessible* readerOf(HWND window)
+{
+    using FromWindow = HRESULT(WINAPI*)(HWND, DWORD, REFIID, void**);
+    const auto fromWindow = reinterpret_cast<FromWindow>(
+        reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(L"oleacc.dll"), "AccessibleObjectFromWindow")));
+    void* found = nullptr;
+    return fromWindow(window, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible), &found) == S_OK
+               ? static_cast<IAccessible*>(found)
+               : nullptr;
+}
+
+[[nodiscard]] inline std::wstring heardOf(IAccessible& reader, LONG child = CHILDID_SELF)
+{
+    VARIANT number{};
+    number.vt = VT_I4;
+    number.lVal = child;
+    BSTR name = nullptr;
+    reader.get_accName(number, &name);
+    std::wstring heard = name ? name : L"";
+    SysFreeString(name);
+    return heard;
+}
+
+} // namespace vela::test
