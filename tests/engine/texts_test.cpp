@@ -1,0 +1,131 @@
+// Numbers, patterns and their limits where transcripts do not reach: units that are no characters, any length, locales.
+#include "engine/error.h"
+#include "engine/text/calendar_date.h"
+#include "engine/text/conversions.h"
+#include "engine/text/pattern.h"
+#include "tests/support/error_of.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+
+namespace vela::engine {
+namespace {
+
+using namespace std::string_literals;
+using namespace std::string_view_literals;
+
+const Date today = makeDate({2026, 11, 21});
+
+TEST(Texts, OfUnitsThatAreNoCharacters)
+{
+    EXPECT_EQ(toDouble(u"12\0x"sv, ptBr()), 12);
+    EXPECT_EQ(format(5.0, u"0\0garbage"sv, ptBr(), today), u"5");
+    EXPECT_EQ(format(1.5, u"\xD800"s + u"0" + u"\xDC00", ptBr(), today), u"\xD800"s + u"2" + u"\xDC00");
+    for (const std::u16string_view text : {u"\0"sv, u"\xD800"sv, u"1\xDC00"sv}) {
+        EXPECT_FALSE(isNumeric(text, ptBr()));
+        EXPECT_EQ(errorOf([&] { return toCurrency(text, ptBr()); }), error_number::typeMismatch);
+    }
+}
+
+TEST(Numbers, OfAnyLengthAreReadWhole)
+{
+    std::u16string text(70000, u'9');
+    EXPECT_EQ(errorOf([&] { return toDouble(text, ptBr()); }), error_number::overflow);
+    text.insert(1, u",");
+    EXPECT_EQ(toDouble(text, ptBr()), 10.0);
+    EXPECT_EQ(toDouble(u"1e-99999999999999999999", ptBr()), 0.0);
+    EXPECT_EQ(toDouble(u"123456789012345678901234567890", ptBr()), 123456789012345678901234567890.0);
+    // Exactly half way between two doubles up to the last digit, which decides.
+    std::u16string half = u"9007199254740993," + std::u16string(69000, u'0');
+    EXPECT_EQ(toDouble(half, ptBr()), 9007199254740992.0);
+    half += u'1';
+    EXPECT_EQ(toDouble(half, ptBr()), 9007199254740994.0);
+    EXPECT_EQ(toDouble(std::u16string(70000, u'0') + u"7", ptBr()), 7.0);
+}
+
+TEST(Numbers, OtherLocales)
+{
+    Locale locale = ptBr();
+    locale.decimal = u"·";
+    locale.grouping = u"' ";
+    locale.currencySymbol = u"Fr.";
+    locale.negativeSign = u"\u2212";
+    EXPECT_EQ(toDouble(u"\u2212Fr. 1' 234·5", locale), -1234.5);
+    EXPECT_FALSE(isNumeric(u"-5", locale));
+    locale.grouping.clear();
+    locale.decimal.clear();
+    locale.currencySymbol.clear();
+    EXPECT_EQ(toDouble(u"15", locale), 15);
+    EXPECT_FALSE(isNumeric(u"1,5", locale));
+}
+
+TEST(Values, BecomeWhatAPropertyWants)
+{
+    EXPECT_EQ(toLong(u"2,5"s, ptBr()), 2);
+    EXPECT_EQ(toLong(3.5, ptBr()), 4);
+    EXPECT_EQ(toLong(-2.5, ptBr()), -2);
+    EXPECT_EQ(toLong(-2.6, ptBr()), -3);
+    EXPECT_EQ(toLong(true, ptBr()), -1);
+    EXPECT_EQ(toLong(Empty{}, ptBr()), 0);
+    EXPECT_EQ(toLong(2147483647.4, ptBr()), 2147483647);
+    EXPECT_EQ(errorOf([] { return toLong(2147483647.5, ptBr()); }), error_number::overflow);
+    EXPECT_EQ(errorOf([] { return toLong(u"x"s, ptBr()); }), error_number::typeMismatch);
+    EXPECT_TRUE(toBoolean(u"TRUE"s, ptBr()));
+    EXPECT_FALSE(toBoolean(u"fAlse"s, ptBr()));
+    EXPECT_TRUE(toBoolean(u"-0,5"s, ptBr()));
+    EXPECT_FALSE(toBoolean(Empty{}, ptBr()));
+    EXPECT_EQ(errorOf([] { return toBoolean(u"Verdadeiro"s, ptBr()); }), error_number::typeMismatch);
+    EXPECT_TRUE(isNumeric(Value{true}, ptBr()));
+    EXPECT_TRUE(isNumeric(Value{Empty{}}, ptBr()));
+}
+
+TEST(NumberToText, AtTheLimits)
+{
+    EXPECT_EQ(numberToText(std::numeric_limits<double>::max(), ptBr()), u"1,79769313486232E+308");
+    EXPECT_EQ(numberToText(std::numeric_limits<double>::denorm_min(), ptBr()), u"4,94065645841247E-324");
+    EXPECT_THROW(static_cast<void>(numberToText(std::numeric_limits<double>::infinity(), ptBr())), Error);
+    EXPECT_THROW(static_cast<void>(format(Date{1e10}, u"dd", ptBr(), today)), Error);
+}
+
+TEST(FormatNumber, NegativesInTheLocalesForm)
+{
+    Locale locale = ptBr();
+    const std::u16string_view forms[] = {u"(0,5)", u"-0,5", u"- 0,5", u"0,5-", u"0,5 -"};
+    for (int form = 0; form < 5; ++form) {
+        locale.numberNegative = form;
+        EXPECT_EQ(formatNumber(-0.5, 1, locale), forms[form]);
+        EXPECT_EQ(formatNumber(0.5, 1, locale), u"0,5");
+    }
+    locale.leadingZero = false;
+    EXPECT_EQ(formatNumber(0.5, 1, locale), u",5");
+    EXPECT_EQ(formatNumber(0.25, 0, locale), u"0");
+}
+
+TEST(Patterns, CompiledOnceFormatAlike)
+{
+    const Pattern amount(u"#,##0.00");
+    std::u16string text = u"R$ ";
+    amount.format(1234.5, ptBr(), text);
+    EXPECT_EQ(text, u"R$ 1.234,50");
+    const Pattern copy = amount;
+    text.clear();
+    copy.format(-0.005, enUs(), text);
+    EXPECT_EQ(text, u"-0.01");
+    EXPECT_EQ(copy.text(), u"#,##0.00");
+}
+
+TEST(Patterns, OfAnyLength)
+{
+    const std::u16string zeros(70000, u'0');
+    EXPECT_EQ(format(7.0, zeros, ptBr(), today), std::u16string(69999, u'0') + u"7");
+    EXPECT_EQ(format(7.0, std::u16string(70000, u'#'), ptBr(), today), u"7");
+    EXPECT_EQ(format(7.0, u"0." + zeros, ptBr(), today), u"7," + zeros);
+    EXPECT_EQ(format(7e9, u"0" + std::u16string(70000, u','), ptBr(), today), u"0");
+    EXPECT_EQ(format(7.0, u"0e+" + zeros, ptBr(), today), u"7e+" + zeros);
+    EXPECT_EQ(format(u"x"s, std::u16string(70000, u'@'), ptBr(), today).size(), 70000U);
+}
+
+} // namespace
+} // namespace vela::engine
