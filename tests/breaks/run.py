@@ -2,7 +2,7 @@
 
 run.py [WORD]...    the breaks whose title or folder has one of the words; all without one; --sound: none, the copy as it is
 
-A break in a folder without `by` is for the native programs, that of the folder first; `by` names programs that run under
+A break in a folder without `by` is for the native programs; `by` names programs that run under
 Wine, 64 bit. Ends with 1 when a break escapes or when its text no longer stands there once: a row out of date is
 adapted. The copy is build/breaks; it keeps what is built, so that a break costs one file and the programs.
 """
@@ -78,9 +78,8 @@ def program_notices(program, windows):
 
 
 def notices(folder, programs):
-    """What the first program that notices says; that of the folder is asked first."""
-    own = f"{folder.split('/')[0]}_tests"
-    native = sorted(NATIVE, key=lambda program: program != own)
+    """What the first program that notices says; the transcripts are asked first, but of the engine."""
+    native = sorted(NATIVE, key=lambda program: folder == "engine" and program != "engine_tests")
     for program in programs or native:
         if noticed := program_notices(program, bool(programs)):
             return noticed
