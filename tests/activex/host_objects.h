@@ -47,6 +47,7 @@ class Stream final : public ComObject<IStream> {
 public:
     std::string bytes;
     std::size_t position = 0;
+    ULONG room = 0xFFFFFFFF; // of one writing; a medium that is full may say so by this alone
 
     HRESULT STDMETHODCALLTYPE Read(void* into, ULONG size, ULONG* read) override
     {
@@ -63,10 +64,10 @@ public:
         if (const HRESULT refused = called("IStream::Write"); FAILED(refused))
             return refused;
         bytes.resize(std::min(position, bytes.size()));
-        bytes.append(static_cast<const char*>(from), size);
+        bytes.append(static_cast<const char*>(from), std::min(size, room));
         position = bytes.size();
         if (written)
-            *written = size;
+            *written = std::min(size, room);
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE Seek(LARGE_INTEGER, DWORD, ULARGE_INTEGER*) override { return E_NOTIMPL; }

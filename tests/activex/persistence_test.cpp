@@ -94,6 +94,16 @@ TEST(Persistence, StreamGivesEverythingBack)
     expectSame(saved.Get(), loaded.Get());
 }
 
+TEST(Persistence, AShortWritingIsAFullMedium)
+{
+    const ComPtr<IUnknown> saved = configured();
+    const auto stream = make<Stream>();
+    stream->room = 100;
+    const auto source = ComPtr<IPersistStreamInit>::from(saved.get());
+    EXPECT_EQ(source->Save(stream.get(), TRUE), STG_E_MEDIUMFULL);
+    EXPECT_EQ(source->IsDirty(), S_OK) << "not saved";
+}
+
 TEST(Persistence, BagGivesEverythingBack)
 {
     const ComPtr<IUnknown> saved = configured();
