@@ -99,8 +99,8 @@ TEST(Persistence, AShortWritingIsAFullMedium)
     const ComPtr<IUnknown> saved = configured();
     const auto stream = make<Stream>();
     stream->room = 100;
-    const auto source = ComPtr<IPersistStreamInit>::from(saved.get());
-    EXPECT_EQ(source->Save(stream.get(), TRUE), STG_E_MEDIUMFULL);
+    const auto source = query<IPersistStreamInit>(saved.Get());
+    EXPECT_EQ(source->Save(stream.Get(), TRUE), STG_E_MEDIUMFULL);
     EXPECT_EQ(source->IsDirty(), S_OK) << "not saved";
 }
 

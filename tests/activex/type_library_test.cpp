@@ -13,7 +13,6 @@ namespace vela::test {
 
 namespace {
 
-
 ComPtr<ITypeLib> loadLibrary()
 {
     ComPtr<ITypeLib> library;
@@ -68,7 +67,8 @@ std::u16string typeText(ITypeInfo& info, const TYPEDESC& type)
     }
 }
 
-// Names, numbers, types and values are promised below; the definition they are made of is compared with the tables natively.
+// Names, numbers, types and values are promised below; the definition they are made of is compared with the tables
+// natively.
 TEST(TypeLibrary, HelpTextsAndFlagsComeThroughTheCompiler)
 {
     const auto library = loadLibrary();
@@ -80,11 +80,13 @@ TEST(TypeLibrary, HelpTextsAndFlagsComeThroughTheCompiler)
         Bstr help;
         info->GetDocumentation(function->memid, nullptr, help.put(), nullptr, nullptr);
         EXPECT_FALSE(help.text().empty()) << function->memid;
-        if (function->memid == DISPID_VALUE)
-            EXPECT_EQ(function->wFuncFlags, FUNCFLAG_FBINDABLE | FUNCFLAG_FREQUESTEDIT | FUNCFLAG_FDISPLAYBIND |
-                                                FUNCFLAG_FDEFAULTBIND);
-        if (function->memid == 45) // FormatoRetornoData03
+        if (function->memid == DISPID_VALUE) {
+            EXPECT_EQ(function->wFuncFlags,
+                      FUNCFLAG_FBINDABLE | FUNCFLAG_FREQUESTEDIT | FUNCFLAG_FDISPLAYBIND | FUNCFLAG_FDEFAULTBIND);
+        }
+        if (function->memid == 45) { // FormatoRetornoData03
             EXPECT_TRUE(function->wFuncFlags & FUNCFLAG_FNONBROWSABLE);
+        }
         info->ReleaseFuncDesc(function);
     }
 }
