@@ -3,6 +3,7 @@
 
 #include "control/error_log.h"
 #include "engine/field/mask.h"
+#include "engine/text/decimal_text.h"
 #include "tooltip/windows_version.h"
 
 #include <utility>
@@ -96,7 +97,7 @@ void Visit::click()
             context_.raise(&platform::ControlHost::raiseClick);
         },
         [&](const engine::Error& failure) {
-            context_.showBox(platform::BoxIcon::exclamation, u"Vela.ErrNumber: " + decimalText(failure.number),
+            context_.showBox(platform::BoxIcon::exclamation, u"Vela.ErrNumber: " + engine::decimalText(failure.number),
                              clickFailureText(failure));
         });
 }

@@ -2,18 +2,9 @@
 #include "control/error_log.h"
 
 #include "control/trap.h"
-
-#include <array>
-#include <charconv>
+#include "engine/text/decimal_text.h"
 
 namespace vela::control {
-
-std::u16string decimalText(int number)
-{
-    std::array<char, 12> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    return {digits.data(), end};
-}
 
 void appendToLog(platform::Environment& environment, const engine::Error& error, std::u16string_view label)
 {
@@ -23,12 +14,12 @@ void appendToLog(platform::Environment& environment, const engine::Error& error,
 
 std::u16string numberAndDescription(const engine::Error& error)
 {
-    return decimalText(error.number) + u"-" + error.description;
+    return engine::decimalText(error.number) + u"-" + error.description;
 }
 
 std::u16string changeFailureText(const engine::Error& error)
 {
-    return u"Erro: " + decimalText(error.number) + u"\r\nLinha: " + decimalText(error.step) + u"\r\n" +
+    return u"Erro: " + engine::decimalText(error.number) + u"\r\nLinha: " + engine::decimalText(error.step) + u"\r\n" +
            error.description + u")\r\nRotina: Txt_Change";
 }
 
@@ -39,7 +30,7 @@ std::u16string clickFailureText(const engine::Error& error)
 
 std::u16string gotFocusFailureText(const engine::Error& error)
 {
-    return numberAndDescription(error) + u"\r\nerl = " + decimalText(error.step);
+    return numberAndDescription(error) + u"\r\nerl = " + engine::decimalText(error.step);
 }
 
 } // namespace vela::control

@@ -40,7 +40,4 @@ void whileAlive(engine::Life& life, Body&& body)
     }
 }
 
-// The number in decimal, for error texts.
-[[nodiscard]] std::u16string decimalText(int number);
-
 } // namespace vela::control

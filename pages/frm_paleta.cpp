@@ -3,6 +3,8 @@
 
 #include "engine/error.h"
 #include "engine/text/conversions.h"
+#include "engine/text/decimal_text.h"
+#include "engine/text/key_codes.h"
 #include "pages/key_filters.h"
 #include "pages/layouts.h"
 #include "pages/palette_colours.h"
@@ -21,13 +23,7 @@ using platform::WidgetId;
 namespace {
 
 constexpr std::u16string_view swatchName = u"Picture1";
-constexpr int leftArrow = 37, upArrow = 38, rightArrow = 39, downArrow = 40;
-
-std::u16string decimal(std::uint32_t number)
-{
-    const std::string digits = std::to_string(number);
-    return {digits.begin(), digits.end()};
-}
+namespace key = engine::key_code;
 
 const platform::WidgetRow& rowOf(WidgetId widget)
 {
@@ -42,8 +38,8 @@ bool isSwatch(WidgetId widget)
 // "Vermelho 255, verde 0, azul 0", as the boxes of the own colour would have it.
 std::u16string spokenColour(Colour colour)
 {
-    return u"Vermelho " + decimal(colour.value & 255) + u", verde " + decimal(colour.value >> 8 & 255) + u", azul " +
-           decimal(colour.value >> 16 & 255);
+    return u"Vermelho " + engine::decimalText(colour.value & 255) + u", verde " +
+           engine::decimalText(colour.value >> 8 & 255) + u", azul " + engine::decimalText(colour.value >> 16 & 255);
 }
 
 } // namespace
@@ -106,16 +102,14 @@ void frmPaleta::end(bool cancelled)
 // the button's own.
 void frmPaleta::keyDown(WidgetId widget, int& code, int&)
 {
-    constexpr int enter = 13;
-    constexpr int escape = 27;
-    if (isSwatch(widget) && code >= leftArrow && code <= downArrow) {
+    if (isSwatch(widget) && code >= key::left && code <= key::down) {
         moveFrom(widget, std::exchange(code, 0));
         return;
     }
     const bool onButton = widget == id(u"cmdOK") || widget == id(u"cmdCancel");
-    if (code != escape && (code != enter || onButton))
+    if (code != key::escape && (code != key::enter || onButton))
         return;
-    const bool cancels = code == escape;
+    const bool cancels = code == key::escape;
     code = 0;
     end(cancels);
 }
@@ -185,8 +179,8 @@ void frmPaleta::putBorder(WidgetId swatch, bool on)
 void frmPaleta::moveFrom(WidgetId swatch, int arrow)
 {
     const engine::RectTwips from = rowOf(swatch).place;
-    const int across = arrow == rightArrow ? 1 : arrow == leftArrow ? -1 : 0;
-    const int down = arrow == downArrow ? 1 : arrow == upArrow ? -1 : 0;
+    const int across = arrow == key::right ? 1 : arrow == key::left ? -1 : 0;
+    const int down = arrow == key::down ? 1 : arrow == key::up ? -1 : 0;
     for (const PaletteColour& entry : paletteColours)
         if (entry.left == from.left + across * paletteColumnStep && entry.top == from.top + down * paletteRowStep)
             form_->focus(id(swatchName, entry.index));

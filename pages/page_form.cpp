@@ -4,6 +4,7 @@
 #include "engine/error.h"
 #include "engine/scoped_value.h"
 #include "engine/text/conversions.h"
+#include "engine/text/key_codes.h"
 #include "pages/spoken_names.h"
 
 #include <algorithm>
@@ -126,9 +127,7 @@ void PageForm::doubleClicked(WidgetId widget)
 
 void PageForm::keyDown(WidgetId widget, int& code, int& shift)
 {
-    constexpr int enter = 13;
-    constexpr int space = 32;
-    if (shift != 0 || (code != enter && code != space) || !isSwatch(widget))
+    if (shift != 0 || (code != engine::key_code::enter && code != engine::key_code::space) || !isSwatch(widget))
         return;
     code = 0;
     site_.runAct([&] { chooseColour(widget); });

@@ -1,6 +1,7 @@
 // What the buttons and the mask list of the main page do: help, the store of masks and profiles.
 #include "engine/error.h"
 #include "engine/text/conversions.h"
+#include "engine/text/decimal_text.h"
 #include "engine/text/pattern.h"
 #include "pages/letters.h"
 #include "pages/pp_principal.h"
@@ -43,12 +44,6 @@ constexpr HelpText helpTexts[] = {
     {u"cmdHelpSeparadorMilhar", u"Os separadores de milhar só serão visivel quando a caixa perder o foco"},
 };
 
-std::u16string decimal(int number)
-{
-    const std::string digits = std::to_string(number);
-    return {digits.begin(), digits.end()};
-}
-
 } // namespace
 
 void ppPrincipal::bindHelp()
@@ -75,7 +70,7 @@ void ppPrincipal::testReturnFormat() const
         page_.inform(std::u16string(returnFormatHelp) + u"\r\nTeste do formato de Retorno= " +
                      engine::format(now, page_.text(u"cboDataRetorno"), page_.locale(), now));
     } catch (const engine::Error& error) {
-        page_.inform(u"Erro Número: " + decimal(error.number) + u"\r\nDescrição: " + error.description);
+        page_.inform(u"Erro Número: " + engine::decimalText(error.number) + u"\r\nDescrição: " + error.description);
     }
 }
 
@@ -83,8 +78,9 @@ void ppPrincipal::showFailedLoad() const
 {
     if (failedLoad_->number == 0)
         return;
-    const std::u16string text = u"Rotina: PropertyPage_SelectionChanged\r\nLinha: " + decimal(failedLoad_->step) +
-                                u"\r\nErro: " + decimal(failedLoad_->number) + u"\r\n" + failedLoad_->description;
+    const std::u16string text = u"Rotina: PropertyPage_SelectionChanged\r\nLinha: " +
+                                engine::decimalText(failedLoad_->step) + u"\r\nErro: " +
+                                engine::decimalText(failedLoad_->number) + u"\r\n" + failedLoad_->description;
     page_.services().environment.desktop.messageBox(platform::BoxIcon::exclamation, platform::BoxButtons::ok, {}, text);
 }
 

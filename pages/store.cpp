@@ -1,6 +1,7 @@
 // Stores masks under generated keys and profiles under their names.
 #include "pages/store.h"
 
+#include "engine/text/decimal_text.h"
 #include "engine/text/pattern.h"
 
 namespace vela::pages {
@@ -10,17 +11,11 @@ namespace {
 constexpr std::u16string_view maskSection = u"Mascaras";
 constexpr std::u16string_view profileSection = u"Profiles";
 
-std::u16string decimal(int number)
-{
-    const std::string digits = std::to_string(number);
-    return {digits.begin(), digits.end()};
-}
-
 } // namespace
 
 std::u16string maskKey(int listed, engine::Date now, const engine::Locale& locale)
 {
-    std::u16string key = u"Key_" + decimal(listed + 1);
+    std::u16string key = u"Key_" + engine::decimalText(listed + 1);
     engine::Pattern(locale.longTime).format(now, locale, key);
     return key;
 }

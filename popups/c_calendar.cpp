@@ -2,6 +2,7 @@
 #include "popups/c_calendar.h"
 
 #include "engine/error.h"
+#include "engine/text/key_codes.h"
 #include "popups/calendar_keys.h"
 #include "popups/calendar_layout.h"
 #include "popups/grid_dates.h"
@@ -80,7 +81,7 @@ void cCalendar::clicked(platform::WidgetId widget)
 
 void cCalendar::keyDown(platform::WidgetId, int& code, int& shift)
 {
-    if (code == enterKey && shift == 0 && grid().frameCell() >= 0) {
+    if (code == engine::key_code::enter && shift == 0 && grid().frameCell() >= 0) {
         code = 0;
         pick(grid().frameCell());
         return;

@@ -2,6 +2,7 @@
 #include "popups/calendar_grid.h"
 
 #include "engine/error.h"
+#include "engine/text/decimal_text.h"
 #include "popups/grid_dates.h"
 
 #include <algorithm>
@@ -13,27 +14,16 @@ namespace {
 constexpr int december = 11; // list indexes
 constexpr int january = 0;
 
-std::u16string decimalText(int number)
-{
-    const std::string digits = std::to_string(number);
-    return {digits.begin(), digits.end()};
-}
-
-std::u16string twoDigits(int number)
-{
-    return {static_cast<char16_t>(u'0' + number / 10 % 10), static_cast<char16_t>(u'0' + number % 10)};
-}
-
 } // namespace
 
 std::u16string caption(const DayCell& cell)
 {
-    return cell.day == 0 ? std::u16string() : twoDigits(cell.day);
+    return cell.day == 0 ? std::u16string() : engine::decimalText(cell.day, 2);
 }
 
 std::u16string tagText(const DayCell& cell)
 {
-    return cell.tag ? decimalText(*cell.tag) : std::u16string();
+    return cell.tag ? engine::decimalText(*cell.tag) : std::u16string();
 }
 
 CalendarGrid::CalendarGrid(int highlightLimit) noexcept : highlightLimit_(static_cast<short>(highlightLimit)) {}
@@ -86,13 +76,13 @@ void CalendarGrid::putYearIndex(int index)
 
 std::u16string CalendarGrid::yearText() const
 {
-    return yearIndex_ < 0 ? std::u16string() : decimalText(years_[static_cast<std::size_t>(yearIndex_)]);
+    return yearIndex_ < 0 ? std::u16string() : engine::decimalText(years_[static_cast<std::size_t>(yearIndex_)]);
 }
 
 void CalendarGrid::drawChosenMonth()
 {
     if (monthIndex_ >= 0 && yearIndex_ >= 0)
-        drawMonth(u"01/" + twoDigits(monthIndex_ + 1) + u"/" + yearText());
+        drawMonth(u"01/" + engine::decimalText(monthIndex_ + 1, 2) + u"/" + yearText());
 }
 
 // The order of the steps matters: a later one overwrites the cell that an earlier one filled beyond its month.
@@ -163,7 +153,7 @@ void CalendarGrid::clickDay(int cell)
         if (found != cells_.end())
             frameCell_ = static_cast<int>(found - cells_.begin());
     }
-    selected_ = caption(clicked) + u"/" + twoDigits(monthIndex_ + 1) + u"/" + yearText();
+    selected_ = caption(clicked) + u"/" + engine::decimalText(monthIndex_ + 1, 2) + u"/" + yearText();
 }
 
 // The month shown is outside the list's years, so the date is the one that the clicked cell stands for.

@@ -7,9 +7,6 @@
 
 namespace vela::popups {
 
-inline constexpr int enterKey = 13;
-inline constexpr int escapeKey = 27;
-
 // Arrows a day or a week, Page Up and Down a month, with Control a year, Home and End the month's first and last day.
 // Nothing for another key. Codes are virtual keys; shift 1, control 2, alt 4.
 [[nodiscard]] std::optional<engine::CivilDate> movedByKey(engine::CivilDate from, int code, int shift) noexcept;

@@ -2,6 +2,7 @@
 #include "popups/calendar_view.h"
 
 #include "engine/scoped_value.h"
+#include "engine/text/decimal_text.h"
 #include "popups/calendar_keys.h"
 #include "popups/calendar_layout.h"
 #include "popups/grid_dates.h"
@@ -12,18 +13,12 @@ namespace {
 
 namespace widget = calendar_widget;
 
-std::u16string digits(int number)
-{
-    const std::string text = std::to_string(number);
-    return {text.begin(), text.end()};
-}
-
 // {2024, 3, 5} -> "5 de março de 2024"
 std::u16string spokenDate(engine::CivilDate date)
 {
     std::u16string month(monthNames()[static_cast<std::size_t>(date.month - 1)]);
     month[0] = static_cast<char16_t>(month[0] - u'A' + u'a');
-    return digits(date.day) + u" de " + month + u" de " + digits(date.year);
+    return engine::decimalText(date.day) + u" de " + month + u" de " + engine::decimalText(date.year);
 }
 
 engine::RectTwips placeOf(platform::WidgetId id)
@@ -88,7 +83,7 @@ void CalendarView::refreshYears()
     platform::ItemList& items = form_.items(widget::years);
     const auto& years = grid_.years();
     for (auto at = static_cast<std::size_t>(items.count()); at < years.size(); ++at)
-        items.add(digits(years[at]));
+        items.add(engine::decimalText(years[at]));
 }
 
 void CalendarView::refreshChoice(platform::WidgetId combo, int chosen)

@@ -1,6 +1,7 @@
 // The calendar pop-up: loading, picking, keys.
 #include "popups/calendario_sdi.h"
 
+#include "engine/text/key_codes.h"
 #include "popups/calendar_keys.h"
 #include "popups/calendar_layout.h"
 
@@ -69,10 +70,10 @@ void CalendarioSDI::keyDown(platform::WidgetId, int& code, int& shift)
     if (!life_.isLoaded())
         return;
     const int key = code;
-    if (key == escapeKey && shift == 0) {
+    if (key == engine::key_code::escape && shift == 0) {
         code = 0;
         unload();
-    } else if (key == enterKey && shift == 0) {
+    } else if (key == engine::key_code::enter && shift == 0) {
         code = 0;
         if (grid().frameCell() >= 0)
             pickDay(grid().frameCell());

@@ -2,6 +2,8 @@
 #include "popups/frm_calculadora.h"
 
 #include "engine/text/conversions.h"
+#include "engine/text/decimal_text.h"
+#include "engine/text/key_codes.h"
 #include "engine/trapped.h"
 #include "popups/calculator_layout.h"
 
@@ -10,13 +12,6 @@ namespace vela::popups {
 namespace {
 
 namespace widget = calculator_widget;
-
-constexpr int backspaceKey = 8;
-constexpr int enterKey = 13;
-constexpr int escapeKey = 27;
-constexpr int deleteKey = 46;
-constexpr int keypadDecimal = 110;
-constexpr int f2Key = 113;
 
 // The button a character stands for; an id that tests false for any other character.
 platform::WidgetId buttonOf(int character) noexcept
@@ -59,9 +54,8 @@ void frmCalculadora::load()
             continue;
         if (error->number == 0)
             return;
-        const std::string number = std::to_string(error->number);
         life_.boxes.show(environment_.desktop, platform::BoxIcon::information, u"Vela.Load",
-                         std::u16string(number.begin(), number.end()) + u"-" + error->description);
+                         engine::decimalText(error->number) + u"-" + error->description);
         return;
     }
 }
@@ -111,7 +105,7 @@ void frmCalculadora::typeCharacter(char16_t character)
 
 void frmCalculadora::pressF2()
 {
-    int code = f2Key;
+    int code = engine::key_code::f2;
     int shift = 0;
     keyDown(life_.form().focused(), code, shift);
 }
@@ -186,7 +180,7 @@ void frmCalculadora::keyDown(platform::WidgetId focused, int& code, int& shift)
     if (!life_.isLoaded())
         return;
     // Oddity: F2 does nothing after a clear button until a digit or operator is pressed; it would write an unwanted 0.
-    if (code == f2Key) {
+    if (code == engine::key_code::f2) {
         if (widget::isOperator(focused))
             valueToOwner();
     } else if (shift == 0 && conventionalKey(code)) {
@@ -198,11 +192,11 @@ void frmCalculadora::keyDown(platform::WidgetId focused, int& code, int& shift)
 bool frmCalculadora::conventionalKey(int code)
 {
     switch (code) {
-    case enterKey: operation(widget::equals.value); return true;
-    case escapeKey: unload(); return true;
-    case deleteKey: take(model_.clearEntry()); return true;
-    case backspaceKey: take(model_.eraseLast(display())); return true;
-    case keypadDecimal: take(model_.decimal(display())); return true;
+    case engine::key_code::enter: operation(widget::equals.value); return true;
+    case engine::key_code::escape: unload(); return true;
+    case engine::key_code::del: take(model_.clearEntry()); return true;
+    case engine::key_code::backspace: take(model_.eraseLast(display())); return true;
+    case engine::key_code::keypadDecimal: take(model_.decimal(display())); return true;
     default: return false;
     }
 }

@@ -2,6 +2,7 @@
 #include "popups/launching.h"
 
 #include "engine/text/conversions.h"
+#include "engine/text/decimal_text.h"
 #include "engine/trapped.h"
 #include "popups/calendar_grid.h"
 #include "popups/calendario_sdi.h"
@@ -22,20 +23,14 @@ constexpr FailureTexts calendarFailure{u"Erro ao Exibir o Calendário !",
 constexpr FailureTexts calculatorFailure{u"Erro ao Exibir a Calculadora !",
                                          u"Info Técnicas: Não é possível exibir a calculadora em forms modais"};
 
-std::u16string digits(int number)
-{
-    const std::string text = std::to_string(number);
-    return {text.begin(), text.end()};
-}
-
 // "Erro ao Exibir o Calendário !\r\nLinha do Erro: 4\r\nN° do Erro: 380\r\nDescrição: ( Invalid property value
 // )\r\n..."
 std::u16string failureText(const FailureTexts& texts, int step, const engine::Error& error)
 {
     const std::u16string lineBreak = u"\r\n";
     std::u16string text(texts.heading);
-    text += lineBreak + u"Linha do Erro: " + digits(step);
-    text += lineBreak + u"N° do Erro: " + digits(error.number);
+    text += lineBreak + u"Linha do Erro: " + engine::decimalText(step);
+    text += lineBreak + u"N° do Erro: " + engine::decimalText(error.number);
     text += lineBreak + u"Descrição: ( " + error.description + u" )";
     text += lineBreak;
     text += texts.hint;

@@ -4,6 +4,7 @@
 #include "activex/com/guard.h"
 #include "activex/com/type_library.h"
 #include "activex/ole/shell.h"
+#include "engine/text/characters.h"
 
 #include <algorithm>
 
@@ -14,17 +15,6 @@ namespace {
 constexpr WORD puts = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
 
 // The public names are of ASCII letters, digits and "_".
-constexpr char16_t lower(char16_t unit) noexcept
-{
-    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + (u'a' - u'A')) : unit;
-}
-
-bool sameName(std::u16string_view left, std::u16string_view right) noexcept
-{
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char16_t a, char16_t b) { return lower(a) == lower(b); });
-}
-
 } // namespace
 
 const Member* findMember(std::span<const Member> members, DISPID id) noexcept
@@ -36,8 +26,8 @@ const Member* findMember(std::span<const Member> members, DISPID id) noexcept
 
 const Member* findMember(std::span<const Member> members, std::u16string_view name) noexcept
 {
-    const auto found =
-        std::find_if(members.begin(), members.end(), [&](const Member& member) { return sameName(member.name, name); });
+    const auto found = std::find_if(members.begin(), members.end(),
+                                    [&](const Member& member) { return engine::equalIgnoringCase(member.name, name); });
     return found != members.end() ? &*found : nullptr;
 }
 
@@ -73,7 +63,7 @@ HRESULT Dispatch::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPI
         bool known = true;
         for (UINT i = 1; i < count; ++i) {
             const std::wstring_view parameter(names[i] ? names[i] : L"");
-            if (!parameter.empty() && sameName(member->parameter, asText(parameter)))
+            if (!parameter.empty() && engine::equalIgnoringCase(member->parameter, asText(parameter)))
                 ids[i] = 0;
             else
                 known = false;

@@ -2,6 +2,7 @@
 #include "apps/console/script_line.h"
 
 #include "apps/console/nearest.h"
+#include "engine/text/characters.h"
 
 #include <charconv>
 #include <optional>
@@ -15,10 +16,7 @@ constexpr bool isBlank(char16_t unit) noexcept
     return unit == u' ' || unit == u'\t';
 }
 
-constexpr bool isDigit(char16_t unit) noexcept
-{
-    return unit >= u'0' && unit <= u'9';
-}
+using engine::isDigit;
 
 int hexDigit(char16_t unit) noexcept // -1: none
 {

@@ -1,15 +1,11 @@
 // The keystroke filter, rule by rule: Backspace in templates, Enter, the rules of each type, automatic tabbing.
 #include "engine/field/keystroke.h"
 
+#include "engine/text/characters.h"
 #include "engine/text/letter_case.h"
 
 namespace vela::engine {
 namespace {
-
-constexpr bool isDigit(int key) noexcept
-{
-    return key >= u'0' && key <= u'9';
-}
 
 int unlessFull(int key, const KeyBox& box) noexcept
 {
@@ -77,11 +73,11 @@ KeyPlan inNumber(int key, const KeystrokeSettings& settings, const KeyBox& box)
     key = unlessFull(key, box);
     if (box.text == nullptr)
         return plan;
-    const bool comma = key == key_code::comma && settings.displayDecimal == Simbolos::Virgula;
-    const bool point = key == key_code::point && settings.displayDecimal == Simbolos::Ponto;
+    const bool comma = key == u',' && settings.displayDecimal == Simbolos::Virgula;
+    const bool point = key == u'.' && settings.displayDecimal == Simbolos::Ponto;
     if (comma || point)
         return decimalKey(key, box);
-    if (isDigit(key) ? takesDigit(settings, box) : key == key_code::minus && takesMinus(settings, box))
+    if (isDigit(key) ? takesDigit(settings, box) : key == u'-' && takesMinus(settings, box))
         plan.key = key;
     return plan;
 }

@@ -5,20 +5,13 @@
 
 #include "engine/field/mask.h"
 #include "engine/field/property_types.h"
+#include "engine/text/key_codes.h"
 
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace vela::engine {
-
-namespace key_code {
-inline constexpr int backspace = 8;
-inline constexpr int enter = 13;
-inline constexpr int comma = 44;
-inline constexpr int minus = 45;
-inline constexpr int point = 46;
-} // namespace key_code
 
 struct KeystrokeSettings {
     TipoText textType = TipoText::TextoNormal; // values beyond the enumeration are kept as such

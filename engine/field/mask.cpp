@@ -2,28 +2,15 @@
 #include "engine/field/mask.h"
 
 #include "engine/error.h"
+#include "engine/text/characters.h"
+#include "engine/text/key_codes.h"
 
 #include <algorithm>
 
 namespace vela::engine {
 namespace {
 
-constexpr int deleteKey = 46;
-constexpr int backspaceKey = 8;
 constexpr std::size_t lastCountableLength = 254; // the position counter has eight bits
-
-constexpr bool isDigit(int key) noexcept
-{
-    return key >= u'0' && key <= u'9';
-}
-constexpr bool isCapital(int key) noexcept
-{
-    return key >= u'A' && key <= u'Z';
-}
-constexpr bool isSmall(int key) noexcept
-{
-    return key >= u'a' && key <= u'z';
-}
 
 bool isPromptAt(int position, const MaskSettings& settings) noexcept
 {
@@ -106,7 +93,7 @@ MaskStep validateMask(int key, int caret, const MaskSettings& settings, std::u16
     step.caret = caret;
     if (settings.locked)
         return step;
-    if (!isDigit(key) && !isCapital(key) && !isSmall(key)) {
+    if (!isDigit(key) && !isCapital(key) && !isSmallLetter(key)) {
         step.promptCaret = pastLiterals(caret, settings, text);
         return step;
     }
@@ -114,7 +101,7 @@ MaskStep validateMask(int key, int caret, const MaskSettings& settings, std::u16
     const int position = isPromptAt(caret, settings) ? caret : caret + 1;
     if (!isPromptAt(position, settings))
         return step;
-    step.key = isSmall(key) ? key - u'a' + u'A' : key;
+    step.key = isSmallLetter(key) ? key - u'a' + u'A' : key;
     if (!ruleAccepts(step.key, position, settings)) {
         step.key = 0;
         return step;
@@ -129,11 +116,11 @@ MaskStep validateMask(int key, int caret, const MaskSettings& settings, std::u16
 std::optional<Erasure> eraseInMask(int keyCode, int selectionStart, int selectionLength, const MaskSettings& settings,
                                    std::u16string& text)
 {
-    if (settings.locked || (keyCode != deleteKey && keyCode != backspaceKey))
+    if (settings.locked || (keyCode != key_code::del && keyCode != key_code::backspace))
         return {};
     if (selectionLength > 0)
         return eraseSelection(selectionStart, selectionLength, settings, text);
-    if (keyCode == deleteKey)
+    if (keyCode == key_code::del)
         return eraseOne(selectionStart, 1, settings, text);
     return eraseOne(std::min(selectionStart, static_cast<int>(text.size())) - 1, -1, settings, text);
 }

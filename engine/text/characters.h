@@ -1,21 +1,35 @@
 // Kinds of single characters, as numbers and dates are read.
 #pragma once
 
+#include <algorithm>
 #include <string_view>
 
 namespace vela::engine {
 
-[[nodiscard]] constexpr bool isDigit(char16_t unit) noexcept
+[[nodiscard]] constexpr bool isDigit(char32_t unit) noexcept
 {
     return unit >= u'0' && unit <= u'9';
 }
-[[nodiscard]] constexpr bool isLetter(char16_t unit) noexcept // of the basic alphabet
+[[nodiscard]] constexpr bool isSmallLetter(char32_t unit) noexcept // of the basic alphabet, as the next two
 {
-    return (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
+    return unit >= u'a' && unit <= u'z';
+}
+[[nodiscard]] constexpr bool isCapital(char32_t unit) noexcept
+{
+    return unit >= u'A' && unit <= u'Z';
+}
+[[nodiscard]] constexpr bool isLetter(char32_t unit) noexcept
+{
+    return isSmallLetter(unit) || isCapital(unit);
 }
 [[nodiscard]] constexpr char16_t lowerLetter(char16_t unit) noexcept
 {
-    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit | 0x20) : unit;
+    return isCapital(unit) ? static_cast<char16_t>(unit | 0x20) : unit;
+}
+// The letters of the basic alphabet count alike in both cases, all other units as they are.
+[[nodiscard]] constexpr bool equalIgnoringCase(std::u16string_view left, std::u16string_view right) noexcept
+{
+    return std::ranges::equal(left, right, {}, lowerLetter, lowerLetter);
 }
 [[nodiscard]] constexpr bool isExponentLetter(char16_t unit) noexcept
 {

@@ -2,8 +2,8 @@
 #include "engine/text/date_form.h"
 
 #include "engine/text/characters.h"
-#include "engine/text/letter_case.h"
 #include "engine/text/number_text.h"
+#include "engine/text/letter_case.h"
 
 #include <span>
 
@@ -37,7 +37,7 @@ public:
 
     [[nodiscard]] bool take(std::u16string_view part) noexcept
     {
-        const bool found = startsIgnoringCase(part);
+        const bool found = startsWithIgnoringCase(text_.substr(at_), part);
         at_ += found ? part.size() : 0;
         return found;
     }
@@ -54,13 +54,6 @@ public:
 
 private:
     enum class Half { none, morning, afternoon };
-
-    [[nodiscard]] bool startsIgnoringCase(std::u16string_view part) const noexcept
-    {
-        const auto rest = text_.substr(at_, part.size());
-        return std::equal(rest.begin(), rest.end(), part.begin(), part.end(),
-                          [](char16_t left, char16_t right) { return lowerCase(left) == lowerCase(right); });
-    }
 
     static std::size_t quotedLength(std::u16string_view picture) noexcept
     {
@@ -93,7 +86,10 @@ private:
         half_ = locale_.am == locale_.pm ? Half::none : morning ? Half::morning : Half::afternoon;
         return true;
     }
-    [[nodiscard]] bool takesAfternoon() const noexcept { return !locale_.pm.empty() && startsIgnoringCase(locale_.pm); }
+    [[nodiscard]] bool takesAfternoon() const noexcept
+    {
+        return !locale_.pm.empty() && startsWithIgnoringCase(text_.substr(at_), locale_.pm);
+    }
 
     [[nodiscard]] bool takeLetters(std::u16string_view run) noexcept
     {
@@ -132,7 +128,7 @@ private:
     {
         std::size_t longest = 0;
         for (std::size_t i = 0; i < count; ++i) {
-            if (names[i].size() > longest && startsIgnoringCase(names[i])) {
+            if (names[i].size() > longest && startsWithIgnoringCase(text_.substr(at_), names[i])) {
                 longest = names[i].size();
                 value = static_cast<int>(i + 1);
             }

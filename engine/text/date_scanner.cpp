@@ -11,16 +11,6 @@ namespace {
 
 constexpr std::uint32_t mostValue = 100'000'000;
 
-bool startsWithIgnoringCase(std::u16string_view text, std::u16string_view start) noexcept
-{
-    if (start.empty() || text.size() < start.size())
-        return false;
-    for (std::size_t i = 0; i < start.size(); ++i)
-        if (text[i] != start[i] && lowerCase(text[i]) != lowerCase(start[i]))
-            return false;
-    return true;
-}
-
 class DateScanner {
 public:
     DateScanner(std::u16string_view text, const Locale& locale, DateFields& fields) noexcept
@@ -79,7 +69,7 @@ private:
 
     [[nodiscard]] bool take(std::u16string_view name) noexcept
     {
-        if (!startsWithIgnoringCase(text_.substr(at_), name))
+        if (name.empty() || !startsWithIgnoringCase(text_.substr(at_), name))
             return false;
         at_ += name.size();
         return true;

@@ -162,6 +162,11 @@ std::u16string lowerCase(std::u16string_view text)
     return mapped(text, lowerCase);
 }
 
+bool startsWithIgnoringCase(std::u16string_view text, std::u16string_view start) noexcept
+{
+    return std::ranges::equal(text.substr(0, start.size()), start, {}, lowered, lowered);
+}
+
 bool containsIgnoringCase(std::u16string_view text, std::u16string_view part) noexcept
 {
     if (part.size() == 1) {

@@ -14,6 +14,7 @@ namespace vela::engine {
 [[nodiscard]] std::u16string upperCase(std::u16string_view text);
 [[nodiscard]] std::u16string lowerCase(std::u16string_view text);
 // As the system compares texts when it ignores case.
+[[nodiscard]] bool startsWithIgnoringCase(std::u16string_view text, std::u16string_view start) noexcept;
 [[nodiscard]] bool containsIgnoringCase(std::u16string_view text, std::u16string_view part) noexcept;
 
 // "JOÃO DA SILVA" -> "João da Silva", "pedro de o" -> "Pedro de O". Replaces `into`; nothing is allocated once it

@@ -33,12 +33,6 @@ constexpr std::array<NamedFormat, 16> namedFormats{{
     {u"yes/no", u"0", NamedNumber::yesNo},
 }};
 
-bool equalIgnoringCase(std::u16string_view text, std::u16string_view smallLetters) noexcept
-{
-    return std::ranges::equal(text, smallLetters,
-                              [](char16_t unit, char16_t small) { return lowerLetter(unit) == small; });
-}
-
 const NamedFormat* findNamed(std::u16string_view text) noexcept
 {
     const auto found = std::ranges::find_if(

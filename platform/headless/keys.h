@@ -1,22 +1,11 @@
 // Keys as the headless platform delivers them: virtual-key codes, and the key that types a character.
 #pragma once
 
+#include "engine/text/key_codes.h"
+
 namespace vela::headless {
 
-namespace virtual_key {
-inline constexpr int backspace = 8;
-inline constexpr int tab = 9;
-inline constexpr int enter = 13;
-inline constexpr int escape = 27;
-inline constexpr int end = 35;
-inline constexpr int home = 36;
-inline constexpr int left = 37;
-inline constexpr int up = 38;
-inline constexpr int right = 39;
-inline constexpr int down = 40;
-inline constexpr int del = 46;
-inline constexpr int f2 = 113;
-} // namespace virtual_key
+namespace virtual_key = engine::key_code;
 
 // One key: what key-down reports and the character that key-press then brings, if any.
 struct Key {
