@@ -1,11 +1,7 @@
 // A pattern taken apart into marks, section by section.
 #pragma once
 
-#include "engine/text/calendar_date.h"
-#include "engine/text/decimal.h"
-#include "engine/text/locale.h"
 #include "engine/text/pattern.h"
-#include "engine/text/text_writer.h"
 
 #include <array>
 #include <cstdint>
@@ -97,15 +93,5 @@ struct Pattern::Compiled {
         return std::u16string_view(text).substr(token.start, token.length);
     }
 };
-
-[[nodiscard]] Pattern::Compiled compilePattern(std::u16string_view text);
-
-// Which sign of number a section was chosen for: "no value" has the fourth.
-enum class NumberCase { positive, negative, zero, none };
-
-void putNumberPattern(const Pattern::Compiled& pattern, Decimal number, NumberCase chosen, const Locale& locale,
-                      TextWriter& writer);
-void putDatePattern(const Pattern::Compiled& pattern, const Moment& moment, const Locale& locale, TextWriter& writer);
-void putTextPattern(const Pattern::Compiled& pattern, std::u16string_view text, TextWriter& writer);
 
 } // namespace vela::engine

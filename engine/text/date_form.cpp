@@ -2,7 +2,7 @@
 #include "engine/text/date_form.h"
 
 #include "engine/text/characters.h"
-#include "engine/text/number_text.h"
+#include "engine/text/date_text.h"
 #include "engine/text/letter_case.h"
 
 #include <span>

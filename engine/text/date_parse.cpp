@@ -1,7 +1,8 @@
 // Texts to dates: which numbers of a text are its time, and which its day, month and year.
+#include "engine/text/date_parse.h"
+
 #include "engine/error.h"
 #include "engine/text/characters.h"
-#include "engine/text/conversions.h"
 #include "engine/text/date_form.h"
 #include "engine/text/date_scanner.h"
 

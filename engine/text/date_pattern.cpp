@@ -1,6 +1,7 @@
 // Dates through the letters of a pattern.
-#include "engine/text/compiled_pattern.h"
-#include "engine/text/number_text.h"
+#include "engine/text/date_pattern.h"
+
+#include "engine/text/date_text.h"
 
 namespace vela::engine {
 namespace {
@@ -49,43 +50,42 @@ private:
     void putDay(Mark mark)
     {
         const CivilDate date = moment_.date;
-        const auto dayName = [&] { return static_cast<std::size_t>(engine::weekday(date) - 1); };
-        const auto monthName = static_cast<std::size_t>(date.month - 1);
         switch (mark) {
-        case Mark::day: return writer_.number(date.day, 1);
-        case Mark::dayZero: return writer_.number(date.day, 2);
-        case Mark::dayShort: return writer_.put(locale_.shortDays[dayName()]);
-        case Mark::dayLong: return writer_.put(locale_.days[dayName()]);
         case Mark::weekday: return writer_.number(engine::weekday(date), 1);
         case Mark::weekOfYear: return writer_.number(weekOfYear(date), 1);
-        case Mark::month: return writer_.number(date.month, 1);
-        case Mark::monthZero: return writer_.number(date.month, 2);
-        case Mark::monthShort: return writer_.put(locale_.shortMonths[monthName]);
-        case Mark::monthLong: return writer_.put(locale_.months[monthName]);
         case Mark::dayOfYear: return writer_.number(engine::dayOfYear(date), 1);
-        case Mark::yearShort: return writer_.number(date.year % 100, 2);
-        default: return writer_.number(date.year, 1); // the long year
+        case Mark::yearShort: return putLetters(u'y', 2);
+        case Mark::yearLong: return putLetters(u'y', 4);
+        default: return mark < Mark::weekday ? putRun(u'd', mark, Mark::day) : putRun(u'm', mark, Mark::month);
         }
     }
 
     void putTime(Mark mark)
     {
-        const TimeOfDay time = moment_.time;
-        const bool morning = time.hour < 12;
-        const int hour = section_.twelveHours ? (time.hour + 11) % 12 + 1 : time.hour;
+        const bool morning = moment_.time.hour < 12;
         switch (mark) {
-        case Mark::hour: return writer_.number(hour, 1);
-        case Mark::hourZero: return writer_.number(hour, 2);
-        case Mark::minute: return writer_.number(time.minute, 1);
-        case Mark::minuteZero: return writer_.number(time.minute, 2);
-        case Mark::second: return writer_.number(time.second, 1);
-        case Mark::secondZero: return writer_.number(time.second, 2);
+        case Mark::hour:
+        case Mark::hourZero: return putRun(u'h', mark, Mark::hour);
+        case Mark::minute:
+        case Mark::minuteZero: return putRun(u'n', mark, Mark::minute);
+        case Mark::second:
+        case Mark::secondZero: return putRun(u's', mark, Mark::second);
         case Mark::halfOfLocale: return writer_.put(morning ? locale_.am : locale_.pm);
         case Mark::halfUpper: return writer_.put(std::u16string_view(morning ? u"AM" : u"PM"));
         case Mark::halfLower: return writer_.put(std::u16string_view(morning ? u"am" : u"pm"));
         case Mark::letterUpper: return writer_.put(morning ? u'A' : u'P');
         default: return writer_.put(morning ? u'a' : u'p');
         }
+    }
+
+    // The marks of one letter follow each other by the number of letters.
+    void putRun(char16_t letter, Mark mark, Mark one)
+    {
+        putLetters(letter, static_cast<int>(mark) - static_cast<int>(one) + 1);
+    }
+    void putLetters(char16_t letter, int length)
+    {
+        putDateLetters(letter, length, moment_, section_.twelveHours, locale_, writer_);
     }
 
     const Pattern::Compiled& pattern_;

@@ -1,7 +1,7 @@
 // Dates to texts in the locale's own forms.
+#include "engine/text/date_text.h"
+
 #include "engine/error.h"
-#include "engine/text/conversions.h"
-#include "engine/text/number_text.h"
 
 namespace vela::engine {
 namespace {
@@ -28,7 +28,8 @@ public:
                 at_ += halfMark.size();
             } else {
                 const char16_t letter = picture_[at_];
-                letters(letter, runOf(letter));
+                const int length = runOf(letter);
+                letter == u't' ? half() : putDateLetters(letter, length, moment_, twelveHours_, locale_, writer_);
             }
         }
     }
@@ -54,43 +55,6 @@ private:
 
     void half() { writer_.put(moment_.time.hour < 12 ? locale_.am : locale_.pm); }
 
-    void day(int length)
-    {
-        const auto name = static_cast<std::size_t>(weekday(moment_.date) - 1);
-        if (length <= 2)
-            writer_.number(moment_.date.day, length);
-        else
-            writer_.put(length == 3 ? locale_.shortDays[name] : locale_.days[name]);
-    }
-
-    void month(int length)
-    {
-        const auto name = static_cast<std::size_t>(moment_.date.month - 1);
-        if (length <= 2)
-            writer_.number(moment_.date.month, length);
-        else
-            writer_.put(length == 3 ? locale_.shortMonths[name] : locale_.months[name]);
-    }
-
-    void letters(char16_t letter, int length)
-    {
-        const int width = length < 2 ? 1 : 2;
-        const int hour = moment_.time.hour;
-        switch (letter) {
-        case u'd': return day(length);
-        case u'm':
-        case u'M': return month(length);
-        case u'y':
-            return length <= 2 ? writer_.number(moment_.date.year % 100, width) : writer_.number(moment_.date.year, 1);
-        case u'H': return writer_.number(hour, width);
-        case u'h': return writer_.number(twelveHours_ ? (hour + 11) % 12 + 1 : hour, width);
-        case u'n': return writer_.number(moment_.time.minute, width);
-        case u's': return writer_.number(moment_.time.second, width);
-        case u't': return half();
-        default: writer_.repeat(letter, static_cast<std::size_t>(length));
-        }
-    }
-
     const Moment& moment_;
     std::u16string_view picture_;
     const Locale& locale_;
@@ -99,7 +63,41 @@ private:
     bool twelveHours_;
 };
 
+void putDay(CivilDate date, int length, const Locale& locale, TextWriter& writer)
+{
+    if (length <= 2)
+        return writer.number(date.day, length);
+    const auto name = static_cast<std::size_t>(weekday(date) - 1);
+    writer.put(length == 3 ? locale.shortDays[name] : locale.days[name]);
+}
+
+void putMonth(CivilDate date, int length, const Locale& locale, TextWriter& writer)
+{
+    if (length <= 2)
+        return writer.number(date.month, length);
+    const auto name = static_cast<std::size_t>(date.month - 1);
+    writer.put(length == 3 ? locale.shortMonths[name] : locale.months[name]);
+}
+
 } // namespace
+
+void putDateLetters(char16_t letter, int length, const Moment& moment, bool twelveHours, const Locale& locale,
+                    TextWriter& writer)
+{
+    const int width = length < 2 ? 1 : 2;
+    const auto [hour, minute, second] = moment.time;
+    switch (letter) {
+    case u'd': return putDay(moment.date, length, locale, writer);
+    case u'm':
+    case u'M': return putMonth(moment.date, length, locale, writer);
+    case u'y': return length <= 2 ? writer.number(moment.date.year % 100, width) : writer.number(moment.date.year, 1);
+    case u'H': return writer.number(hour, width);
+    case u'h': return writer.number(twelveHours ? (hour + 11) % 12 + 1 : hour, width);
+    case u'n': return writer.number(minute, width);
+    case u's': return writer.number(second, width);
+    default: writer.repeat(letter, static_cast<std::size_t>(length));
+    }
+}
 
 void putPicture(const Moment& moment, std::u16string_view picture, const Locale& locale, TextWriter& writer)
 {

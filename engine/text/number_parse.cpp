@@ -1,7 +1,8 @@
 // Texts to numbers: the numeric test, doubles, currency and the leading number.
+#include "engine/text/number_parse.h"
+
 #include "engine/error.h"
 #include "engine/text/characters.h"
-#include "engine/text/conversions.h"
 #include "engine/text/number_scanner.h"
 #include "engine/text/plain_number.h"
 

@@ -1,5 +1,6 @@
 // Numbers through the digit marks of a pattern.
-#include "engine/text/compiled_pattern.h"
+
+#include "engine/text/number_pattern.h"
 
 #include <cstdlib>
 

@@ -1,9 +1,8 @@
 // Numbers to texts: the general form and the form with fixed decimals.
 #include "engine/text/number_text.h"
+
 #include "engine/error.h"
-#include "engine/text/conversions.h"
 #include "engine/text/decimal.h"
-#include "engine/text/pattern.h"
 
 #include <cstdlib>
 

@@ -2,9 +2,11 @@
 #include "engine/text/pattern.h"
 
 #include "engine/error.h"
-#include "engine/text/compiled_pattern.h"
 #include "engine/text/conversions.h"
-#include "engine/text/number_text.h"
+#include "engine/text/date_pattern.h"
+#include "engine/text/number_pattern.h"
+#include "engine/text/pattern_compiler.h"
+#include "engine/text/text_pattern.h"
 
 namespace vela::engine {
 namespace {

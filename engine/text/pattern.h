@@ -38,7 +38,5 @@ private:
 // a number with a date pattern formats the date of that serial (6 outside the years 100 to 9999). `today` completes
 // date texts without a year.
 [[nodiscard]] std::u16string format(const Value& value, std::u16string_view pattern, const Locale& locale, Date today);
-// Fixed decimals, 0 to 255 places, no grouping, the locale's leading zero and negative form: 1234.5, 2 -> "1234,50".
-[[nodiscard]] std::u16string formatNumber(double number, int decimals, const Locale& locale);
 
 } // namespace vela::engine

@@ -1,6 +1,7 @@
 // Pattern texts to marks.
+#include "engine/text/pattern_compiler.h"
+
 #include "engine/text/characters.h"
-#include "engine/text/compiled_pattern.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,5 +1,6 @@
 // Texts through the "@" and "&" marks of a pattern.
-#include "engine/text/compiled_pattern.h"
+#include "engine/text/text_pattern.h"
+
 #include "engine/text/letter_case.h"
 
 namespace vela::engine {

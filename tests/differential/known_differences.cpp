@@ -2,8 +2,8 @@
 #include "tests/differential/known_differences.h"
 
 #include "engine/error.h"
-#include "engine/text/compiled_pattern.h"
 #include "engine/text/conversions.h"
+#include "engine/text/pattern_compiler.h"
 #include "tests/differential/system_library.h"
 
 #include <algorithm>

@@ -1,8 +1,10 @@
 // Values of any kind to the type a property or a text wants.
+#include "engine/text/conversions.h"
+
 #include "engine/error.h"
 #include "engine/text/calendar_date.h"
 #include "engine/text/characters.h"
-#include "engine/text/conversions.h"
+#include "engine/text/decimal_text.h"
 
 #include <cmath>
 #include <limits>
@@ -16,25 +18,6 @@ struct Overloaded : Cases... {
 };
 template <typename... Cases>
 Overloaded(Cases...) -> Overloaded<Cases...>;
-
-// The word in small letters.
-bool isWord(std::u16string_view text, std::u16string_view word) noexcept
-{
-    if (text.size() != word.size())
-        return false;
-    for (std::size_t i = 0; i < text.size(); ++i)
-        if (lowerLetter(text[i]) != word[i])
-            return false;
-    return true;
-}
-
-std::u16string wholeToText(std::int32_t whole)
-{
-    std::u16string text;
-    for (const char digit : std::to_string(whole))
-        text.push_back(static_cast<char16_t>(digit));
-    return text;
-}
 
 double roundHalfToEven(double number) noexcept
 {
@@ -65,7 +48,7 @@ std::u16string toText(const Value& value, const Locale& locale)
 {
     return std::visit(Overloaded{[](Empty) { return std::u16string(); },
                                  [](bool truth) { return std::u16string(truth ? u"True" : u"False"); },
-                                 [](std::int32_t whole) { return wholeToText(whole); },
+                                 [](std::int32_t whole) { return decimalText(whole); },
                                  [&](double number) { return numberToText(number, locale); },
                                  [](const std::u16string& text) { return text; },
                                  [&](Date date) { return dateToText(date, locale); }},
@@ -75,8 +58,8 @@ std::u16string toText(const Value& value, const Locale& locale)
 bool toBoolean(const Value& value, const Locale& locale)
 {
     if (const auto* text = std::get_if<std::u16string>(&value)) {
-        if (isWord(*text, u"true") || isWord(*text, u"false"))
-            return isWord(*text, u"true");
+        if (equalIgnoringCase(*text, u"true") || equalIgnoringCase(*text, u"false"))
+            return equalIgnoringCase(*text, u"true");
     }
     return toDouble(value, locale) != 0.0;
 }
