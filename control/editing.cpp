@@ -3,6 +3,7 @@
 
 #include "control/draft.h"
 #include "engine/field/keystroke.h"
+#include "engine/text/characters.h"
 
 #include <algorithm>
 
@@ -13,11 +14,10 @@ namespace {
 constexpr char16_t carriageReturn = u'\r';
 constexpr char16_t lineFeed = u'\n';
 constexpr std::u16string_view lineBreak = u"\r\n";
-constexpr int keyDelete = 46;
 
 constexpr bool isLetterOrDigit(char16_t unit) noexcept
 {
-    return (unit >= u'0' && unit <= u'9') || (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z');
+    return engine::isLetter(unit) || engine::isDigit(unit);
 }
 
 // Does the text, literals included, lie on the mask from `start` on? Only then may a literal letter or digit of the
@@ -162,7 +162,7 @@ void Typing::cut()
         if (context_.box().selection().length == 0)
             return;
         if (context_.masked()) {
-            sKeyDown(keyDelete);
+            sKeyDown(engine::key_code::del);
         } else {
             context_.box().insert(u"");
         }

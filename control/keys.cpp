@@ -8,29 +8,19 @@
 
 namespace vela::control {
 
-namespace {
-
-constexpr int keyTab = 9;
-constexpr int keyUpArrow = 38;
-constexpr int keyRightArrow = 39;
-constexpr int keyDownArrow = 40;
-constexpr int keyDelete = 46;
-constexpr int keyDecimal = 110; // of the numeric keypad
-constexpr int keyF2 = 113;
-
-} // namespace
+namespace key_code = engine::key_code;
 
 void Typing::keyDown(int& code, int& shift)
 {
     if (context_.deaf())
         return;
     whileAlive(context_.life, [&] {
-        keypadDecimal_ = code == keyDecimal;
+        keypadDecimal_ = code == key_code::keypadDecimal;
         keyDownByType(code);
-        if (context_.settings.upTab && code == keyDownArrow)
+        if (context_.settings.upTab && code == key_code::down)
             // Oddity: Down sends a Tab key-down without its key-up; a key-up would raise KeyUp in the next field.
-            context_.environment.desktop.keyDown(keyTab);
-        if (context_.settings.upTab && code == keyUpArrow)
+            context_.environment.desktop.keyDown(key_code::tab);
+        if (context_.settings.upTab && code == key_code::up)
             context_.environment.desktop.sendKeys(u"+{TAB}");
         auto told = static_cast<std::int16_t>(code);
         auto toldShift = static_cast<std::int16_t>(shift);
@@ -42,7 +32,8 @@ void Typing::keyDown(int& code, int& shift)
 
 void Typing::keyDownByType(int code)
 {
-    if (context_.settings.textType == TipoText::Numerico && code == keyF2 && context_.settings.showButtonCalculadora)
+    if (context_.settings.textType == TipoText::Numerico && code == key_code::f2 &&
+        context_.settings.showButtonCalculadora)
         openPopup();
     else if (context_.masked())
         sKeyDown(code);
@@ -52,7 +43,7 @@ void Typing::keyDownByType(int code)
 void Typing::sKeyDown(int code)
 {
     context_.trapToLog(label::keyDown, [&] {
-        if (code != keyDelete && code != engine::key_code::backspace) {
+        if (code != key_code::del && code != key_code::backspace) {
             static_cast<void>(context_.box().textLength()); // a failing box is logged with every key
             return;
         }
@@ -115,7 +106,7 @@ int Typing::filterKey(int key, Draft* draft)
         if (plan.after != engine::AfterPress::enter)
             return key;
         switch (engine::enterMeans(keystrokeSettings())) {
-        case engine::EnterMeans::tab: context_.environment.desktop.keyDown(keyTab); return 0;
+        case engine::EnterMeans::tab: context_.environment.desktop.keyDown(key_code::tab); return 0;
         case engine::EnterMeans::nothing: return 0;
         case engine::EnterMeans::line: break;
         }
@@ -207,7 +198,7 @@ void Typing::keyUp(int code, int shift)
         auto toldShift = static_cast<std::int16_t>(shift);
         const engine::Alive alive(context_.life);
         context_.host.raiseKeyUp(told, toldShift);
-        if (!alive || told != keyRightArrow || !context_.masked())
+        if (!alive || told != key_code::right || !context_.masked())
             return;
         if (const auto caret = engine::nextInputPosition(context_.box().selection().start, context_.maskSettings()))
             context_.box().select({*caret, 0});
