@@ -34,8 +34,6 @@ struct ThreadRecord {
     ~ThreadRecord();
 
     std::unordered_map<HWND, Window> windows; // see window_map.h
-    HWND lastWindow = nullptr;                // and what it is bound to: messages come in runs
-    void* lastObject = nullptr;
     FocusArbiter* arbiter = nullptr;
     ModalListener* modal = nullptr;
     int calls = 0;

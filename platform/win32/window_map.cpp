@@ -15,19 +15,11 @@ ThreadRecord::Window* find(HWND window) noexcept
     return found != record->windows.end() ? &found->second : nullptr;
 }
 
-void remember(ThreadRecord& record, HWND window, void* object) noexcept
-{
-    record.lastWindow = window;
-    record.lastObject = object;
-}
-
 } // namespace
 
 void bindObject(HWND window, void* object)
 {
-    ThreadRecord& record = madeThreadRecord();
-    record.windows[window].object = object;
-    remember(record, window, object);
+    madeThreadRecord().windows[window].object = object;
 }
 
 WNDPROC subclass(HWND window, void* object, WNDPROC procedure)
@@ -41,30 +33,20 @@ WNDPROC subclass(HWND window, void* object, WNDPROC procedure)
 
 void unbindObject(HWND window) noexcept
 {
-    if (ThreadRecord::Window* const bound = find(window)) {
+    if (ThreadRecord::Window* const bound = find(window))
         bound->object = nullptr;
-        remember(*threadRecord(), window, nullptr);
-    }
 }
 
 void forgetWindow(HWND window) noexcept
 {
-    if (ThreadRecord* const record = threadRecord()) {
+    if (ThreadRecord* const record = threadRecord())
         record->windows.erase(window);
-        remember(*record, nullptr, nullptr);
-    }
 }
 
 void* boundObject(HWND window) noexcept
 {
-    ThreadRecord* const record = threadRecord();
-    if (!record)
-        return nullptr;
-    if (window != record->lastWindow) {
-        const auto found = record->windows.find(window);
-        remember(*record, window, found != record->windows.end() ? found->second.object : nullptr);
-    }
-    return record->lastObject;
+    const ThreadRecord::Window* const bound = find(window);
+    return bound ? bound->object : nullptr;
 }
 
 LRESULT behindProcedure(HWND window, UINT message, WPARAM first, LPARAM second) noexcept
