@@ -2,9 +2,10 @@
 
 run.py [WORD]...    the breaks whose title or folder has one of the words; all without one; --sound: none, the copy as it is
 
-A break in a folder without `by` is for the native programs; `by` names programs that run under
-Wine, 64 bit, each with a filter where only a part of it could notice: `activex_tests:View.*`. Ends with 1 when a break escapes or when its text no longer stands there once: a row out of date is
-adapted. The copy is build/breaks; it keeps what is built, so that a break costs one file and the programs.
+A break in a folder without `by` is for the native programs; `by` names programs that run under Wine, 64 bit, each with
+a filter where only a part of it could notice: `activex_tests:View.*`. Ends with 1 when a break escapes or when its text
+no longer stands there once: a row out of date is adapted. The copy is build/breaks; it keeps what is built, so that a
+break costs one file and the programs.
 """
 import pathlib
 import re
