@@ -78,6 +78,7 @@ TEST(CalendarGrid, EveryMonthOfTheListAgainstAnIndependentCalendar)
                 const DayCell& drawn = grid.cells()[static_cast<std::size_t>(cell)];
                 ASSERT_EQ(text(drawn), expectedCell(year, month, cell)) << year << "-" << month << " cell " << cell;
                 ASSERT_EQ(drawn.role == DayRole::inactive, drawn.tag.has_value());
+                ASSERT_EQ(grid.dateOf(cell), addDays({year, month, 1}, cell - firstWeekday(year, month)));
             }
         }
     }
