@@ -3,6 +3,7 @@
 #include "engine/text/calendar_date.h"
 #include "engine/text/conversions.h"
 #include "engine/text/pattern.h"
+#include "engine/text/utf8.h"
 #include "tests/support/error_of.h"
 
 #include <gtest/gtest.h>
@@ -125,6 +126,15 @@ TEST(Patterns, OfAnyLength)
     EXPECT_EQ(format(7e9, u"0" + std::u16string(70000, u','), ptBr(), today), u"0");
     EXPECT_EQ(format(7.0, u"0e+" + zeros, ptBr(), today), u"7e+" + zeros);
     EXPECT_EQ(format(u"x"s, std::u16string(70000, u'@'), ptBr(), today).size(), 70000U);
+}
+
+// Forms that no writer of UTF-8 makes hide characters from whoever looks for them byte by byte.
+TEST(Utf8, NeitherLongerFormsNorSurrogatesNorHalves)
+{
+    for (const char* const bytes :
+         {"\xC1\xAF", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xC3", "\xA9"})
+        EXPECT_EQ(fromUtf8(bytes), std::nullopt) << testing::PrintToString(std::string(bytes));
+    EXPECT_EQ(fromUtf8("\xC2\x80\xE0\xA0\x80\xF0\x90\x80\x80"), u"\u0080\u0800\U00010000");
 }
 
 } // namespace
