@@ -128,6 +128,9 @@ start_wine() {
     quietly "wine$bits-reg.log" wine_run "$bits" reg add \
       "HKCU\\Software\\Wine\\AppDefaults\\$program.exe\\X11 Driver" /v Managed /d N /f
   done
+  # X input methods are not made for threads that open them at the same time: the process' heap breaks, even with bare EDITs.
+  quietly "wine$bits-reg.log" wine_run "$bits" reg add \
+    "HKCU\\Software\\Wine\\AppDefaults\\unloading_tests.exe\\X11 Driver" /v UseXIM /d N /f
   wine_run "$bits" "$build/win$bits/keepalive.exe" >/dev/null 2>&1 </dev/null &
 }
 

@@ -271,7 +271,7 @@ TEST(Unloading, SixteenApartments)
                     useAField(first + round + 1);
                 }
             });
-        ASSERT_TRUE(runOnThreads(works)) << "a thread does not end";
+        return runOnThreads(works);
     };
     std::optional<KeptGlyphs> glyphs;
     const Form first; // its window class is registered before the threads ask for it
@@ -280,11 +280,11 @@ TEST(Unloading, SixteenApartments)
         const Apartment apartment;
         glyphs.emplace();
     }
-    all(2);
+    ASSERT_TRUE(all(2)) << "a thread does not end";
     const int objects = liveObjects; // the first form's
     const Usage before;
     const int rounds = asked("VELA_TEST_COUNT", 2);
-    all(rounds);
+    ASSERT_TRUE(all(rounds)) << "a thread does not end";
     const Usage after;
     EXPECT_EQ(liveObjects, objects);
     EXPECT_EQ(library(), nullptr);
