@@ -232,6 +232,22 @@ TEST_P(ShownForm, APersonsActsReportOnce)
     EXPECT_EQ(log, Log{"changed txtNome"});
 }
 
+TEST_P(ShownForm, IsActiveAgainWhenTheOneBeforeItCloses)
+{
+    const platform::Desktop& desktop = stage->environment().desktop;
+    const std::unique_ptr<platform::Form> before = stage->forms().make(layout, {});
+    before->showPopup({60, 320, 260, 200}, form->window());
+    stage->settle();
+    EXPECT_EQ(desktop.activeWindow(), before->window());
+    before->close();
+    stage->settle();
+    EXPECT_EQ(desktop.activeWindow(), form->window());
+    form->close();
+    stage->settle();
+    EXPECT_TRUE(desktop.activeWindow());
+    EXPECT_NE(desktop.activeWindow(), form->window());
+}
+
 TEST_P(ShownForm, MayBeClosedAndReleasedInsideAReport)
 {
     onReport = [this] { form->close(); };
