@@ -1,16 +1,21 @@
 """Do the tests notice? Makes each fault of breaks.txt in a copy of the sources, builds the tests there and runs them.
 
-run.py [WORD]...    the breaks whose title or folder has one of the words; all without one; --sound: none, the copy as it is
+run.py [WORD]...    the breaks whose first line has one of the words (`[engine]`, `activex_tests`, a title), all without one;
+                    --sound: none, the copy as it is
 
 A break in a folder without `by` is for the native programs; `by` names programs that run under Wine, 64 bit, each with
-a filter where only a part of it could notice: `activex_tests:View.*`. Ends with 1 when a break escapes or when its text
-no longer stands there once: a row out of date is adapted. The copy is build/breaks; it keeps what is built, so that a
-break costs one file and the programs.
+a filter where only a part of it could notice: `activex_tests:View.*`. Ends with 1 when a break escapes or is not tried:
+its text no longer stands there once, which is a row to adapt, or the copy does not build or start. The copy is
+build/breaks, for one run at a time; it keeps what is built, so that a break costs one file and the programs.
 """
+import os
 import pathlib
 import re
+import signal
 import subprocess
 import sys
+import tempfile
+import time
 
 TOP = pathlib.Path(__file__).resolve().parent.parent.parent
 COPY = TOP / "build/breaks"
@@ -20,8 +25,8 @@ LIMIT = 900 # seconds; a program that takes longer has noticed
 
 class Break:
     def __init__(self, text):
-        head, *lines = text.split("\n")
-        found = re.fullmatch(r"\[(\S+)(?: by ([^]]*))?\] (.*)", head)
+        self.head, *lines = text.split("\n")
+        found = re.fullmatch(r"\[(\S+)(?: by ([^]]*))?\] (.*)", self.head)
         self.folder, self.title = found[1], found[3]
         self.programs = (found[2] or "").split()
         self.old, self.new = ("\n".join(line[2:] for line in lines if line.startswith(sign)) for sign in "-+")
@@ -40,12 +45,20 @@ def breaks():
 
 def run(command, limit=LIMIT):
     """The status, None when it took too long, and what was printed."""
-    try:
-        done = subprocess.run(["bash", "-c", f"set -euo pipefail; . scripts/lib.sh; {command}"], cwd=COPY, timeout=limit,
-                              stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
-    except subprocess.TimeoutExpired as late:
-        return None, (late.stdout or b"").decode(errors="replace")
-    return done.returncode, done.stdout.decode(errors="replace")
+    with tempfile.TemporaryFile() as output:
+        shell = subprocess.Popen(["bash", "-c", f"set -euo pipefail; . scripts/lib.sh; {command}"], cwd=COPY,
+                                 stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT, start_new_session=True)
+        status = None
+        try:
+            status = shell.wait(limit)
+        except subprocess.TimeoutExpired:
+            pass
+        finally:
+            if shell.poll() is None: # ended so, it still stops its display and its Wine
+                os.killpg(shell.pid, signal.SIGTERM)
+                shell.wait()
+        output.seek(0)
+        return status, output.read().decode(errors="replace")
 
 
 def copy_sources():
@@ -64,17 +77,21 @@ def copy_sources():
 
 
 def program_notices(program, windows):
-    """What noticed, or an empty text; a copy that does not build is an error of the row."""
+    """What noticed, or an empty text; a copy that does not build, or whose program does not start, is an error of the row."""
     program, _, only = program.partition(":")
-    preset, targets = ("win64", [program, "velaocx", "keepalive"]) if windows else ("native-asan", [program, "vela-console"])
+    registered = [] if program == "contract_tests" else ["velaocx"]
+    preset, targets = ("win64", [program, "keepalive", *registered]) if windows else ("native-asan", [program, "vela-console"])
     status, printed = run(f"compile {preset} {' '.join(targets)}", 3600)
     if status != 0:
         raise ValueError(f"it does not build\n{printed[-1500:]}")
     command = f"timeout {LIMIT} build/native-asan/tests/{program}"
     if windows:
-        command = ("trap clean_up EXIT; start_display; start_wine 64; scripts/wine-command 64 regsvr32 /s build/win64/Vela.ocx; "
+        register = "timeout 120 scripts/wine-command 64 regsvr32 /s build/win64/Vela.ocx || true; " if registered else ""
+        command = (f"trap clean_up EXIT; start_display; start_wine 64; {register}"
                    f"timeout {LIMIT} scripts/wine-command 64 build/win64/tests/{program}.exe '--gtest_filter={only or '*'}'")
-    status, printed = run(command, LIMIT + 60)
+    status, printed = run(command, LIMIT + 240)
+    if not re.search(r"^\[ RUN ", printed, re.M):
+        raise ValueError(f"{program} does not start, or its filter names nothing\n{printed[-1500:]}")
     failed = dict.fromkeys(name for name in re.findall(r"^\[  FAILED  \] (\S+?),? ", printed, re.M) if not name.isdigit())
     return ", ".join(list(failed)[:3]) or (f"{program} ended with {status}" if status != 0 else "")
 
@@ -89,34 +106,38 @@ def notices(folder, programs):
     return "program_test.py" if not programs and run(command)[0] != 0 else ""
 
 
+def tried(row):
+    """What became of the break, and who noticed or what stood in the way."""
+    file = row.file()
+    if not file:
+        return "NOT TRIED", "its text does not stand there once"
+    sound = file.read_text(encoding="utf-8")
+    file.write_text(sound.replace(row.old, row.new), encoding="utf-8")
+    try:
+        noticed = notices(row.folder, row.programs)
+        return "caught" if noticed else "ESCAPED", noticed
+    except ValueError as fault:
+        return "NOT TRIED", str(fault)
+    finally:
+        file.write_text(sound, encoding="utf-8")
+
+
 def main():
     words = sys.argv[1:]
-    chosen = [row for row in breaks() if not words or any(word in f"{row.folder} {row.title}" for word in words)]
+    chosen = [row for row in breaks() if not words or any(word in row.head for word in words)]
     copy_sources()
     if words == ["--sound"]:
         for programs in ([], sorted({program for row in breaks() for program in row.programs})):
             print(f"sound: {notices('', programs) or 'nothing noticed'}", flush=True)
         return 0
-    bad = 0
+    caught = 0
     for row in chosen:
-        file = row.file()
-        if not file:
-            bad += 1
-            print(f"row out of date  [{row.folder}] {row.title}", flush=True)
-            continue
-        sound = file.read_text(encoding="utf-8")
-        file.write_text(sound.replace(row.old, row.new), encoding="utf-8")
-        try:
-            noticed = notices(row.folder, row.programs)
-            bad += not noticed
-            print(f"{'caught ' if noticed else 'ESCAPED'} [{row.folder}] {row.title}: {noticed}", flush=True)
-        except ValueError as fault:
-            bad += 1
-            print(f"row out of date  [{row.folder}] {row.title}: {fault}", flush=True)
-        finally:
-            file.write_text(sound, encoding="utf-8")
-    print(f"{len(chosen) - bad} of {len(chosen)} caught")
-    return 1 if bad or not chosen else 0
+        start = time.monotonic()
+        outcome, detail = tried(row)
+        caught += outcome == "caught"
+        print(f"{outcome:9} {row.head}: {detail} ({time.monotonic() - start:.0f} s)", flush=True)
+    print(f"{caught} of {len(chosen)} caught")
+    return 0 if 0 < caught == len(chosen) else 1
 
 
 sys.exit(main())
