@@ -84,6 +84,26 @@ TEST(Locales, ReadTheDatesThatTheyWrite)
     EXPECT_GT(count, 100);
 }
 
+TEST(Locales, NameTheDaysFromSunday)
+{
+    const engine::Locale read = win32::systemLocale(L"en-US"), known = engine::enUs();
+    EXPECT_EQ(read.days, known.days);
+    EXPECT_EQ(read.shortDays, known.shortDays);
+    EXPECT_EQ(read.months, known.months);
+    EXPECT_EQ(read.shortMonths, known.shortMonths);
+}
+
+TEST_F(Windows, ASettingThatIsNoTextIsNone)
+{
+    stage->settings().save(u"Vela contrato", u"Janela", u"largura", u"texto");
+    const DWORD number = 0x00300031; // the units of "10"
+    RegSetKeyValueW(HKEY_CURRENT_USER, L"Software\\VB and VBA Program Settings\\Vela contrato\\Janela", L"largura",
+                    REG_DWORD, &number, sizeof number);
+    EXPECT_EQ(stage->settings().get(u"Vela contrato", u"Janela", u"largura", u"nada"), u"nada");
+    EXPECT_TRUE(stage->settings().all(u"Vela contrato", u"Janela").empty());
+    stage->settings().remove(u"Vela contrato", u"Janela", u"largura");
+}
+
 TEST_F(Windows, TheBoxIsAnEditThatOthersMayWriteTo)
 {
     std::array<wchar_t, 16> name{};
