@@ -33,6 +33,21 @@ TEST(Activation, AsksTheSiteStepByStep)
     EXPECT_EQ(site.window(), nullptr);
 }
 
+TEST(Activation, FailsWhereTheHostClosesTheFieldInsideIt)
+{
+    const LeakCheck leaks;
+    Form form;
+    for (const std::string_view within : {"CanInPlaceActivate", "OnInPlaceActivate", "GetWindow", "GetWindowContext"}) {
+        Site& site = form.add();
+        whenCalled = [&](const char* call) {
+            return call == within ? site.as<IOleObject>()->Close(OLECLOSE_NOSAVE) : S_OK;
+        };
+        EXPECT_TRUE(FAILED(site.activate({10, 10, 110, 34}))) << within;
+        whenCalled = nullptr;
+        EXPECT_EQ(site.window(), nullptr) << within;
+    }
+}
+
 TEST(Activation, WhatWasSetBeforeIsOnShowAndStaysAfterwards)
 {
     Form form;

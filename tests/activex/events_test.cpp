@@ -138,15 +138,18 @@ TEST(Events, SinksThatKnowNoEventAreNoFailure)
     }
 }
 
-TEST(Events, ASinkMayGoInsideItsEvent)
+TEST(Events, ASinkMayGoAndAnotherComeInsideAnEvent)
 {
     class Sink final : public ComObject<IPropertyNotifySink> {
     public:
         Connection connection;
         int told = 0;
+        std::function<void()> inside;
         HRESULT STDMETHODCALLTYPE OnChanged(DISPID) override
         {
             ++told;
+            if (inside)
+                inside();
             return connection.close();
         }
         HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) override { return S_OK; }
@@ -154,11 +157,15 @@ TEST(Events, ASinkMayGoInsideItsEvent)
     const LeakCheck leaks;
     Form form;
     Site& site = form.addActive();
-    const auto sink = make<Sink>();
-    ASSERT_TRUE(sink->connection.open(site.control(), IID_IPropertyNotifySink, sink.Get()));
+    const auto sink = make<Sink>(), later = make<Sink>();
+    const auto connect = [&](Sink& to) { return to.connection.open(site.control(), IID_IPropertyNotifySink, &to); };
+    sink->inside = [&] { EXPECT_TRUE(connect(*later.Get())); };
+    ASSERT_TRUE(connect(*sink.Get()));
     site.automation().put(u"UpTAB", truth(false));
+    EXPECT_EQ(later->told, 0) << "it was before its time";
     site.automation().put(u"UpTAB", truth(true));
     EXPECT_EQ(sink->told, 1);
+    EXPECT_EQ(later->told, 1);
 }
 
 struct Harm {

@@ -464,6 +464,8 @@ TEST(Looks, InHighContrast)
     settle(screen.form);
     EXPECT_GT(screen.inked(HighContrast::grey), 0);
     EXPECT_EQ(screen.inked(HighContrast::text), 0);
+    const HWND button = buttonOf(screen.site);
+    EXPECT_GT(pixelsOf(button, HighContrast::grey, clientOf(button)), 10) << "the picture on the button";
 }
 
 // The picture on the button and the mark of the chosen day are of the person's colours too, and can be read.

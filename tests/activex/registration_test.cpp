@@ -169,6 +169,7 @@ TEST_F(Registration, AFailedOneLeavesTheOneThatWorked)
     constexpr wchar_t other[] = L"C:\\antes\\Vela.ocx";
     RegSetKeyValueW(HKEY_LOCAL_MACHINE, server.c_str(), nullptr, REG_SZ, other, sizeof other);
     RegDeleteTreeW(HKEY_LOCAL_MACHINE, inTheWay.c_str());
+    RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"Software\\Classes\\Vela.Vela.1");
     HKEY key = nullptr;
     RegCreateKeyExW(HKEY_LOCAL_MACHINE, inTheWay.c_str(), 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr,
                     &key, nullptr);
@@ -181,6 +182,7 @@ TEST_F(Registration, AFailedOneLeavesTheOneThatWorked)
     EXPECT_EQ(valueOf(HKEY_LOCAL_MACHINE, classKey(velaClass) + L"\\InprocServer32"), other);
     EXPECT_EQ(valueOf(HKEY_LOCAL_MACHINE, L"Vela.Vela\\CLSID"), activex::keyOf(velaClass));
     EXPECT_EQ(valueOf(HKEY_LOCAL_MACHINE, L"Vela.cCalendar"), L"-") << "what it had written is taken back";
+    EXPECT_FALSE(exists(HKEY_LOCAL_MACHINE, L"Vela.Vela.1")) << "so is the key that it had made";
     RegDeleteTreeW(HKEY_LOCAL_MACHINE, inTheWay.c_str());
 }
 
