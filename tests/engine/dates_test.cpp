@@ -124,6 +124,16 @@ TEST(Dates, WrittenByALocaleAreReadByIt)
     EXPECT_FALSE(isDate(u"31.12.2024 14:05", enUs(), today)); // the month stands first
 }
 
+TEST(Dates, ThatAreNone)
+{
+    for (const std::u16string_view text :
+         {u"",         u"12",      u"2024",         u"29/02/2023", u"1/0/2000",       u"15/2024/3", u"24:00",
+          u"12:",      u"1/2/",    u"1/2/3/4",      u"-1/2/2024",  u"1/2/2024 3",     u"5 pm am",   u"1 2 3 4 5 6 7",
+          u"1:2 3:4",  u"domingo", u"15 marx 2024", u"31.12",      u"01.02.03 10:00", u"0.0",       u"25.12.2024 pm",
+          u"1/1/10000"})
+        EXPECT_FALSE(isDate(text, ptBr(), today)) << testing::PrintToString(text);
+}
+
 TEST(Dates, InOtherFormsAndOfAnyLength)
 {
     expectRead({{u"1/2/2024\0abc"sv, {2024, 2, 1}}}, ptBr());

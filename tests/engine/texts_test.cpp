@@ -62,24 +62,27 @@ TEST(Numbers, OtherLocales)
     EXPECT_FALSE(isNumeric(u"1,5", locale));
 }
 
-TEST(Values, BecomeWhatAPropertyWants)
+TEST(Numbers, RefusedTexts)
 {
-    EXPECT_EQ(toLong(u"2,5"s, ptBr()), 2);
-    EXPECT_EQ(toLong(3.5, ptBr()), 4);
-    EXPECT_EQ(toLong(-2.5, ptBr()), -2);
-    EXPECT_EQ(toLong(-2.6, ptBr()), -3);
-    EXPECT_EQ(toLong(true, ptBr()), -1);
-    EXPECT_EQ(toLong(Empty{}, ptBr()), 0);
-    EXPECT_EQ(toLong(2147483647.4, ptBr()), 2147483647);
-    EXPECT_EQ(errorOf([] { return toLong(2147483647.5, ptBr()); }), error_number::overflow);
-    EXPECT_EQ(errorOf([] { return toLong(u"x"s, ptBr()); }), error_number::typeMismatch);
-    EXPECT_TRUE(toBoolean(u"TRUE"s, ptBr()));
-    EXPECT_FALSE(toBoolean(u"fAlse"s, ptBr()));
-    EXPECT_TRUE(toBoolean(u"-0,5"s, ptBr()));
-    EXPECT_FALSE(toBoolean(Empty{}, ptBr()));
-    EXPECT_EQ(errorOf([] { return toBoolean(u"Verdadeiro"s, ptBr()); }), error_number::typeMismatch);
-    EXPECT_TRUE(isNumeric(Value{true}, ptBr()));
-    EXPECT_TRUE(isNumeric(Value{Empty{}}, ptBr()));
+    for (const std::u16string_view text :
+         {u"",      u" ",     u"abc",  u"-",     u",",     u".",   u".5",  u"1 2",  u"12,3,4", u"10%",  u"$5",
+          u"R 5",   u"1e",    u"e5",   u"1e5e5", u"1e5,",  u"+5+", u"-5-", u"(5",   u"5)",     u"()",   u"&H",
+          u"&HG",   u"&O8",   u"+-5",  u"--5",   u"5--",   u"5+-", u"-5+", u"(-5",  u"(5-",    u"((5)", u"(5))",
+          u"((5))", u"1e1.5", u"1e.5", u"1e--3", u"1e+-3", u"٣",   u"５",  u"12/5", u"R$",     u"True"})
+        EXPECT_EQ(errorOf([&] { return toDouble(text, ptBr()); }), error_number::typeMismatch)
+            << testing::PrintToString(text);
+    for (const std::u16string_view text : {u"1e309", u"-1e99999999999999999999", u"&H100000000", u"1e400"}) {
+        EXPECT_EQ(errorOf([&] { return toDouble(text, ptBr()); }), error_number::overflow);
+        EXPECT_EQ(errorOf([&] { return toCurrency(text, ptBr()); }), error_number::overflow);
+        EXPECT_FALSE(isNumeric(text, ptBr()));
+    }
+}
+
+TEST(Patterns, OfSerialsBeyondTheCalendar)
+{
+    for (const Value& serial : {Value(-657435.0), Value(2958466.0), Value(1e300), Value(u"1e10"s)})
+        for (const std::u16string_view pattern : {u"dd/mm/yyyy", u"Short Date"})
+            EXPECT_EQ(errorOf([&] { return format(serial, pattern, ptBr(), today); }), error_number::overflow);
 }
 
 TEST(NumberToText, AtTheLimits)
