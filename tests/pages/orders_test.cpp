@@ -1,6 +1,8 @@
 // Which properties a page reads and writes, and in which order; what a failure in the middle leaves behind.
 #include "page_bench.h"
 
+#include "apps/console/value_text.h"
+
 #include <gtest/gtest.h>
 
 namespace vela::pages {
@@ -72,7 +74,8 @@ TEST(Orders, UntouchedApplyWritesBackEveryValue)
         bench.open();
         EXPECT_TRUE(bench.page->apply());
         for (const std::u16string& name : bench.object.written)
-            EXPECT_TRUE(sameValue(bench.object.properties.at(name), before.at(name))) << utf8(name);
+            EXPECT_EQ(console::printed(bench.object.properties.at(name)), console::printed(before.at(name)))
+                << utf8(name);
     }
 }
 

@@ -26,18 +26,6 @@ std::string joined(const std::vector<std::u16string>& names)
     return out;
 }
 
-bool sameValue(const Value& a, const Value& b)
-{
-    const auto* whole = std::get_if<std::int32_t>(&a);
-    const auto* fraction = std::get_if<double>(&a);
-    const auto* otherWhole = std::get_if<std::int32_t>(&b);
-    if (fraction && otherWhole)
-        return *fraction == *otherWhole;
-    if (whole && std::holds_alternative<double>(b))
-        return std::get<double>(b) == *whole;
-    return a == b;
-}
-
 // --- the object
 
 RecordingObject::RecordingObject()
@@ -110,7 +98,8 @@ void RecordingObject::makeAllDifferent()
 
 // --- the bench
 
-PageBench::PageBench(PageKind kind) : kind_(kind)
+PageBench::PageBench(PageKind kind, platform::SettingsStore* store)
+    : kind_(kind), store_(store ? *store : machine_.settings)
 {
     machine_.clock.freeze(engine::makeDate({2024, 2, 29}, {14, 5, 33}));
     remake();
@@ -125,12 +114,6 @@ void PageBench::remake()
 void PageBench::open(const std::vector<PropertyObject*>& selection)
 {
     page->open(selection);
-}
-
-void PageBench::check(std::u16string_view control, bool on)
-{
-    if (checked(control) != on)
-        click(control);
 }
 
 void PageBench::act(std::u16string_view control)
@@ -165,38 +148,6 @@ WidgetId PageBench::id(std::u16string_view control, int index)
     if (!found)
         throw std::out_of_range("no control " + utf8(control));
     return found;
-}
-
-// --- the store
-
-headless::SettingsStore& PageBench::Store::store() const
-{
-    if (bench_.storeFailure_ != 0)
-        engine::raise(bench_.storeFailure_);
-    return bench_.machine_.settings;
-}
-
-void PageBench::Store::save(std::u16string_view application, std::u16string_view section, std::u16string_view key,
-                            std::u16string_view value)
-{
-    store().save(application, section, key, value);
-}
-
-std::u16string PageBench::Store::get(std::u16string_view application, std::u16string_view section,
-                                     std::u16string_view key, std::u16string_view defaultValue) const
-{
-    return store().get(application, section, key, defaultValue);
-}
-
-std::vector<platform::SettingsStore::Entry> PageBench::Store::all(std::u16string_view application,
-                                                                  std::u16string_view section) const
-{
-    return store().all(application, section);
-}
-
-void PageBench::Store::remove(std::u16string_view application, std::u16string_view section, std::u16string_view key)
-{
-    store().remove(application, section, key);
 }
 
 } // namespace vela::pages

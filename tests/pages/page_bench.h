@@ -18,8 +18,7 @@ using engine::errorOf;
 constexpr auto utf8 = console::toUtf8;
 
 [[nodiscard]] std::u16string utf16(std::string_view ascii);
-[[nodiscard]] std::string joined(const std::vector<std::u16string>& names);   // by blanks
-[[nodiscard]] bool sameValue(const engine::Value& a, const engine::Value& b); // 2 and 2.0 are the same
+[[nodiscard]] std::string joined(const std::vector<std::u16string>& names); // by blanks
 
 // Has every property of the pages at first; one that was erased is unknown.
 class RecordingObject final : public PropertyObject {
@@ -43,7 +42,7 @@ private:
 
 class PageBench final : private PageSite, private ColourChooser {
 public:
-    explicit PageBench(PageKind kind);
+    explicit PageBench(PageKind kind, platform::SettingsStore* store = nullptr); // null: the machine's
     PageBench(const PageBench&) = delete;
     PageBench& operator=(const PageBench&) = delete;
 
@@ -53,7 +52,6 @@ public:
 
     // Acts of a person.
     void click(std::u16string_view control) { headlessForm().click(id(control)); }
-    void check(std::u16string_view control, bool on);
     void put(std::u16string_view control, std::u16string_view text) { headlessForm().enterText(id(control), text); }
     void choose(std::u16string_view control, int index) { headlessForm().choose(id(control), index); }
     void act(std::u16string_view control); // whatever is usual with a control of its kind, so that its value changes
@@ -62,12 +60,9 @@ public:
     // What stands there.
     [[nodiscard]] platform::WidgetId id(std::u16string_view control, int index = -1);
     [[nodiscard]] std::u16string text(std::u16string_view control) { return form().text(id(control)); }
-    [[nodiscard]] bool checked(std::u16string_view control) { return form().checked(id(control)); }
-    [[nodiscard]] bool enabled(std::u16string_view control) { return form().enabled(id(control)); }
     [[nodiscard]] engine::Colour back(std::u16string_view control) { return form().look(id(control)).back; }
 
     void answerText(std::u16string text) { machine_.desktop.queueAnswer(std::move(text)); }
-    void failStore(int number) { storeFailure_ = number; }
     // Those since the last call, as transcripts tell them.
     std::string takeBoxes()
     {
@@ -89,32 +84,14 @@ public:
     bool marked = false;                  // what the site heard last
 
 private:
-    // The machine's store, or one that fails.
-    class Store final : public platform::SettingsStore {
-    public:
-        explicit Store(PageBench& bench) : bench_(bench) {}
-        void save(std::u16string_view application, std::u16string_view section, std::u16string_view key,
-                  std::u16string_view value) override;
-        [[nodiscard]] std::u16string get(std::u16string_view application, std::u16string_view section,
-                                         std::u16string_view key, std::u16string_view defaultValue) const override;
-        [[nodiscard]] std::vector<Entry> all(std::u16string_view application,
-                                             std::u16string_view section) const override;
-        void remove(std::u16string_view application, std::u16string_view section, std::u16string_view key) override;
-
-    private:
-        [[nodiscard]] headless::SettingsStore& store() const;
-        PageBench& bench_;
-    };
-
     void changed(bool dirty) override { marked = dirty; }
     void runAct(const std::function<void()>& act) override { act(); }
     [[nodiscard]] std::optional<engine::Colour> choose() override { return colour; }
 
     PageKind kind_;
     test::Recorder recorder_;
-    int storeFailure_ = 0;
     headless::Machine machine_{recorder_};
-    Store store_{*this};
+    platform::SettingsStore& store_;
 
 public:
     std::unique_ptr<Page> page;

@@ -73,10 +73,20 @@ TEST_F(Principal, ProfilesOfTheStoreAreListedOnceAndTheFirstIsChosen)
     EXPECT_EQ(names.chosen(), 0);
 }
 
-TEST_F(Principal, AFailingStoreLeavesTheListsEmptyAndReachesTheHostOtherwise)
+class FailingStore final : public platform::SettingsStore {
+    using View = std::u16string_view;
+
+public:
+    void save(View, View, View, View) override { engine::raise(70); }
+    [[nodiscard]] std::u16string get(View, View, View, View) const override { engine::raise(70); }
+    [[nodiscard]] std::vector<Entry> all(View, View) const override { engine::raise(70); }
+    void remove(View, View, View) override { engine::raise(70); }
+};
+
+TEST(PrincipalStore, ThatFailsLeavesTheListsEmptyAndReachesTheHostOtherwise)
 {
-    bench.failStore(70);
-    bench.remake();
+    FailingStore store;
+    PageBench bench(PageKind::ppPrincipal, &store);
     bench.open();
     EXPECT_EQ(bench.takeBoxes(), "");
     bench.put(u"cboMascarasProntas", u"_");
