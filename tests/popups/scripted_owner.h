@@ -16,12 +16,7 @@ using engine::errorOf;
 
 class ScriptedOwner final : public Owner {
 public:
-    std::u16string popupText() override
-    {
-        if (failingText != 0)
-            engine::raise(failingText);
-        return text;
-    }
+    std::u16string popupText() override { return text; }
     void putPopupText(const engine::Value& value) override
     {
         puts.push_back(value);
@@ -47,7 +42,6 @@ public:
 
     std::u16string text;
     platform::ParentForm parent{false, false, platform::WindowId{77}};
-    int failingText = 0;
     int failingPut = 0;
     int failingAnchor = 0;
     int failingParent = 0;
