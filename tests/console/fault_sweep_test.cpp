@@ -1,7 +1,7 @@
 // Makes every operation of the platform fail once in turn, and its allocations: afterwards the control answers, and
 // its settings are old or new, never mixed.
 #include "apps/console/session.h"
-#include "failing_allocator.h"
+#include "tests/support/allocations.h"
 
 #include <gtest/gtest.h>
 
@@ -152,8 +152,8 @@ TEST_P(Sweep, allocationsFail)
     int n = 1;
     while (n < mostFaults && !HasFailure() &&
            survives(
-               GetParam(), [&](Session&) { failing_allocator::failAt(n); },
-               [](Session&) { return failing_allocator::disarm(); }))
+               GetParam(), [&](Session&) { test::failAllocation(n); },
+               [](Session&) { return test::endAllocationFault(); }))
         n += 1 + n / 100; // the many of a long scenario are sampled
     EXPECT_LT(n, mostFaults);
     RecordProperty("faults", n - 1);

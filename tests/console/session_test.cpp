@@ -1,62 +1,49 @@
 // What a transcript cannot hold: huge and broken scripts, what ends a run, printing of values.
-#include "apps/console/session.h"
 #include "apps/console/value_text.h"
+#include "tests/support/bench.h"
 
 #include <gtest/gtest.h>
-
-#include <string>
 
 namespace vela::console {
 namespace {
 
-struct Transcript {
-    std::string output;
-    std::string complaints;
-    Session session{[this](std::string_view bytes) { output += bytes; },
-                    [this](std::string_view bytes) { complaints += bytes; }};
-
-    explicit Transcript(const std::string& script) { session.runScript(script); }
-};
+using test::Bench;
 
 TEST(Session, hugeTextsGoThrough)
 {
     const std::string huge(1'000'000, 'a');
-    const Transcript run("new f\nset f Text \"" + huge + "\"\nget f Text\nset f Mask \"" + huge +
-                         "\"\nset f Text \"b\"\nget f Text\n");
-    EXPECT_EQ(run.output, "f.Text = \"" + huge + "\"\nerror 6 \"Vela\" \"Overflow\"\nf.Text = \"b\"\n");
-    EXPECT_EQ(run.complaints, "");
+    Bench bench;
+    EXPECT_EQ(bench.run("set f Text \"" + huge + "\"\nget f Text\nset f Mask \"" + huge +
+                        "\"\nset f Text \"b\"\nget f Text\n"),
+              "f.Text = \"" + huge + "\"\nerror 6 \"Vela\" \"Overflow\"\nf.Text = \"b\"\n");
 }
 
 TEST(Session, aHugeLineThatIsNoCommandIsOneComplaint)
 {
-    const Transcript run(std::string(3'000'000, 'x') + "\n" + std::string(100'000, '"') + "\nprint \"on\"");
-    EXPECT_EQ(run.output, "on\n");
-    EXPECT_EQ(run.complaints, "line 1: no such command: \"" + std::string(40, 'x') +
-                                  "...\"\nline 2: no blank behind a closing quote\n");
-    EXPECT_EQ(run.session.exitStatus(), 2);
+    Bench bench("");
+    EXPECT_EQ(bench.run(std::string(3'000'000, 'x') + "\n" + std::string(100'000, '"') + "\nprint \"on\""),
+              "line 1: no such command: \"" + std::string(40, 'x') +
+                  "...\"\nline 2: no blank behind a closing quote\non\n");
+    EXPECT_EQ(bench.session.exitStatus(), 2);
 }
 
-TEST(Session, nulBytesAreCharacters)
+TEST(Session, unitsThatAreNoCharacters)
 {
     using namespace std::string_literals;
-    const Transcript run("new f\nset f Text \"a\0b\"\nget f Text\nset f Text \"a\\u0000b\"\nget f Text\n\0\n"s);
-    EXPECT_EQ(run.output, "f.Text = \"a\\u0000b\"\nf.Text = \"a\\u0000b\"\n");
-    EXPECT_EQ(run.complaints, "line 6: no such command: \"\0\"\n"s);
-}
-
-TEST(Session, loneSurrogatesReadBack)
-{
-    const Transcript run("new f\nset f Text \"\\uD83Dx\\uDE00\"\nget f Text\nprint \"\\uD83D\"\n");
-    EXPECT_EQ(run.output, "f.Text = \"\\uD83Dx\\uDE00\"\n\xEF\xBF\xBD\n");
+    Bench bench;
+    EXPECT_EQ(bench.run("set f Text \"a\0b\"\nget f Text\nset f Text \"a\\u0000b\"\nget f Text\n\0\n"s),
+              "f.Text = \"a\\u0000b\"\nf.Text = \"a\\u0000b\"\nline 6: no such command: \"\0\"\n"s);
+    EXPECT_EQ(bench.run("set f Text \"\\uD83Dx\\uDE00\"\nget f Text\nprint \"\\uD83D\"\n"),
+              "f.Text = \"\\uD83Dx\\uDE00\"\n\xEF\xBF\xBD\n");
 }
 
 // A command that is refused has done nothing, not even its first part.
 TEST(Session, refusedLinesLeaveNothingBehind)
 {
-    const Transcript run("load f Text=\"x\" nonsense\nnew f\nfocus f\nkeys \"abc{NOKEY}\"\nget f Text\n"
-                         "trace all nothing\nfocus none\nanswer \"a\" \"b\"\ncall f About\n");
-    EXPECT_EQ(run.output, "f.Text = \"\"\nabout \"Vela - Compila\xC3\xA7\xC3\xA3o 1.0.0000\"\n");
-    EXPECT_EQ(run.session.exitStatus(), 2);
+    Bench bench("load f Text=\"x\" nonsense\nnew f\nfocus f\nkeys \"abc{NOKEY}\"\ntrace all nothing\nfocus none\n"
+                "answer \"a\" \"b\"\n");
+    EXPECT_EQ(bench.run("get f Text\ncall f About\n"), "f.Text = \"\"\nabout \"Vela - Compilação 1.0.0000\"\n");
+    EXPECT_EQ(bench.session.exitStatus(), 2);
 }
 
 TEST(Session, theEndOfARunPrintsNothing)

@@ -1,40 +1,13 @@
 // What transcripts cannot show of a field's life: handlers that act, log records that fail, allocations, the layout.
+#include "tests/support/allocations.h"
 #include "tests/support/bench.h"
 
 #include "control/layout.h"
+#include "tooltip/about_box.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <new>
-
-namespace {
-
-long allocations = 0; // of the whole program
-
-void* allocate(std::size_t size)
-{
-    ++allocations;
-    if (void* memory = std::malloc(size))
-        return memory;
-    throw std::bad_alloc();
-}
-
-} // namespace
-
-void* operator new(std::size_t size)
-{
-    return allocate(size);
-}
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 namespace vela::test {
 namespace {
@@ -108,12 +81,12 @@ TEST(Keys, AllocateNothingOnceWarm)
         const auto typed = [&] {
             control::putProperty(bench.field().control, u"Text", Value(std::u16string()));
             bench.form().placeCaret(row.caret, 0);
-            const long before = allocations;
+            const long before = allocationCount();
             for (const char16_t* key = row.keys; *key != 0; ++key)
                 bench.form().key(headless::keyOf(*key));
             bench.form().key(headless::keyOf(u'x'));
             bench.form().key(headless::namedKey(headless::virtual_key::backspace));
-            return allocations - before;
+            return allocationCount() - before;
         };
         static_cast<void>(typed());
         EXPECT_EQ(typed(), 0) << row.prepare;
@@ -203,6 +176,12 @@ TEST(Property, TableIsComplete)
         EXPECT_EQ(row.value.put == nullptr, row.access() == control::Access::read) << toUtf8(row.name);
         EXPECT_EQ(row.value.save != nullptr, row.saved.read > 0 && row.saved.written > 0) << toUtf8(row.name);
     }
+}
+
+TEST(AboutBox, TheRevisionHasFourDigitsAtLeast)
+{
+    EXPECT_EQ(tooltip::aboutText({2, 1, 37}), u"Vela - Compilação 2.1.0037");
+    EXPECT_EQ(tooltip::aboutText({10, 12, 12345}), u"Vela - Compilação 10.12.12345");
 }
 
 } // namespace

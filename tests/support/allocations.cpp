@@ -1,17 +1,18 @@
-// The program's allocation functions, one of which can be made to fail.
-#include "failing_allocator.h"
+// The program's allocation functions.
+#include "tests/support/allocations.h"
 
 #include <cstdlib>
 #include <new>
 
 namespace {
 
-long countdown = 0; // 0: off
+long count = 0;
+long failing = 0; // the count of the one that fails; 0: none
 bool fired = false;
 
 void* allocate(std::size_t size)
 {
-    if (countdown > 0 && --countdown == 0) {
+    if (++count == failing) {
         fired = true;
         throw std::bad_alloc();
     }
@@ -22,21 +23,26 @@ void* allocate(std::size_t size)
 
 } // namespace
 
-namespace failing_allocator {
+namespace vela::test {
 
-void failAt(long n)
+long allocationCount()
 {
-    fired = false;
-    countdown = n;
+    return count;
 }
 
-bool disarm()
+void failAllocation(long n)
 {
-    countdown = 0;
+    fired = false;
+    failing = count + n;
+}
+
+bool endAllocationFault()
+{
+    failing = 0;
     return fired;
 }
 
-} // namespace failing_allocator
+} // namespace vela::test
 
 void* operator new(std::size_t size)
 {
