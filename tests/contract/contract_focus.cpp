@@ -107,7 +107,7 @@ TEST_F(FocusContract, ATabAskedForIsCarriedOutAfterTheKey)
 TEST_F(FocusContract, AHostMayDestroyTheFieldInsideAnyReport)
 {
     for (const char* report : {"down", "press", "changed", "up", "lost", "got", "clicked"}) {
-        stage = Stage::make();
+        stage = std::make_unique<Stage>();
         Recorder doomed{log, "A"};
         doomed.box = &stage->field(0).activate(platform::EditBoxKind::singleLine);
         stage->listen(0, doomed, doomed);
@@ -123,7 +123,7 @@ TEST_F(FocusContract, AHostMayDestroyTheFieldInsideAnyReport)
         EXPECT_EQ(log.back(), std::string("A ") + report);
         log.clear();
     }
-    stage = Stage::make();
+    stage = std::make_unique<Stage>();
 }
 
 } // namespace

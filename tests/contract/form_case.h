@@ -2,7 +2,7 @@
 #pragma once
 
 #include "tests/contract/recorder.h"
-#include "tests/contract/stage.h"
+#include "stage.h"
 
 #include <gtest/gtest.h>
 
@@ -48,7 +48,7 @@ protected:
     [[nodiscard]] auto count(const std::string& line) const { return std::ranges::count(log, line); }
 
     Log log;
-    std::unique_ptr<Stage> stage = Stage::make();
+    std::unique_ptr<Stage> stage = std::make_unique<Stage>();
     Recorder first{log, "A"};
     Recorder second{log, "B"};
 };

@@ -19,7 +19,6 @@ public:
     std::function<void(int&)> filter; // of key-press
     std::function<void(int&)> keyFilter;
     std::u16string lastPasted;
-    int lastShift = 0;
     platform::Leaving lastLeaving = platform::Leaving::within;
     std::u16string removed, inserted; // of the last edit, its views read at once
     platform::Edit lastEdit;
@@ -30,9 +29,8 @@ public:
         lastLeaving = leaving;
         tell("lost");
     }
-    void keyDown(int& code, int& shift) override
+    void keyDown(int& code, int&) override
     {
-        lastShift = shift;
         if (keyFilter)
             keyFilter(code);
         tell("down");

@@ -22,11 +22,6 @@ namespace {
 using test::heardOf;
 using test::readerOf;
 
-HWND windowOf(platform::WindowId id)
-{
-    return reinterpret_cast<HWND>(id.value);
-}
-
 // Of a form's events only the clicks are kept.
 struct Clicks final : platform::ClickEvents {
     void clicked(platform::WidgetId widget) override
@@ -53,8 +48,18 @@ int inkIn(HWND window, const RECT& place)
 
 class Windows : public FieldCase {
 protected:
+    std::unique_ptr<platform::Form> shown(const platform::FormLayout& layout,
+                                          engine::RectPixels place = {200, 200, 110, 109})
+    {
+        std::unique_ptr<platform::Form> form = stage->forms().make(layout, {.clicks = &events});
+        form->showPopup(place, stage->field(0).window());
+        stage->settle();
+        return form;
+    }
     [[nodiscard]] HWND edit() { return windowOf(box().window()); }
     [[nodiscard]] HWND surface() { return windowOf(stage->field(0).window()); }
+
+    Clicks events;
 };
 
 // What a locale writes it reads, whatever its forms are.
@@ -231,7 +236,6 @@ TEST_F(Windows, ATipGoesWhenItsTimeIsUp)
 // At 96 dots per inch: two labels of 40 pixels each, 20 apart; at 8 points the longer text would need twice that.
 TEST_F(Windows, LabelsThatFitAreWrittenSmallerAndNeverTouch)
 {
-    Clicks events;
     static constexpr auto row = [](int index, std::u16string_view caption) {
         return platform::WidgetRow{.kind = platform::WidgetKind::label,
                                    .name = u"lbl",
@@ -243,9 +247,7 @@ TEST_F(Windows, LabelsThatFitAreWrittenSmallerAndNeverTouch)
     };
     static constexpr std::array<platform::WidgetRow, 2> rows{row(0, u"0,333333333333"), row(1, u"1E+15")};
     static constexpr platform::FormLayout layout{u"frm", u"", 2400, 900, rows};
-    const auto form = stage->forms().make(layout, {.clicks = &events});
-    form->showPopup({200, 200, 160, 60}, stage->field(0).window());
-    stage->settle();
+    const auto form = shown(layout, {200, 200, 160, 60});
     const HWND window = windowOf(form->window());
     EXPECT_GT(inkIn(window, {20, 20, 60, 40}), 20);
     EXPECT_GT(inkIn(window, {80, 20, 120, 40}), 10);
@@ -263,10 +265,8 @@ TEST_F(Windows, AButtonTakesEachOfSeveralQuickClicks)
          {.kind = platform::WidgetKind::checkBox, .name = u"b", .caption = u"Sim", .place = {1200, 300, 900, 300}}}};
     static constexpr platform::FormLayout layout{u"frm", u"", 2400, 900, rows};
     for (const int widget : {0, 1}) {
-        Clicks events;
-        const auto form = stage->forms().make(layout, {.clicks = &events});
-        form->showPopup({200, 200, 160, 60}, stage->field(0).window());
-        stage->settle();
+        events = {};
+        const auto form = shown(layout, {200, 200, 160, 60});
         const HWND item = GetDlgItem(windowOf(form->window()), 100 + widget);
         for (const UINT down : {WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_LBUTTONDOWN, WM_LBUTTONDBLCLK}) {
             SendMessageW(item, down, MK_LBUTTON, MAKELPARAM(8, 8));
@@ -298,12 +298,10 @@ LRESULT CALLBACK hearFirst(HWND window, UINT message, WPARAM first, LPARAM secon
 
 TEST_F(Windows, AProcedurePutInFrontStaysToTheEnd)
 {
-    Clicks events;
     static constexpr std::array<platform::WidgetRow, 1> rows{
         {{.kind = platform::WidgetKind::textBox, .name = u"a", .place = {0, 0, 600, 300}}}};
     static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
-    const auto form = stage->forms().make(layout, {.clicks = &events});
-    form->showPopup({200, 200, 110, 109}, stage->field(0).window());
+    const auto form = shown(layout);
     const HWND box = FindWindowExW(windowOf(form->window()), nullptr, L"Edit", nullptr);
     ASSERT_NE(box, nullptr);
     procedureBefore =
@@ -316,7 +314,6 @@ TEST_F(Windows, AProcedurePutInFrontStaysToTheEnd)
 
 TEST_F(Windows, AReaderHearsThePaintedLabels)
 {
-    Clicks events;
     static constexpr std::array<platform::WidgetRow, 2> rows{
         {{.kind = platform::WidgetKind::label, .name = u"a", .caption = u"&Nome", .place = {0, 0, 600, 300}},
          {.kind = platform::WidgetKind::label, .name = u"b", .caption = u"31", .place = {0, 600, 600, 300}}}};
@@ -357,10 +354,7 @@ TEST_F(Windows, ACaptionThatIsTooWideIsWrittenSmaller)
                                                                .caption = u"Retornar Somente os Números",
                                                                .place = {60, 400, 1500, 255}}}};
     static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
-    Clicks events;
-    const auto form = stage->forms().make(layout, {.clicks = &events});
-    form->showPopup({200, 200, 110, 109}, stage->field(0).window());
-    stage->settle();
+    const auto form = shown(layout);
     const HWND window = windowOf(form->window());
     EXPECT_GT(inkIn(window, {44, 4, 64, 19}), 0);
     EXPECT_EQ(inkIn(window, {64, 4, 108, 19}), 0);
@@ -379,7 +373,6 @@ TEST_F(Windows, AReaderHearsTheNamesOfBoxesAndLists)
          {.kind = WidgetKind::dropDownList, .name = u"c", .place = {0, 800, 600, 300}},
          {.kind = WidgetKind::listBox, .name = u"d", .place = {700, 0, 600, 900}}}};
     static constexpr platform::FormLayout layout{u"frm", u"", 1650, 1635, rows};
-    Clicks events;
     CoInitialize(nullptr);
     const auto form = stage->forms().make(layout, {.clicks = &events});
     for (int i = 0; i < 4; ++i) {

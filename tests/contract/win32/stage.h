@@ -1,5 +1,6 @@
-// The stage on real windows: a top-level window with a dialog's message loop.
-#include "tests/contract/stage.h"
+// The stage of the contract tests on real windows: a top-level window with a dialog's message loop. That in memory has
+// the same functions; each act of a person returns when all that follows has settled.
+#pragma once
 
 #include "platform/win32/control_surface.h"
 #include "platform/win32/desktop.h"
@@ -14,24 +15,25 @@
 #include <array>
 #include <fstream>
 #include <iterator>
+#include <memory>
+#include <string>
 
 namespace vela::contract {
-namespace {
 
-HWND windowOf(platform::WindowId id)
+inline HWND windowOf(platform::WindowId id)
 {
     return reinterpret_cast<HWND>(id.value);
 }
 
-HWND makeForm()
+inline HWND makeForm()
 {
     return CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", L"Contrato", WS_OVERLAPPEDWINDOW, 20, 20, 300, 200, nullptr,
                            nullptr, GetModuleHandleW(nullptr), nullptr);
 }
 
-class WindowStage final : public Stage {
+class Stage {
 public:
-    WindowStage()
+    Stage()
     {
         for (int index : {0, 1}) {
             auto& field = fields_[static_cast<std::size_t>(index)];
@@ -47,23 +49,23 @@ public:
         settle();
     }
 
-    platform::ControlSurface& field(int index) override { return at(index); }
-    void listen(int index, platform::EditBoxEvents& box, platform::SurfaceEvents& surface) override
+    platform::ControlSurface& field(int index) { return at(index); }
+    void listen(int index, platform::EditBoxEvents& box, platform::SurfaceEvents& surface)
     {
         at(index).setEvents(&surface, &box);
     }
-    void destroyField(int index) override { fields_[static_cast<std::size_t>(index)].reset(); }
-    void focus(int index) override
+    void destroyField(int index) { fields_[static_cast<std::size_t>(index)].reset(); }
+    void focus(int index)
     {
         SetFocus(edit(index));
         settle();
     }
-    void focusPlain() override
+    void focusPlain()
     {
         SetFocus(plain_);
         settle();
     }
-    void type(std::u16string_view text) override
+    void type(std::u16string_view text)
     {
         for (const char16_t unit : text) {
             const auto key = static_cast<WPARAM>(LOBYTE(VkKeyScanW(static_cast<wchar_t>(unit))));
@@ -73,13 +75,13 @@ public:
         }
         settle();
     }
-    void press(int virtualKey) override
+    void press(int virtualKey)
     {
         send(WM_KEYDOWN, static_cast<WPARAM>(virtualKey), 0x01000001);
         send(WM_KEYUP, static_cast<WPARAM>(virtualKey), 0xC1000001);
         settle();
     }
-    void pressTab(bool back) override
+    void pressTab(bool back)
     {
         std::array<BYTE, 256> keys{};
         GetKeyboardState(keys.data());
@@ -90,34 +92,29 @@ public:
         keys[VK_SHIFT] = 0;
         SetKeyboardState(keys.data());
     }
-    void click(int index) override
+    void click(int index)
     {
         mouse(edit(index), WM_LBUTTONDOWN);
         mouse(edit(index), WM_LBUTTONUP);
         settle();
     }
-    void doubleClick(int index) override
+    void doubleClick(int index)
     {
         click(index);
         mouse(edit(index), WM_LBUTTONDBLCLK);
         mouse(edit(index), WM_LBUTTONUP);
         settle();
     }
-    void paste(std::u16string_view text) override
+    void paste(std::u16string_view text)
     {
         test::putClipboard(text);
         send(WM_CHAR, 22, 1); // Control+V
     }
-    void cut() override { send(WM_CHAR, 24, 1); }
-    void undo() override { send(WM_CHAR, 26, 1); }
-    void redo() override { send(WM_CHAR, 25, 1); }
-    void pointTo(int index) override { mouse(edit(index), WM_MOUSEMOVE); }
-    void clickButton(int index) override
-    {
-        SendMessageW(FindWindowExW(at(index).handle(), nullptr, L"Button", nullptr), BM_CLICK, 0, 0);
-        settle();
-    }
-    void settle() override
+    void cut() { send(WM_CHAR, 24, 1); }
+    void undo() { send(WM_CHAR, 26, 1); }
+    void redo() { send(WM_CHAR, 25, 1); }
+    void pointTo(int index) { mouse(edit(index), WM_MOUSEMOVE); }
+    void settle()
     {
         MSG message{};
         while (MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT) == WAIT_OBJECT_0)
@@ -127,7 +124,7 @@ public:
                     DispatchMessageW(&message);
                 }
     }
-    void clickWidget(platform::Form& form, platform::WidgetId widget) override
+    void clickWidget(platform::Form& form, platform::WidgetId widget)
     {
         const HWND window = windowOf(form.window());
         if (const HWND item = GetDlgItem(window, 100 + widget.value)) {
@@ -139,22 +136,22 @@ public:
         }
         settle();
     }
-    void typeInto(platform::Form& form, platform::WidgetId widget, char16_t unit) override
+    void typeInto(platform::Form& form, platform::WidgetId widget, char16_t unit)
     {
         form.focus(widget);
         SendMessageW(GetDlgItem(windowOf(form.window()), 100 + widget.value), WM_CHAR, unit, 1);
     }
-    platform::Environment& environment() override { return environment_; }
-    platform::SettingsStore& settings() override { return settings_; }
-    platform::FormFactory& forms() override { return forms_; }
-    std::unique_ptr<platform::TooltipWindow> makeTooltip() override { return at(0).makeTooltip(); }
-    std::u16string writableFile() override
+    platform::Environment& environment() { return environment_; }
+    platform::SettingsStore& settings() { return settings_; }
+    platform::FormFactory& forms() { return forms_; }
+    std::unique_ptr<platform::TooltipWindow> makeTooltip() { return at(0).makeTooltip(); }
+    std::u16string writableFile()
     {
         std::array<wchar_t, MAX_PATH> folder{};
         const DWORD length = GetTempPathW(MAX_PATH, folder.data());
         return win32::utf16({folder.data(), length}) + u"vela-contract.txt";
     }
-    std::string logBytes(std::u16string_view path) override
+    std::string logBytes(std::u16string_view path)
     {
         std::ifstream file(win32::narrow(path), std::ios::binary);
         return {std::istreambuf_iterator<char>(file), {}};
@@ -183,12 +180,5 @@ private:
     win32::FormFactory forms_;
     platform::Environment environment_{clock_, locales_, log_, desktop_, system_};
 };
-
-} // namespace
-
-std::unique_ptr<Stage> Stage::make()
-{
-    return std::make_unique<WindowStage>();
-}
 
 } // namespace vela::contract
