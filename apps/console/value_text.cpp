@@ -2,8 +2,9 @@
 #include "apps/console/value_text.h"
 
 #include "control/property_table.h"
-
 #include "engine/text/calendar_date.h"
+#include "engine/text/characters.h"
+#include "engine/text/decimal_text.h"
 
 #include <charconv>
 #include <cmath>
@@ -13,14 +14,10 @@ namespace vela::console {
 
 namespace {
 
+using engine::isDigit;
 using engine::Value;
 
 constexpr double largestPlain = 1e15; // from here on numbers print with an exponent
-
-bool isDigit(char c) noexcept
-{
-    return c >= '0' && c <= '9';
-}
 
 std::size_t skipDigits(std::string_view text, std::size_t at)
 {
@@ -113,8 +110,7 @@ std::optional<Value> tryMember(std::u16string_view name, const engine::Enumerati
 
 std::string padded(int number, std::size_t digits)
 {
-    const std::string text = std::to_string(number);
-    return std::string(text.size() < digits ? digits - text.size() : 0, '0') + text;
+    return toUtf8(engine::decimalText(number, digits));
 }
 
 std::string printedNumber(double number)
