@@ -38,16 +38,6 @@ void rethrow(std::exception_ptr& failure)
 
 } // namespace
 
-Element::Element(FormWindow& form, std::u16string name) : form_(form), name_(std::move(name))
-{
-    form_.attach(*this);
-}
-
-Element::~Element()
-{
-    form_.detach(*this);
-}
-
 FormWindow::FormWindow(Desktop& desktop, TraceSink& sink, FaultPlan& faults)
     : desktop_(desktop), sink_(sink), faults_(faults), window_(makeWindow()), nextPlace_(atTheEnd)
 {
