@@ -2,6 +2,7 @@
 #include "activex/form_picture.h"
 
 #include "platform/win32/colours.h"
+#include "platform/win32/device_context.h"
 #include "platform/win32/fonts.h"
 #include "platform/win32/label_painter.h"
 #include "platform/win32/owners.h"

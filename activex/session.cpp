@@ -1,7 +1,7 @@
 // One session a thread, so that windows are used only by the thread that made them; the calendar colours are of all.
 #include "activex/session.h"
 
-#include "platform/win32/owners.h"
+#include "platform/win32/locked.h"
 
 #include <windows.h>
 

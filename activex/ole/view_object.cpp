@@ -2,7 +2,7 @@
 #include "activex/ole/view_object.h"
 
 #include "activex/ole/shell.h"
-#include "platform/win32/owners.h"
+#include "platform/win32/device_context.h"
 
 #include <utility>
 

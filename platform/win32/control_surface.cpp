@@ -4,11 +4,11 @@
 #include "engine/error.h"
 #include "platform/win32/activation_context.h"
 #include "platform/win32/colours.h"
+#include "platform/win32/device_context.h"
 #include "platform/win32/dpi.h"
 #include "platform/win32/guard.h"
 #include "platform/win32/keyboard.h"
 #include "platform/win32/module.h"
-#include "platform/win32/owners.h"
 #include "platform/win32/paint.h"
 #include "platform/win32/tooltip_window.h"
 

@@ -1,7 +1,7 @@
 // Asks the system for a window's dots per inch; older systems know one value for all.
 #include "platform/win32/dpi.h"
 
-#include "platform/win32/owners.h"
+#include "platform/win32/device_context.h"
 
 namespace vela::win32 {
 namespace {

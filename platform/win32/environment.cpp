@@ -2,6 +2,7 @@
 #include "platform/win32/environment.h"
 
 #include "engine/error.h"
+#include "platform/win32/device_context.h"
 #include "platform/win32/module.h"
 #include "platform/win32/owners.h"
 #include "platform/win32/text.h"

@@ -1,6 +1,7 @@
 // Measures texts and looks for the height at which all of them fit.
 #include "platform/win32/fitted_text.h"
 
+#include "platform/win32/device_context.h"
 #include "platform/win32/fonts.h"
 #include "platform/win32/owners.h"
 #include "platform/win32/text.h"

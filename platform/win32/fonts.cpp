@@ -1,7 +1,7 @@
 // Fonts by description, one system object for all equal ones in use.
 #include "platform/win32/fonts.h"
 
-#include "platform/win32/owners.h"
+#include "platform/win32/locked.h"
 #include "platform/win32/text.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 // The windows of a form's widgets: made from the table, placed by its scale, dropped when the form goes.
 #include "platform/win32/access_key.h"
 #include "platform/win32/activation_context.h"
+#include "platform/win32/device_context.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/guard.h"
 #include "platform/win32/module.h"

@@ -1,6 +1,7 @@
 // Paints what has no window: labels, frames, the pane of the tabs; and the swatches.
 #include "platform/win32/access_key.h"
 #include "platform/win32/colours.h"
+#include "platform/win32/device_context.h"
 #include "platform/win32/form_window.h"
 #include "platform/win32/owners.h"
 #include "platform/win32/paint.h"

@@ -3,6 +3,7 @@
 
 #include "platform/win32/access_key.h"
 #include "platform/win32/colours.h"
+#include "platform/win32/device_context.h"
 #include "platform/win32/fonts.h"
 #include "platform/win32/owners.h"
 #include "platform/win32/paint.h"

@@ -2,6 +2,7 @@
 #include "platform/win32/paint.h"
 
 #include "platform/win32/colours.h"
+#include "platform/win32/device_context.h"
 #include "platform/win32/dpi.h"
 #include "platform/win32/fonts.h"
 #include "platform/win32/owners.h"

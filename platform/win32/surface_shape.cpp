@@ -1,6 +1,7 @@
 // The shape of the control's window: round corners, what the host cuts off, and the ground that shows around it.
 #include "platform/win32/colours.h"
 #include "platform/win32/control_surface.h"
+#include "platform/win32/device_context.h"
 #include "platform/win32/owners.h"
 
 #include <utility>

@@ -2,8 +2,8 @@
 #include "platform/win32/thread.h"
 
 #include "platform/win32/focus_arbiter.h"
+#include "platform/win32/locked.h"
 #include "platform/win32/modal.h"
-#include "platform/win32/owners.h"
 
 #include <cstdlib>
 #include <utility>

@@ -2,8 +2,8 @@
 #include "platform/win32/window.h"
 
 #include "platform/win32/guard.h"
+#include "platform/win32/locked.h"
 #include "platform/win32/module.h"
-#include "platform/win32/owners.h"
 #include "platform/win32/text.h"
 #include "platform/win32/thread.h"
 #include "platform/win32/window_map.h"

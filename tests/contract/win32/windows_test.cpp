@@ -6,8 +6,8 @@
 #include "engine/text/calendar_date.h"
 #include "engine/text/conversions.h"
 #include "platform/win32/control_surface.h"
+#include "platform/win32/device_context.h"
 #include "platform/win32/environment.h"
-#include "platform/win32/owners.h"
 #include "platform/win32/tooltip_window.h"
 
 #include <commctrl.h>
