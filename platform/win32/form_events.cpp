@@ -1,4 +1,5 @@
 // What a person does at a form's windows, as the form's events.
+#include "engine/scoped_value.h"
 #include "platform/win32/access_key.h"
 #include "platform/win32/accessible_name.h"
 #include "platform/win32/focus_arbiter.h"
@@ -198,8 +199,7 @@ void FormWindow::unbound()
     speech_.forget();
     arbiter_.removeBorrower(std::exchange(window_, nullptr));
     shown_ = false;
-    for (WidgetWindow& widget : windows_)
-        widget.window = widget.inner = nullptr;
+    windows_.destroyed();
     if (role_ != Role::child) {
         if (!std::exchange(closed_, true) && events_.popup)
             events_.popup->closed();
@@ -218,7 +218,7 @@ LRESULT FormWindow::command(WPARAM first, LPARAM second)
             pressButton(u"Cancelar");
         return 0;
     }
-    const WidgetWindow* widget = quiet_ ? nullptr : ofWindow(reinterpret_cast<HWND>(second));
+    const WidgetWindow* widget = windows_.quiet() ? nullptr : windows_.ofWindow(reinterpret_cast<HWND>(second));
     if (!widget)
         return 0;
     switch (widget->kind()) {
@@ -258,15 +258,9 @@ LRESULT FormWindow::command(WPARAM first, LPARAM second)
     return 0;
 }
 
-// The combo puts the chosen text into its box only after this notification.
 void FormWindow::clickedWindow(const WidgetWindow& widget)
 {
-    adoptList(widget);
-    if (widget.kind() == WidgetKind::comboBox && widget.values.list->chosen() >= 0) {
-        const std::u16string chosen = widget.values.list->chosenText();
-        const engine::ScopedFlag quiet(quiet_, true);
-        SetWindowTextW(widget.window, wide(chosen.c_str()));
-    }
+    windows_.adoptList(widget);
     widgets_.chose(widget.id());
 }
 
@@ -290,7 +284,7 @@ void FormWindow::tellShown(const WidgetWindow& widget)
 
 LRESULT FormWindow::notify(const NMHDR& header)
 {
-    const WidgetWindow* widget = quiet_ ? nullptr : ofWindow(header.hwndFrom);
+    const WidgetWindow* widget = windows_.quiet() ? nullptr : windows_.ofWindow(header.hwndFrom);
     if (widget && widget->kind() == WidgetKind::tabStrip && header.code == static_cast<UINT>(TCN_SELCHANGE))
         clickedWindow(*widget);
     return 0;
@@ -343,7 +337,7 @@ std::vector<SpokenLabel> FormWindow::spokenLabels() const
         const bool named = !widget.look.spokenName.empty();
         if (platform::takesFocus(widget.kind()) || !widgets_.showing(widget) || (!named && widget.text.empty()))
             continue;
-        RECT place = rectOf(widget);
+        RECT place = windows_.rectOf(widget);
         MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&place), 2);
         labels.push_back({widget.id.value, named ? widget.look.spokenName : withoutAccessKey(widget.text), place,
                           widget.enabled, named});
@@ -365,7 +359,7 @@ const Widget* FormWindow::labelAt(POINT point) const
     for (const Widget& widget : std::views::reverse(widgets_.all())) {
         if (platform::takesFocus(widget.kind()) || widget.kind() == WidgetKind::frame)
             continue;
-        const RECT place = rectOf(widget);
+        const RECT place = windows_.rectOf(widget);
         if (widget.enabled && widgets_.showing(widget) && PtInRect(&place, point))
             return &widget;
     }
@@ -445,13 +439,13 @@ void FormWindow::nextWidget(bool back)
 // A button's access key clicks it; a label's leads to the widget behind it.
 bool FormWindow::accessKey(wchar_t letter)
 {
-    for (std::size_t i = 0; i < windows_.size(); ++i) {
-        const Widget& widget = windows_[i].values;
+    for (std::size_t i = 0; i < windows_.all().size(); ++i) {
+        const Widget& widget = windows_.all()[i].values;
         const char16_t key = accessKeyOf(widget);
         if (!key || upper(static_cast<wchar_t>(key)) != upper(letter) || !widget.enabled || !widgets_.showing(widget))
             continue;
         const WidgetWindow& target =
-            windows_[platform::takesFocus(widget.kind()) || i + 1 == windows_.size() ? i : i + 1];
+            windows_.all()[platform::takesFocus(widget.kind()) || i + 1 == windows_.all().size() ? i : i + 1];
         if (!target.window || !target.values.enabled || !widgets_.showing(target.values))
             continue;
         const engine::Alive alive(life_);
@@ -475,7 +469,7 @@ bool FormWindow::translate(MSG& message)
     if (!inside)
         return false;
     if (role_ == Role::child && message.message == WM_KEYDOWN) {
-        const WidgetWindow* widget = ofWindow(message.hwnd);
+        const WidgetWindow* widget = windows_.ofWindow(message.hwnd);
         if ((message.wParam == VK_RETURN || message.wParam == VK_ESCAPE) &&
             !(widget && wantsKey(*widget, message.wParam)))
             return false;
@@ -493,8 +487,8 @@ bool FormWindow::isFrameOf(HWND window) const
 // Tab at the page's last widget, or Shift+Tab at its first, goes on to the frame.
 bool FormWindow::leavesPage(bool back)
 {
-    const WidgetWindow* from = ofWindow(GetFocus());
-    const WidgetWindow* to = ofWindow(GetNextDlgTabItem(window_, GetFocus(), back));
+    const WidgetWindow* from = windows_.ofWindow(GetFocus());
+    const WidgetWindow* to = windows_.ofWindow(GetNextDlgTabItem(window_, GetFocus(), back));
     return from && to && (back ? to->id().value >= from->id().value : to->id().value <= from->id().value);
 }
 

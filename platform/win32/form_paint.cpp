@@ -54,12 +54,12 @@ void FormWindow::paint()
 void FormWindow::paintAll(HDC dc, const RECT& client)
 {
     paintGround(dc, client);
-    LabelPainter labels(dc, scale(), hasGround());
-    for (WidgetWindow& widget : windows_) {
+    LabelPainter labels(dc, windows_.scale(), hasGround());
+    for (WidgetWindow& widget : windows_.all()) {
         if (platform::takesFocus(widget.kind()) || !widgets_.showing(widget.values))
             continue;
         if (!widget.font)
-            applyFont(widget);
+            windows_.applyFont(widget);
         if (widget.kind() == WidgetKind::frame)
             paintFrame(dc, widget);
         else
@@ -72,7 +72,7 @@ void FormWindow::paintAll(HDC dc, const RECT& client)
 void FormWindow::paintGround(HDC dc, const RECT& client)
 {
     fill(dc, client, hasGround() ? ground_ : resolve(widgets_.backColour(), ColourRole::back));
-    for (const WidgetWindow& widget : windows_)
+    for (const WidgetWindow& widget : windows_.all())
         if (widget.kind() == WidgetKind::tabStrip)
             paintPane(dc, widget);
 }
@@ -92,7 +92,7 @@ void FormWindow::learnGround()
     fill(memory.get(), sample, GetSysColor(COLOR_BTNFACE));
     DrawThemeParentBackground(window_, memory.get(), &sample);
     ground_ = pane_ = GetPixel(memory.get(), middle, middle);
-    for (const WidgetWindow& widget : windows_)
+    for (const WidgetWindow& widget : windows_.all())
         if (const HTHEME theme = widget.kind() == WidgetKind::tabStrip && widget.window
                                      ? OpenThemeData(widget.window, L"TAB")
                                      : nullptr) {
@@ -114,15 +114,16 @@ void FormWindow::paintFrame(HDC dc, const WidgetWindow& frame)
 {
     const Widget& widget = frame.values;
     const SelectedObject font(dc, frame.font->get());
-    RECT line = rectOf(widget);
+    RECT line = windows_.rectOf(widget);
     RECT caption = line;
     line.top += lineHeight(dc) / 2;
-    caption.left += pixels(120);
+    caption.left += windows_.pixels(120);
     if (!widget.text.empty())
         DrawTextW(dc, wide(widget.text.c_str()), -1, &caption, DT_SINGLELINE | DT_CALCRECT);
     const int outside = SaveDC(dc);
     if (!widget.text.empty())
-        ExcludeClipRect(dc, caption.left - pixels(30), caption.top, caption.right + pixels(30), caption.bottom);
+        ExcludeClipRect(dc, caption.left - windows_.pixels(30), caption.top, caption.right + windows_.pixels(30),
+                        caption.bottom);
     DrawEdge(dc, &line, EDGE_ETCHED, BF_RECT);
     RestoreDC(dc, outside);
     if (widget.text.empty())
@@ -137,7 +138,7 @@ void FormWindow::paintPane(HDC dc, const WidgetWindow& widget)
 {
     if (!widget.window)
         return;
-    RECT place = rectOf(widget.values);
+    RECT place = windows_.rectOf(widget.values);
     RECT caption{};
     SendMessageW(widget.window, TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&caption));
     place.top += caption.bottom;
@@ -152,7 +153,7 @@ void FormWindow::paintPane(HDC dc, const WidgetWindow& widget)
 
 void FormWindow::drawItem(const DRAWITEMSTRUCT& item)
 {
-    const WidgetWindow* widget = ofWindow(item.hwndItem);
+    const WidgetWindow* widget = windows_.ofWindow(item.hwndItem);
     if (!widget)
         return;
     RECT place = item.rcItem;
@@ -165,16 +166,16 @@ void FormWindow::drawItem(const DRAWITEMSTRUCT& item)
                   : isDark(colour)     ? COLOR_BTNHIGHLIGHT
                                        : COLOR_WINDOWFRAME);
     if ((item.itemState & ODS_FOCUS) && role_ == Role::child) { // in a dialog the border is the mark of the focus
-        InflateRect(&place, -pixels(45), -pixels(45));
+        InflateRect(&place, -windows_.pixels(45), -windows_.pixels(45));
         DrawFocusRect(item.hDC, &place);
     }
 }
 
 LRESULT FormWindow::colourOf(UINT message, HDC dc, HWND child)
 {
-    const WidgetWindow* widget = ofWindow(child);
+    const WidgetWindow* widget = windows_.ofWindow(child);
     if (!widget)
-        widget = ofWindow(GetParent(child)); // a combo's list
+        widget = windows_.ofWindow(GetParent(child)); // a combo's list
     const bool typed = message == WM_CTLCOLOREDIT || message == WM_CTLCOLORLISTBOX;
     const platform::WidgetLook fallback;
     const platform::WidgetLook& look = widget ? widget->values.look : fallback;

@@ -1,4 +1,4 @@
-// How a form is shown: as a pop-up, as a modal dialog, as a child of a frame.
+// A form made, and shown: as a pop-up, as a modal dialog, as a child of a frame.
 #include "engine/error.h"
 #include "platform/win32/dpi.h"
 #include "platform/win32/focus_arbiter.h"
@@ -33,6 +33,19 @@ POINT centred(SIZE size, HWND owner)
 
 } // namespace
 
+FormWindow::FormWindow(const platform::FormLayout& layout, const platform::FormEvents& events)
+    : windows_(layout, events, *this), arbiter_(FocusArbiter::retain())
+{
+}
+
+FormWindow::~FormWindow()
+{
+    closed_ = true;
+    endShowing();
+    dropWindows();
+    FocusArbiter::release();
+}
+
 SIZE FormWindow::naturalSize(int dpi) const
 {
     return {engine::twipsToPixels(widgets_.layout().width, dpi), engine::twipsToPixels(widgets_.layout().height, dpi)};
@@ -48,7 +61,7 @@ void FormWindow::makeTopLevel(Role role, HWND owner, RECT place, DWORD style, DW
         engine::raise(engine::error_number::outOfMemory);
     window_ = made;
     SetWindowTextW(window_, std::wstring(wide(widgets_.layout().caption)).c_str());
-    makeWindows();
+    windows_.make(window_);
     if (timer_ > 0)
         SetTimer(window_, formTimer, static_cast<UINT>(timer_), nullptr);
 }
@@ -60,14 +73,14 @@ void FormWindow::showPopup(engine::RectPixels place, platform::WindowId owner)
     const int dpi = dpiOf(top);
     const int width = scaled(place.width, dpi);
     const int height = scaled(place.height, dpi);
-    scale_ = std::min(static_cast<double>(width) / widgets_.layout().width,
-                      static_cast<double>(height) / widgets_.layout().height);
+    windows_.putScale(std::min(static_cast<double>(width) / widgets_.layout().width,
+                               static_cast<double>(height) / widgets_.layout().height));
     if (role_ == Role::popup && window_ && owner_ == top) {
         RECT before{};
         GetWindowRect(window_, &before);
         SetWindowPos(window_, HWND_TOP, place.left, place.top, width, height, SWP_NOACTIVATE);
         if (before.right - before.left != width || before.bottom - before.top != height)
-            layOut();
+            windows_.layOut();
     } else {
         makeTopLevel(Role::popup, top, {place.left, place.top, place.left + width, place.top + height},
                      WS_POPUP | WS_CLIPCHILDREN, WS_EX_TOOLWINDOW | WS_EX_CONTROLPARENT);
@@ -101,7 +114,7 @@ void FormWindow::showModal()
     const HWND active = GetActiveWindow();
     const HWND owner = active ? GetAncestor(active, GA_ROOT) : nullptr;
     const int dpi = dpiOf(owner);
-    scale_ = static_cast<double>(dpi) / engine::twipsPerInch;
+    windows_.putScale(static_cast<double>(dpi) / engine::twipsPerInch);
     const SIZE client = naturalSize(dpi);
     RECT frame{0, 0, client.cx, client.cy};
     AdjustWindowRectEx(&frame, modalStyle, FALSE, modalExtendedStyle);
@@ -141,7 +154,7 @@ void FormWindow::runModalLoop()
 
 void FormWindow::showChild(HWND parent, const RECT& place)
 {
-    scale_ = static_cast<double>(dpiOf(parent)) / engine::twipsPerInch;
+    windows_.putScale(static_cast<double>(dpiOf(parent)) / engine::twipsPerInch);
     makeTopLevel(Role::child, parent, place, WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | WS_VISIBLE,
                  WS_EX_CONTROLPARENT);
     shown_ = true;
@@ -169,10 +182,26 @@ void FormWindow::leaveParent()
     dropWindows();
 }
 
+void FormWindow::focus(platform::WidgetId widget)
+{
+    if (!widgets_.mayTakeFocus(widget))
+        return;
+    const HWND window = windows_.of(widgets_.at(widget)).window;
+    if (window && shown_)
+        SetFocus(window);
+    else
+        widgets_.focusArrived(widget);
+}
+
+platform::WindowId FormWindow::window() const
+{
+    return idOf(window_);
+}
+
 void FormWindow::focusFirst()
 {
     const platform::WidgetId focused = widgets_.focused();
-    if (const HWND window = focused ? of(widgets_.at(focused)).window : nullptr)
+    if (const HWND window = focused ? windows_.of(widgets_.at(focused)).window : nullptr)
         SetFocus(window);
     else if (role_ != Role::popup)
         nextWidget(false);
@@ -222,6 +251,28 @@ void FormWindow::endShowing()
     arbiter_.removeBorrower(window);
     if (alive)
         dropWindows();
+}
+
+// A window may be dropped by what its own procedure called: then it is destroyed when that has returned.
+void FormWindow::dropWindows()
+{
+    windows_.letGo();
+    pressed_ = nullptr;
+    speech_.forget();
+    const HWND window = std::exchange(window_, nullptr);
+    if (!window)
+        return;
+    unbind(window);
+    if (running_ > 0)
+        destroyLater(window);
+    else
+        DestroyWindow(window);
+}
+
+std::unique_ptr<platform::Form> FormFactory::make(const platform::FormLayout& layout,
+                                                  const platform::FormEvents& events)
+{
+    return std::make_unique<FormWindow>(layout, events);
 }
 
 } // namespace vela::win32

@@ -2,11 +2,9 @@
 #pragma once
 
 #include "engine/alive.h"
-#include "engine/scoped_value.h"
-#include "platform/win32/fonts.h"
 #include "platform/win32/form.h"
 #include "platform/win32/form_accessible.h"
-#include "platform/win32/label_painter.h"
+#include "platform/win32/widget_windows.h"
 #include "platform/win32/window.h"
 
 #include <memory>
@@ -16,29 +14,9 @@
 namespace vela::win32 {
 
 class FocusArbiter;
-class FormWindow;
-
-// What shows one widget: its window and, of an editable combo, the EDIT in it. Labels and frames have none: they are
-// painted.
-struct WidgetWindow {
-    WidgetWindow(FormWindow& of, const platform::Widget& widget) noexcept : form(of), values(widget) {}
-
-    FormWindow& form;
-    const platform::Widget& values;
-    HWND window = nullptr;
-    HWND inner = nullptr;
-    SharedFont font;          // at the form's scale
-    bool saysItsName = false; // its windows are asked, because the system keeps no names
-
-    [[nodiscard]] platform::WidgetId id() const noexcept { return values.id; }
-    [[nodiscard]] platform::WidgetKind kind() const noexcept { return values.kind(); }
-};
 
 // Its windows are made when it is shown and go when it is closed or leaves its parent; the values stay.
-class FormWindow final : public platform::Form,
-                         private WindowHandler,
-                         private SpokenForm,
-                         private platform::WidgetDisplay {
+class FormWindow final : public platform::Form, private WindowHandler, private WidgetMessages, private SpokenForm {
 public:
     FormWindow(const platform::FormLayout& layout, const platform::FormEvents& events);
     FormWindow(const FormWindow&) = delete;
@@ -70,49 +48,12 @@ public:
     [[nodiscard]] SIZE naturalSize(int dpi) const;
     [[nodiscard]] HWND handle() const noexcept { return window_; }
 
-    // For its widgets' windows.
-    LRESULT widgetMessage(WidgetWindow& widget, HWND window, UINT message, WPARAM first, LPARAM second);
-
 private:
     enum class Role { none, popup, modal, child };
 
-    [[nodiscard]] WidgetWindow& of(const platform::Widget& widget);
-    [[nodiscard]] WidgetWindow* ofWindow(HWND window) noexcept;
-
-    // The display of its widgets (form_values.cpp, form_lists.cpp).
-    void showText(const platform::Widget& widget) override;
-    void showCheck(const platform::Widget& widget) override;
-    void showEnabled(const platform::Widget& widget) override;
-    void showVisibility() override;
-    void showLook(const platform::Widget& widget, const platform::WidgetLook& before) override;
-    void showFont(const platform::Widget& widget) override;
-    void showBackColour() override;
-    void itemAdded(const platform::Widget& widget) override;
-    void itemRemoved(const platform::Widget& widget, int index) override;
-    void itemsCleared(const platform::Widget& widget) override;
-    void showChoice(const platform::Widget& widget) override;
-    void showSelected(const platform::Widget& widget, int index) override;
-    void showItem(const WidgetWindow& widget, int index);
-    void adoptList(const WidgetWindow& widget); // as its window has it, after an act of the person
-    void rememberSpokenName(WidgetWindow& widget);
-    void repaint(const platform::Widget& widget);
-
-    // Windows (form_creation.cpp).
-    void makeWindows();
-    void makeWidget(WidgetWindow& widget);
-    void dropWindows();
-    void layOut();
-    void placeWidget(const WidgetWindow& widget);
-    [[nodiscard]] int columnWidth(const WidgetWindow& widget) const;
-    void applyFont(WidgetWindow& widget);
-    [[nodiscard]] SharedFont fittingFont(const platform::Widget& widget) const;
-    [[nodiscard]] FormScale scale() const noexcept { return {widgets_, scale_, scale_}; }
-    [[nodiscard]] RECT rectOf(const platform::Widget& widget) const { return scale().placeOf(widget); }
-    [[nodiscard]] int pixels(int twips) const noexcept { return scale().units(twips); }
-    [[nodiscard]] int dpi() const noexcept;
-
     // Messages (form_events.cpp).
     LRESULT handle(HWND window, UINT message, WPARAM first, LPARAM second) override;
+    LRESULT widgetMessage(WidgetWindow& widget, HWND window, UINT message, WPARAM first, LPARAM second) override;
     void unbound() override;
     LRESULT command(WPARAM first, LPARAM second);
     LRESULT notify(const NMHDR& header);
@@ -142,6 +83,7 @@ private:
     void appear();
     void focusFirst();
     void endShowing();
+    void dropWindows();
     void runModalLoop();
 
     // Painting (form_paint.cpp).
@@ -160,24 +102,22 @@ private:
     [[nodiscard]] std::vector<SpokenLabel> spokenLabels() const override;
     void clickLabel(int widget) override;
 
-    platform::Widgets widgets_;
+    WidgetWindows windows_;
+    platform::Widgets& widgets_{windows_.widgets()};
     const platform::FormEvents& events_{widgets_.events()};
     FormListener* listener_ = nullptr;
     FocusArbiter& arbiter_;
-    std::vector<WidgetWindow> windows_; // one for each row of the table
     HWND window_ = nullptr;
     HWND owner_ = nullptr;
     HWND returnTo_ = nullptr;                   // had the focus before the pop-up
     const platform::Widget* pressed_ = nullptr; // a label under the held button
     COLORREF ground_ = 0;                       // of a child form without a colour of its own
     COLORREF pane_ = 0;                         // of its tabs
-    double scale_ = 0;                          // pixels a twip
     int timer_ = 0;
     Role role_ = Role::none;
     bool shown_ = false;
     bool dead_ = false;
     bool closed_ = false;
-    bool quiet_ = false; // windows are being written
     bool swallowChar_ = false;
     int running_ = 0; // procedures of its windows that are under way
     FormSpeech speech_;

@@ -1,8 +1,10 @@
-// The windows of a form's widgets: made from the table, placed by its scale, dropped when the form goes.
+// The windows of a form's widgets made, found, placed and let go.
+#include "platform/win32/widget_windows.h"
+
+#include "engine/scoped_value.h"
 #include "platform/win32/access_key.h"
 #include "platform/win32/activation_context.h"
 #include "platform/win32/device_context.h"
-#include "platform/win32/form_window.h"
 #include "platform/win32/guard.h"
 #include "platform/win32/module.h"
 #include "platform/win32/owners.h"
@@ -66,12 +68,6 @@ LRESULT CALLBACK widgetProcedure(HWND window, UINT message, WPARAM first, LPARAM
     return contained([&] { return widget->form.widgetMessage(*widget, window, message, first, second); }, LRESULT{0});
 }
 
-void letGo(HWND& window) noexcept
-{
-    if (const HWND known = std::exchange(window, nullptr))
-        unbindObject(known);
-}
-
 // The tabs' captions and the upper side of their pane. The system keeps it.
 HRGN captionsAndSide(HWND strip, int bottom, int width, int side)
 {
@@ -127,12 +123,34 @@ HWND editOf(HWND combo) noexcept
 
 } // namespace
 
-int FormWindow::dpi() const noexcept
+WidgetWindows::WidgetWindows(const platform::FormLayout& layout, const platform::FormEvents& events,
+                             WidgetMessages& form)
+    : widgets_(layout, events, this)
+{
+    windows_.reserve(widgets_.all().size());
+    for (const Widget& widget : widgets_.all())
+        windows_.emplace_back(form, widget);
+}
+
+WidgetWindow& WidgetWindows::of(const Widget& widget)
+{
+    return windows_[static_cast<std::size_t>(widget.id.value)];
+}
+
+WidgetWindow* WidgetWindows::ofWindow(HWND window) noexcept
+{
+    for (WidgetWindow& widget : windows_)
+        if (window && (widget.window == window || widget.inner == window))
+            return &widget;
+    return nullptr;
+}
+
+int WidgetWindows::dpi() const noexcept
 {
     return std::max(1, static_cast<int>(std::lround(scale_ * engine::twipsPerInch)));
 }
 
-void FormWindow::applyFont(WidgetWindow& widget)
+void WidgetWindows::applyFont(WidgetWindow& widget)
 {
     SharedFont font = fittingFont(widget.values);
     if (widget.window)
@@ -141,7 +159,7 @@ void FormWindow::applyFont(WidgetWindow& widget)
 }
 
 // A caption that the machine's font makes too wide is written smaller, and those like it in its frame as small.
-SharedFont FormWindow::fittingFont(const Widget& widget) const
+SharedFont WidgetWindows::fittingFont(const Widget& widget) const
 {
     constexpr double smallest = 4; // points
     constexpr double step = 0.5;
@@ -159,8 +177,9 @@ SharedFont FormWindow::fittingFont(const Widget& widget) const
     return font;
 }
 
-void FormWindow::makeWindows()
+void WidgetWindows::make(HWND form)
 {
+    form_ = form;
     const ActivationContext controls;
     {
         const engine::ScopedFlag quiet(quiet_, true);
@@ -171,7 +190,7 @@ void FormWindow::makeWindows()
     showVisibility();
 }
 
-void FormWindow::makeWidget(WidgetWindow& widget)
+void WidgetWindows::makeWidget(WidgetWindow& widget)
 {
     const Widget& values = widget.values;
     const Recipe recipe = recipeOf(*values.row);
@@ -184,7 +203,7 @@ void FormWindow::makeWidget(WidgetWindow& widget)
                         (values.enabled ? 0U : WS_DISABLED);
     const std::u16string caption = markedCaption(values);
     widget.window = CreateWindowExW(recipe.extendedStyle, recipe.windowClass, wide(caption.c_str()), style, 0, 0, 0, 0,
-                                    window_, reinterpret_cast<HMENU>(INT_PTR{100} + id), thisModule(), nullptr);
+                                    form_, reinterpret_cast<HMENU>(INT_PTR{100} + id), thisModule(), nullptr);
     if (!widget.window)
         return;
     subclass(widget.window, &widget, widgetProcedure);
@@ -206,7 +225,7 @@ void FormWindow::makeWidget(WidgetWindow& widget)
     rememberSpokenName(widget);
 }
 
-void FormWindow::layOut()
+void WidgetWindows::layOut()
 {
     for (WidgetWindow& widget : windows_) {
         applyFont(widget);
@@ -216,7 +235,7 @@ void FormWindow::layOut()
 
 // Combos are given the height of their list too. A tab strip is as large as its pane, so that it paints the tab in
 // front into the pane's upper side, and is cut to that: the form paints what lies on the tabs.
-void FormWindow::placeWidget(const WidgetWindow& widget)
+void WidgetWindows::placeWidget(const WidgetWindow& widget)
 {
     if (!widget.window)
         return;
@@ -239,7 +258,7 @@ void FormWindow::placeWidget(const WidgetWindow& widget)
 }
 
 // Of a list's columns: its widest item and a gap.
-int FormWindow::columnWidth(const WidgetWindow& widget) const
+int WidgetWindows::columnWidth(const WidgetWindow& widget) const
 {
     const platform::ItemList& list = *widget.values.list;
     int widest = 0;
@@ -248,23 +267,20 @@ int FormWindow::columnWidth(const WidgetWindow& widget) const
     return widest + pixels(150);
 }
 
-// A window may be dropped by what its own procedure called: then it is destroyed when that has returned.
-void FormWindow::dropWindows()
+void WidgetWindows::letGo()
 {
     for (WidgetWindow& widget : windows_) {
-        letGo(widget.inner);
-        letGo(widget.window);
+        unbindObject(widget.inner);
+        unbindObject(widget.window);
     }
-    pressed_ = nullptr;
-    speech_.forget();
-    const HWND window = std::exchange(window_, nullptr);
-    if (!window)
-        return;
-    unbind(window);
-    if (running_ > 0)
-        destroyLater(window);
-    else
-        DestroyWindow(window);
+    destroyed();
+}
+
+void WidgetWindows::destroyed() noexcept
+{
+    form_ = nullptr;
+    for (WidgetWindow& widget : windows_)
+        widget.window = widget.inner = nullptr;
 }
 
 } // namespace vela::win32
