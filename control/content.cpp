@@ -29,18 +29,18 @@ engine::FieldSettings Content::fieldSettings() const
 {
     const bool date = context_.settings.textType == TipoText::Data; // only dates ask the clock
     return {.textType = context_.settings.textType,
-            .returnDateFormat = returnFormat_,
-            .delimiter = delimiter_,
+            .formatoRetornoData = formatoRetornoData_,
+            .delimitador = delimitador_,
             .displayDecimal = viewOf(context_.settings.displayDecimal),
             .returnDecimal = viewOf(context_.settings.returnDecimal),
             .grouping = viewOf(context_.settings.grouping),
-            .currencySymbol = context_.settings.simboloMonetario,
-            .decimals = context_.settings.qtdCasasDec,
+            .simboloMonetario = context_.settings.simboloMonetario,
+            .qtdCasasDec = context_.settings.qtdCasasDec,
             .dateFormat = context_.settings.dateFormat,
-            .emptyDate = context_.settings.formatoExibData,
+            .formatoExibData = context_.settings.formatoExibData,
             .mask = context_.settings.mask,
             .promptChar = context_.settings.promptChar,
-            .defaultValue = context_.settings.valorPadrao,
+            .valorPadrao = context_.settings.valorPadrao,
             .locale = context_.locale(),
             .today = date ? dayOf(context_.environment.clock.now()) : engine::Date{}};
 }
@@ -154,8 +154,8 @@ void Content::adoptScheme()
     if (scheme < 1 || scheme > 4)
         return;
     const auto index = static_cast<std::size_t>(scheme - 1);
-    returnFormat_ = context_.settings.returnFormats[index];
-    delimiter_ = context_.settings.delimiters[index];
+    formatoRetornoData_ = context_.settings.formatoRetornoData[index];
+    delimitador_ = context_.settings.delimitador[index];
 }
 
 // The empty display of the type. A date without a mask takes its display format for one.
@@ -168,7 +168,7 @@ void Content::prepareText()
         context_.settings.returnDecimal = symbolOf(context_.settings.simbolDecRet);
         context_.settings.grouping = symbolOf(context_.settings.simbolAgrupMilhar);
         if (context_.settings.displayDecimal != 0)
-            writeText(engine::numericTemplate(context_.numberSettings().decimal, context_.settings.qtdCasasDec),
+            writeText(engine::numericTemplate(context_.numberSettings().displayDecimal, context_.settings.qtdCasasDec),
                       Writer::life);
         return;
     case TipoText::Data:

@@ -43,9 +43,9 @@ private:
     [[nodiscard]] engine::FieldSettings fieldSettings() const;
 
     Context& context_;
-    std::u16string returnFormat_; // of the scheme in force, as is the delimiter
-    std::u16string delimiter_;
-    std::unique_ptr<History> history_; // from the first edit of a person on
+    std::u16string formatoRetornoData_; // of the scheme in force
+    std::u16string delimitador_;        // the same
+    std::unique_ptr<History> history_;  // from the first edit of a person on
     Writer writer_ = Writer::person;
 };
 

@@ -70,10 +70,10 @@ bool Context::liveNumber() const noexcept
 
 engine::NumberSettings Context::numberSettings() const
 {
-    return {.decimal = viewOf(settings.displayDecimal),
+    return {.displayDecimal = viewOf(settings.displayDecimal),
             .grouping = viewOf(settings.grouping),
-            .decimals = settings.qtdCasasDec,
-            .insertZeros = settings.inserirZeros,
+            .qtdCasasDec = settings.qtdCasasDec,
+            .inserirZeros = settings.inserirZeros,
             .locale = locale()};
 }
 

@@ -23,8 +23,8 @@ using engine::TipoText;
 struct Settings {
     std::u16string caractLiberados;
     std::u16string dateFormat;
-    std::array<std::u16string, 4> delimiters;    // of the return schemes 1 to 4
-    std::array<std::u16string, 4> returnFormats; // of the return schemes 1 to 4
+    std::array<std::u16string, 4> delimitador;        // of the return schemes 1 to 4
+    std::array<std::u16string, 4> formatoRetornoData; // of the return schemes 1 to 4
     std::u16string errorTextMessage;
     std::u16string formatoExibData;
     std::u16string ifIsEmpty;

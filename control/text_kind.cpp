@@ -32,8 +32,9 @@ void TextKind::putMaskToNumeric(bool value)
 {
     context_.settings.maskToNumeric = value && context_.settings.textType == TipoText::Numerico;
     if (context_.settings.maskToNumeric) {
-        content_.putText(engine::numericTemplate(context_.numberSettings().decimal, context_.settings.qtdCasasDec),
-                         Writer::host);
+        content_.putText(
+            engine::numericTemplate(context_.numberSettings().displayDecimal, context_.settings.qtdCasasDec),
+            Writer::host);
         content_.writeText(content_.text(), Writer::host);
     } else {
         content_.putText(u"", Writer::host);

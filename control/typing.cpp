@@ -261,17 +261,17 @@ void Typing::openPopup()
 engine::KeystrokeSettings Typing::keystrokeSettings() const
 {
     return {.textType = context_.settings.textType,
-            .letterCase = context_.settings.tipoLetra,
-            .displayDecimal = context_.settings.simbolDecExib,
-            .decimal = viewOf(context_.settings.displayDecimal),
-            .decimals = context_.settings.qtdCasasDec,
+            .tipoLetra = context_.settings.tipoLetra,
+            .simbolDecExib = context_.settings.simbolDecExib,
+            .displayDecimal = viewOf(context_.settings.displayDecimal),
+            .qtdCasasDec = context_.settings.qtdCasasDec,
             .enterAsTab = context_.settings.enterAsTab,
-            .multiLine = context_.settings.multLine,
+            .multLine = context_.settings.multLine,
             .maskToNumeric = context_.settings.maskToNumeric,
-            .freeText = context_.settings.textoLivre,
+            .textoLivre = context_.settings.textoLivre,
             .autoTab = context_.settings.autoTab,
-            .negatives = context_.settings.aceitaNegativos,
-            .allowed = context_.settings.caractLiberados,
+            .aceitaNegativos = context_.settings.aceitaNegativos,
+            .caractLiberados = context_.settings.caractLiberados,
             .mask = context_.maskSettings()};
 }
 

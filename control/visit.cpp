@@ -179,7 +179,7 @@ std::optional<Visit::Wrong> Visit::checkNumber()
     Context::Scratch text(context_);
     Context::Scratch next(context_);
     context_.readText(*text);
-    if (engine::isSymbolAlone(*text, context_.numberSettings().decimal)) {
+    if (engine::isSymbolAlone(*text, context_.numberSettings().displayDecimal)) {
         look_.putForeColour(context_.settings.errorForeColor);
         return Wrong{engine::wrongNumberTitle, engine::wrongNumberText};
     }

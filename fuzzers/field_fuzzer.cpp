@@ -87,9 +87,9 @@ void value(const Input& input)
     settings.displayDecimal = input.symbol(0);
     settings.grouping = input.symbol(1);
     settings.returnDecimal = input.symbol(2);
-    settings.decimals = input.choices[1];
+    settings.qtdCasasDec = input.choices[1];
     settings.dateFormat = input.choices[3] % 2 == 0 ? u"dd/mm/yyyy" : u"hh:nn";
-    settings.returnDateFormat = u"yyyy-mm-dd";
+    settings.formatoRetornoData = u"yyyy-mm-dd";
     settings.mask = u"__/__/____";
     settings.promptChar = u"_";
     std::u16string corrected;

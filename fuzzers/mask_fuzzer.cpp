@@ -54,8 +54,8 @@ struct Field {
         for (std::size_t i = 0; i < text.size(); ++i)
             if (!isInput(i))
                 require(text[i] == settings.mask[i]);
-            else if (text[i] != settings.promptChar.front() && !settings.rules.empty())
-                require(i < settings.rules.size() && satisfies(text[i], settings.rules[i]));
+            else if (text[i] != settings.promptChar.front() && !settings.maskRules.empty())
+                require(i < settings.maskRules.size() && satisfies(text[i], settings.maskRules[i]));
     }
 
     void type(int key)

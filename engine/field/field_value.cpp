@@ -27,9 +27,9 @@ std::u16string without(std::u16string_view part, std::u16string_view text)
 
 std::u16string delimited(std::u16string_view text, const FieldSettings& settings)
 {
-    std::u16string result(settings.delimiter);
+    std::u16string result(settings.delimitador);
     result.append(text);
-    result.append(settings.delimiter);
+    result.append(settings.delimitador);
     return result;
 }
 
@@ -47,12 +47,12 @@ std::u16string returnedNumber(std::u16string_view text, const FieldSettings& set
     if (symbol + 1 > std::numeric_limits<std::uint8_t>::max())
         raise(error_number::overflow); // the position has eight bits
     const auto fraction = text.substr(symbol + 1);
-    if (static_cast<std::size_t>(settings.decimals) < fraction.size())
+    if (static_cast<std::size_t>(settings.qtdCasasDec) < fraction.size())
         raise(error_number::invalidCall);
     std::u16string number = without(settings.grouping, text.substr(0, symbol));
     number.append(settings.returnDecimal);
     number.append(fraction);
-    number.append(static_cast<std::size_t>(settings.decimals) - fraction.size(), u'0');
+    number.append(static_cast<std::size_t>(settings.qtdCasasDec) - fraction.size(), u'0');
     return number;
 }
 
@@ -60,13 +60,13 @@ std::u16string returnedNumber(std::u16string_view text, const FieldSettings& set
 // would change.
 void readNumber(std::u16string_view text, const FieldSettings& settings, FieldReading& reading)
 {
-    if (!isNumeric(std::u16string_view(without(settings.currencySymbol, text)), settings.locale)) {
+    if (!isNumeric(std::u16string_view(without(settings.simboloMonetario, text)), settings.locale)) {
         reading.value = 0.0;
         return;
     }
-    auto built = without(settings.currencySymbol, delimited(returnedNumber(text, settings), settings));
+    auto built = without(settings.simboloMonetario, delimited(returnedNumber(text, settings), settings));
     reading.value = built;
-    if (!settings.delimiter.empty() && built.find(settings.delimiter) != npos)
+    if (!settings.delimitador.empty() && built.find(settings.delimitador) != npos)
         // Oddity: a delimiter makes a number's Value fail; hosts rely on the text that comes back
         raise(error_number::typeMismatch);
     reading.value = toDouble(std::u16string_view(built), settings.locale);
@@ -84,7 +84,7 @@ void readDate(std::u16string_view text, const FieldSettings& settings, FieldRead
     }
     const Date date = toDate(text, settings.locale, settings.today);
     reading.value =
-        delimited(format(Value(date), settings.returnDateFormat, settings.locale, settings.today), settings);
+        delimited(format(Value(date), settings.formatoRetornoData, settings.locale, settings.today), settings);
 }
 
 void readTime(std::u16string_view text, const FieldSettings& settings, FieldReading& reading)
@@ -122,8 +122,8 @@ bool isEmptyText(const Value& value) noexcept
 std::u16string numberTextFor(const Value& value, const FieldSettings& settings)
 {
     const bool usable = !isEmptyText(value) && isNumeric(value, settings.locale);
-    const double number = usable ? toDouble(value, settings.locale) : toDouble(settings.defaultValue, settings.locale);
-    return formatNumber(number, settings.decimals, settings.locale);
+    const double number = usable ? toDouble(value, settings.locale) : toDouble(settings.valorPadrao, settings.locale);
+    return formatNumber(number, settings.qtdCasasDec, settings.locale);
 }
 
 // Reads a text as a date, and a text that is a number as the serial of a date.
@@ -144,11 +144,11 @@ Date dateOf(const std::u16string& text, const FieldSettings& settings)
 std::u16string dateTextFor(const Value& value, const FieldSettings& settings)
 {
     if (isEmptyText(value))
-        return std::u16string(settings.emptyDate);
+        return std::u16string(settings.formatoExibData);
     const auto* text = std::get_if<std::u16string>(&value);
     if (text == nullptr)
         return format(value, settings.dateFormat, settings.locale, settings.today);
-    if (*text == settings.emptyDate)
+    if (*text == settings.formatoExibData)
         return *text;
     const Date date = dateOf(*text, settings);
     if (settings.dateFormat.empty())
@@ -188,7 +188,7 @@ std::optional<std::u16string> textForValue(const Value& value, const FieldSettin
 std::optional<std::u16string> textForText(std::u16string_view text, const FieldSettings& settings)
 {
     if (settings.textType == TipoText::Numerico)
-        return std::u16string(isNumeric(text, settings.locale) ? text : settings.defaultValue);
+        return std::u16string(isNumeric(text, settings.locale) ? text : settings.valorPadrao);
     return textForValue(Value(std::u16string(text)), settings);
 }
 

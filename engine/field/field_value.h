@@ -14,18 +14,18 @@ namespace vela::engine {
 
 struct FieldSettings {
     TipoText textType = TipoText::TextoNormal;
-    std::u16string_view returnDateFormat; // of the scheme in force
-    std::u16string_view delimiter;        // of the scheme in force
-    std::u16string_view displayDecimal;   // "", "." or ","
-    std::u16string_view returnDecimal;    // "", "." or ","
-    std::u16string_view grouping;         // "", "." or ","
-    std::u16string_view currencySymbol;   // SimboloMonetario as it stands
-    int decimals = 0;                     // QtdCasasDec
+    std::u16string_view formatoRetornoData; // of the scheme in force
+    std::u16string_view delimitador;        // of the scheme in force
+    std::u16string_view displayDecimal;     // "", "." or ","
+    std::u16string_view returnDecimal;      // "", "." or ","
+    std::u16string_view grouping;           // "", "." or ","
+    std::u16string_view simboloMonetario;   // as it stands
+    int qtdCasasDec = 0;
     std::u16string_view dateFormat;
-    std::u16string_view emptyDate; // FormatoExibData
+    std::u16string_view formatoExibData;
     std::u16string_view mask;
     std::u16string_view promptChar;
-    std::u16string_view defaultValue; // ValorPadrao
+    std::u16string_view valorPadrao;
     const Locale& locale;
     Date today; // completes date texts without a year
 };

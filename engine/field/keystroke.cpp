@@ -14,9 +14,9 @@ int unlessFull(int key, const KeyBox& box) noexcept
 
 int allowedKey(int key, const KeystrokeSettings& settings) noexcept
 {
-    if (key == key_code::enter && !settings.enterAsTab && settings.multiLine)
+    if (key == key_code::enter && !settings.enterAsTab && settings.multLine)
         return key;
-    return settings.allowed.find(static_cast<char16_t>(key)) != std::u16string_view::npos ? key : 0;
+    return settings.caractLiberados.find(static_cast<char16_t>(key)) != std::u16string_view::npos ? key : 0;
 }
 
 KeyPlan inFreeText(int key, const KeystrokeSettings& settings, const KeyBox& box)
@@ -24,11 +24,11 @@ KeyPlan inFreeText(int key, const KeystrokeSettings& settings, const KeyBox& box
     if (key == key_code::backspace)
         return {.key = key, .press = true};
     key = unlessFull(key, box);
-    if (settings.letterCase == tipoTamanhoLetra::Maisculo)
+    if (settings.tipoLetra == tipoTamanhoLetra::Maisculo)
         key = upperCase(static_cast<char16_t>(key));
-    else if (settings.letterCase == tipoTamanhoLetra::Minusculo)
+    else if (settings.tipoLetra == tipoTamanhoLetra::Minusculo)
         key = lowerCase(static_cast<char16_t>(key));
-    if (!settings.freeText)
+    if (!settings.textoLivre)
         key = allowedKey(key, settings);
     return {.key = key, .press = true, .after = AfterPress::tab};
 }
@@ -52,16 +52,17 @@ KeyPlan decimalKey(int key, const KeyBox& box)
 // Oddity: a third decimal can be typed right behind the decimal symbol; people correct the first decimal that way.
 bool takesDigit(const KeystrokeSettings& settings, const KeyBox& box)
 {
-    const auto symbol = settings.decimal.empty() ? std::u16string::npos : box.text->find(settings.decimal);
+    const auto symbol =
+        settings.displayDecimal.empty() ? std::u16string::npos : box.text->find(settings.displayDecimal);
     if (symbol == std::u16string::npos)
         return true;
-    const bool full = static_cast<int>(box.text->size() - symbol - 1) >= settings.decimals;
+    const bool full = static_cast<int>(box.text->size() - symbol - 1) >= settings.qtdCasasDec;
     return !full || box.caret <= static_cast<int>(symbol) + 1;
 }
 
 bool takesMinus(const KeystrokeSettings& settings, const KeyBox& box)
 {
-    return settings.negatives && box.caret == 0 && box.text->find(u'-') == std::u16string::npos;
+    return settings.aceitaNegativos && box.caret == 0 && box.text->find(u'-') == std::u16string::npos;
 }
 
 // The text is read for every key, so that a box whose text cannot be read refuses every key.
@@ -73,8 +74,8 @@ KeyPlan inNumber(int key, const KeystrokeSettings& settings, const KeyBox& box)
     key = unlessFull(key, box);
     if (box.text == nullptr)
         return plan;
-    const bool comma = key == u',' && settings.displayDecimal == Simbolos::Virgula;
-    const bool point = key == u'.' && settings.displayDecimal == Simbolos::Ponto;
+    const bool comma = key == u',' && settings.simbolDecExib == Simbolos::Virgula;
+    const bool point = key == u'.' && settings.simbolDecExib == Simbolos::Ponto;
     if (comma || point)
         return decimalKey(key, box);
     if (isDigit(key) ? takesDigit(settings, box) : key == u'-' && takesMinus(settings, box))
@@ -147,7 +148,7 @@ EnterMeans enterMeans(const KeystrokeSettings& settings) noexcept
 {
     if (settings.enterAsTab)
         return EnterMeans::tab;
-    return settings.multiLine ? EnterMeans::line : EnterMeans::nothing;
+    return settings.multLine ? EnterMeans::line : EnterMeans::nothing;
 }
 
 // Oddity: a refused key in the last place still moves on with AutoTAB; forms are filled in without the Tab key.

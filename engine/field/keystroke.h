@@ -15,18 +15,18 @@ namespace vela::engine {
 
 struct KeystrokeSettings {
     TipoText textType = TipoText::TextoNormal; // values beyond the enumeration are kept as such
-    tipoTamanhoLetra letterCase = tipoTamanhoLetra::Normal;
-    Simbolos displayDecimal = Simbolos::Vazio;
-    std::u16string_view decimal; // the text derived from displayDecimal: "", "." or ","
-    int decimals = 0;            // QtdCasasDec
+    tipoTamanhoLetra tipoLetra = tipoTamanhoLetra::Normal;
+    Simbolos simbolDecExib = Simbolos::Vazio;
+    std::u16string_view displayDecimal; // the text derived from simbolDecExib: "", "." or ","
+    int qtdCasasDec = 0;
     bool enterAsTab = false;
-    bool multiLine = false;
+    bool multLine = false;
     bool maskToNumeric = false;
-    bool freeText = true; // TextoLivre
+    bool textoLivre = true;
     bool autoTab = false;
-    bool negatives = false;      // AceitaNegativos
-    std::u16string_view allowed; // CaractLiberados
-    MaskSettings mask{.mask = {}, .rules = {}, .promptChar = u"_"};
+    bool aceitaNegativos = false;
+    std::u16string_view caractLiberados;
+    MaskSettings mask{.mask = {}, .maskRules = {}, .promptChar = u"_"};
 };
 
 // `second`: Enter in a box of several lines, after its first KeyPress.

@@ -22,11 +22,11 @@ bool isPromptAt(int position, const MaskSettings& settings) noexcept
 // `key` is a digit or a capital.
 bool ruleAccepts(int key, int position, const MaskSettings& settings) noexcept
 {
-    if (settings.rules.empty())
+    if (settings.maskRules.empty())
         return true;
-    if (static_cast<std::size_t>(position) >= settings.rules.size())
+    if (static_cast<std::size_t>(position) >= settings.maskRules.size())
         return false;
-    switch (settings.rules[static_cast<std::size_t>(position)]) {
+    switch (settings.maskRules[static_cast<std::size_t>(position)]) {
     case u'?': return true;
     case u'#': return isDigit(key);
     case u'@': return isCapital(key);

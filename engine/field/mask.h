@@ -9,10 +9,10 @@
 namespace vela::engine {
 
 // An input position is one where `mask` holds `promptChar`; a prompt that is empty or longer than one character
-// makes none. Beyond the end of `mask` everything is literal, beyond the end of `rules` every key is refused.
+// makes none. Beyond the end of `mask` everything is literal, beyond the end of `maskRules` every key is refused.
 struct MaskSettings {
     std::u16string_view mask;       // "___-____"
-    std::u16string_view rules;      // "@@@-####"; empty: any digit or letter
+    std::u16string_view maskRules;  // "@@@-####"; empty: any digit or letter
     std::u16string_view promptChar; // "_"
     bool locked = false;
 };

@@ -152,8 +152,8 @@ std::optional<char16_t> symbolCharacter(std::u16string_view symbol) noexcept
 bool putKeyedAmount(std::u16string_view text, const NumberSettings& settings, std::u16string& into)
 {
     const Locale& locale = settings.locale;
-    if (settings.decimals != 2 || settings.decimal != u"," || settings.grouping == u"," || locale.decimal != u"," ||
-        locale.grouping != u"." || locale.negativeSign != u"-")
+    if (settings.qtdCasasDec != 2 || settings.displayDecimal != u"," || settings.grouping == u"," ||
+        locale.decimal != u"," || locale.grouping != u"." || locale.negativeSign != u"-")
         return false;
     const auto number = readPlainNumber(text, locale);
     if (!number || number->behindGrouping < 2)
@@ -180,11 +180,11 @@ bool putLive(std::u16string_view text, const NumberSettings& settings, LivePatte
         return true;
     if (text.empty() || !isNumeric(text, settings.locale))
         return false;
-    const Pattern* pattern = patterns.of(settings.decimal, settings.grouping, settings.decimals);
+    const Pattern* pattern = patterns.of(settings.displayDecimal, settings.grouping, settings.qtdCasasDec);
     if (pattern == nullptr)
         return false;
-    removeAll(settings.decimal, text, into);
-    shiftPoint(into, settings.decimals);
+    removeAll(settings.displayDecimal, text, into);
+    shiftPoint(into, settings.qtdCasasDec);
     if (const auto number = tryParseDouble(into, settings.locale)) { // a text that is no number stays as it is
         into.clear();
         pattern->format(*number, settings.locale, into);
@@ -199,11 +199,11 @@ void displayNumber(std::u16string_view text, const NumberSettings& settings, std
     into.clear();
     if (!isNumeric(text, settings.locale))
         return;
-    if (settings.decimal.empty()) {
+    if (settings.displayDecimal.empty()) {
         into.assign(text);
         return;
     }
-    const auto symbol = text.find(settings.decimal.front());
+    const auto symbol = text.find(settings.displayDecimal.front());
     const auto whole = text.substr(0, symbol);
     const auto typed = symbol == npos ? std::u16string_view() : text.substr(symbol + 1);
     TextWriter writer(into);
@@ -216,10 +216,10 @@ void displayNumber(std::u16string_view text, const NumberSettings& settings, std
     } else {
         putGrouped(whole, typed, settings.locale, writer, into);
     }
-    const auto places = static_cast<std::size_t>(std::max(settings.decimals, 0));
-    const bool padded = settings.insertZeros && places > typed.size();
+    const auto places = static_cast<std::size_t>(std::max(settings.qtdCasasDec, 0));
+    const bool padded = settings.inserirZeros && places > typed.size();
     if (symbol != npos || padded)
-        writer.put(settings.decimal.front());
+        writer.put(settings.displayDecimal.front());
     writer.put(typed);
     if (padded)
         writer.repeat(u'0', places - typed.size());

@@ -11,10 +11,10 @@
 namespace vela::engine {
 
 struct NumberSettings {
-    std::u16string_view decimal;  // the display decimal symbol: "", "." or ","
-    std::u16string_view grouping; // "", "." or ","
-    int decimals = 0;             // QtdCasasDec, 0..255
-    bool insertZeros = false;     // InserirZeros
+    std::u16string_view displayDecimal; // "", "." or ","
+    std::u16string_view grouping;       // "", "." or ","
+    int qtdCasasDec = 0;                // 0..255
+    bool inserirZeros = false;
     const Locale& locale;
 };
 
