@@ -146,32 +146,5 @@ TEST(Orders, WithoutAnObject)
     }
 }
 
-// Each operation of the platform fails once while a page is made, opened, edited and applied. The page answers
-// afterwards, and an object's property is old or new.
-TEST(Orders, AnyFaultOfThePlatformLeavesAUsablePage)
-{
-    for (const Order& order : orders) {
-        PageBench bench(order.page);
-        long faults = 0;
-        for (bool fired = true; fired; ++faults) {
-            bench.faults().failAt(faults + 1, {70, u"refused"});
-            static_cast<void>(errorOf([&] { bench.remake(); }));
-            if (bench.page) {
-                static_cast<void>(errorOf([&] { bench.open(); }));
-                static_cast<void>(errorOf([&] { bench.edit(); }));
-                static_cast<void>(errorOf([&] { bench.page->apply(); }));
-            }
-            fired = bench.faults().fired();
-            bench.faults().disarm();
-            if (!bench.page)
-                bench.remake();
-            bench.open();
-            EXPECT_FALSE(bench.page->changed());
-            EXPECT_TRUE(bench.page->apply());
-        }
-        EXPECT_GT(faults, 10) << order.written;
-    }
-}
-
 } // namespace
 } // namespace vela::pages

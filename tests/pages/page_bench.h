@@ -76,7 +76,6 @@ public:
     [[nodiscard]] headless::WidgetForm& headlessForm() { return static_cast<headless::WidgetForm&>(page->form()); }
     [[nodiscard]] platform::Desktop& desktop() { return machine_.desktop; }
     [[nodiscard]] headless::WidgetForms& forms() { return machine_.forms; }
-    [[nodiscard]] headless::FaultPlan& faults() { return machine_.faults; }
     [[nodiscard]] headless::SettingsStore& settings() { return machine_.settings; }
 
     RecordingObject object;
