@@ -6,7 +6,7 @@ check_code.py list          what is done with each block
 check_code.py pascal FOLDER writes the forms that `./test hosts:lazarus` compiles
 
 How each language is treated (a fence of any other language fails):
-  vela          run by manual_tests, which compares what it prints
+  vela          run by vela-console, what it prints compared
   vbs, js       run by cscript, what they print compared
   cpp           compiled as its head says or with the system's libraries, run with --values, what it prints compared
   csharp        compiled with Mono's compiler, and replayed
@@ -68,6 +68,15 @@ def all_blocks():
 
 # --- What needs no Windows.
 
+CONSOLE = TOP / "build/native-asan/vela-console"
+
+
+def check_example(block):
+    printed = run([CONSOLE, written(block, ".vela")])[1]
+    if printed != block.output:
+        raise ValueError(f"{block}: it printed\n{printed}")
+
+
 def check_shell(block):
     script = written(block, ".sh")
     must(block, ["bash", "-n", script])
@@ -80,7 +89,7 @@ def check_pipeline(block, script):
     folder = WORK / "pipeline"
     (folder / "forms").mkdir(parents=True, exist_ok=True)
     form = next(other.code for other in fences(TOP / block.place) if re.search(r"(?m)^expect .*1\.234,50", other.code))
-    path = f"{TOP}/build/native-asan:{os.environ['PATH']}"
+    path = f"{CONSOLE.parent}:{os.environ['PATH']}"
     for code, expected in ((form, 0), (form.replace("1.234,50", "1.234,51"), 1)):
         (folder / "forms/form.vela").write_text(code, encoding="utf-8")
         if run(["bash", script], cwd=folder, env={**os.environ, "PATH": path})[0] != expected:
@@ -127,7 +136,7 @@ def check_identities(block):
             raise ValueError(f"{block}: an unknown identity: {identity}")
 
 
-NATIVE = {"sh": check_shell, "xml": check_xml, "reg": check_registry, "cmd": check_commands, "vbp": check_project,
+NATIVE = {"vela": check_example, "sh": check_shell, "xml": check_xml, "reg": check_registry, "cmd": check_commands, "vbp": check_project,
           "csharp": check_csharp}
 
 
@@ -296,7 +305,7 @@ def pascal_units(folder):
 
 
 def tell():
-    how = {"vela": "run by manual_tests", "vbs": "run by cscript", "js": "run by cscript", "cpp": "compiled and run",
+    how = {"vela": "run by vela-console", "vbs": "run by cscript", "js": "run by cscript", "cpp": "compiled and run",
            "csharp": "compiled by mcs and replayed", "cmd": "known commands; registrations run", "sh": "bash -n; the pipeline's step run", "xml": "parsed",
            "reg": "parsed", "vbp": "identity compared", "text": "no code"}
     for block in all_blocks():
