@@ -5,7 +5,6 @@
 #include "engine/text/conversions.h"
 #include "engine/text/pattern.h"
 #include "platform/win32/environment.h"
-#include "tests/differential/system_library.h"
 
 #include <cmath>
 #include <cstdio>

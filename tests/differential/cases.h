@@ -1,13 +1,16 @@
-// One comparison between the engine and a judge, and what either answers.
+// One comparison between the engine and a judge, what either answers, and where the questions come from.
 #pragma once
 
 #include "engine/text/locale.h"
 
 #include <array>
+#include <filesystem>
 #include <optional>
+#include <random>
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace vela::differential {
 
@@ -66,6 +69,25 @@ struct Request {
 
 // From now on the engine's answers to this question are wrong in one of five ways, 0 to 4; nothing: right again.
 void sabotage(std::optional<Question> question, unsigned kind = 0);
+
+// The system's automation library as the judge: each question answered in its locale.
+[[nodiscard]] Outcome systemOutcome(const Case& asked);
+[[nodiscard]] LocaleIndex userLocale(); // fixed decimals are written in the user's own locale: the library takes none
+[[nodiscard]] double systemToday();
+
+// Answers seen on Windows, as data: the second judge.
+struct SeenValue {
+    Request request; // in the engine's fixed locale where there is one
+    Outcome answer;
+};
+// Raises std::runtime_error with the line that it cannot read.
+[[nodiscard]] std::vector<SeenValue> seenValues(const std::filesystem::path& file);
+// Dates are given to the second, numbers to their last digits.
+[[nodiscard]] bool agreeWithSeen(const SeenValue& seen, const Outcome& outcome);
+
+// A random case of one question, in the shapes that fields meet.
+using Random = std::mt19937;
+[[nodiscard]] Case randomCase(Question question, Random& random);
 
 [[nodiscard]] std::string describe(const Case& asked);
 [[nodiscard]] std::string describe(const Outcome& outcome);

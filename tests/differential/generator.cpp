@@ -1,5 +1,5 @@
 // Random numbers, texts and patterns; the limits of each are in the lists of chosen values.
-#include "tests/differential/generator.h"
+#include "tests/differential/cases.h"
 
 #include <cmath>
 #include <vector>

@@ -4,7 +4,6 @@
 #include "engine/error.h"
 #include "engine/text/conversions.h"
 #include "engine/text/pattern_compiler.h"
-#include "tests/differential/system_library.h"
 
 #include <algorithm>
 #include <cmath>
@@ -397,11 +396,34 @@ constexpr KnownDifference differences[] = {
      [](Request& request) { request.locale.currencyPositive = request.locale.currencyNegative = 0; }},
 };
 
+// The search for those behind one disagreement.
+constexpr std::size_t mostTogether = 4;
+
+using Found = std::vector<const KnownDifference*>;
+
+bool search(const Request& request, const Outcome& theirs, std::size_t first, std::size_t depth, Found& found)
+{
+    for (std::size_t i = first; i < std::size(differences) && !request.answer; ++i) {
+        if (!differences[i].applies(request))
+            continue;
+        found.push_back(&differences[i]);
+        Request altered = request;
+        differences[i].alter(altered);
+        if (depth == 1 ? agree(engineOutcome(altered), theirs) : search(altered, theirs, i + 1, depth - 1, found))
+            return true;
+        found.pop_back();
+    }
+    return false;
+}
+
 } // namespace
 
-std::span<const KnownDifference> knownDifferences()
+Found explain(const Request& request, const Outcome& theirs)
 {
-    return differences;
+    Found found;
+    for (std::size_t depth = 1; depth <= mostTogether && found.empty(); ++depth)
+        search(request, theirs, 0, depth, found);
+    return found;
 }
 
 } // namespace vela::differential

@@ -3,7 +3,6 @@
 
 #include "tests/differential/cases.h"
 
-#include <span>
 #include <string_view>
 #include <vector>
 
@@ -20,7 +19,5 @@ struct KnownDifference {
 
 // The fewest known differences, at most four, that together predict the library's answer; none when it is unlisted.
 [[nodiscard]] std::vector<const KnownDifference*> explain(const Request& request, const Outcome& theirs);
-
-[[nodiscard]] std::span<const KnownDifference> knownDifferences();
 
 } // namespace vela::differential

@@ -2,10 +2,7 @@
 // on COUNT random cases and a table of answers seen on Windows; where those two differ, the table is right. Exit status
 // 1 when a difference is not a known one. --no-list knows none; --sabotage makes the engine's answers wrong, one kind
 // after the other, and fails when fewer than 99 of 100 wrong answers are noticed.
-#include "tests/differential/generator.h"
 #include "tests/differential/known_differences.h"
-#include "tests/differential/system_library.h"
-#include "tests/differential/table.h"
 
 #include <cstdio>
 #include <cstdlib>

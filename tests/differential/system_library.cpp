@@ -1,5 +1,5 @@
 // Calls into oleaut32.
-#include "tests/differential/system_library.h"
+#include "tests/differential/cases.h"
 
 #include <windows.h>
 

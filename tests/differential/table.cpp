@@ -1,8 +1,7 @@
 // One line a value, its parts between tabs: kind, locale, input, pattern, answer.
-#include "tests/differential/table.h"
+#include "tests/differential/cases.h"
 
 #include "engine/text/calendar_date.h"
-#include "tests/differential/system_library.h"
 
 #include <algorithm>
 #include <array>
