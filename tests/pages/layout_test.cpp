@@ -1,6 +1,6 @@
 // The layout tables: everything in its place, reachable by keyboard, and named as scripts name it.
+#include "apps/console/script_line.h"
 #include "pages/layouts.h"
-
 #include "pages/spoken_names.h"
 
 #include <gtest/gtest.h>
@@ -17,23 +17,9 @@ using platform::FormLayout;
 using platform::WidgetKind;
 using platform::WidgetRow;
 
-std::string narrow(std::u16string_view text)
-{
-    std::string out;
-    for (const char16_t unit : text)
-        out += unit < 128 ? static_cast<char>(unit) : '?';
-    return out;
-}
-
 std::string label(const FormLayout& layout, const WidgetRow& row)
 {
-    return narrow(layout.name) + "." + narrow(row.name) + "(" + std::to_string(row.index) + ")";
-}
-
-const WidgetRow* find(const FormLayout& layout, std::u16string_view name)
-{
-    const auto found = std::ranges::find(layout.rows, name, &WidgetRow::name);
-    return found == layout.rows.end() ? nullptr : &*found;
+    return console::toUtf8(layout.name) + "." + console::toUtf8(row.name) + "(" + std::to_string(row.index) + ")";
 }
 
 bool standTogether(const WidgetRow& a, const WidgetRow& b)
@@ -63,35 +49,29 @@ char16_t accessKey(const WidgetRow& row)
 
 class Layouts : public testing::TestWithParam<const FormLayout*> {};
 
-TEST_P(Layouts, EveryRowStandsInsideItsContainer)
+TEST_P(Layouts, EveryRowStandsInsideItsContainerAndApartFromOthers)
 {
     const FormLayout& layout = *GetParam();
     for (const WidgetRow& row : layout.rows) {
-        const WidgetRow* parent = row.parent.empty() ? nullptr : find(layout, row.parent);
-        ASSERT_EQ(row.parent.empty(), parent == nullptr) << label(layout, row);
+        SCOPED_TRACE(label(layout, row));
+        const platform::WidgetId container = platform::findWidget(layout, row.parent);
+        const WidgetRow* parent = container ? &layout.rows[static_cast<std::size_t>(container.value)] : nullptr;
+        ASSERT_EQ(row.parent.empty(), parent == nullptr);
         if (parent) {
-            EXPECT_EQ(parent->kind, WidgetKind::frame) << label(layout, row);
-            EXPECT_LT(parent, &row) << label(layout, row);
-            EXPECT_EQ(parent->tab, row.tab) << label(layout, row);
+            EXPECT_EQ(parent->kind, WidgetKind::frame);
+            EXPECT_LT(parent, &row);
+            EXPECT_EQ(parent->tab, row.tab);
         }
-        EXPECT_GT(row.place.width, 0) << label(layout, row);
-        EXPECT_GE(row.place.left, parent ? 90 : 0) << label(layout, row);
-        EXPECT_GE(row.place.top, parent ? 225 : 0) << label(layout, row);
-        EXPECT_LE(row.place.left + row.place.width, parent ? parent->place.width - 60 : layout.width)
-            << label(layout, row);
-        EXPECT_LE(row.place.top + row.place.height, parent ? parent->place.height - 60 : layout.height)
-            << label(layout, row);
-    }
-}
-
-TEST_P(Layouts, NoTwoRowsOverlap)
-{
-    const FormLayout& layout = *GetParam();
-    for (const WidgetRow& a : layout.rows)
-        for (const WidgetRow& b : layout.rows)
-            if (&a < &b && standTogether(a, b) && !mayOverlap(a, b)) {
-                EXPECT_FALSE(overlap(a.place, b.place)) << label(layout, a) << " " << label(layout, b);
+        EXPECT_GT(row.place.width, 0);
+        EXPECT_GE(row.place.left, parent ? 90 : 0);
+        EXPECT_GE(row.place.top, parent ? 225 : 0);
+        EXPECT_LE(row.place.left + row.place.width, parent ? parent->place.width - 60 : layout.width);
+        EXPECT_LE(row.place.top + row.place.height, parent ? parent->place.height - 60 : layout.height);
+        for (const WidgetRow& other : layout.rows)
+            if (&row < &other && standTogether(row, other) && !mayOverlap(row, other)) {
+                EXPECT_FALSE(overlap(row.place, other.place)) << label(layout, other);
             }
+    }
 }
 
 TEST_P(Layouts, NamesAreUniqueAndAccessKeysAreUniqueOnATab)
@@ -99,35 +79,30 @@ TEST_P(Layouts, NamesAreUniqueAndAccessKeysAreUniqueOnATab)
     const FormLayout& layout = *GetParam();
     std::set<std::pair<std::u16string_view, int>> names;
     std::map<std::pair<int, char16_t>, std::string> keys;
-    for (const WidgetRow& row : layout.rows) {
-        EXPECT_TRUE(names.insert({row.name, row.index}).second) << label(layout, row);
-        EXPECT_EQ(row.caption.find(u'&'), std::u16string_view::npos) << label(layout, row);
+    for (std::size_t i = 0; i < layout.rows.size(); ++i) {
+        const WidgetRow& row = layout.rows[i];
+        SCOPED_TRACE(label(layout, row));
+        EXPECT_TRUE(names.insert({row.name, row.index}).second);
+        EXPECT_EQ(row.caption.find(u'&'), std::u16string_view::npos);
         const char16_t key = accessKey(row);
         if (!key)
             continue;
-        EXPECT_NE(row.caption.find(row.accessKey), std::u16string_view::npos) << label(layout, row);
+        EXPECT_NE(row.caption.find(row.accessKey), std::u16string_view::npos);
         for (int tab = row.tab < 0 ? -1 : row.tab; tab <= (row.tab < 0 ? 3 : row.tab); ++tab) {
             const auto [place, added] = keys.insert({{tab, key}, label(layout, row)});
-            EXPECT_TRUE(added) << label(layout, row) << " takes the key of " << place->second;
+            EXPECT_TRUE(added) << "takes the key of " << place->second;
+        }
+        if (row.kind == WidgetKind::label) { // it hands the focus to the row behind it
+            ASSERT_LT(i + 1, layout.rows.size());
+            EXPECT_TRUE(takesFocus(layout.rows[i + 1].kind));
         }
     }
-}
-
-// A label with an access key hands the focus to the row behind it.
-TEST_P(Layouts, AccessKeysOfLabelsLeadToAControl)
-{
-    const FormLayout& layout = *GetParam();
-    for (std::size_t i = 0; i < layout.rows.size(); ++i)
-        if (layout.rows[i].kind == WidgetKind::label && accessKey(layout.rows[i])) {
-            ASSERT_LT(i + 1, layout.rows.size());
-            EXPECT_TRUE(takesFocus(layout.rows[i + 1].kind)) << label(layout, layout.rows[i]);
-        }
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Layouts,
                          testing::Values(&principalLayout(), &geralLayout(), &errosLayout(), &fonteLayout(),
                                          &calendarioLayout(), &paletaLayout()),
-                         [](const auto& layout) { return narrow(layout.param->name); });
+                         [](const auto& layout) { return console::toUtf8(layout.param->name); });
 
 // Its label's text, in a frame's own group; what shows its own words needs none.
 TEST_P(Layouts, EveryBoxAndListIsSpokenOf)
