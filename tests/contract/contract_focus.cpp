@@ -1,4 +1,4 @@
-// The contract of the focus: the order of leaving and entering, asking for it back, and hosts that destroy.
+// The contract of the focus: the order of leaving and entering, and asking for it back.
 #include "tests/contract/form_case.h"
 
 namespace vela::contract {
@@ -47,36 +47,6 @@ TEST_F(FocusContract, AFieldThatAsksWhileItIsLeftKeepsTheFocusAndTheNextSeesNoth
     EXPECT_EQ(focusLog(), (Log{"A lost", "A got", "A lost", "A got", "A lost", "B got"}));
 }
 
-TEST_F(FocusContract, TwoFieldsThatBothAskDoNotLoop)
-{
-    first.during("lost", [this] { box(0).takeFocus(); });
-    second.during("lost", [this] { box(1).takeFocus(); });
-    stage->focus(0);
-    log.clear();
-    stage->focus(1);
-    EXPECT_EQ(focusLog(), (Log{"A lost", "A got"}));
-    EXPECT_TRUE(box(0).hasFocus());
-}
-
-TEST_F(FocusContract, AFieldThatIsDisabledIsLeftForNowhereAndNotGivenTheFocusBack)
-{
-    first.during("lost", [this] { box(0).takeFocus(); });
-    stage->focus(0);
-    platform::EditTraits traits = box(0).traits();
-    traits.enabled = false;
-    box(0).putTraits(traits);
-    stage->field(0).putEnabled(false);
-    stage->settle();
-    EXPECT_EQ(focusLog(), (Log{"A got", "A lost"}));
-    EXPECT_EQ(first.lastLeaving, platform::Leaving::away);
-    EXPECT_FALSE(box(0).hasFocus());
-    stage->type(u"x");
-    EXPECT_EQ(text(0), u"");
-    stage->focus(1);
-    EXPECT_EQ(focusLog(), (Log{"A got", "A lost", "B got"}));
-    EXPECT_EQ(first.lastLeaving, platform::Leaving::away);
-}
-
 TEST_F(FocusContract, AClickThatIsNotGrantedIsNoClick)
 {
     stage->focus(0);
@@ -102,28 +72,6 @@ TEST_F(FocusContract, ATabAskedForIsCarriedOutAfterTheKey)
     stage->type(u"b");
     stage->settle();
     EXPECT_EQ(only({"press", "changed", "lost", "got"}), (Log{"B press", "B lost", "A got"}));
-}
-
-TEST_F(FocusContract, AHostMayDestroyTheFieldInsideAnyReport)
-{
-    for (const char* report : {"down", "press", "changed", "up", "lost", "got", "clicked"}) {
-        stage = std::make_unique<Stage>();
-        Recorder doomed{log, "A"};
-        doomed.box = &stage->field(0).activate(platform::EditBoxKind::singleLine);
-        stage->listen(0, doomed, doomed);
-        stage->field(0).arrange({.edit = {0, 0, 121, 21}});
-        doomed.during(report, [this] { stage->destroyField(0); });
-        stage->focus(0);
-        if (std::string_view(report) != "got") {
-            stage->type(u"a");
-            if (std::string_view(report) == "clicked")
-                stage->click(0);
-            stage->focusPlain();
-        }
-        EXPECT_EQ(log.back(), std::string("A ") + report);
-        log.clear();
-    }
-    stage = std::make_unique<Stage>();
 }
 
 } // namespace

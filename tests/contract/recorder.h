@@ -19,16 +19,11 @@ public:
     std::function<void(int&)> filter; // of key-press
     std::function<void(int&)> keyFilter;
     std::u16string lastPasted;
-    platform::Leaving lastLeaving = platform::Leaving::within;
     std::u16string removed, inserted; // of the last edit, its views read at once
     platform::Edit lastEdit;
 
     void gotFocus() override { tell("got"); }
-    void lostFocus(platform::Leaving leaving) override
-    {
-        lastLeaving = leaving;
-        tell("lost");
-    }
+    void lostFocus(platform::Leaving) override { tell("lost"); }
     void keyDown(int& code, int&) override
     {
         if (keyFilter)
