@@ -8,47 +8,41 @@ namespace {
 
 using engine::Colour;
 
-struct Mark {
-    PageKind page;
-    std::u16string control;
-    bool marks;
-};
-
 TEST(ChangedFlag, IsSetByEditsOnly)
 {
-    const Mark marks[] = {
-        {PageKind::ppPrincipal, u"cboTextType", true},
-        {PageKind::ppPrincipal, u"txtSimboloMonetario", true},
-        {PageKind::ppPrincipal, u"PicCorNegativa", true},
-        {PageKind::ppPrincipal, u"chkInserirZeros", true},
-        {PageKind::ppPrincipal, u"cboDataRetorno04", true},
-        {PageKind::ppPrincipal, u"chkTextoLivre", true},
-        {PageKind::ppPrincipal, u"cmdHelpPromptChar", false},
-        {PageKind::ppGeral, u"chkSendTab", true},
-        {PageKind::ppGeral, u"txtDelimitador04", true},
-        {PageKind::ppGeral, u"PicCorFundoGot", true},
-        {PageKind::ppGeral, u"optLost", false},
-        {PageKind::ppGeral, u"cmdHelpDelimitador", false},
-        {PageKind::ppErros, u"chkExibirAlertaPadrao", true},
-        {PageKind::ppErros, u"chkErrorFocus", true},
-        {PageKind::ppErros, u"PicCor", true},
-        {PageKind::ppErros, u"CmdHelpErroAlert", false},
-        {PageKind::ppFonte, u"CboFontName", true},
-        {PageKind::ppFonte, u"txtSize", true},
-        {PageKind::ppFonte, u"Cortado", true},
-        {PageKind::ppFonte, u"cmdTeste", false},
+    struct Row {
+        PageKind page;
+        std::vector<std::u16string> marking, others;
     };
-    for (const Mark& mark : marks) {
-        PageBench bench(mark.page);
+    const Row rows[] = {
+        {PageKind::ppPrincipal,
+         {u"cboTextType", u"txtSimboloMonetario", u"PicCorNegativa", u"chkInserirZeros", u"cboDataRetorno04",
+          u"chkTextoLivre"},
+         {u"cmdHelpPromptChar"}},
+        {PageKind::ppGeral,
+         {u"chkSendTab", u"txtDelimitador04", u"PicCorFundoGot"},
+         {u"optLost", u"cmdHelpDelimitador"}},
+        {PageKind::ppErros, {u"chkExibirAlertaPadrao", u"chkErrorFocus", u"PicCor"}, {u"CmdHelpErroAlert"}},
+        {PageKind::ppFonte, {u"CboFontName", u"txtSize", u"Cortado"}, {u"cmdTeste"}},
+    };
+    const auto expectMark = [](PageKind page, const std::u16string& control, bool marks) {
+        SCOPED_TRACE(utf8(control));
+        PageBench bench(page);
         bench.open();
         ASSERT_FALSE(bench.page->changed());
         bench.colour = Colour{0x00123456};
-        bench.act(mark.control);
-        EXPECT_EQ(bench.page->changed(), mark.marks) << utf8(mark.control);
-        EXPECT_EQ(bench.marked, mark.marks) << utf8(mark.control);
+        bench.act(control);
+        EXPECT_EQ(bench.page->changed(), marks);
+        EXPECT_EQ(bench.marked, marks);
         bench.open();
-        EXPECT_FALSE(bench.page->changed()) << utf8(mark.control);
-        EXPECT_FALSE(bench.marked) << utf8(mark.control);
+        EXPECT_FALSE(bench.page->changed());
+        EXPECT_FALSE(bench.marked);
+    };
+    for (const Row& row : rows) {
+        for (const std::u16string& control : row.marking)
+            expectMark(row.page, control, true);
+        for (const std::u16string& control : row.others)
+            expectMark(row.page, control, false);
     }
 }
 
