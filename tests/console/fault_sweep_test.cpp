@@ -20,20 +20,11 @@ struct Scenario {
     const char* act;
 };
 
-constexpr const char* price = R"(
-set f TextType Numerico
-set f QtdCasasDec 2
-set f SimbolDecExib Virgula
-set f SimbolAgrupMilhar Ponto
-set f SimboloMonetario "R$ "
-set f Text "1234,5"
-)";
-constexpr const char* date = R"(
-set f TextType Data
-set f DateFormat "dd/mm/yyyy"
-set f ErrorAlert True
-set f ShowButtonCalendario True
-)";
+constexpr const char* price =
+    "load f TextType=Numerico QtdCasasDec=2 SimbolDecExib=Virgula SimbolAgrupMilhar=Ponto SimboloMonetario=\"R$ \" "
+    "AutoSelect=True\nset f Text \"1234,5\"";
+constexpr const char* date =
+    "load f TextType=Data DateFormat=\"dd/mm/yyyy\" ErrorAlert=True ShowButtonCalendario=True AutoSelect=True";
 
 const Scenario scenarios[] = {
     {"new", "", "new f"},
@@ -46,8 +37,7 @@ const Scenario scenarios[] = {
     {"enter", price, "focus f"},
     {"enter with a tip", "new f\nset f ToolTipGotFocus \"tip\"\nset f Text \"abc\"", "focus f"},
     {"type a number", price, "focus f\nkeys \"{END}12{BACKSPACE},{LEFT}3\""},
-    {"type an amount",
-     "new f\nset f TextType Numerico\nset f SimbolDecExib Virgula\nset f QtdCasasDec 2\nset f MaskToNumeric True",
+    {"type an amount", "load f TextType=Numerico SimbolDecExib=Virgula QtdCasasDec=2 MaskToNumeric=True",
      "focus f\nkeys \"1234\"\npaste \"567\""},
     {"type a date", date, "focus f\nkeys \"{HOME}29022024{BACKSPACE}{LEFT}{DELETE}{RIGHT}\""},
     {"leave a number", price, "focus f\nfocus none"},
@@ -101,7 +91,8 @@ std::string setupOf(const Scenario& scenario)
 {
     const std::string setup = scenario.setup;
     const std::string act = scenario.act;
-    const bool makesOne = act.starts_with("new ") || act.starts_with("load ") || setup.starts_with("new ");
+    const bool makesOne =
+        act.starts_with("new ") || act.starts_with("load ") || setup.starts_with("new ") || setup.starts_with("load ");
     return "trace none\nclock #2024-02-29 14:05:33#\n" + std::string(makesOne ? "" : "new f\n") + setup + "\n";
 }
 
