@@ -14,6 +14,10 @@ struct Order {
     std::string written;
 };
 
+const std::string fonte = "FontName FontSize FontBold FontItalic FontUnderline FontStrikethru";
+const std::string calendario = "Calendar_BackColor Calendar_ComboBackColor Calendar_DayActive Calendar_DayInactive "
+                               "Calendar_ColorWeekDay Calendar_FormBackcolor Calendar_Selected";
+
 const Order orders[] = {
     {PageKind::ppPrincipal,
      "TextType SimboloMonetario SimbolDecExib SimbolDecRet SimbolAgrupMilhar QtdCasasDec CorValorNeg CorValorPos "
@@ -31,13 +35,8 @@ const Order orders[] = {
      "Delimitador04 UpTAB"},
     {PageKind::ppErros, "Error_ForeColor ErrorAlert ErrorFocus ErrorMsgCustom ErrorTextClear ErrorTextMessage",
      "ErrorAlert ErrorFocus ErrorMsgCustom ErrorTextClear ErrorTextMessage Error_ForeColor"},
-    {PageKind::ppFonte, "FontName FontSize FontBold FontItalic FontUnderline FontStrikethru",
-     "FontName FontSize FontBold FontItalic FontUnderline FontStrikethru"},
-    {PageKind::ppCalendario,
-     "Calendar_BackColor Calendar_ComboBackColor Calendar_DayActive Calendar_DayInactive Calendar_ColorWeekDay "
-     "Calendar_FormBackcolor Calendar_Selected",
-     "Calendar_BackColor Calendar_ComboBackColor Calendar_DayActive Calendar_DayInactive Calendar_ColorWeekDay "
-     "Calendar_FormBackcolor Calendar_Selected"},
+    {PageKind::ppFonte, fonte, fonte},
+    {PageKind::ppCalendario, calendario, calendario},
 };
 
 // Of `names` those that `promised` holds: properties that were added later may stand anywhere between them.

@@ -197,26 +197,17 @@ TEST_F(PopupsTest, ATickWithoutTheForegroundClosesAndGivesTheFocusBack)
 
 TEST_F(PopupsTest, AFailingForegroundCheckIsLoggedUnlessTheSiteIsGone)
 {
-    struct Row {
-        int number;
-        bool logged;
-    };
-    for (const Row row : {Row{91, true}, Row{398, false}}) {
-        owner.failingParent = 0;
-        popups.openCalendar(owner);
-        owner.failingParent = row.number;
-        recorder.lines.clear();
-        machine.forms.tick();
-        EXPECT_EQ(recorder.lines.front().ends_with("91 \"parent gone\" \"Procedimento: CJA\""), row.logged);
-        EXPECT_EQ(recorder.lines.back(), "close calendar");
-        owner.failingParent = 0;
-        popups.openCalculator(owner);
-        owner.failingParent = row.number;
-        recorder.lines.clear();
-        machine.forms.tick();
-        EXPECT_EQ(recorder.lines.front().ends_with("91 \"parent gone\" \"Procedimento: Calculadora\""), row.logged);
-        EXPECT_EQ(recorder.lines.back(), "close calculator");
-    }
+    for (const int number : {91, 398})
+        for (const bool calendar : {true, false}) {
+            owner.failingParent = 0;
+            calendar ? popups.openCalendar(owner) : popups.openCalculator(owner);
+            owner.failingParent = number;
+            recorder.lines.clear();
+            machine.forms.tick();
+            const std::string logged = calendar ? "\"Procedimento: CJA\"" : "\"Procedimento: Calculadora\"";
+            EXPECT_EQ(recorder.lines.front().ends_with("91 \"parent gone\" " + logged), number == 91);
+            EXPECT_EQ(recorder.lines.back(), calendar ? "close calendar" : "close calculator");
+        }
 }
 
 TEST_F(PopupsTest, HighlightsAreCountedToTheirLimit)
@@ -250,13 +241,8 @@ TEST_F(PopupsTest, TheColoursAreThoseOfTheProcess)
     EXPECT_EQ(calendarForm().look(calendar_widget::frame).top, day.place.top - 30);
 }
 
-TEST(PopupFaults, AFailingLoadIsToldAndTheCalendarWorks)
+TEST_F(PopupsTest, AFailingLoadIsToldAndTheCalendarWorks)
 {
-    Recorder recorder;
-    headless::Machine machine{recorder};
-    machine.clock.freeze(engine::makeDate({2024, 3, 15}));
-    ScriptedOwner owner;
-    Popups popups(machine.environment, machine.forms);
     machine.faults.failAt(4, engine::Error{7, u"Out of memory"}); // past making and hiding: a colour
     popups.openCalendar(owner);
     ASSERT_FALSE(recorder.lines.empty());
@@ -265,21 +251,19 @@ TEST(PopupFaults, AFailingLoadIsToldAndTheCalendarWorks)
     EXPECT_EQ(owner.puts, (std::vector<engine::Value>{std::u16string(u"15/03/2024")}));
 }
 
-TEST(PopupFaults, TheCalculatorPassesOverARefusedValueAndTellsOtherFailures)
+TEST_F(PopupsTest, TheCalculatorPassesOverARefusedValueAndTellsOtherFailures)
 {
     for (const int number : {380, 5}) {
-        Recorder recorder;
-        headless::Machine machine{recorder};
-        ScriptedOwner owner;
-        Popups popups(machine.environment, machine.forms);
+        recorder.lines.clear();
         machine.faults.failAt(2, engine::Error{number, u"refused"});
         popups.openCalculator(owner);
         EXPECT_EQ(recorder.lines.front() == "msgbox information \"Vela.Load\" \"5-refused\" -> ok", number == 5);
         EXPECT_EQ(recorder.lines.back(), "open calculator 100 221 110 109");
+        popups.closeAll();
     }
 }
 
-TEST(CCalendar, KeepsItsSelectedDate)
+TEST_F(PopupsTest, ACalendarOfItsOwnKeepsItsSelectedDate)
 {
     const struct {
         const char* name;
@@ -292,9 +276,7 @@ TEST(CCalendar, KeepsItsSelectedDate)
         {"no date: told, and it stays usable", u"2024-02-29", u"2024-02-29", 1},
     };
     for (const auto& row : rows) {
-        Recorder recorder;
-        headless::Machine machine{recorder};
-        machine.clock.freeze(engine::makeDate({2024, 3, 15}));
+        recorder.lines.clear();
         const SharedCalendarColours colours;
         cCalendar calendar(machine.environment, machine.forms, colours);
         headless::PropertyBag bag;
@@ -316,10 +298,8 @@ TEST(CCalendar, KeepsItsSelectedDate)
     }
 }
 
-TEST(CCalendar, ItsLimitIsAThousand)
+TEST_F(PopupsTest, TheLimitOfACalendarOfItsOwnIsAThousand)
 {
-    Recorder recorder;
-    headless::Machine machine{recorder};
     const SharedCalendarColours colours;
     cCalendar calendar(machine.environment, machine.forms, colours);
     calendar.initNew();
