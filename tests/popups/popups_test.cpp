@@ -187,6 +187,7 @@ TEST_F(PopupsTest, ATickWithoutTheForegroundClosesAndGivesTheFocusBack)
         owner.focusTaken = 0;
         popups.openCalendar(owner);
         EXPECT_TRUE(popups.isOpenFor(owner));
+        EXPECT_FALSE(popups.isOpenFor(ScriptedOwner()));
         machine.desktop.retire(calendarForm()); // no notice of it, as when another program comes forward
         machine.forms.tick();
         EXPECT_FALSE(popups.isOpenFor(owner));
