@@ -2,6 +2,7 @@
 #include "automation.h"
 
 #include <gtest/gtest.h>
+#include <olectl.h>
 
 #include <algorithm>
 
@@ -38,6 +39,39 @@ Variant number(std::int32_t value)
 Variant truth(bool value)
 {
     return given(VT_BOOL, value ? VARIANT_TRUE : VARIANT_FALSE);
+}
+
+Variant object(IDispatch* value)
+{
+    return given(VT_DISPATCH, reinterpret_cast<std::intptr_t>(ComPtr<IDispatch>(value).Detach()));
+}
+
+ComPtr<IFontDisp> font(const wchar_t* name, int size, bool bold)
+{
+    FONTDESC description{};
+    description.cbSizeofstruct = sizeof description;
+    description.lpstrName = const_cast<wchar_t*>(name);
+    description.cySize.int64 = size * 10000;
+    description.sWeight = bold ? FW_BOLD : FW_NORMAL;
+    ComPtr<IFontDisp> made;
+    EXPECT_EQ(OleCreateFontIndirect(&description, IID_PPV_ARGS(&made)), S_OK);
+    return made;
+}
+
+std::vector<Variant> one(Variant argument)
+{
+    std::vector<Variant> arguments;
+    arguments.push_back(std::move(argument));
+    return arguments;
+}
+
+std::u16string errorText()
+{
+    ComPtr<IErrorInfo> info;
+    Bstr description;
+    if (GetErrorInfo(0, &info) != S_OK || FAILED(info->GetDescription(description.put())))
+        return {};
+    return std::u16string(description.text());
 }
 
 Automation::Automation(IUnknown* object) : object_(query<IDispatch>(object)) {}
@@ -82,9 +116,7 @@ Outcome Automation::get(std::u16string_view name) const
 
 Outcome Automation::put(std::u16string_view name, Variant value) const
 {
-    std::vector<Variant> arguments;
-    arguments.push_back(std::move(value));
-    return invoke(id(name).value_or(DISPID_UNKNOWN), DISPATCH_PROPERTYPUT, std::move(arguments));
+    return invoke(id(name).value_or(DISPID_UNKNOWN), DISPATCH_PROPERTYPUT, one(std::move(value)));
 }
 
 void Automation::set(std::initializer_list<Setting> settings) const
@@ -105,6 +137,11 @@ std::u16string Automation::textOf(std::u16string_view name) const
         FAILED(VariantChangeType(&outcome.value.ref(), &outcome.value.ref(), VARIANT_ALPHABOOL, VT_BSTR)))
         return u"?";
     return std::u16string(asText({outcome.value.get().bstrVal, SysStringLen(outcome.value.get().bstrVal)}));
+}
+
+HWND Automation::window(std::u16string_view name) const
+{
+    return reinterpret_cast<HWND>(static_cast<LONG_PTR>(get(name).value.get().lVal));
 }
 
 } // namespace vela::test

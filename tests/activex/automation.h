@@ -17,6 +17,14 @@ namespace vela::test {
 [[nodiscard]] Variant text(std::u16string_view value);
 [[nodiscard]] Variant number(std::int32_t value);
 [[nodiscard]] Variant truth(bool value);
+[[nodiscard]] Variant object(IDispatch* value);
+[[nodiscard]] ComPtr<IFontDisp> font(const wchar_t* name, int size, bool bold);
+
+// One argument of a call.
+[[nodiscard]] std::vector<Variant> one(Variant argument);
+
+// What the last failure of this thread said; empty when it said nothing.
+[[nodiscard]] std::u16string errorText();
 
 using Setting = std::pair<std::u16string_view, std::variant<std::u16string_view, std::int32_t, bool>>;
 
@@ -40,6 +48,7 @@ public:
     Outcome call(std::u16string_view name, std::vector<Variant> arguments = {}) const;
 
     [[nodiscard]] std::u16string textOf(std::u16string_view name) const; // converted to text, "?" when it fails
+    [[nodiscard]] HWND window(std::u16string_view name) const;           // a property that is a window's handle
     [[nodiscard]] IDispatch* dispatch() const noexcept { return object_.Get(); }
 
 private:

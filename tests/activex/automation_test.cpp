@@ -15,16 +15,6 @@ namespace vela::test {
 
 namespace {
 
-TEST(Automation, NamesAreFoundInAnyCase)
-{
-    const Automation control(create().Get());
-    EXPECT_EQ(control.id(u"text"), 0);
-    EXPECT_EQ(control.id(u"HWND"), -515);
-    EXPECT_EQ(control.id(u"hwndctl"), control.id(u"HwndCtl"));
-    EXPECT_EQ(control.id(u"Texto"), std::nullopt);
-    EXPECT_EQ(control.id(u""), std::nullopt);
-}
-
 VARTYPE variantTypeOf(control::PropertyType type)
 {
     using control::PropertyType;
@@ -103,18 +93,13 @@ TEST(Automation, PutsTakeEveryKindOfVariant)
     }
 }
 
-Variant sharedBy(IDispatch* object)
-{
-    return given(VT_DISPATCH, reinterpret_cast<std::intptr_t>(ComPtr<IDispatch>(object).Detach()));
-}
-
 TEST(Automation, ByReferenceAndDefaultProperties)
 {
     const Automation control(create().Get());
     const Automation other(create().Get());
     ASSERT_EQ(other.put(u"Text", text(u"do outro")).result, S_OK);
 
-    EXPECT_EQ(control.put(u"NomeCampo", sharedBy(other.dispatch())).result, S_OK);
+    EXPECT_EQ(control.put(u"NomeCampo", object(other.dispatch())).result, S_OK);
     EXPECT_EQ(control.textOf(u"NomeCampo"), u"do outro");
 
     Variant inner = number(3);
@@ -123,32 +108,28 @@ TEST(Automation, ByReferenceAndDefaultProperties)
     EXPECT_EQ(control.textOf(u"QtdCasasDec"), u"3");
 }
 
-TEST(Automation, CallsThatNoMemberTakes)
+TEST(Automation, NamesAndCallsThatNoMemberTakes)
 {
     const Automation control(create().Get());
     EXPECT_EQ(control.put(u"hwnd", number(1)).result, DISP_E_MEMBERNOTFOUND);
     EXPECT_EQ(control.invoke(9999, DISPATCH_PROPERTYGET).result, DISP_E_MEMBERNOTFOUND);
     EXPECT_EQ(control.invoke(0, DISPATCH_PROPERTYPUT).result, DISP_E_BADPARAMCOUNT);
-    std::vector<Variant> one;
-    one.push_back(number(1));
-    EXPECT_EQ(control.invoke(0, DISPATCH_PROPERTYGET, std::move(one)).result, DISP_E_BADPARAMCOUNT);
+    EXPECT_EQ(control.invoke(0, DISPATCH_PROPERTYGET, one(number(1))).result, DISP_E_BADPARAMCOUNT);
 
     VARIANT value = number(1).release();
     DISPID named[] = {3};
     DISPPARAMS parameters{&value, named, 1, 1};
     EXPECT_EQ(control.dispatch()->Invoke(0, IID_NULL, 0, DISPATCH_PROPERTYPUT, &parameters, nullptr, nullptr, nullptr),
               DISP_E_NONAMEDARGS);
-}
 
-// The interface named in a call says nothing: some callers name the one that they hold.
-TEST(Automation, TheReservedInterfaceIsNotLookedAt)
-{
-    const Automation control(create().Get());
+    // The interface named in a call says nothing: some callers name the one that they hold.
     const IID& held = __uuidof(IDispatch);
-    auto* name = const_cast<wchar_t*>(L"Text");
+    auto* name = const_cast<wchar_t*>(L"TEXT");
     DISPID id = DISPID_UNKNOWN;
     EXPECT_EQ(control.dispatch()->GetIDsOfNames(held, &name, 1, 0, &id), S_OK);
     EXPECT_EQ(id, 0);
+    EXPECT_EQ(control.id(u"Texto"), std::nullopt);
+    EXPECT_EQ(control.id(u""), std::nullopt);
     DISPPARAMS none{};
     Variant read;
     EXPECT_EQ(control.dispatch()->Invoke(0, held, 0, DISPATCH_PROPERTYGET, &none, read.put(), nullptr, nullptr), S_OK);
@@ -160,8 +141,8 @@ TEST(Automation, WindowsExistWhenAskedFor)
     const ComPtr<IUnknown> object = create();
     const Automation control(object.Get());
     ASSERT_EQ(control.put(u"Text", text(u"antes")).result, S_OK);
-    const auto edit = reinterpret_cast<HWND>(static_cast<LONG_PTR>(control.get(u"hwnd").value.get().lVal));
-    const auto surface = reinterpret_cast<HWND>(static_cast<LONG_PTR>(control.get(u"HwndCtl").value.get().lVal));
+    const HWND edit = control.window(u"hwnd");
+    const HWND surface = control.window(u"HwndCtl");
     EXPECT_TRUE(IsWindow(edit));
     EXPECT_TRUE(IsChild(surface, edit));
     EXPECT_FALSE(IsWindowVisible(edit));
@@ -175,9 +156,9 @@ TEST(Automation, TheFontObjectAndTheFontPropertiesAreOne)
     const Automation control(create().Get());
     const Outcome font = control.get(u"Font");
     ASSERT_EQ(font.value.get().vt, VT_DISPATCH);
-    const Automation object(font.value.get().pdispVal);
+    const Automation parts(font.value.get().pdispVal);
 
-    object.set({{u"Bold", true}, {u"Size", 14}});
+    parts.set({{u"Bold", true}, {u"Size", 14}});
     EXPECT_EQ(control.textOf(u"FontBold"), u"True");
     EXPECT_EQ(control.textOf(u"FontSize"), u"14");
     EXPECT_EQ(control.textOf(u"FontName"), u"MS Sans Serif") << "only what was changed changes";
@@ -185,19 +166,17 @@ TEST(Automation, TheFontObjectAndTheFontPropertiesAreOne)
     EXPECT_EQ(again.value.get().pdispVal, font.value.get().pdispVal) << "one object for the control's life";
 
     control.set({{u"FontBold", false}, {u"FontItalic", true}, {u"FontSize", 9}});
-    EXPECT_EQ(object.textOf(u"Bold"), u"False") << "the object lives with the parts";
-    EXPECT_EQ(object.textOf(u"Italic"), u"True");
-    EXPECT_EQ(object.textOf(u"Size"), u"9");
-    ASSERT_EQ(object.put(u"Bold", truth(true)).result, S_OK);
+    EXPECT_EQ(parts.textOf(u"Bold"), u"False") << "the object lives with the parts";
+    EXPECT_EQ(parts.textOf(u"Italic"), u"True");
+    EXPECT_EQ(parts.textOf(u"Size"), u"9");
+    ASSERT_EQ(parts.put(u"Bold", truth(true)).result, S_OK);
     EXPECT_EQ(control.textOf(u"FontItalic"), u"True");
 
     // A font set by reference is the control's from then on.
     const Automation second(create().Get());
-    std::vector<Variant> arguments;
-    arguments.push_back(sharedBy(object.dispatch()));
-    EXPECT_EQ(second.invoke(DISPID_FONT, DISPATCH_PROPERTYPUTREF, std::move(arguments)).result, S_OK);
+    EXPECT_EQ(second.invoke(DISPID_FONT, DISPATCH_PROPERTYPUTREF, one(object(parts.dispatch()))).result, S_OK);
     EXPECT_EQ(second.textOf(u"FontBold"), u"True");
-    ASSERT_EQ(object.put(u"Underline", truth(true)).result, S_OK);
+    ASSERT_EQ(parts.put(u"Underline", truth(true)).result, S_OK);
     EXPECT_EQ(second.textOf(u"FontUnderline"), u"True");
     EXPECT_EQ(control.textOf(u"FontUnderline"), u"True");
 }
@@ -209,23 +188,13 @@ TEST(Automation, AGivenFontStaysItsOwners)
     const Automation control(create().Get());
     const Outcome before = control.get(u"Font");
     const Automation held(before.value.get().pdispVal);
-    ComPtr<IFontDisp> font;
-    FONTDESC description{};
-    description.cbSizeofstruct = sizeof description;
-    description.lpstrName = const_cast<wchar_t*>(L"Tahoma");
-    description.cySize.int64 = 120000;
-    description.sWeight = FW_NORMAL;
-    ASSERT_EQ(OleCreateFontIndirect(&description, IID_PPV_ARGS(&font)), S_OK);
-    std::vector<Variant> arguments;
-    arguments.push_back(sharedBy(font.Get()));
-    ASSERT_EQ(control.invoke(DISPID_FONT, DISPATCH_PROPERTYPUTREF, std::move(arguments)).result, S_OK);
+    const ComPtr<IFontDisp> tahoma = font(L"Tahoma", 12, false);
+    ASSERT_EQ(control.invoke(DISPID_FONT, DISPATCH_PROPERTYPUTREF, one(object(tahoma.Get()))).result, S_OK);
     EXPECT_EQ(held.textOf(u"Size"), u"12") << "what was handed out before shows the new font";
 
     ASSERT_EQ(control.put(u"FontBold", truth(true)).result, S_OK);
     EXPECT_EQ(held.textOf(u"Bold"), u"True");
-    const Automation given(font.Get());
-    const Outcome read = control.get(u"Font");
-    EXPECT_EQ(Automation(read.value.get().pdispVal).textOf(u"Bold"), u"True");
+    const Automation given(tahoma.Get());
     EXPECT_EQ(given.textOf(u"Bold"), u"False");
     ASSERT_EQ(given.put(u"Italic", truth(true)).result, S_OK);
     EXPECT_EQ(control.textOf(u"FontItalic"), u"True");
@@ -234,7 +203,7 @@ TEST(Automation, AGivenFontStaysItsOwners)
 }
 
 // A setting of the user's locale as long as the test runs, told to the windows of this thread as the system tells it.
-class UserSetting {
+class UserSetting : Fixed {
 public:
     UserSetting(LCTYPE type, const wchar_t* value) : type_(type)
     {
@@ -242,19 +211,12 @@ public:
         put(value);
     }
     ~UserSetting() { put(before_); }
-    UserSetting(const UserSetting&) = delete;
-    UserSetting& operator=(const UserSetting&) = delete;
 
 private:
     void put(const wchar_t* value)
     {
         SetLocaleInfoW(LOCALE_USER_DEFAULT, type_, value);
-        EnumThreadWindows(GetCurrentThreadId(), tell, 0);
-    }
-    static BOOL CALLBACK tell(HWND window, LPARAM)
-    {
-        SendMessageW(window, WM_SETTINGCHANGE, 0, reinterpret_cast<LPARAM>(L"intl"));
-        return TRUE;
+        eachWindow([](HWND window) { SendMessageW(window, WM_SETTINGCHANGE, 0, reinterpret_cast<LPARAM>(L"intl")); });
     }
 
     LCTYPE type_;

@@ -38,12 +38,6 @@ public:
         calendar.log.clear();
     }
 
-    static std::vector<Variant> one(Variant argument)
-    {
-        std::vector<Variant> arguments;
-        arguments.push_back(std::move(argument));
-        return arguments;
-    }
     [[nodiscard]] double date() const { return calendar.automation().get(u"DateInitial").value.get().date; }
     [[nodiscard]] bool calendarHasFocus() const { return IsChild(calendar.window(), GetFocus()) != FALSE; }
     void click(platform::WidgetId id) { clickAt(form, calendar.window(), middleOf(id)); }
@@ -53,22 +47,30 @@ public:
     Site& calendar;
 };
 
+// Until the field has it back, or the calendar is deactivated with it.
 TEST(LiveCalendar, AClickAnywhereTakesTheFocusAndTellsOnce)
 {
     for (const platform::WidgetId where : {widget::panel, widget::weekday(2), widget::day(20), widget::months}) {
+        SCOPED_TRACE(where.value);
         const LeakCheck leaks;
         Sheet sheet;
         sheet.click(where);
-        EXPECT_TRUE(until(sheet.form, [&] { return sheet.calendarHasFocus(); })) << where.value;
+        EXPECT_TRUE(until(sheet.form, [&] { return sheet.calendarHasFocus(); }));
         if (where == widget::months)
             strike(sheet.form, VK_ESCAPE); // shuts the list
         sheet.click(widget::day(8));
-        EXPECT_EQ(sheet.calendar.count("OnFocus 1"), 1) << where.value;
-        EXPECT_EQ(sheet.calendar.count("OnUIActivate"), 1) << where.value;
-        EXPECT_EQ(sheet.field.count("OnFocus 0"), 1) << where.value;
-        EXPECT_EQ(sheet.calendar.count("OnFocus 0"), 0) << where.value;
-        clickAt(sheet.form, sheet.field.edit(), {8, 8});
-        EXPECT_EQ(sheet.calendar.count("OnFocus 0"), 1) << where.value;
+        EXPECT_EQ(sheet.calendar.count("OnFocus 1"), 1);
+        EXPECT_EQ(sheet.calendar.count("OnUIActivate"), 1);
+        EXPECT_EQ(sheet.field.count("OnFocus 0"), 1);
+        EXPECT_EQ(sheet.calendar.count("OnFocus 0"), 0);
+        if (where == widget::panel)
+            clickAt(sheet.form, sheet.field.edit(), {8, 8});
+        else
+            EXPECT_EQ(sheet.calendar.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
+        settle(sheet.form);
+        EXPECT_EQ(sheet.calendar.count("OnUIDeactivate"), 1);
+        sheet.calendar.close();
+        EXPECT_EQ(sheet.calendar.count("OnFocus 0"), 1);
     }
 }
 
@@ -87,37 +89,18 @@ TEST(LiveCalendar, AKeyThatMovesTheDayTellsAsAClickDoes)
         EXPECT_EQ(sheet.calendar.count("changed 0"), 1) << row.key;
         EXPECT_EQ(sheet.calendar.count("event -600"), 1) << row.key;
     }
-    sheet.calendar.automation().call(u"IniciaCalendario", Sheet::one(text(u"31/12/2050")));
+    sheet.calendar.automation().call(u"IniciaCalendario", one(text(u"31/12/2050")));
     sheet.calendar.log.clear();
     strike(sheet.form, VK_RIGHT);
     EXPECT_EQ(sheet.calendar.count("changed 0") + sheet.calendar.count("event -600"), 0) << "the list ends there";
-}
-
-TEST(LiveCalendar, DeactivatedWithTheFocusItIsLeftOnce)
-{
-    const LeakCheck leaks;
-    Sheet sheet;
-    sheet.click(widget::day(20));
-    ASSERT_TRUE(sheet.calendarHasFocus());
-    EXPECT_EQ(sheet.calendar.as<IOleInPlaceObject>()->InPlaceDeactivate(), S_OK);
-    settle(sheet.form);
-    EXPECT_EQ(sheet.calendar.count("OnFocus 1"), 1);
-    EXPECT_EQ(sheet.calendar.count("OnFocus 0"), 1);
-    EXPECT_EQ(sheet.calendar.count("OnUIDeactivate"), 1);
-    sheet.calendar.close();
-    EXPECT_EQ(sheet.calendar.count("OnFocus 0"), 1);
 }
 
 TEST(LiveCalendar, AfterItsParentHasGoneItGetsAWindowInANewOne)
 {
     const LeakCheck leaks;
     Sheet sheet;
-    const auto panel = [&] {
-        return CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", L"", WS_CHILD | WS_VISIBLE, 0, 0, 400, 300,
-                               sheet.form.window(), nullptr, nullptr, nullptr);
-    };
     for (int round = 0; round < 2; ++round) {
-        const HWND parent = panel();
+        const HWND parent = plainWindow(L"STATIC", {0, 0, 400, 300}, sheet.form.window());
         const HWND window = sheet.calendar.window();
         SetParent(window, parent); // as hosts with pages of their own do
         DestroyWindow(parent);
@@ -129,7 +112,7 @@ TEST(LiveCalendar, AfterItsParentHasGoneItGetsAWindowInANewOne)
         sheet.click(widget::day(21));
         EXPECT_TRUE(sheet.calendarHasFocus());
         EXPECT_EQ(sheet.date(), serialOf15March + 2);
-        sheet.calendar.automation().call(u"IniciaCalendario", Sheet::one(text(u"15/03/2024")));
+        sheet.calendar.automation().call(u"IniciaCalendario", one(text(u"15/03/2024")));
     }
 }
 
@@ -137,17 +120,20 @@ TEST(LiveCalendar, ItsMethodsTakeTheirArgumentByName)
 {
     const ComPtr<IUnknown> control = create(L"Vela.cCalendar.1");
     const auto calendar = query<IDispatch>(control.Get());
-    LPOLESTR names[] = {const_cast<LPOLESTR>(L"Inicia"), const_cast<LPOLESTR>(L"DATA")};
-    DISPID ids[2] = {};
-    EXPECT_EQ(calendar->GetIDsOfNames(IID_NULL, names, 2, LOCALE_USER_DEFAULT, ids), DISP_E_UNKNOWNNAME);
-    names[0] = const_cast<LPOLESTR>(L"IniciaCalendario");
-    EXPECT_EQ(calendar->GetIDsOfNames(IID_NULL, names, 2, LOCALE_USER_DEFAULT, ids), S_OK);
-    EXPECT_EQ(ids[0], 1);
-    EXPECT_EQ(ids[1], 0) << "the number of the parameter";
-    names[1] = const_cast<LPOLESTR>(L"outro");
-    EXPECT_EQ(calendar->GetIDsOfNames(IID_NULL, names, 2, LOCALE_USER_DEFAULT, ids), DISP_E_UNKNOWNNAME);
-    EXPECT_EQ(ids[0], 1);
-    EXPECT_EQ(ids[1], DISPID_UNKNOWN);
+    const struct {
+        const wchar_t *method, *argument;
+        HRESULT result;
+        DISPID ids[2];
+    } names[] = {{L"Inicia", L"DATA", DISP_E_UNKNOWNNAME, {DISPID_UNKNOWN, DISPID_UNKNOWN}},
+                 {L"IniciaCalendario", L"outro", DISP_E_UNKNOWNNAME, {1, DISPID_UNKNOWN}},
+                 {L"IniciaCalendario", L"DATA", S_OK, {1, 0}}}; // the number of the parameter
+    for (const auto& row : names) {
+        LPOLESTR asked[] = {const_cast<LPOLESTR>(row.method), const_cast<LPOLESTR>(row.argument)};
+        DISPID ids[2] = {};
+        EXPECT_EQ(calendar->GetIDsOfNames(IID_NULL, asked, 2, LOCALE_USER_DEFAULT, ids), row.result);
+        EXPECT_EQ(ids[0], row.ids[0]);
+        EXPECT_EQ(ids[1], row.ids[1]);
+    }
 
     Variant date = text(u"15/03/2024");
     const struct {

@@ -3,6 +3,7 @@
 
 #include "activex/com/owners.h"
 #include "apps/demo/ole.h"
+#include "tests/support/windows.h"
 
 #include <ocidl.h>
 
@@ -24,8 +25,7 @@ using win32::wide;
 
 inline std::atomic<int> liveObjects{0};
 
-// Told of each call to an object of the tests, by name, for those that do harm inside it; a failure that this answers
-// is the call's answer.
+// Told of each call to an object of the tests, by name; a failure that this answers is the call's answer.
 inline std::function<HRESULT(const char* call)> whenCalled;
 
 inline HRESULT called(const char* call)
@@ -33,11 +33,9 @@ inline HRESULT called(const char* call)
     return whenCalled ? whenCalled(call) : S_OK;
 }
 
-class LiveObject {
+class LiveObject : Fixed {
 public:
     LiveObject() { ++liveObjects; }
-    LiveObject(const LiveObject&) = delete;
-    LiveObject& operator=(const LiveObject&) = delete;
     ~LiveObject() { --liveObjects; }
 };
 

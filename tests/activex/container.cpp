@@ -126,8 +126,7 @@ void Site::abandon()
 
 HWND Site::edit() const
 {
-    const Outcome outcome = automation().get(u"hwnd");
-    return reinterpret_cast<HWND>(static_cast<LONG_PTR>(outcome.value.get().lVal));
+    return automation().window(u"hwnd");
 }
 
 int Site::count(std::string_view word) const

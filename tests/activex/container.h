@@ -7,8 +7,6 @@
 
 #include "apps/demo/container.h"
 
-#include <oleidl.h>
-
 #include <functional>
 #include <map>
 #include <string>
@@ -97,11 +95,9 @@ private:
 };
 
 // The window with its sites, a dialog-like message loop, and the frame's side of in-place activation.
-class Form {
+class Form final : Fixed, public Loop {
 public:
     Form();
-    Form(const Form&) = delete;
-    Form& operator=(const Form&) = delete;
     ~Form();
 
     Site& add(SiteOptions options = {}, const wchar_t* progId = L"Vela.Vela");
@@ -114,7 +110,7 @@ public:
     // A key to the focused window through the form's loop: the active object first, then the dialog keys.
     void press(WPARAM key);
     void type(std::u16string_view text); // characters, composed
-    void run();                          // what waits in the queue
+    void run() override;
     void focus(Site& site);
     void destroyWindow();
 

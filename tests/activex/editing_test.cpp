@@ -1,22 +1,16 @@
 // The clipboard, undo and unusual characters at the windows of the control.
 #include "person.h"
 
-#include <array>
 #include <gtest/gtest.h>
 
 namespace vela::test {
 
 namespace {
 
-// A control with the focus, of one kind.
-class Field {
+class Field : public Desk {
 public:
-    explicit Field(Kind kind) : site(form.addActive())
-    {
-        kind(site.automation());
-        form.focus(site);
-        settle(form);
-    }
+    using Desk::Desk;
+
     void select(int start, int end) { SendMessageW(site.edit(), EM_SETSEL, static_cast<WPARAM>(start), end); }
     [[nodiscard]] std::u16string shown() const { return shownBy(site.edit()); }
     void send(UINT message) { SendMessageW(site.edit(), message, 0, 0); }
@@ -27,45 +21,34 @@ public:
         SendMessageW(site.edit(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(site.edit()), -1);
         settle(form);
     }
-
-    Form form;
-    Site& site;
 };
 
-struct Paste {
+struct Edit {
     const char* rule;
     Kind kind;
     const char16_t* typed;
     int start;
-    int end; // of the selection; -1 to the end
-    const char16_t* pasted;
+    int end;                // of the selection; -1 to the end
+    const char16_t* second; // what is pasted
     const char16_t* shows;
 };
 
-const Paste pastes[] = {
+const Edit pastes[] = {
     {"free text over a selection", asPlainText, u"abcd", 1, 3, u"XYZ", u"aXYZd"},
-    {"a mask with its literals", asPlate, u"", 0, 0, u"abc-1234", u"ABC-1234"},
-    {"a mask without, what a rule refuses left out", asPlate, u"", 0, 0, u"ab9c1-2", u"ABC-12__"},
-    {"over a full mask, all selected", asPlate, u"abc1234", 0, -1, u"XYZ9876", u"XYZ-9876"},
-    {"over a full mask of two literals in a row", asTelephone, u"5199987766", 0, -1, u"(11) 2222-3333",
-     u"(11) 2222-3333"},
-    {"the same without literals", asTelephone, u"5199987766", 0, -1, u"1122223333", u"(11) 2222-3333"},
     {"over a part of a full mask", asTelephone, u"5199987766", 5, 9, u"1234", u"(51) 1234-7766"},
-    {"a number by its rules", asNumber, u"", 0, 0, u"1.234,567", u"1234,56"},
-    {"over a number", asNumber, u"99,99", 0, -1, u"1,5", u"1,5"},
     {"an amount", asAmount, u"", 0, -1, u"1234", u"12,34"},
 };
 
 TEST(Editing, PasteGoesThroughTheRules)
 {
     const LeakCheck leaks;
-    for (const Paste& row : pastes) {
+    for (const Edit& row : pastes) {
         SCOPED_TRACE(row.rule);
         for (const bool key : {false, true}) {
             Field field(row.kind);
             field.form.type(row.typed);
             field.select(row.start, row.end);
-            putClipboard(row.pasted);
+            putClipboard(row.second);
             field.site.log.clear();
             if (key)
                 field.form.type(u"\x16"); // Control and V
@@ -77,20 +60,10 @@ TEST(Editing, PasteGoesThroughTheRules)
     }
 }
 
-struct Edit {
-    const char* rule;
-    Kind kind;
-    const char16_t* typed;
-    int start;
-    int end;
-    const char16_t* cut;
-    const char16_t* shows;
-};
-
+// Here `second` is what was cut.
 const Edit cuts[] = {
     {"free text", asPlainText, u"abcd", 1, 3, u"bc", u"ad"},
     {"prompts come back into a mask", asPlate, u"abc1234", 1, 6, u"BC-12", u"A__-__34"},
-    {"a number", asNumber, u"12,34", 0, 1, u"1", u"2,34"},
     {"an amount is laid out again", asAmount, u"1234", 0, 1, u"1", u"2,34"},
 };
 
@@ -107,7 +80,7 @@ TEST(Editing, CutUndoAndRedo)
             putClipboard(u"-");
             field.select(row.start, row.end);
             step(field);
-            EXPECT_EQ(clipboard(), row.cut);
+            EXPECT_EQ(clipboard(), row.second);
             EXPECT_EQ(field.shown(), row.shows);
             field.form.type(u"\x1A"); // Control and Z
             EXPECT_EQ(field.shown(), before);
@@ -131,12 +104,7 @@ TEST(Editing, WhatTheEditDoesOfItsOwnIsUndoneWhole)
     Field field(asPlainText);
     field.form.type(u"um dois");
     field.select(3, 3);
-    std::array<BYTE, 256> keys{};
-    keys[VK_CONTROL] = 0x80;
-    SetKeyboardState(keys.data());
-    field.form.press(VK_DELETE);
-    keys[VK_CONTROL] = 0;
-    SetKeyboardState(keys.data());
+    strike(field.form, VK_DELETE, VK_CONTROL);
     EXPECT_EQ(field.shown(), u"um ");
     field.form.type(u"\x1A");
     EXPECT_EQ(field.shown(), u"um dois");

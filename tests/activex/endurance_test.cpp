@@ -47,21 +47,12 @@ TEST(Endurance, ManyControlsLeaveNothingBehind)
     });
 }
 
-TEST(Endurance, ManyControlsWithoutAWindow)
-{
-    expectFlatOver(rounds() * 5, [](int) {
-        const Automation field(create().Get());
-        field.set({{u"Mask", u"__/__"}});
-        field.get(u"Text");
-    });
-}
-
 // A form that a person works on for a while with everything it offers, the next step drawn by lot.
 class Work {
 public:
     explicit Work(unsigned seed) : random_(seed)
     {
-        for (const auto kind : {asName, asPrice, asAmount, asCheckedDate, asTime, asLeavingPlate}) {
+        for (const auto kind : {asName, asPrice, asAmount, asCheckedDate, asDate, asLeavingPlate}) {
             Site& site = form_.addActive();
             kind(site.automation());
             sites_.push_back(&site);
@@ -79,10 +70,8 @@ public:
     }
     [[nodiscard]] bool answers()
     {
-        for (const Site* const site : sites_)
-            if (!SUCCEEDED(site->automation().get(u"Text").result))
-                return false;
-        return true;
+        return std::ranges::all_of(sites_,
+                                   [](const Site* site) { return SUCCEEDED(site->automation().get(u"Text").result); });
     }
 
 private:
@@ -98,11 +87,6 @@ private:
     static void asCheckedDate(const Automation& field)
     {
         asDate(field);
-        field.set({{u"ErrorAlert", true}});
-    }
-    static void asTime(const Automation& field)
-    {
-        field.set({{u"FormatoExibData", u"__:__"}, {u"DateFormat", u"hh:mm"}, {u"TextType", 2}});
         field.set({{u"ErrorAlert", true}, {u"ErrorTextClear", true}});
     }
     static void asLeavingPlate(const Automation& field)
@@ -168,19 +152,23 @@ private:
     }
     void dress()
     {
+        static constexpr std::pair<const char16_t*, int> looks[] = {{u"Appearance", 0},
+                                                                    {u"Appearance", 1},
+                                                                    {u"BorderStyle", 3},
+                                                                    {u"BorderStyle", 4},
+                                                                    {u"Alignment", 1},
+                                                                    {u"Alignment", 2},
+                                                                    {u"FontSize", 8},
+                                                                    {u"FontSize", 10},
+                                                                    {u"FontBold", 0},
+                                                                    {u"FontBold", 1},
+                                                                    {u"BackColorGotFocus", 0xFFE0},
+                                                                    {u"Enabled", 0}};
         const Automation field = anySite().automation();
-        switch (lot(7)) {
-        case 0: field.put(u"Appearance", number(static_cast<int>(lot(2)))); break;
-        case 1: field.put(u"BorderStyle", number(static_cast<int>(lot(5)))); break;
-        case 2: field.put(u"Alignment", number(static_cast<int>(lot(3)))); break;
-        case 3: field.put(u"FontSize", number(static_cast<int>(8 + lot(3)))); break;
-        case 4: field.put(u"FontBold", truth(lot(2) == 0)); break;
-        case 5: field.put(u"BackColorGotFocus", number(static_cast<int>(random_() & 0xFFFFFF))); break;
-        default:
-            field.put(u"Enabled", truth(false));
-            settle(form_);
-            field.put(u"Enabled", truth(true));
-        }
+        const auto& [property, value] = looks[lot(std::size(looks))];
+        field.put(property, number(value));
+        settle(form_);
+        field.put(u"Enabled", truth(true));
     }
     void page()
     {

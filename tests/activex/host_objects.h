@@ -84,6 +84,12 @@ public:
     HRESULT STDMETHODCALLTYPE Clone(IStream**) override { return E_NOTIMPL; }
 };
 
+// The control's picture, in a rectangle of the device's units.
+inline HRESULT drawn(IViewObject& view, HDC dc, const RECTL* bounds, LONG part = -1, DWORD aspect = DVASPECT_CONTENT)
+{
+    return view.Draw(aspect, part, nullptr, nullptr, nullptr, dc, bounds, nullptr, nullptr, 0);
+}
+
 // A storage of one stream.
 class Storage final : public ComObject<IStorage> {
 public:

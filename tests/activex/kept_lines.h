@@ -6,6 +6,7 @@
 #include <objbase.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <fstream>
 #include <string>
 #include <string_view>
@@ -52,14 +53,12 @@ inline void writeLines(const char* path, const std::vector<std::string>& lines)
 // ASCII; other characters as \uXXXX.
 [[nodiscard]] inline std::string narrow(std::u16string_view text)
 {
-    constexpr char digits[] = "0123456789ABCDEF";
     std::string result;
-    for (const char16_t unit : text)
-        if (unit >= 0x20 && unit < 0x7F)
-            result += static_cast<char>(unit);
-        else
-            result +=
-                {'\\', 'u', digits[unit >> 12], digits[unit >> 8 & 15], digits[unit >> 4 & 15], digits[unit & 15]};
+    for (const char16_t unit : text) {
+        char written[8]{};
+        std::snprintf(written, sizeof written, unit >= 0x20 && unit < 0x7F ? "%c" : "\\u%04X", unsigned{unit});
+        result += written;
+    }
     return result;
 }
 

@@ -1,58 +1,54 @@
-// Loading and registering Vela.ocx for all tests of the program.
+// Calling Vela.ocx, and answering what it asks a person.
 #include "library.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cwchar>
 #include <utility>
 
 namespace vela::test {
 
 namespace {
 
-HMODULE module = nullptr;
-
-std::wstring windowsPath(const char* name)
+template <class Function>
+Function entry(const char* name)
 {
-    std::string path = std::string(VELA_BINARY_DIR) + "/" + name;
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library(), name)));
+}
+
+std::vector<std::u16string> boxTexts;
+std::function<void()> boxAct;
+
+LRESULT CALLBACK answerBox(int code, WPARAM window, LPARAM detail)
+{
+    const HWND box = reinterpret_cast<HWND>(window);
+    if (code == HCBT_ACTIVATE && isOf(L"#32770", box)) {
+        eachInside(box, [](HWND child) { // the last static is its text, the first may be its icon
+            wchar_t text[256]{};
+            if (isOf(L"Static", child) && GetWindowTextW(child, text, 256))
+                boxTexts.emplace_back(asText(text));
+        });
+        PostMessageW(box, WM_COMMAND, IDOK, 0);
+        if (const auto act = std::exchange(boxAct, nullptr))
+            act();
+    }
+    return CallNextHookEx(nullptr, code, window, detail);
+}
+
+} // namespace
+
+std::wstring libraryPath()
+{
+    std::string path = std::string(VELA_BINARY_DIR) + "/Vela.ocx";
     if (path.front() == '/')
         path = "Z:" + path;
     std::replace(path.begin(), path.end(), '/', '\\');
     return {path.begin(), path.end()};
 }
 
-template <class Function>
-Function entry(const char* name)
+HMODULE library()
 {
-    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name)));
-}
-
-class WholeRun : public testing::Environment {
-public:
-    void SetUp() override
-    {
-        ASSERT_TRUE(SUCCEEDED(OleInitialize(nullptr)));
-        module = LoadLibraryW(libraryPath().c_str());
-        ASSERT_NE(module, nullptr) << "error " << GetLastError();
-        ASSERT_EQ(callServer("DllRegisterServer"), S_OK);
-    }
-    void TearDown() override
-    {
-        pump();
-        EXPECT_EQ(canUnload(), S_OK) << "objects of the library are still alive";
-        EXPECT_EQ(liveObjects, 0) << "objects of the tests are still held by the library";
-        OleUninitialize();
-    }
-};
-
-const auto* const environment = testing::AddGlobalTestEnvironment(new WholeRun);
-
-} // namespace
-
-std::wstring libraryPath()
-{
-    return windowsPath("Vela.ocx");
+    return GetModuleHandleW(L"Vela.ocx");
 }
 
 HRESULT callServer(const char* name)
@@ -100,41 +96,7 @@ void pumpFor(DWORD milliseconds)
     } while (GetTickCount() - start < milliseconds);
 }
 
-namespace {
-
-std::vector<std::u16string> boxTexts;
-std::function<void()> boxAct;
-
-// The last static of a box is its text, the first may be its icon.
-BOOL CALLBACK takeText(HWND child, LPARAM)
-{
-    wchar_t name[16]{};
-    wchar_t text[256]{};
-    GetClassNameW(child, name, 16);
-    GetWindowTextW(child, text, 256);
-    if (lstrcmpiW(name, L"Static") == 0 && *text)
-        boxTexts.emplace_back(asText(text));
-    return TRUE;
-}
-
-LRESULT CALLBACK answerBox(int code, WPARAM window, LPARAM detail)
-{
-    wchar_t name[16]{};
-    if (code == HCBT_ACTIVATE && GetClassNameW(reinterpret_cast<HWND>(window), name, 16) &&
-        lstrcmpW(name, L"#32770") == 0) {
-        const HWND box = reinterpret_cast<HWND>(window);
-        EnumChildWindows(box, takeText, 0);
-        PostMessageW(box, WM_COMMAND, IDOK, 0);
-        if (const auto act = std::exchange(boxAct, nullptr))
-            act();
-    }
-    return CallNextHookEx(nullptr, code, window, detail);
-}
-
-} // namespace
-
-AnsweredBoxes::AnsweredBoxes(std::function<void()> whenUp)
-    : hook_(SetWindowsHookExW(WH_CBT, answerBox, nullptr, GetCurrentThreadId()))
+AnsweredBoxes::AnsweredBoxes(std::function<void()> whenUp) : hook_(WH_CBT, answerBox)
 {
     boxTexts.clear();
     boxAct = std::move(whenUp);
@@ -142,7 +104,6 @@ AnsweredBoxes::AnsweredBoxes(std::function<void()> whenUp)
 
 AnsweredBoxes::~AnsweredBoxes()
 {
-    UnhookWindowsHookEx(hook_);
     boxAct = nullptr;
 }
 

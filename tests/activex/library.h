@@ -1,4 +1,4 @@
-// The library under test, loaded as any host loads it, and registered for the run.
+// The library under test as any host has it, and what is watched while it works.
 #pragma once
 
 #include "com_object.h"
@@ -9,8 +9,8 @@
 
 namespace vela::test {
 
-// "Z:\...\build\win64\Vela.ocx"
-[[nodiscard]] std::wstring libraryPath();
+[[nodiscard]] std::wstring libraryPath(); // "Z:\...\build\win64\Vela.ocx"
+[[nodiscard]] HMODULE library();          // in memory, without being kept there; else null
 
 // An entry point of the library, called.
 HRESULT callServer(const char* name); // DllRegisterServer ...
@@ -19,28 +19,33 @@ HRESULT callInstall(bool install, const wchar_t* commandLine);
 
 [[nodiscard]] ComPtr<IUnknown> create(const wchar_t* progId = L"Vela.Vela");
 
+// What looks for the messages of a window: a form, or the frame of a property page.
+class Loop {
+public:
+    virtual void run() = 0; // what waits
+
+protected:
+    ~Loop() = default;
+};
+
 void pump();                      // until there is no message
 void pumpFor(DWORD milliseconds); // timers too
 
 // Closes each message box of this thread as it comes up, with its first button, and keeps what it said.
-class AnsweredBoxes {
+class AnsweredBoxes : Fixed {
 public:
     explicit AnsweredBoxes(std::function<void()> whenUp = {}); // called while the first box stands
-    AnsweredBoxes(const AnsweredBoxes&) = delete;
-    AnsweredBoxes& operator=(const AnsweredBoxes&) = delete;
     ~AnsweredBoxes();
     [[nodiscard]] static const std::vector<std::u16string>& texts(); // of the boxes since the last was constructed
 
 private:
-    HHOOK hook_;
+    Hook hook_;
 };
 
 // Fails the test when what the body made is still alive at its end.
-class LeakCheck {
+class LeakCheck : Fixed {
 public:
     LeakCheck();
-    LeakCheck(const LeakCheck&) = delete;
-    LeakCheck& operator=(const LeakCheck&) = delete;
     ~LeakCheck();
 
 private:

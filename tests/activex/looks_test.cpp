@@ -1,6 +1,11 @@
 // What a field looks like on the screen: hover, focus, errors, states, sizes, dots per inch and high contrast.
-#include "person.h"
-#include "screen_settings.h"
+#include "host_objects.h"
+#include "picture.h"
+#include "high_contrast.h"
+#include "two_dates.h"
+
+#include "tests/windows/child.h"
+#include "tests/windows/usage.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -8,8 +13,8 @@
 #include <commctrl.h>
 #include <olectl.h>
 
-#include <cstdlib>
 #include <optional>
+#include <vector>
 
 namespace vela::test {
 
@@ -17,8 +22,6 @@ namespace {
 
 constexpr DISPID mouseOut = 2;
 constexpr char mouseOutEvent[] = "event 2";
-constexpr COLORREF wrongColour = 0x000000C8;
-
 constexpr COLORREF backFocus = 0x00AAFFFF, backRest = 0x00FFE0E0, backHover = 0x00C0FFC0;
 constexpr COLORREF lineFocus = 0x00FF0000, lineRest = 0x00808000, lineHover = 0x000000FF;
 constexpr COLORREF foreFocus = 0x00400000, foreRest = 0x00004000;
@@ -28,29 +31,18 @@ constexpr std::pair<const char16_t*, COLORREF> palette[] = {
     {u"ForeColor_GotFocus", foreFocus},  {u"ForeColor_LostFocus", foreRest},  {u"Error_ForeColor", wrongColour},
 };
 
-// A flat field in known colours that has been left once, and a neighbour that has the focus.
-class Screen {
+// A flat field in known colours that has been left once.
+class Screen : public Desk {
 public:
-    Screen() : site(form.addActive()), neighbour(form.addActive())
+    Screen()
     {
         pointAway();
         const Automation field = site.automation();
         field.put(u"Appearance", number(0));
         for (const auto& [property, colour] : palette)
             field.put(property, number(static_cast<std::int32_t>(colour)));
-        enter();
         leave();
         site.log.clear();
-    }
-    void enter()
-    {
-        form.focus(site);
-        settle(form);
-    }
-    void leave()
-    {
-        form.focus(neighbour);
-        settle(form);
     }
     // The border's own colour, in the middle of the top line.
     [[nodiscard]] COLORREF line() const { return pixelOf(site.window(), {80, 0}); }
@@ -61,10 +53,6 @@ public:
         return pixelOf(site.edit(), {client.right - 4, client.bottom / 2});
     }
     [[nodiscard]] int inked(COLORREF colour) const { return pixelsOf(site.edit(), colour, clientOf(site.edit())); }
-
-    Form form;
-    Site& site;
-    Site& neighbour;
 };
 
 TEST(Looks, FocusAndErrorAreSeen)
@@ -86,7 +74,7 @@ TEST(Looks, FocusAndErrorAreSeen)
     EXPECT_GT(screen.inked(foreRest), 0);
     EXPECT_EQ(screen.inked(foreFocus), 0);
 
-    makeDate(screen.site, u"__/__/____");
+    makeDate(screen.site);
     screen.enter();
     screen.form.type(u"4");
     screen.leave();
@@ -160,13 +148,14 @@ TEST(Looks, RoundCornersAreNotBlackWhereTheHostErasesNothing)
 // What the window shows at a point of it, its parts included.
 COLORREF seenAt(HWND window, POINT at)
 {
-    const HWND part = RealChildWindowFromPoint(window, at);
+    const HWND child = RealChildWindowFromPoint(window, at);
+    const HWND part = child ? child : window;
     RECT place{};
-    GetWindowRect(part ? part : window, &place);
+    GetWindowRect(part, &place);
     MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
-    const HDC dc = GetWindowDC(part ? part : window);
+    const HDC dc = GetWindowDC(part);
     const COLORREF colour = GetPixel(dc, at.x - place.left, at.y - place.top);
-    ReleaseDC(part ? part : window, dc);
+    ReleaseDC(part, dc);
     return colour;
 }
 
@@ -184,6 +173,7 @@ TEST(Looks, ThePictureIsWhatTheWindowShows)
         {"disabled", {{u"Enabled", false}}},
     };
     for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
         Screen screen;
         screen.site.automation().set({{u"Text", u"Mg 12,5"}});
         screen.site.automation().set(row.settings);
@@ -191,32 +181,24 @@ TEST(Looks, ThePictureIsWhatTheWindowShows)
         const HWND window = screen.site.window();
         RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN | RDW_FRAME);
         const RECT client = clientOf(window);
-        const HDC screenDc = GetDC(nullptr);
-        const HDC memory = CreateCompatibleDC(screenDc);
-        const HBITMAP bitmap = CreateCompatibleBitmap(screenDc, client.right, client.bottom);
-        const HGDIOBJ before = SelectObject(memory, bitmap);
+        const Picture picture(client.right, client.bottom);
         const RECTL bounds{0, 0, client.right, client.bottom};
-        EXPECT_EQ(screen.site.as<IViewObject>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, memory, &bounds,
-                                                      nullptr, nullptr, 0),
-                  S_OK);
-        int different = 0;
-        POINT first{-1, -1};
+        EXPECT_EQ(drawn(*screen.site.as<IViewObject>().Get(), picture.dc(), &bounds), S_OK);
+        std::vector<POINT> different;
         for (LONG y = 0; y < client.bottom; ++y)
             for (LONG x = 0; x < client.right; ++x) {
                 const COLORREF live = seenAt(window, {x, y});
-                if (live != CLR_INVALID && live != GetPixel(memory, x, y) && different++ == 0)
-                    first = {x, y};
+                if (live != CLR_INVALID && live != picture.colourAt(x, y))
+                    different.push_back({x, y});
             }
-        EXPECT_EQ(different, 0) << row.what << ", first at " << first.x << ", " << first.y;
-        SelectObject(memory, before);
-        DeleteObject(bitmap);
-        DeleteDC(memory);
-        ReleaseDC(nullptr, screenDc);
+        ASSERT_TRUE(different.empty()) << different.size() << ", first at " << different.front().x << ", "
+                                       << different.front().y;
     }
 }
 
 TEST(Looks, ThePointerBringsHoverColoursAndMouseOut)
 {
+    const AnsweredBoxes boxes;
     const LeakCheck leaks;
     for (const bool focused : {false, true}) {
         SCOPED_TRACE(focused ? "with the focus" : "without");
@@ -243,24 +225,17 @@ TEST(Looks, ThePointerBringsHoverColoursAndMouseOut)
         }
         pumpFor(150); // some ticks
         EXPECT_EQ(screen.site.count(mouseOutEvent), 2) << "once each time";
-    }
-}
 
-// The host may close the field when the pointer leaves it.
-TEST(Looks, AMouseOutMayEndTheField)
-{
-    const AnsweredBoxes boxes;
-    const LeakCheck leaks;
-    Screen screen;
-    screen.site.onEvent = [&](DISPID id, DISPPARAMS&) {
-        if (id == mouseOut)
-            screen.site.close();
-    };
-    pointAt(screen.site.edit(), {20, 8});
-    EXPECT_TRUE(until(screen.form, [&] { return screen.back() == backHover; }));
-    pointAway();
-    EXPECT_TRUE(until(screen.form, [&] { return screen.site.control() == nullptr; }));
-    EXPECT_TRUE(AnsweredBoxes::texts().empty());
+        screen.site.onEvent = [&](DISPID id, DISPPARAMS&) { // the host may close the field when the pointer leaves it
+            if (id == mouseOut)
+                screen.site.close();
+        };
+        pointAt(screen.site.edit(), {20, 8});
+        EXPECT_TRUE(until(screen.form, [&] { return screen.back() == backHover; }));
+        pointAway();
+        EXPECT_TRUE(until(screen.form, [&] { return screen.site.control() == nullptr; }));
+        EXPECT_TRUE(AnsweredBoxes::texts().empty());
+    }
 }
 
 TEST(Looks, DisabledIsGreyAndDeaf)
@@ -328,7 +303,7 @@ TEST(Looks, LaidOutAnewInEverySize)
     const LeakCheck leaks;
     Form form;
     Site& site = form.addActive();
-    makeDate(site, u"__/__/____");
+    makeDate(site);
     const Automation field = site.automation();
     for (const SIZE size : {SIZE{200, 24}, {90, 21}, {300, 100}, {30, 12}, {10, 6}, {3, 3}, {0, 0}, {200, 24}})
         for (const int border : {0, 1, 2, 3, 4, 5})
@@ -346,43 +321,48 @@ TEST(Looks, LaidOutAnewInEverySize)
     EXPECT_GT(edit.right - edit.left, 150);
 }
 
-// In a process of its own: the system's dots per inch stand for the life of a process.
+// In processes of their own: the system's dots per inch stand for the life of a process.
 TEST(Looks, InEveryResolution)
 {
-    const ScreenResolution resolution;
-    for (const int dpi : {120, 144, 192}) {
+    constexpr wchar_t key[] = L"Control Panel\\Desktop";
+    constexpr wchar_t value[] = L"LogPixels";
+    const auto put = [&](DWORD dpi) { RegSetKeyValueW(HKEY_CURRENT_USER, key, value, REG_DWORD, &dpi, sizeof dpi); };
+    DWORD before = 0;
+    DWORD size = sizeof before;
+    RegGetValueW(HKEY_CURRENT_USER, key, value, RRF_RT_REG_DWORD, nullptr, &before, &size);
+    const AtEnd restore([&] {
+        if (before)
+            put(before);
+        else
+            RegDeleteKeyValueW(HKEY_CURRENT_USER, key, value);
+    });
+    for (const DWORD dpi : {120U, 144U, 192U}) {
         SCOPED_TRACE(dpi);
-        resolution.put(dpi);
-        EXPECT_EQ(runTests(thisProgram(), "LooksScaled.*", "VELA_TEST_DPI", dpi), 0);
+        put(dpi);
+        runApart(thisProgram(), "LooksScaled.*", "VELA_TEST_DPI", static_cast<int>(dpi));
     }
-}
-
-int childDpi()
-{
-    const char* const asked = std::getenv("VELA_TEST_DPI");
-    return asked ? std::atoi(asked) : 0;
 }
 
 class LooksScaled : public testing::Test {
 protected:
     void SetUp() override
     {
-        if (childDpi() == 0)
+        if (dpi == 0)
             GTEST_SKIP() << "a part of Looks.InEveryResolution";
-        perMonitor_.emplace();
-        ASSERT_EQ(screenDpi(), childDpi());
+        SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE); // of a process that ends
+        ASSERT_EQ(static_cast<int>(GetDpiForSystem()), dpi);
     }
-    std::optional<PerMonitorThread> perMonitor_;
+
+    const int dpi = asked("VELA_TEST_DPI", 0);
 };
 
-TEST_F(LooksScaled, TheFieldGrows)
+TEST_F(LooksScaled, TheFieldAndItsPopupGrow)
 {
-    const int dpi = childDpi();
     Form form;
     Site& site = form.add();
     const RECT place{10, 10, 10 + MulDiv(121, dpi, 96), 10 + MulDiv(21, dpi, 96)};
     ASSERT_EQ(site.activate(place), S_OK);
-    makeDate(site, u"__/__/____");
+    makeDate(site);
     const Automation field = site.automation();
     for (const int appearance : {0, 1}) {
         field.put(u"Appearance", number(appearance));
@@ -397,6 +377,12 @@ TEST_F(LooksScaled, TheFieldGrows)
     SIZEL extent{};
     EXPECT_EQ(site.as<IOleObject>()->GetExtent(DVASPECT_CONTENT, &extent), S_OK);
     EXPECT_NEAR(static_cast<double>(extent.cx), 121 * 2540.0 / 96, 30);
+    form.focus(site);
+    const RECT popup = placeIn(openPopup(form, site), site.window());
+    EXPECT_EQ(popup.right - popup.left, MulDiv(184, dpi, 96));
+    EXPECT_EQ(popup.bottom - popup.top, MulDiv(167, dpi, 96));
+    form.press(VK_ESCAPE);
+    settle(form);
     field.put(u"Appearance", number(0));
     field.put(u"BorderColorLostfocus", number(lineRest));
     form.focus(site);
@@ -405,20 +391,6 @@ TEST_F(LooksScaled, TheFieldGrows)
     const int width = MulDiv(1, dpi, 96);
     for (int y = 0; y <= width; ++y)
         EXPECT_EQ(pixelOf(site.window(), {40, y}) == lineRest, y < width) << "row " << y;
-}
-
-TEST_F(LooksScaled, ThePopupsGrow)
-{
-    const int dpi = childDpi();
-    Form form;
-    Site& site = form.addActive();
-    makeDate(site, u"__/__/____");
-    form.focus(site);
-    const RECT place = placeIn(openPopup(form, site), site.window());
-    EXPECT_EQ(place.right - place.left, MulDiv(184, dpi, 96));
-    EXPECT_EQ(place.bottom - place.top, MulDiv(167, dpi, 96));
-    form.press(VK_ESCAPE);
-    settle(form);
 }
 
 // Logical and real dots per inch differ here: the frame is in real millimetres, and the picture fills it.
@@ -475,7 +447,7 @@ TEST(Looks, ThePopupInHighContrast)
     const HighContrast contrast;
     Form form;
     Site& site = form.addActive();
-    makeDate(site, u"__/__/____");
+    makeDate(site);
     form.focus(site);
     settle(form);
     const HWND button = buttonOf(site);

@@ -10,30 +10,6 @@ namespace vela::test {
 
 namespace {
 
-constexpr DWORD patience = 20000; // milliseconds
-
-void sendKey(WORD key, bool down)
-{
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = down ? 0U : KEYEVENTF_KEYUP;
-    SendInput(1, &input, sizeof input);
-}
-
-void sendClick(HWND window, POINT at, int times = 1)
-{
-    pointAt(window, at);
-    for (int i = 0; i < times; ++i)
-        for (const DWORD flag : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
-            INPUT input{};
-            input.type = INPUT_MOUSE;
-            input.mi.dwFlags = flag;
-            SendInput(1, &input, sizeof input);
-        }
-}
-
 // A page in the foreground.
 class Hands {
 public:
@@ -42,57 +18,46 @@ public:
         SetForegroundWindow(shown.window());
         settle();
     }
-    void settle() const
+    void settle() // with what a short timer still brings
     {
-        const DWORD start = GetTickCount();
-        do {
-            shown.run();
-            MsgWaitForMultipleObjects(0, nullptr, FALSE, 30, QS_ALLINPUT);
-            shown.run();
-        } while (GetQueueStatus(QS_ALLINPUT & ~QS_TIMER) != 0 && GetTickCount() - start < patience);
+        shown.run();
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, 30, QS_ALLINPUT);
+        test::settle(shown);
     }
-    [[nodiscard]] bool until(const std::function<bool()>& condition) const
+    void press(std::initializer_list<int> keys)
     {
-        const DWORD start = GetTickCount();
-        while (!condition()) {
-            if (GetTickCount() - start > patience)
-                return false;
-            MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
-            shown.run();
-        }
-        return true;
-    }
-    void press(std::initializer_list<WORD> keys) const
-    {
-        for (const WORD key : keys) {
+        for (const int key : keys) {
             sendKey(key, true);
             sendKey(key, false);
             settle();
         }
     }
-    void pressWithAlt(WORD key) const // Alt stays down
+    void pressWithAlt(int key, const std::function<void()>& meanwhile = {}) // while Alt is down
     {
         sendKey(VK_MENU, true);
-        sendKey(key, true);
-        sendKey(key, false);
+        press({key});
+        if (meanwhile)
+            meanwhile();
+        sendKey(VK_MENU, false);
         settle();
     }
-    void click(HWND window, POINT at, int times = 1) const
+    void click(HWND window, POINT at, int times = 1)
     {
-        sendClick(window, at, times);
+        pointAt(window, at);
+        for (int i = 0; i < times; ++i)
+            for (const DWORD flag : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP})
+                sendMouse(flag);
         settle();
     }
-    void go(const char16_t* property) const // to its control, as a host asks
+    HWND go(const char16_t* property) // to its control, as a host asks
     {
         EXPECT_EQ(shown.page->EditProperty(*field_.id(property)), S_OK);
         settle();
+        return isOf(L"ComboBox", GetParent(GetFocus())) ? GetParent(GetFocus()) : GetFocus();
     }
-    [[nodiscard]] static HWND focusedCombo()
+    void expectDown(HWND combo)
     {
-        wchar_t name[32]{};
-        const HWND parent = GetParent(GetFocus());
-        GetClassNameW(parent, name, 32);
-        return lstrcmpiW(name, L"ComboBox") == 0 ? parent : GetFocus();
+        EXPECT_TRUE(until(shown, [&] { return isDown(combo); }));
     }
     [[nodiscard]] static bool isDown(HWND combo) { return SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; }
 
@@ -102,43 +67,34 @@ private:
     Automation field_;
 };
 
-TEST(PageHands, AnAccessKeyOpensTheListOfFontsAndClosesNothing)
+TEST(PageHands, TheListOfFontsOpensByItsAccessKeyAndByItsArrow)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const Hands hands(activex::fontePage, control);
-    SetFocus(hands.shown.find(L"EDIT", u"8"));
-    hands.pressWithAlt('N');
-    EXPECT_TRUE(hands.until([] { return Hands::isDown(Hands::focusedCombo()); }));
-    sendKey(VK_MENU, false);
-    hands.settle();
-    EXPECT_TRUE(IsWindow(hands.shown.window())) << "Alt+F4";
-    EXPECT_TRUE(Hands::isDown(Hands::focusedCombo()));
-}
-
-TEST(PageHands, AClickOnTheArrowOpensTheListOfFonts)
-{
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
-    const Hands hands(activex::fontePage, control);
-    hands.go(u"FontSize");
-    const HWND combo = hands.shown.find(L"COMBOBOX", Automation(control.Get()).textOf(u"FontName"));
-    ASSERT_NE(combo, nullptr);
-    const RECT client = clientOf(combo);
-    hands.click(combo, {client.right - 6, client.bottom / 2});
-    EXPECT_TRUE(hands.until([&] { return Hands::isDown(combo); }));
-    for (int i = 0; i < 5; ++i)
-        hands.settle();
-    EXPECT_TRUE(Hands::isDown(combo));
+    for (const bool click : {false, true}) {
+        Hands hands(activex::fontePage, control);
+        hands.go(u"FontSize");
+        const HWND combo = hands.shown.find(L"COMBOBOX", Automation(control.Get()).textOf(u"FontName"));
+        ASSERT_NE(combo, nullptr);
+        const RECT client = clientOf(combo);
+        if (click)
+            hands.click(combo, {client.right - 6, client.bottom / 2});
+        else
+            hands.pressWithAlt('N', [&] { hands.expectDown(combo); });
+        hands.expectDown(combo);
+        for (int i = 0; i < 5; ++i)
+            hands.settle();
+        EXPECT_TRUE(IsWindow(hands.shown.window())) << "Alt+F4";
+        EXPECT_TRUE(Hands::isDown(combo)) << "stays open";
+    }
 }
 
 TEST(PageHands, WhatAComboCompletesIsApplied)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const Hands hands(activex::principalPage, control);
-    hands.go(u"DateFormat");
-    const HWND combo = Hands::focusedCombo();
+    Hands hands(activex::principalPage, control);
+    const HWND combo = hands.go(u"DateFormat");
     SendMessageW(GetFocus(), EM_SETSEL, 0, -1);
     hands.press({'Y', 'Y', VK_F4, VK_F4, VK_TAB});
     EXPECT_EQ(shownBy(combo), u"yyyy/mm/dd");
@@ -151,10 +107,9 @@ TEST(PageHands, EnterAndEscCloseTheListOfAnEditableCombo)
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
     Automation(control.Get()).put(u"FormatoRetornoData", text(u"d/M/yy"));
-    const Hands hands(activex::principalPage, control);
-    hands.go(u"FormatoRetornoData");
-    const HWND combo = Hands::focusedCombo();
-    for (const WORD key : {WORD{VK_RETURN}, WORD{VK_ESCAPE}}) {
+    Hands hands(activex::principalPage, control);
+    const HWND combo = hands.go(u"FormatoRetornoData");
+    for (const int key : {VK_RETURN, VK_ESCAPE}) {
         hands.press({VK_F4});
         EXPECT_TRUE(Hands::isDown(combo));
         hands.press({VK_DOWN, key});
@@ -169,46 +124,42 @@ TEST(PageHands, AccessKeysWorkBesideThePage)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const Hands hands(activex::fontePage, control);
+    Hands hands(activex::fontePage, control);
     SetFocus(hands.shown.button());
     hands.pressWithAlt('T');
-    sendKey(VK_MENU, false);
     EXPECT_EQ(shownBy(GetFocus()), u"8");
     SetFocus(hands.shown.button());
     hands.shown.page->Show(SW_HIDE);
     hands.pressWithAlt('T');
-    sendKey(VK_MENU, false);
     EXPECT_EQ(GetFocus(), hands.shown.button()) << "a page behind another one takes no keys";
 }
 
 // --- the palette, whose acts come from a timer while it is on show
 
-struct PaletteActs {
+struct PaletteActs : Fixed {
     explicit PaletteActs(std::initializer_list<std::function<void(HWND)>> acts)
     {
         steps.assign(acts);
         next = 0;
         timer = SetTimer(nullptr, 0, 60, step);
     }
-    PaletteActs(const PaletteActs&) = delete;
-    PaletteActs& operator=(const PaletteActs&) = delete;
     ~PaletteActs() { KillTimer(nullptr, timer); }
     [[nodiscard]] static bool done() { return next == steps.size(); }
 
     static void CALLBACK step(HWND, UINT, UINT_PTR, DWORD)
     {
         const HWND palette = GetActiveWindow();
-        if (palette && shownBy(palette) == u"Paleta de Cores" && next < steps.size() && nothingWaits())
+        const bool waits = GetQueueStatus(QS_ALLINPUT & ~QS_TIMER) != 0;
+        if (palette && shownBy(palette) == u"Paleta de Cores" && next < steps.size() && !waits)
             steps[next++](palette);
     }
-    static bool nothingWaits() { return GetQueueStatus(QS_ALLINPUT & ~QS_TIMER) == 0; }
 
     static inline std::vector<std::function<void(HWND)>> steps;
     static inline std::size_t next = 0;
     static inline UINT_PTR timer = 0;
 };
 
-std::function<void(HWND)> key(WORD code)
+std::function<void(HWND)> key(int code)
 {
     return [code](HWND) {
         sendKey(code, true);
@@ -220,9 +171,8 @@ TEST(PageHands, AClickOnASwatchAndACancelledPaletteChangeNothing)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const Hands hands(activex::principalPage, control);
-    hands.go(u"CorValorNeg");
-    const HWND swatch = GetFocus();
+    Hands hands(activex::principalPage, control);
+    const HWND swatch = hands.go(u"CorValorNeg");
     hands.click(swatch, middleOf(swatch));
     EXPECT_EQ(hands.shown.page->IsPageDirty(), S_FALSE);
     Sleep(GetDoubleClickTime());
@@ -237,7 +187,7 @@ TEST(PageHands, AColourIsChosenByKeysAlone)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const Hands hands(activex::errosPage, control);
+    Hands hands(activex::errosPage, control);
     hands.go(u"Error_ForeColor");
     COLORREF left = 0, line = 0;
     const auto edgeOf = [](HWND swatch) { return pixelOf(swatch, {0, clientOf(swatch).bottom / 2}); };
@@ -246,7 +196,7 @@ TEST(PageHands, AColourIsChosenByKeysAlone)
         left = edgeOf(GetNextDlgTabItem(palette, GetFocus(), TRUE));
         key(VK_RIGHT)(palette);
     };
-    for (const WORD opener : {WORD{VK_SPACE}, WORD{VK_RETURN}}) {
+    for (const int opener : {VK_SPACE, VK_RETURN}) {
         const PaletteActs acts{key(VK_DOWN), look, key(VK_RETURN)};
         hands.press({opener});
         EXPECT_TRUE(PaletteActs::done()) << opener;
@@ -266,19 +216,18 @@ LRESULT CALLBACK paintedFrame(HWND window, UINT message, WPARAM first, LPARAM se
 {
     if (message != WM_ERASEBKGND)
         return DefWindowProcW(window, message, first, second);
+    const HDC dc = reinterpret_cast<HDC>(first);
     RECT place{};
-    GetClipBox(reinterpret_cast<HDC>(first), &place);
-    const HBRUSH brush = CreateSolidBrush(frameColour);
-    FillRect(reinterpret_cast<HDC>(first), &place, brush);
-    DeleteObject(brush);
-    return TRUE;
+    GetClipBox(dc, &place);
+    SetDCBrushColor(dc, frameColour);
+    return FillRect(dc, &place, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
 }
 
 TEST(PageLooks, ThePagesStandOnTheirFramesGround)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const Hands hands(activex::errosPage, control);
+    Hands hands(activex::errosPage, control);
     SetWindowLongPtrW(hands.shown.window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(paintedFrame));
     EXPECT_EQ(hands.shown.page->Show(SW_SHOW), S_OK);
     hands.settle();
@@ -292,22 +241,17 @@ TEST(PageLooks, TheTabInFrontJoinsItsPane)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const Hands hands(activex::principalPage, control);
+    Hands hands(activex::principalPage, control);
     const HWND strip = hands.shown.find(L"SysTabControl32", u"");
     ASSERT_NE(strip, nullptr);
     hands.settle();
     const auto coloursBelow = [&](WPARAM tab) {
         RECT caption{};
         SendMessageW(strip, TCM_GETITEMRECT, tab, reinterpret_cast<LPARAM>(&caption));
-        const HWND page = GetParent(strip);
-        const RECT place = placeIn(strip, page);
-        std::set<COLORREF> seen; // over the border, as the page shows it
+        const RECT place = placeIn(strip, nullptr);
+        std::set<COLORREF> seen; // on the screen: over the border, as the page shows it
         for (LONG y = caption.bottom - 3; y < caption.bottom + 8; ++y)
-            seen.insert(pixelOf(nullptr, [&] {
-                POINT at{place.left + caption.left + 4, place.top + y};
-                ClientToScreen(page, &at);
-                return at;
-            }()));
+            seen.insert(pixelOf(nullptr, {place.left + caption.left + 4, place.top + y}));
         return seen.size();
     };
     EXPECT_EQ(coloursBelow(0), 1u);
@@ -318,7 +262,7 @@ TEST(PageLooks, AFontSampleLargerThanItsSurfaceIsCutThere)
 {
     const ComPtr<IUnknown> control = create();
     Automation(control.Get()).put(u"FontSize", number(255));
-    const Hands hands(activex::fontePage, control);
+    Hands hands(activex::fontePage, control);
     hands.settle();
     const HWND button = hands.shown.find(L"BUTTON", u"T&este");
     ASSERT_NE(button, nullptr);
@@ -341,7 +285,7 @@ TEST(PageLooks, TheLettersStandInColumns)
 {
     const LeakCheck leaks;
     const ComPtr<IUnknown> control = create();
-    const Hands hands(activex::principalPage, control);
+    Hands hands(activex::principalPage, control);
     hands.go(u"TextoLivre");
     const HWND list = hands.shown.find(L"LISTBOX", u"");
     RECT column{};

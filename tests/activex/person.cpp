@@ -19,12 +19,20 @@ LRESULT CALLBACK followFocus(int code, WPARAM window, LPARAM detail)
     return CallNextHookEx(nullptr, code, window, detail);
 }
 
-void sendMouse(DWORD flags)
+void holdKey(int key, bool down) // as this thread's windows see it
 {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
+    BYTE keys[256]{};
+    GetKeyboardState(keys);
+    keys[key] = down ? 0x80 : 0;
+    SetKeyboardState(keys);
+}
+
+void press(Loop& loop)
+{
+    for (const DWORD flag : {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
+        sendMouse(flag);
+        settle(loop);
+    }
 }
 
 bool nothingWaits()
@@ -34,11 +42,11 @@ bool nothingWaits()
 
 } // namespace
 
-bool until(Form& form, const std::function<bool()>& condition)
+bool until(Loop& loop, const std::function<bool()>& condition)
 {
     const DWORD start = GetTickCount();
     for (;;) {
-        form.run();
+        loop.run();
         if (condition())
             return true;
         if (GetTickCount() - start > patience)
@@ -47,9 +55,9 @@ bool until(Form& form, const std::function<bool()>& condition)
     }
 }
 
-void settle(Form& form)
+void settle(Loop& loop)
 {
-    EXPECT_TRUE(until(form, nothingWaits));
+    EXPECT_TRUE(until(loop, nothingWaits));
 }
 
 // A step away first: the system tells nothing of a pointer that stays where it is.
@@ -67,28 +75,21 @@ void pointAway()
 }
 
 // Down and up arrive as hardware has them; the form's loop hands them on. Two in a row are no double click.
-void clickAt(Form& form, HWND window, POINT at)
+void clickAt(Loop& loop, HWND window, POINT at)
 {
     static bool aside = false;
     const int doubleClick = GetSystemMetrics(SM_CXDOUBLECLK);
     if (std::exchange(aside, !aside))
         at.x += doubleClick;
     pointAt(window, at);
-    sendMouse(MOUSEEVENTF_LEFTDOWN);
-    settle(form);
-    sendMouse(MOUSEEVENTF_LEFTUP);
-    settle(form);
+    press(loop);
 }
 
-void clickQuickly(Form& form, HWND window, POINT at, int times)
+void clickQuickly(Loop& loop, HWND window, POINT at, int times)
 {
     pointAt(window, at);
-    for (int i = 0; i < times; ++i) {
-        sendMouse(MOUSEEVENTF_LEFTDOWN);
-        settle(form);
-        sendMouse(MOUSEEVENTF_LEFTUP);
-        settle(form);
-    }
+    for (int i = 0; i < times; ++i)
+        press(loop);
 }
 
 POINT middleOf(HWND window)
@@ -107,32 +108,34 @@ void strike(Form& form, int key, int with)
     settle(form);
 }
 
-void hardKey(Form& form, int key, int with)
+void sendMouse(DWORD flags)
 {
-    const auto send = [](int code, bool down) {
-        if (!code)
-            return;
-        INPUT input{};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = static_cast<WORD>(code);
-        input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(code), MAPVK_VK_TO_VSC));
-        input.ki.dwFlags = down ? 0U : KEYEVENTF_KEYUP;
-        SendInput(1, &input, sizeof input);
-    };
-    send(with, true);
-    send(key, true);
-    settle(form);
-    send(key, false);
-    send(with, false);
-    settle(form);
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
 }
 
-void holdKey(int key, bool down)
+void sendKey(int key, bool down)
 {
-    BYTE keys[256]{};
-    GetKeyboardState(keys);
-    keys[key] = down ? 0x80 : 0;
-    SetKeyboardState(keys);
+    if (!key)
+        return;
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = static_cast<WORD>(key);
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(key), MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = down ? 0U : KEYEVENTF_KEYUP;
+    SendInput(1, &input, sizeof input);
+}
+
+void hardKey(Loop& loop, int key, int with)
+{
+    sendKey(with, true);
+    sendKey(key, true);
+    settle(loop);
+    sendKey(key, false);
+    sendKey(with, false);
+    settle(loop);
 }
 
 SeenColours coloursOf(const Site& site)
@@ -209,20 +212,21 @@ std::u16string shownBy(HWND window)
     return std::u16string(asText({shown, static_cast<std::size_t>(length)}));
 }
 
+HWND plainWindow(const wchar_t* kind, RECT place, HWND parent, const wchar_t* text)
+{
+    return CreateWindowExW(0, kind, text, WS_CHILD | WS_VISIBLE | WS_TABSTOP, place.left, place.top,
+                           place.right - place.left, place.bottom - place.top, parent, nullptr, nullptr, nullptr);
+}
+
 void makeDate(const Site& site, std::u16string_view shown)
 {
     asDate(site.automation());
     SetWindowTextW(site.edit(), wide(std::u16string(shown).c_str()));
 }
 
-FocusPath::FocusPath() : hook_(SetWindowsHookExW(WH_CBT, followFocus, nullptr, GetCurrentThreadId()))
+FocusPath::FocusPath() : hook_(WH_CBT, followFocus)
 {
     path.clear();
-}
-
-FocusPath::~FocusPath()
-{
-    UnhookWindowsHookEx(hook_);
 }
 
 const std::vector<HWND>& FocusPath::windows()

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "container.h"
-
-#include "tests/support/windows.h"
+#include "fields.h"
 
 #include <functional>
 #include <string>
@@ -12,19 +11,20 @@
 
 namespace vela::test {
 
-// Runs the form's loop until the condition holds; false after a generous time.
-[[nodiscard]] bool until(Form& form, const std::function<bool()>& condition);
-void settle(Form& form); // until nothing waits any more, what was posted meanwhile included
+// Runs the loop until the condition holds; false after a generous time.
+[[nodiscard]] bool until(Loop& loop, const std::function<bool()>& condition);
+void settle(Loop& loop); // until nothing waits any more, what was posted meanwhile included
 
 // The pointer, moved and pressed for the whole desktop: the system finds the window under it.
 void pointAt(HWND window, POINT at); // in its client
 void pointAway();                    // at the desktop
-void clickAt(Form& form, HWND window, POINT at);
-void clickQuickly(Form& form, HWND window, POINT at, int times); // in one place, as fast as a person can and faster
+void clickAt(Loop& loop, HWND window, POINT at);
+void clickQuickly(Loop& loop, HWND window, POINT at, int times); // in one place, as fast as a person can and faster
 [[nodiscard]] POINT middleOf(HWND window);
-void strike(Form& form, int key, int with = 0);  // down and up for the focused window, another key held meanwhile
-void hardKey(Form& form, int key, int with = 0); // the same through the system's own queue of input
-void holdKey(int key, bool down);                // as this thread's windows see it
+void sendMouse(DWORD flags);
+void sendKey(int key, bool down);                // into the system's own queue of input; none for 0
+void hardKey(Loop& loop, int key, int with = 0); // so too, down and up, another key held meanwhile
+void strike(Form& form, int key, int with = 0);  // the same, posted to the focused window
 
 struct SeenColours {
     COLORREF fore = CLR_INVALID;
@@ -41,28 +41,50 @@ HWND openPopup(Form& form, const Site& site);  // by its button
 HWND popupOf(Form& form);                      // once it is up and active
 [[nodiscard]] std::u16string shownBy(HWND window);
 
+// A plain window of the system's on the form.
+HWND plainWindow(const wchar_t* kind, RECT place, HWND parent, const wchar_t* text = L"");
+
 // A date field whose entry is no date.
-void makeDate(const Site& site, std::u16string_view shown);
+void makeDate(const Site& site, std::u16string_view shown = u"__/__/____");
+
+// A form with a field that has the focus, and a neighbour.
+class Desk {
+public:
+    explicit Desk(Kind kind = asPlainText) : site(form.addActive()), neighbour(form.addActive())
+    {
+        kind(site.automation());
+        enter();
+        site.log.clear();
+    }
+    void enter() { go(site); }
+    void leave() { go(neighbour); }
+
+    Form form;
+    Site& site;
+    Site& neighbour;
+
+private:
+    void go(Site& to)
+    {
+        form.focus(to);
+        settle(form);
+    }
+};
 
 // Every window that got the focus on this thread while it lives, in order.
-class FocusPath {
+class FocusPath : Fixed {
 public:
     FocusPath();
-    FocusPath(const FocusPath&) = delete;
-    FocusPath& operator=(const FocusPath&) = delete;
-    ~FocusPath();
     [[nodiscard]] static const std::vector<HWND>& windows();
 
 private:
-    HHOOK hook_;
+    Hook hook_;
 };
 
 // A top-level window beside the form.
-class OtherWindow {
+class OtherWindow : Fixed {
 public:
     OtherWindow();
-    OtherWindow(const OtherWindow&) = delete;
-    OtherWindow& operator=(const OtherWindow&) = delete;
     ~OtherWindow() { DestroyWindow(window_); }
     [[nodiscard]] HWND window() const noexcept { return window_; }
 

@@ -1,6 +1,5 @@
 // The pop-ups as a person uses them on a field of the library: clicks, keys, other windows, and forms that go.
 #include "person.h"
-#include "two_dates.h"
 
 #include "popups/calculator_layout.h"
 #include "popups/calendar_layout.h"
@@ -8,22 +7,14 @@
 #include <gtest/gtest.h>
 
 #include <set>
-#include <string_view>
 
 namespace vela::test {
 
 namespace {
 
-// A form with one field that has the focus and a neighbour.
-class Desk {
+class PopupDesk : public Desk {
 public:
-    explicit Desk(Kind kind) : site(form.addActive()), neighbour(form.addActive())
-    {
-        kind(site.automation());
-        form.focus(site);
-        settle(form);
-        site.log.clear();
-    }
+    using Desk::Desk;
 
     HWND open() { return openPopup(form, site); }
     void expectClosed(HWND window)
@@ -36,10 +27,6 @@ public:
         settle(form);
         EXPECT_EQ(site.count("OnFocus 0"), 0) << "never left";
     }
-
-    Form form;
-    Site& site;
-    Site& neighbour;
 };
 
 POINT dayAt(HWND calendar, int cell)
@@ -55,7 +42,7 @@ TEST(Popup, AClickOnTheButtonOpensTheCalendarAndAClickOnADayWritesIt)
 {
     const AnsweredBoxes boxes;
     const LeakCheck leaks;
-    Desk desk(asDate);
+    PopupDesk desk(asDate);
     desk.site.automation().set({{u"Text", u"15/03/2024"}, {u"ErrorAlert", true}});
     for (int round = 0; round < 2; ++round) {
         const HWND calendar = desk.open();
@@ -80,7 +67,7 @@ TEST(Popup, OpeningIsNoLeavingAndEscWritesNothing)
 {
     for (const auto kind : {asDate, asNumber}) {
         const LeakCheck leaks;
-        Desk desk(kind);
+        PopupDesk desk(kind);
         desk.form.type(u"3");
         const std::u16string shown = shownBy(desk.site.edit());
         const SeenColours entered = coloursOf(desk.site);
@@ -97,7 +84,7 @@ TEST(Popup, OpeningIsNoLeavingAndEscWritesNothing)
 
 TEST(Popup, KeysMoveTheDayAndEnterWritesIt)
 {
-    Desk desk(asDate);
+    PopupDesk desk(asDate);
     desk.site.automation().put(u"Text", text(u"28/02/2024"));
     const HWND calendar = desk.open();
     SendMessageW(GetFocus(), CB_SHOWDROPDOWN, TRUE, 0);
@@ -111,43 +98,34 @@ TEST(Popup, KeysMoveTheDayAndEnterWritesIt)
     EXPECT_EQ(desk.site.automation().textOf(u"Text"), u"28/04/2024");
 }
 
-TEST(Popup, AnotherWindowInFrontClosesAndLeaves)
+// Another window in front, or a click elsewhere on the form: the pop-up goes and the field is left, once.
+TEST(Popup, WorkElsewhereClosesAndLeaves)
 {
-    for (const auto kind : {asDate, asNumber}) {
-        const LeakCheck leaks;
-        Desk desk(kind);
-        const OtherWindow other;
-        const HWND popup = desk.open();
-        SetForegroundWindow(other.window());
-        desk.expectClosed(popup);
-        EXPECT_TRUE(until(desk.form, [&] { return desk.site.count("OnFocus 0") == 1; })) << "left now";
-        settle(desk.form);
-        EXPECT_EQ(GetActiveWindow(), other.window()) << "and nothing comes back";
-        EXPECT_EQ(desk.site.count("OnFocus 0"), 1);
-    }
-}
-
-// A click elsewhere on the form: the pop-up goes, the field is left, the neighbour has the focus.
-TEST(Popup, AClickOnTheNeighbourClosesAndLeaves)
-{
-    for (const auto kind : {asDate, asNumber}) {
-        const LeakCheck leaks;
-        Desk desk(kind);
-        const HWND popup = desk.open();
-        clickAt(desk.form, desk.neighbour.edit(), {195, 8}); // the pop-up covers the rest
-        desk.expectClosed(popup);
-        EXPECT_TRUE(until(desk.form, [&] { return GetFocus() == desk.neighbour.edit(); }));
-        settle(desk.form);
-        EXPECT_EQ(desk.site.count("OnFocus 0"), 1);
-        EXPECT_EQ(desk.neighbour.count("OnFocus 1"), 1);
-        EXPECT_EQ(desk.neighbour.count("OnFocus 0"), 0);
-    }
+    for (const auto kind : {asDate, asNumber})
+        for (const bool click : {false, true}) {
+            const LeakCheck leaks;
+            PopupDesk desk(kind);
+            const OtherWindow other;
+            const HWND popup = desk.open();
+            if (click)
+                clickAt(desk.form, desk.neighbour.edit(), {188, 8}); // the pop-up covers the rest
+            else
+                SetForegroundWindow(other.window());
+            desk.expectClosed(popup);
+            EXPECT_TRUE(until(desk.form, [&] { return desk.site.count("OnFocus 0") == 1; })) << "left now";
+            settle(desk.form);
+            EXPECT_EQ(GetActiveWindow(), click ? desk.form.window() : other.window()) << "and nothing comes back";
+            EXPECT_EQ(GetFocus() == desk.neighbour.edit(), click);
+            EXPECT_EQ(desk.site.count("OnFocus 0"), 1);
+            EXPECT_EQ(desk.neighbour.count("OnFocus 1"), click ? 1 : 0);
+            EXPECT_EQ(desk.neighbour.count("OnFocus 0"), 0);
+        }
 }
 
 TEST(Popup, KeysAndClicksCalculateAndF2Writes)
 {
     const LeakCheck leaks;
-    Desk desk(asNumber);
+    PopupDesk desk(asNumber);
     desk.form.type(u"1");
     desk.form.press(VK_F2);
     const HWND calculator = popupOf(desk.form);
@@ -168,18 +146,13 @@ TEST(Popup, KeysAndClicksCalculateAndF2Writes)
     desk.expectClosed(calculator);
     desk.expectBackInTheField();
     EXPECT_EQ(desk.site.automation().textOf(u"Text"), u"16,51");
-}
-
-TEST(Popup, EachOfSeveralQuickClicksCounts)
-{
-    Desk desk(asNumber);
     desk.form.press(VK_F2);
-    const HWND calculator = popupOf(desk.form);
+    const HWND again = popupOf(desk.form);
     desk.form.type(u"c");
-    const HWND eight = GetDlgItem(calculator, 100 + popups::calculator_widget::number(8).value);
-    clickQuickly(desk.form, eight, middleOf(eight), 4);
+    const HWND eight = GetDlgItem(again, 100 + widget::number(8).value);
+    clickQuickly(desk.form, eight, middleOf(eight), 4); // each of them counts
     desk.form.press(VK_F2);
-    desk.expectClosed(calculator);
+    desk.expectClosed(again);
     EXPECT_EQ(desk.site.automation().textOf(u"Text"), u"8888");
 }
 
@@ -187,7 +160,7 @@ TEST(Popup, EachOfSeveralQuickClicksCounts)
 TEST(Popup, ADoubleClickOnTheButtonLeavesItOpen)
 {
     for (const auto kind : {asDate, asNumber}) {
-        Desk desk(kind);
+        PopupDesk desk(kind);
         const HWND button = buttonOf(desk.site);
         clickQuickly(desk.form, button, middleOf(button), 2);
         settle(desk.form);
@@ -198,7 +171,7 @@ TEST(Popup, ADoubleClickOnTheButtonLeavesItOpen)
 TEST(Popup, OneIsOpenForTheFieldThatAskedLast)
 {
     const LeakCheck leaks;
-    Desk desk(asDate);
+    PopupDesk desk(asDate);
     asDate(desk.neighbour.automation());
     const HWND first = desk.open();
     const HWND second = openPopup(desk.form, desk.neighbour);
@@ -221,9 +194,8 @@ struct Flicker {
 LRESULT CALLBACK watchPopup(int code, WPARAM first, LPARAM second)
 {
     const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(second);
-    wchar_t name[32]{};
     const HWND top = GetAncestor(sent.hwnd, GA_ROOT);
-    if (code == HC_ACTION && GetClassNameW(top, name, 32) && std::wstring_view(name) == L"VelaForm") {
+    if (code == HC_ACTION && isOf(L"VelaForm", top)) {
         seen.popup = top;
         if (sent.message == WM_PAINT)
             seen.painted.insert(sent.hwnd);
@@ -240,12 +212,13 @@ LRESULT CALLBACK watchPopup(int code, WPARAM first, LPARAM second)
 TEST(Popup, NothingOfItIsSeenHalfPlaced)
 {
     for (const auto kind : {asDate, asNumber}) {
-        Desk desk(kind);
+        PopupDesk desk(kind);
         for (int round = 0; round < 2; ++round) { // anew, and again while it is open
             seen = {};
-            const HHOOK hook = SetWindowsHookExW(WH_CALLWNDPROC, watchPopup, nullptr, GetCurrentThreadId());
-            SendMessageW(buttonOf(desk.site), BM_CLICK, 0, 0);
-            UnhookWindowsHookEx(hook);
+            {
+                const Hook hook(WH_CALLWNDPROC, watchPopup);
+                SendMessageW(buttonOf(desk.site), BM_CLICK, 0, 0);
+            }
             ASSERT_TRUE(seen.popup);
             EXPECT_EQ(seen.late, std::vector<std::string>()) << "round " << round;
             EXPECT_TRUE(seen.painted.contains(seen.popup));
@@ -257,54 +230,46 @@ TEST(Popup, NothingOfItIsSeenHalfPlaced)
 
 struct End {
     const char* what;
-    void (*act)(Desk&);
+    void (*act)(PopupDesk&);
 };
 const End ends[] = {
-    {"the field is closed", [](Desk& desk) { desk.site.close(); }},
-    {"the field loses its window", [](Desk& desk) { desk.site.as<IOleInPlaceObject>()->InPlaceDeactivate(); }},
-    {"the form is destroyed", [](Desk& desk) { desk.form.destroyWindow(); }},
+    {"the field is closed", [](PopupDesk& desk) { desk.site.close(); }},
+    {"the field loses its window", [](PopupDesk& desk) { desk.site.as<IOleInPlaceObject>()->InPlaceDeactivate(); }},
+    {"the form is destroyed", [](PopupDesk& desk) { desk.form.destroyWindow(); }},
     {"the type changes",
-     [](Desk& desk) {
+     [](PopupDesk& desk) {
          desk.site.automation().put(u"TextType", number(0));
          desk.site.close();
      }},
 };
 
+// While it is up, and inside the event of the text that a day writes.
 TEST(Popup, GoesWithItsFieldAndItsForm)
 {
     for (const End& end : ends)
-        for (const auto kind : {asDate, asNumber}) {
-            SCOPED_TRACE(end.what);
-            const AnsweredBoxes boxes;
-            const LeakCheck leaks;
-            Desk desk(kind);
-            const HWND popup = desk.open();
-            end.act(desk);
-            desk.expectClosed(popup);
-            settle(desk.form);
-            EXPECT_TRUE(AnsweredBoxes::texts().empty());
-        }
-}
-
-// The host destroys everything inside the event of the text that a day writes.
-TEST(Popup, TheHostMayDestroyInsideTheWrite)
-{
-    for (const End& end : ends) {
-        SCOPED_TRACE(end.what);
-        const AnsweredBoxes boxes;
-        const LeakCheck leaks;
-        Desk desk(asDate);
-        const HWND calendar = desk.open();
-        bool done = false;
-        desk.site.onEvent = [&](DISPID id, DISPPARAMS&) {
-            if (id == 1 && !std::exchange(done, true))
-                end.act(desk);
-        };
-        clickAt(desk.form, calendar, dayAt(calendar, 20));
-        desk.expectClosed(calendar);
-        settle(desk.form);
-        EXPECT_TRUE(done);
-    }
+        for (const bool inside : {false, true})
+            for (const auto kind : {asDate, asNumber}) {
+                SCOPED_TRACE(end.what);
+                const AnsweredBoxes boxes;
+                const LeakCheck leaks;
+                PopupDesk desk(kind);
+                const HWND popup = desk.open();
+                bool done = false;
+                desk.site.onEvent = [&](DISPID id, DISPPARAMS&) {
+                    if (id == 1 && !std::exchange(done, true))
+                        end.act(desk);
+                };
+                if (!inside)
+                    end.act(desk);
+                else if (kind == asDate)
+                    clickAt(desk.form, popup, dayAt(popup, 20));
+                else
+                    for (const WPARAM key : {WPARAM{'7'}, WPARAM{VK_F2}})
+                        desk.form.press(key);
+                desk.expectClosed(popup);
+                settle(desk.form);
+                EXPECT_TRUE(inside ? done : AnsweredBoxes::texts().empty());
+            }
 }
 
 } // namespace

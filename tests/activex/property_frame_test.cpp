@@ -17,64 +17,47 @@ namespace {
 constexpr WPARAM applyButton = 101;
 constexpr std::size_t geralPage = 1;
 
-class TwoControls {
-public:
-    TwoControls()
-    {
-        Automation(first.Get()).put(u"IF_IsEmpty", text(u"vazio um"));
-        Automation(second.Get()).put(u"IF_IsEmpty", text(u"vazio dois"));
-        IUnknown* selected[] = {first.Get(), second.Get()};
-        opened = frame.open(selected, L"dois campos");
+TEST(PropertyFrame, ApplyAndOkWriteTheFirstControlOnlyAndCancelNothing)
+{
+    const LeakCheck leaks;
+    const ComPtr<IUnknown> controls[] = {create(), create()};
+    const Automation first(controls[0].Get());
+    const Automation second(controls[1].Get());
+    demo::PropertyFrame frame{GetModuleHandleW(nullptr), nullptr};
+    const auto open = [&] {
+        IUnknown* selected[] = {controls[0].Get(), controls[1].Get()};
+        ASSERT_TRUE(frame.open(selected, L"dois campos"));
         frame.select(geralPage);
-    }
-    void type(std::u16string_view over, wchar_t letter)
-    {
+    };
+    const auto type = [&](std::u16string_view over, wchar_t letter) {
         typeOver(childShowing(frame.window(), over, L"Edit"), letter);
-    }
-    void press(WPARAM button)
-    {
+    };
+    const auto press = [&](WPARAM button) {
         SendMessageW(frame.window(), WM_COMMAND, button, 0);
         pump();
-    }
-    [[nodiscard]] std::u16string ofFirst() const { return Automation(first.Get()).textOf(u"IF_IsEmpty"); }
-    [[nodiscard]] std::u16string ofSecond() const { return Automation(second.Get()).textOf(u"IF_IsEmpty"); }
-
-    ComPtr<IUnknown> first = create();
-    ComPtr<IUnknown> second = create();
-    demo::PropertyFrame frame{GetModuleHandleW(nullptr), nullptr};
-    bool opened = false;
-};
-
-TEST(PropertyFrame, ApplyAndOkWriteTheFirstControlOnly)
-{
-    const LeakCheck leaks;
-    TwoControls on;
-    ASSERT_TRUE(on.opened);
-    EXPECT_EQ(on.frame.pageCount(), 5U);
-    EXPECT_FALSE(on.frame.canApply());
-    on.type(u"vazio um", L'n');
-    EXPECT_TRUE(on.frame.canApply());
-    EXPECT_EQ(on.ofFirst(), u"vazio um");
-    on.press(applyButton);
-    EXPECT_EQ(on.ofFirst(), u"n");
-    EXPECT_FALSE(on.frame.canApply());
-    EXPECT_NE(on.frame.window(), nullptr);
-    on.type(u"n", L'o');
-    on.press(IDOK);
-    EXPECT_EQ(on.ofFirst(), u"o");
-    EXPECT_EQ(on.ofSecond(), u"vazio dois");
-    EXPECT_EQ(on.frame.window(), nullptr);
-}
-
-TEST(PropertyFrame, CancelWritesNothing)
-{
-    const LeakCheck leaks;
-    TwoControls on;
-    ASSERT_TRUE(on.opened);
-    on.type(u"vazio um", L'n');
-    on.press(IDCANCEL);
-    EXPECT_EQ(on.ofFirst(), u"vazio um");
-    EXPECT_EQ(on.frame.window(), nullptr);
+    };
+    first.put(u"IF_IsEmpty", text(u"vazio um"));
+    second.put(u"IF_IsEmpty", text(u"vazio dois"));
+    open();
+    EXPECT_EQ(frame.pageCount(), 5U);
+    EXPECT_FALSE(frame.canApply());
+    type(u"vazio um", L'n');
+    EXPECT_TRUE(frame.canApply());
+    EXPECT_EQ(first.textOf(u"IF_IsEmpty"), u"vazio um");
+    press(applyButton);
+    EXPECT_EQ(first.textOf(u"IF_IsEmpty"), u"n");
+    EXPECT_FALSE(frame.canApply());
+    EXPECT_NE(frame.window(), nullptr);
+    type(u"n", L'o');
+    press(IDOK);
+    EXPECT_EQ(first.textOf(u"IF_IsEmpty"), u"o");
+    EXPECT_EQ(second.textOf(u"IF_IsEmpty"), u"vazio dois");
+    EXPECT_EQ(frame.window(), nullptr);
+    open();
+    type(u"o", L'c');
+    press(IDCANCEL);
+    EXPECT_EQ(first.textOf(u"IF_IsEmpty"), u"o");
+    EXPECT_EQ(frame.window(), nullptr);
 }
 
 // VELA_TEST_COUNT=1000 takes minutes.
@@ -116,19 +99,16 @@ struct FrameVisit {
         if (next < tabs) {
             SendMessageW(strip, TCM_SETCURFOCUS, static_cast<WPARAM>(next++), 0);
             int pages = 0;
-            EnumChildWindows(frame, countPages, reinterpret_cast<LPARAM>(&pages));
+            eachInside(frame, [&](HWND window) {
+                wchar_t name[32]{};
+                GetClassNameW(window, name, 32);
+                pages += std::wcsncmp(name, L"Vela", 4) == 0 && IsWindowVisible(window);
+            });
             shown += pages == 1;
         } else {
             KillTimer(nullptr, timer);
             PostMessageW(frame, WM_COMMAND, IDCANCEL, 0);
         }
-    }
-    static BOOL CALLBACK countPages(HWND window, LPARAM pages)
-    {
-        wchar_t name[32]{};
-        GetClassNameW(window, name, 32);
-        *reinterpret_cast<int*>(pages) += std::wcsncmp(name, L"Vela", 4) == 0 && IsWindowVisible(window);
-        return TRUE;
     }
 };
 

@@ -1,9 +1,9 @@
 // The registry after registering and unregistering, per machine and per user, and activation without a registry.
 #include "automation.h"
 #include "library.h"
-#include "screen_settings.h"
 
 #include "activex/guids.h"
+#include "tests/windows/child.h"
 
 #include <gtest/gtest.h>
 
@@ -38,10 +38,9 @@ std::wstring valueOf(HKEY root, const std::wstring& key, const wchar_t* name = n
 bool exists(HKEY root, const std::wstring& key)
 {
     HKEY opened = nullptr;
-    if (RegOpenKeyExW(root, (L"Software\\Classes\\" + key).c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS)
-        return false;
+    const LSTATUS found = RegOpenKeyExW(root, (L"Software\\Classes\\" + key).c_str(), 0, KEY_READ, &opened);
     RegCloseKey(opened);
-    return true;
+    return found == ERROR_SUCCESS;
 }
 
 std::wstring classKey(std::string_view id)
@@ -96,11 +95,8 @@ void expectNothing(HKEY root)
 // Wine 8 looks for classes among the machine's only.
 bool usersClassesAreSeen()
 {
-    HKEY opened = nullptr;
-    if (RegOpenKeyExW(HKEY_CLASSES_ROOT, L"Vela.Vela", 0, KEY_READ, &opened) != ERROR_SUCCESS)
-        return false;
-    RegCloseKey(opened);
-    return true;
+    CLSID found{};
+    return SUCCEEDED(CLSIDFromProgID(L"Vela.Vela", &found));
 }
 
 class Registration : public testing::Test {
@@ -111,16 +107,22 @@ protected:
 TEST_F(Registration, ForTheMachineAndBack)
 {
     expectRegistered(HKEY_LOCAL_MACHINE);
-    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
+    ASSERT_EQ(callInstall(true, L"user"), S_OK);
+    ASSERT_EQ(callInstall(false, L"user"), S_OK); // for one user; it stays for the machine
+    expectNothing(HKEY_CURRENT_USER);
+    expectRegistered(HKEY_LOCAL_MACHINE);
+    ASSERT_EQ(callInstall(true, L"USER"), S_OK);
+    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK); // for both
     for (const HKEY root : roots)
         expectNothing(root);
-    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK) << "a second time there is nothing to do";
+    ASSERT_EQ(callInstall(false, nullptr), S_OK) << "a second time there is nothing to do";
     EXPECT_FALSE(create());
 }
 
 TEST_F(Registration, ForOneUserAndBack)
 {
     ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
+    EXPECT_FALSE(exists(HKEY_CURRENT_USER, L"TypeLib"));
     ASSERT_EQ(callInstall(true, L"user"), S_OK);
     expectNothing(HKEY_LOCAL_MACHINE);
     expectRegistered(HKEY_CURRENT_USER);
@@ -131,34 +133,8 @@ TEST_F(Registration, ForOneUserAndBack)
     }
     ASSERT_EQ(callInstall(false, L"user"), S_OK);
     expectNothing(HKEY_CURRENT_USER);
-}
-
-TEST_F(Registration, UndoneForOneUserItStaysForTheMachine)
-{
-    ASSERT_EQ(callInstall(true, L"user"), S_OK);
-    ASSERT_EQ(callInstall(false, L"user"), S_OK);
-    expectNothing(HKEY_CURRENT_USER);
-    expectRegistered(HKEY_LOCAL_MACHINE);
-    ASSERT_EQ(callInstall(true, L"USER"), S_OK);
-    ASSERT_EQ(callInstall(false, nullptr), S_OK);
-    for (const HKEY root : roots)
-        expectNothing(root);
-}
-
-TEST_F(Registration, LeavesNoEmptyKeys)
-{
-    const auto parents = [] {
-        std::string found;
-        for (const wchar_t* const key : {L"CLSID", L"Interface", L"TypeLib"})
-            found += exists(HKEY_CURRENT_USER, key) ? '1' : '0';
-        return found;
-    };
-    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
-    const std::string before = parents();
-    ASSERT_EQ(callInstall(true, L"user"), S_OK);
-    ASSERT_EQ(callInstall(false, L"user"), S_OK);
-    EXPECT_EQ(before, "000");
-    EXPECT_EQ(parents(), before);
+    for (const wchar_t* const key : {L"CLSID", L"Interface", L"TypeLib"})
+        EXPECT_FALSE(exists(HKEY_CURRENT_USER, key)) << "no empty key is left";
 }
 
 // A key in the way that takes no lasting keys below it; what was registered before says so by another path.
@@ -186,10 +162,18 @@ TEST_F(Registration, AFailedOneLeavesTheOneThatWorked)
     RegDeleteTreeW(HKEY_LOCAL_MACHINE, inTheWay.c_str());
 }
 
+// No message where nobody sees it, as a service has it: a box would wait for ever.
 TEST_F(Registration, AnUnknownWordIsRefusedWithAMessage)
 {
     ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
     const AnsweredBoxes boxes;
+    const HWINSTA before = GetProcessWindowStation();
+    const HWINSTA unseen = CreateWindowStationW(nullptr, 0, GENERIC_ALL, nullptr);
+    ASSERT_TRUE(SetProcessWindowStation(unseen));
+    EXPECT_EQ(callInstall(true, L"usuario"), E_INVALIDARG);
+    EXPECT_TRUE(boxes.texts().empty());
+    SetProcessWindowStation(before);
+    CloseWindowStation(unseen);
     EXPECT_EQ(callInstall(true, L"usuario"), E_INVALIDARG);
     ASSERT_EQ(boxes.texts().size(), 1u);
     EXPECT_NE(boxes.texts()[0].find(u"/i:usuario"), std::u16string::npos);
@@ -197,24 +181,38 @@ TEST_F(Registration, AnUnknownWordIsRefusedWithAMessage)
         expectNothing(root);
 }
 
-// As a service has it: a box would wait for ever.
-TEST_F(Registration, NoBoxWhereNobodySeesIt)
+std::string assembly(const std::string& name)
 {
-    const HWINSTA before = GetProcessWindowStation();
-    const HWINSTA unseen = CreateWindowStationW(nullptr, 0, GENERIC_ALL, nullptr);
-    ASSERT_TRUE(SetProcessWindowStation(unseen));
-    {
-        const AnsweredBoxes boxes;
-        EXPECT_EQ(callInstall(true, L"usuario"), E_INVALIDARG);
-        EXPECT_TRUE(boxes.texts().empty());
-    }
-    SetProcessWindowStation(before);
-    CloseWindowStation(unseen);
+    return R"(<assemblyIdentity type="win32" name=")" + name + R"(" version="1.0.0.0" processorArchitecture=")" +
+           (sizeof(void*) == 8 ? "amd64" : "x86") + R"("/>)";
+}
+
+// A program beside the library whose manifest names the library's as a dependency, as the manual tells.
+TEST_F(Registration, AProgramThatDependsOnTheAssembly)
+{
+    std::string program;
+    for (const wchar_t unit : libraryPath().substr(0, libraryPath().rfind(L'\\')) + L"\\without_registry.exe")
+        program += static_cast<char>(unit);
+    const std::string manifest = program + ".manifest";
+    const AtEnd remove([&] {
+        DeleteFileA(program.c_str());
+        DeleteFileA(manifest.c_str());
+    });
+    ASSERT_TRUE(CopyFileA(thisProgram().c_str(), program.c_str(), FALSE));
+    std::ofstream(manifest) << R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
+                            << R"(<assembly xmlns="urn:schemas-microsoft-com:asm.v1" manifestVersion="1.0">)"
+                            << assembly("Program") << "<dependency><dependentAssembly>" << assembly("Vela.ocx")
+                            << "</dependentAssembly></dependency></assembly>";
+    runApart(program, "WithoutRegistry.*", "VELA_TEST_MANIFEST");
 }
 
 // Classes, names, library and status are found by the manifest alone.
-void expectActivation()
+TEST(WithoutRegistry, TheProgramsManifestIsEnough)
 {
+    if (!std::getenv("VELA_TEST_MANIFEST"))
+        GTEST_SKIP() << "a part of Registration.AProgramThatDependsOnTheAssembly";
+    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
+    expectNothing(HKEY_LOCAL_MACHINE);
     const ComPtr<IUnknown> control = create();
     ASSERT_TRUE(control);
     const Automation field(control.Get());
@@ -230,56 +228,6 @@ void expectActivation()
     EXPECT_EQ(LoadRegTypeLib(activex::libraryId, 1, 0, 0, &found), S_OK);
 }
 
-// A program beside the library whose manifest names the library's as a dependency, as the manual tells.
-class DependentProgram {
-public:
-    DependentProgram()
-    {
-        const std::wstring beside = libraryPath();
-        const std::wstring program = beside.substr(0, beside.rfind(L'\\')) + L"\\without_registry.exe";
-        for (const wchar_t unit : program)
-            path_ += static_cast<char>(unit);
-        EXPECT_TRUE(CopyFileA(thisProgram().c_str(), path_.c_str(), FALSE));
-        std::ofstream(path_ + ".manifest")
-            << R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)"
-            << R"(<assembly xmlns="urn:schemas-microsoft-com:asm.v1" manifestVersion="1.0">)" << identity("Program")
-            << "<dependency><dependentAssembly>" << identity("Vela.ocx")
-            << "</dependentAssembly></dependency></assembly>";
-    }
-    DependentProgram(const DependentProgram&) = delete;
-    DependentProgram& operator=(const DependentProgram&) = delete;
-    ~DependentProgram()
-    {
-        DeleteFileA(path_.c_str());
-        DeleteFileA((path_ + ".manifest").c_str());
-    }
-    [[nodiscard]] const std::string& path() const noexcept { return path_; }
-
-private:
-    static std::string identity(const std::string& name)
-    {
-        const std::string architecture = sizeof(void*) == 8 ? "amd64" : "x86";
-        return R"(<assemblyIdentity type="win32" name=")" + name + R"(" version="1.0.0.0" processorArchitecture=")" +
-               architecture + R"("/>)";
-    }
-    std::string path_;
-};
-
-TEST_F(Registration, AProgramThatDependsOnTheAssembly)
-{
-    const DependentProgram program;
-    EXPECT_EQ(runTests(program.path(), "WithoutRegistry.*", "VELA_TEST_MANIFEST", 1), 0);
-}
-
-TEST(WithoutRegistry, TheProgramsManifestIsEnough)
-{
-    if (!std::getenv("VELA_TEST_MANIFEST"))
-        GTEST_SKIP() << "a part of Registration.AProgramThatDependsOnTheAssembly";
-    ASSERT_EQ(callServer("DllUnregisterServer"), S_OK);
-    expectNothing(HKEY_LOCAL_MACHINE);
-    expectActivation();
-}
-
 TEST_F(Registration, VersionAndToolboxPictureAreInTheFile)
 {
     const std::wstring path = libraryPath();
@@ -287,30 +235,19 @@ TEST_F(Registration, VersionAndToolboxPictureAreInTheFile)
     std::vector<BYTE> block(GetFileVersionInfoSizeW(path.c_str(), &ignored));
     ASSERT_FALSE(block.empty());
     ASSERT_TRUE(GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(block.size()), block.data()));
-    VS_FIXEDFILEINFO* version = nullptr;
+    void* found = nullptr;
     UINT size = 0;
-    ASSERT_TRUE(VerQueryValueW(block.data(), L"\\", reinterpret_cast<void**>(&version), &size));
-    EXPECT_EQ(version->dwFileVersionMS, 0x00010000u);
-    EXPECT_EQ(version->dwFileVersionLS, 0u);
-    EXPECT_EQ(version->dwProductVersionMS, version->dwFileVersionMS);
-    const std::pair<const wchar_t*, const wchar_t*> texts[] = {
-        {L"CompanyName", L"The Vela authors"},
-        {L"FileDescription", L"Vela: campo de entrada de dados para formul\u00E1rios"},
-        {L"FileVersion", L"1.0.0.0"},
-        {L"InternalName", L"Vela"},
-        {L"LegalCopyright", L"Copyright \u00A9 2026 The Vela authors. Licen\u00E7a MIT."},
-        {L"OLESelfRegister", L""},
-        {L"OriginalFilename", L"Vela.ocx"},
-        {L"ProductName", L"Vela"},
-        {L"ProductVersion", L"1.0.0.0"},
-    };
-    for (const auto& [name, expected] : texts) {
-        const std::string shown(name, name + std::wcslen(name));
-        wchar_t* text = nullptr;
-        ASSERT_TRUE(VerQueryValueW(block.data(), (L"\\StringFileInfo\\041604B0\\" + std::wstring(name)).c_str(),
-                                   reinterpret_cast<void**>(&text), &size))
-            << shown;
-        EXPECT_EQ(std::wstring(text), expected) << shown;
+    ASSERT_TRUE(VerQueryValueW(block.data(), L"\\", &found, &size));
+    const auto& version = *static_cast<const VS_FIXEDFILEINFO*>(found);
+    EXPECT_EQ(version.dwFileVersionMS, 0x00010000u);
+    EXPECT_EQ(version.dwProductVersionMS, version.dwFileVersionMS);
+    for (const auto& [name, expected] :
+         {std::pair{L"FileDescription", L"Vela: campo de entrada de dados para formul\u00E1rios"},
+          {L"OLESelfRegister", L""},
+          {L"OriginalFilename", L"Vela.ocx"}}) {
+        ASSERT_TRUE(VerQueryValueW(block.data(), (L"\\StringFileInfo\\041604B0\\" + std::wstring(name)).c_str(), &found,
+                                   &size));
+        EXPECT_STREQ(static_cast<const wchar_t*>(found), expected);
     }
     const HMODULE module = LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE);
     const HANDLE picture = LoadImageW(module, MAKEINTRESOURCEW(101), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);

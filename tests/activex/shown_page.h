@@ -38,15 +38,12 @@ public:
 // The window inside another, at any depth, that shows this text.
 [[nodiscard]] inline HWND childShowing(HWND parent, std::u16string_view text, const wchar_t* windowClass)
 {
-    for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        wchar_t name[64]{};
-        GetClassNameW(child, name, 64);
-        if (lstrcmpiW(name, windowClass) == 0 && shownBy(child) == text)
-            return child;
-        if (const HWND inner = childShowing(child, text, windowClass))
-            return inner;
-    }
-    return nullptr;
+    HWND found = nullptr;
+    eachInside(parent, [&](HWND child) {
+        if (!found && isOf(windowClass, child) && shownBy(child) == text)
+            found = child;
+    });
+    return found;
 }
 
 // Types over what stands in a box, as a person does.
@@ -57,31 +54,25 @@ inline void typeOver(HWND box, wchar_t letter)
     SendMessageW(box, WM_CHAR, letter, 1);
 }
 
-// One page in a window, as a frame drives it.
-class ShownPage {
+class ShownPage final : Fixed, public Loop {
 public:
     explicit ShownPage(const CLSID& id, std::vector<IUnknown*> objects)
+        : window_(CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", nullptr, WS_POPUP, 0, 0, 500, 500, nullptr, nullptr,
+                                  nullptr, nullptr)),
+          button_(plainWindow(L"BUTTON", {400, 460, 480, 484}, window_, L"Fechar"))
     {
-        window_ = CreateWindowExW(WS_EX_CONTROLPARENT, L"STATIC", nullptr, WS_POPUP, 0, 0, 500, 500, nullptr, nullptr,
-                                  nullptr, nullptr);
-        button_ = CreateWindowExW(0, L"BUTTON", L"Fechar", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 400, 460, 80, 24,
-                                  window_, nullptr, nullptr, nullptr);
         ShowWindow(window_, SW_SHOWNOACTIVATE);
         EXPECT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&page)), S_OK);
         EXPECT_EQ(page->SetPageSite(frame.Get()), S_OK);
         PROPPAGEINFO info{};
         info.cb = sizeof info;
         EXPECT_EQ(page->GetPageInfo(&info), S_OK);
-        size = info.size;
-        title = info.pszTitle;
         CoTaskMemFree(info.pszTitle);
         EXPECT_EQ(page->SetObjects(static_cast<ULONG>(objects.size()), objects.data()), S_OK);
-        const RECT place{0, 0, size.cx, size.cy};
+        const RECT place{0, 0, info.size.cx, info.size.cy};
         EXPECT_EQ(page->Activate(window_, &place, FALSE), S_OK);
         EXPECT_EQ(page->Show(SW_SHOW), S_OK);
     }
-    ShownPage(const ShownPage&) = delete;
-    ShownPage& operator=(const ShownPage&) = delete;
     ~ShownPage()
     {
         leave();
@@ -105,8 +96,8 @@ public:
     }
     [[nodiscard]] HWND window() const { return window_; }
     [[nodiscard]] HWND button() const { return button_; } // of the frame, beside the page
-    // The frame's loop: what waits goes to the page first, then to the dialog's keys.
-    void run() const
+    // What waits goes to the page first, then to the dialog's keys.
+    void run() override
     {
         MSG message{};
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
@@ -120,8 +111,6 @@ public:
 
     ComPtr<IPropertyPage2> page;
     ComPtr<PageFrame> frame = make<PageFrame>();
-    SIZE size{};
-    std::wstring title;
 
 private:
     HWND window_;

@@ -17,7 +17,8 @@ enum Place { buttonBefore, firstField, secondField, boxAfter };
 class TwoDates {
 public:
     explicit TwoDates(bool errorFocus, bool errorAlert = false)
-        : before(plain(L"BUTTON", 200)), first(form.addActive()), second(form.addActive()), after(plain(L"EDIT", 240))
+        : before(plainWindow(L"BUTTON", {10, 200, 210, 224}, form.window())), first(form.addActive()),
+          second(form.addActive()), after(plainWindow(L"EDIT", {10, 240, 210, 264}, form.window()))
     {
         for (Site* const site : {&first, &second}) {
             makeDate(*site, u"1_/__/____");
@@ -59,40 +60,16 @@ public:
     Site& first;
     Site& second;
     const HWND after;
-
-private:
-    HWND plain(const wchar_t* kind, int top)
-    {
-        return CreateWindowExW(0, kind, L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 10, top, 200, 24, form.window(),
-                               nullptr, nullptr, nullptr);
-    }
 };
 
-inline BOOL CALLBACK takeBalloon(HWND window, LPARAM into)
-{
-    wchar_t name[32]{};
-    GetClassNameW(window, name, 32);
-    if (IsWindowVisible(window) && lstrcmpiW(name, L"tooltips_class32") == 0)
-        reinterpret_cast<std::vector<HWND>*>(into)->push_back(window);
-    return TRUE;
-}
-
-inline std::vector<HWND> balloonWindows()
+inline std::vector<HWND> balloons()
 {
     std::vector<HWND> shown;
-    EnumThreadWindows(GetCurrentThreadId(), takeBalloon, reinterpret_cast<LPARAM>(&shown));
+    eachWindow([&](HWND window) {
+        if (IsWindowVisible(window) && isOf(L"tooltips_class32", window))
+            shown.push_back(window);
+    });
     return shown;
-}
-
-inline int balloons()
-{
-    return static_cast<int>(balloonWindows().size());
-}
-
-inline HWND balloonShown()
-{
-    const auto shown = balloonWindows();
-    return shown.empty() ? nullptr : shown.front();
 }
 
 } // namespace vela::test

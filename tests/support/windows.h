@@ -1,4 +1,4 @@
-// The clipboard, and what a reader program hears, for tests on Windows.
+// What tests on Windows need everywhere: scopes, windows looked for, the clipboard, and what a reader program hears.
 #pragma once
 
 #include <windows.h>
@@ -7,8 +7,66 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace vela::test {
+
+// Neither copied nor moved.
+class Fixed {
+public:
+    Fixed(const Fixed&) = delete;
+    Fixed& operator=(const Fixed&) = delete;
+
+protected:
+    Fixed() = default;
+    ~Fixed() = default;
+};
+
+// Undoes something when its scope ends.
+template <class Act>
+class AtEnd : Fixed {
+public:
+    explicit AtEnd(Act act) : act_(std::move(act)) {}
+    ~AtEnd() { act_(); }
+
+private:
+    Act act_;
+};
+
+// Of this thread, as long as it lives.
+class Hook : Fixed {
+public:
+    Hook(int kind, HOOKPROC procedure) : hook_(SetWindowsHookExW(kind, procedure, nullptr, GetCurrentThreadId())) {}
+    ~Hook() { UnhookWindowsHookEx(hook_); }
+
+private:
+    HHOOK hook_;
+};
+
+[[nodiscard]] inline bool isOf(const wchar_t* windowClass, HWND window)
+{
+    wchar_t name[64]{};
+    return GetClassNameW(window, name, 64) && lstrcmpiW(name, windowClass) == 0;
+}
+
+template <class Act>
+BOOL CALLBACK actOn(HWND window, LPARAM act)
+{
+    (*reinterpret_cast<Act*>(act))(window);
+    return TRUE;
+}
+
+template <class Act>
+void eachWindow(Act act) // of this thread
+{
+    EnumThreadWindows(GetCurrentThreadId(), actOn<Act>, reinterpret_cast<LPARAM>(&act));
+}
+
+template <class Act>
+void eachInside(HWND window, Act act) // at any depth
+{
+    EnumChildWindows(window, actOn<Act>, reinterpret_cast<LPARAM>(&act));
+}
 
 inline void putClipboard(std::u16string_view text)
 {

@@ -17,27 +17,19 @@ namespace vela::test {
 namespace {
 
 // What COM keeps of a thread that uses it.
-class Apartment {
+class Apartment : Fixed {
 public:
     Apartment() { EXPECT_EQ(OleInitialize(nullptr), S_OK); }
-    Apartment(const Apartment&) = delete;
-    Apartment& operator=(const Apartment&) = delete;
     ~Apartment() { OleUninitialize(); }
 };
-
-BOOL CALLBACK takePopup(HWND window, LPARAM into)
-{
-    wchar_t name[32]{};
-    GetClassNameW(window, name, 32);
-    if (std::wstring_view(name) == L"VelaForm")
-        *reinterpret_cast<HWND*>(into) = window;
-    return TRUE;
-}
 
 HWND popupOfThread()
 {
     HWND found = nullptr;
-    EnumThreadWindows(GetCurrentThreadId(), takePopup, reinterpret_cast<LPARAM>(&found));
+    eachWindow([&](HWND window) {
+        if (isOf(L"VelaForm", window))
+            found = window;
+    });
     return found;
 }
 
@@ -73,21 +65,17 @@ void useAField(int round)
 }
 
 // Wine's library of controls leaves a drawing object behind whenever it is unloaded; here it stays.
-class KeptControls {
+class KeptControls : Fixed {
 public:
     KeptControls()
     {
+        const HMODULE user = LoadLibraryW(libraryPath().c_str());
         wchar_t path[MAX_PATH]{};
-        {
-            const HMODULE user = LoadLibraryW(libraryPath().c_str());
-            GetModuleFileNameW(GetModuleHandleW(L"comctl32.dll"), path, MAX_PATH);
-            kept_ = LoadLibraryW(path);
-            FreeLibrary(user);
-        }
+        GetModuleFileNameW(GetModuleHandleW(L"comctl32.dll"), path, MAX_PATH);
+        kept_ = LoadLibraryW(path);
+        FreeLibrary(user);
         EXPECT_NE(kept_, nullptr);
     }
-    KeptControls(const KeptControls&) = delete;
-    KeptControls& operator=(const KeptControls&) = delete;
     ~KeptControls() { FreeLibrary(kept_); }
 
 private:
@@ -96,7 +84,7 @@ private:
 
 // Wine makes its tables of a font's glyphs without a lock: even bare EDITs of two threads break the process' heap when
 // both come first. These have the tables made before, and keep them.
-class KeptGlyphs {
+class KeptGlyphs : Fixed {
 public:
     KeptGlyphs()
     {
@@ -115,8 +103,6 @@ public:
             EXPECT_GT(SendMessageW(boxes_.back(), EM_POSFROMCHAR, 5, 0), 0);
         }
     }
-    KeptGlyphs(const KeptGlyphs&) = delete;
-    KeptGlyphs& operator=(const KeptGlyphs&) = delete;
     ~KeptGlyphs()
     {
         for (const HWND box : boxes_)
@@ -128,18 +114,6 @@ private:
     HFONT font_ = nullptr;
     std::vector<HWND> boxes_;
 };
-
-TEST(Unloading, AThreadThatUsedAFieldEnds)
-{
-    if (!apart())
-        return;
-    EXPECT_TRUE(runOnThreads({[] {
-        const Apartment apartment;
-        useAField(0);
-    }})) << "the thread does not end";
-    EXPECT_EQ(library(), nullptr) << "nobody uses it any more";
-    EXPECT_EQ(liveObjects, 0);
-}
 
 TEST(Unloading, AFieldLetGoOfInItsEventGoesWithTheEvent)
 {
@@ -215,7 +189,7 @@ TEST(Unloading, AnAccessibleObjectKeepsIt)
     FreeLibrary(kept);
 }
 
-TEST(Unloading, NothingIsLoadedOnTheWayOutNorStays)
+TEST(Unloading, AThreadThatUsedAFieldEndsAndNothingStaysNorIsLoadedOnTheWayOut)
 {
     if (!apart())
         return;
@@ -225,28 +199,29 @@ TEST(Unloading, NothingIsLoadedOnTheWayOutNorStays)
     };
     FreeLibrary(LoadLibraryW(libraryPath().c_str()));
     expectGone(); // never used
-    {
+    EXPECT_TRUE(runOnThreads({[] {
         const Apartment apartment;
         useAField(0);
-    }
+    }})) << "the thread does not end";
     expectGone();
+    EXPECT_EQ(liveObjects, 0);
 }
 
 TEST(Unloading, ComesAndGoesManyTimes)
 {
     if (!apart())
         return;
-    const auto cycle = [](int round) {
-        const Apartment apartment;
-        useAField(round);
+    const auto cycles = [](int rounds) {
+        for (int round = 0; round < rounds; ++round) {
+            const Apartment apartment;
+            useAField(round);
+        }
     };
     const KeptControls controls;
-    for (int round = 0; round < 20; ++round)
-        cycle(round);
+    cycles(20);
     const Usage before;
     const int rounds = asked("VELA_TEST_COUNT", 60);
-    for (int round = 0; round < rounds; ++round)
-        cycle(round);
+    cycles(rounds);
     EXPECT_EQ(library(), nullptr);
     const Usage after;
     std::printf("%d rounds: memory %+lld\n", rounds,

@@ -1,6 +1,8 @@
 // Counts windows by looking for them, drawing objects and handles in the tables of the process and the system.
 #include "tests/windows/usage.h"
 
+#include "tests/support/windows.h"
+
 #include <gtest/gtest.h>
 #include <psapi.h>
 
@@ -12,23 +14,13 @@ namespace vela::test {
 
 namespace {
 
-BOOL CALLBACK countChild(HWND, LPARAM count)
-{
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
-
-BOOL CALLBACK countWithChildren(HWND window, LPARAM count)
-{
-    ++*reinterpret_cast<int*>(count);
-    EnumChildWindows(window, countChild, count);
-    return TRUE;
-}
-
 int windowsOfThread()
 {
     int count = 0;
-    EnumThreadWindows(GetCurrentThreadId(), countWithChildren, reinterpret_cast<LPARAM>(&count));
+    eachWindow([&](HWND one) {
+        ++count;
+        eachInside(one, [&](HWND) { ++count; });
+    });
     HWND window = nullptr;
     while ((window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr)
         count += GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId();

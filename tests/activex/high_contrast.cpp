@@ -1,18 +1,14 @@
-// The registry's resolution, a child process, and the library's own question about high contrast answered.
-#include "screen_settings.h"
+// The library's own question about high contrast answered.
+#include "high_contrast.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <cstring>
 #include <iterator>
 
 namespace vela::test {
 
 namespace {
-
-constexpr wchar_t desktopKey[] = L"Control Panel\\Desktop";
-constexpr wchar_t resolutionValue[] = L"LogPixels";
 
 constexpr int elements[] = {COLOR_WINDOW,  COLOR_WINDOWTEXT, COLOR_WINDOWFRAME, COLOR_GRAYTEXT,
                             COLOR_BTNFACE, COLOR_BTNTEXT,    COLOR_HIGHLIGHT};
@@ -65,65 +61,6 @@ void putImport(Ask* slot, Ask function)
 }
 
 } // namespace
-
-ScreenResolution::ScreenResolution()
-{
-    DWORD size = sizeof before_;
-    RegGetValueW(HKEY_CURRENT_USER, desktopKey, resolutionValue, RRF_RT_REG_DWORD, nullptr, &before_, &size);
-}
-
-ScreenResolution::~ScreenResolution()
-{
-    if (before_)
-        put(static_cast<int>(before_));
-    else
-        RegDeleteKeyValueW(HKEY_CURRENT_USER, desktopKey, resolutionValue);
-}
-
-void ScreenResolution::put(int dpi) const
-{
-    const auto value = static_cast<DWORD>(dpi);
-    ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, desktopKey, resolutionValue, REG_DWORD, &value, sizeof value),
-              ERROR_SUCCESS);
-}
-
-// What the child prints is shown only when it fails: the program's own totals stay the only ones.
-int runTests(const std::string& program, const std::string& filter, const char* variable, int value)
-{
-    SetEnvironmentVariableA(variable, std::to_string(value).c_str());
-    std::FILE* const child = _popen(("\"" + program + "\" --gtest_filter=" + filter).c_str(), "r");
-    SetEnvironmentVariableA(variable, nullptr);
-    if (!child)
-        return -1;
-    std::string printed;
-    char piece[256];
-    while (std::fgets(piece, sizeof piece, child))
-        printed += piece;
-    const int code = _pclose(child);
-    const bool ran = printed.find("[  PASSED  ]") != std::string::npos && printed.find("SKIPPED") == std::string::npos;
-    if (code != 0 || !ran)
-        ADD_FAILURE() << printed;
-    return code;
-}
-
-std::string thisProgram()
-{
-    char program[MAX_PATH]{};
-    GetModuleFileNameA(nullptr, program, MAX_PATH);
-    return program;
-}
-
-PerMonitorThread::PerMonitorThread() : before_(SetThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE)) {}
-
-PerMonitorThread::~PerMonitorThread()
-{
-    SetThreadDpiAwarenessContext(before_);
-}
-
-int screenDpi()
-{
-    return static_cast<int>(GetDpiForSystem());
-}
 
 HighContrast::HighContrast()
 {
