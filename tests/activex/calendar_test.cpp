@@ -27,6 +27,8 @@ POINT middleOf(platform::WidgetId id) // 15 twips a pixel
 
 // A field that has the focus and a calendar on 15 March 2024.
 class Sheet {
+    LeakCheck leaks_;
+
 public:
     Sheet() : field(form.addActive()), calendar(form.add({}, L"Vela.cCalendar.1"))
     {
@@ -52,7 +54,6 @@ TEST(LiveCalendar, AClickAnywhereTakesTheFocusAndTellsOnce)
 {
     for (const platform::WidgetId where : {widget::panel, widget::weekday(2), widget::day(20), widget::months}) {
         SCOPED_TRACE(where.value);
-        const LeakCheck leaks;
         Sheet sheet;
         sheet.click(where);
         EXPECT_TRUE(until(sheet.form, [&] { return sheet.calendarHasFocus(); }));
@@ -97,7 +98,6 @@ TEST(LiveCalendar, AKeyThatMovesTheDayTellsAsAClickDoes)
 
 TEST(LiveCalendar, AfterItsParentHasGoneItGetsAWindowInANewOne)
 {
-    const LeakCheck leaks;
     Sheet sheet;
     for (int round = 0; round < 2; ++round) {
         const HWND parent = plainWindow(L"STATIC", {0, 0, 400, 300}, sheet.form.window());

@@ -100,7 +100,6 @@ TEST(Editing, CutUndoAndRedo)
 // Control and Delete: the EDIT takes the rest of the line.
 TEST(Editing, WhatTheEditDoesOfItsOwnIsUndoneWhole)
 {
-    const LeakCheck leaks;
     Field field(asPlainText);
     field.form.type(u"um dois");
     field.select(3, 3);
@@ -112,7 +111,6 @@ TEST(Editing, WhatTheEditDoesOfItsOwnIsUndoneWhole)
 
 TEST(Editing, TheMenusCommands)
 {
-    const LeakCheck leaks;
     Field field(asPlate);
     putClipboard(u"abc1234");
     field.choose('O'); // Colar
@@ -149,7 +147,6 @@ TEST(Editing, APasswordStays)
 
 TEST(Editing, UnusualDigitsAndTheKeypadsDecimalKey)
 {
-    const LeakCheck leaks;
     Field plate(asPlate);
     plate.form.type(u"abc\uFF11\uFF12");
     EXPECT_EQ(plate.shown(), u"ABC-12__");

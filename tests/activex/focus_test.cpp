@@ -93,7 +93,6 @@ TEST(Focus, AWrongEntryKeepsItOnceAndTheOtherFieldSeesNothing)
     for (const Move& move : moves)
         for (const bool errorFocus : {false, true}) {
             SCOPED_TRACE(std::string(move.how) + (errorFocus ? ", ErrorFocus" : ""));
-            const LeakCheck leaks;
             TwoDates dates(errorFocus);
             dates.enter(*dates.fieldAt(move.from));
             const Site* const other = dates.fieldAt(move.to);
@@ -118,7 +117,6 @@ TEST(Focus, AWrongEntryKeepsItOnceAndTheOtherFieldSeesNothing)
 // Both fields hold a wrong entry: each takes the focus back once, and neither return is caused by the other field.
 TEST(Focus, TwoWrongFieldsDoNotPassItToAndFro)
 {
-    const LeakCheck leaks;
     TwoDates dates(false);
     dates.enter(dates.first);
     const FocusPath path;
@@ -207,7 +205,6 @@ TEST(Focus, AFormClosesOverAWrongEntry)
             for (const bool byEscape : {false, true}) {
                 SCOPED_TRACE(std::string(errorFocus ? "ErrorFocus, " : "") + (held ? "held, " : "") +
                              (byEscape ? "Esc" : "WM_CLOSE"));
-                const LeakCheck leaks;
                 TwoDates dates(errorFocus, true);
                 dates.enter(dates.first);
                 if (held)
@@ -239,7 +236,6 @@ TEST(Focus, AFieldThatCannotHaveItBackLetsItGo)
 {
     for (const auto go : {byTab, byProgram, bySurface, byHostsWindow})
         for (const bool hidden : {false, true}) {
-            const LeakCheck leaks;
             TwoDates dates(true);
             dates.first.automation().put(u"ErrorTextClear", truth(true));
             beforeHost = reinterpret_cast<WNDPROC>(
@@ -263,7 +259,6 @@ TEST(Focus, AFieldThatCannotHaveItBackLetsItGo)
 
 TEST(Focus, AnotherFieldsButtonOpensNothingOverAWrongEntry)
 {
-    const LeakCheck leaks;
     TwoDates dates(true);
     dates.enter(dates.first);
     const HWND button = buttonOf(dates.second);

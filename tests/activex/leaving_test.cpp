@@ -69,7 +69,6 @@ TEST(Leaving, AnotherFormIsReachedAtOnce)
     for (const bool errorFocus : {false, true})
         for (const char* const way : {"click", "frame", "window"}) {
             SCOPED_TRACE(way);
-            const LeakCheck leaks;
             TwoForms dates(errorFocus);
             const OtherWindow other;
             const bool inFrame = way[0] != 'w';
@@ -102,7 +101,6 @@ TEST(Leaving, AnotherFormIsReachedAtOnce)
 TEST(Leaving, ADisabledFieldIsLeftForNowhere)
 {
     for (const bool errorFocus : {false, true}) {
-        const LeakCheck leaks;
         TwoDates dates(errorFocus, true);
         dates.enter(dates.first);
         dates.first.automation().put(u"Enabled", truth(false));
@@ -127,7 +125,6 @@ TEST(Leaving, AFocusedFieldThatIsDeactivatedIsLeftAndNotEnteredAgain)
 {
     for (const auto end : {byDeactivation, byClosing, bySite})
         for (const bool pending : {false, true}) {
-            const LeakCheck leaks;
             TwoDates dates(true, true);
             dates.first.automation().put(u"ToolTipGotFocus", text(u"Dica"));
             dates.enter(dates.first);
@@ -152,7 +149,6 @@ TEST(Leaving, AControlIsNotActivatedWhileItIsDeactivated)
     for (const std::string_view inside : {"OnFocus 0", "OnUIDeactivate"})
         for (const auto end : {byDeactivation, byClosing, bySite}) {
             SCOPED_TRACE(inside);
-            const LeakCheck leaks;
             TwoDates dates(false);
             dates.enter(dates.first);
             HRESULT answer = S_OK;
@@ -176,7 +172,6 @@ TEST(Leaving, AControlIsNotActivatedWhileItIsDeactivated)
 // Dialogs and EDITs in dialogs send it: it is the form's business alone.
 TEST(Leaving, AClosingMessageDestroysNothing)
 {
-    const LeakCheck leaks;
     TwoDates dates(false);
     dates.enter(dates.first);
     for (const HWND window : {dates.first.window(), dates.first.edit()}) {

@@ -1,7 +1,7 @@
 // What a field looks like on the screen: hover, focus, errors, states, sizes, dots per inch and high contrast.
+#include "high_contrast.h"
 #include "host_objects.h"
 #include "picture.h"
-#include "high_contrast.h"
 #include "two_dates.h"
 
 #include "tests/windows/child.h"
@@ -57,7 +57,6 @@ public:
 
 TEST(Looks, FocusAndErrorAreSeen)
 {
-    const LeakCheck leaks;
     Screen screen;
     EXPECT_EQ(screen.back(), backRest);
     EXPECT_EQ(screen.line(), lineRest);
@@ -240,7 +239,6 @@ TEST(Looks, ThePointerBringsHoverColoursAndMouseOut)
 
 TEST(Looks, DisabledIsGreyAndDeaf)
 {
-    const LeakCheck leaks;
     Screen screen;
     const Automation field = screen.site.automation();
     field.put(u"Text", text(u"MMMM"));
@@ -413,7 +411,6 @@ TEST_F(LooksScaled, TheMetafileFillsItsFrame)
 // The person's colours win over the form's, in every state.
 TEST(Looks, InHighContrast)
 {
-    const LeakCheck leaks;
     const HighContrast contrast;
     Screen screen;
     screen.site.automation().put(u"ShowButtonCalculadora", truth(true));

@@ -10,10 +10,13 @@ namespace vela::test {
 
 namespace {
 
-// A page in the foreground.
+// A page of a field, in the foreground; with its end nothing of them may be alive.
 class Hands {
+    LeakCheck leaks_;
+
 public:
-    Hands(const CLSID& id, const ComPtr<IUnknown>& object) : shown(id, {object.Get()}), field_(object.Get())
+    explicit Hands(const CLSID& id, std::initializer_list<Setting> settings = {})
+        : field(made(settings)), shown(id, {field.dispatch()})
     {
         SetForegroundWindow(shown.window());
         settle();
@@ -51,7 +54,7 @@ public:
     }
     HWND go(const char16_t* property) // to its control, as a host asks
     {
-        EXPECT_EQ(shown.page->EditProperty(*field_.id(property)), S_OK);
+        EXPECT_EQ(shown.page->EditProperty(*field.id(property)), S_OK);
         settle();
         return isOf(L"ComboBox", GetParent(GetFocus())) ? GetParent(GetFocus()) : GetFocus();
     }
@@ -61,20 +64,24 @@ public:
     }
     [[nodiscard]] static bool isDown(HWND combo) { return SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; }
 
+    const Automation field;
     ShownPage shown;
 
 private:
-    Automation field_;
+    static Automation made(std::initializer_list<Setting> settings)
+    {
+        Automation field(create().Get());
+        field.set(settings);
+        return field;
+    }
 };
 
 TEST(PageHands, TheListOfFontsOpensByItsAccessKeyAndByItsArrow)
 {
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
     for (const bool click : {false, true}) {
-        Hands hands(activex::fontePage, control);
+        Hands hands(activex::fontePage);
         hands.go(u"FontSize");
-        const HWND combo = hands.shown.find(L"COMBOBOX", Automation(control.Get()).textOf(u"FontName"));
+        const HWND combo = hands.shown.find(L"COMBOBOX", hands.field.textOf(u"FontName"));
         ASSERT_NE(combo, nullptr);
         const RECT client = clientOf(combo);
         if (click)
@@ -91,23 +98,18 @@ TEST(PageHands, TheListOfFontsOpensByItsAccessKeyAndByItsArrow)
 
 TEST(PageHands, WhatAComboCompletesIsApplied)
 {
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
-    Hands hands(activex::principalPage, control);
+    Hands hands(activex::principalPage);
     const HWND combo = hands.go(u"DateFormat");
     SendMessageW(GetFocus(), EM_SETSEL, 0, -1);
     hands.press({'Y', 'Y', VK_F4, VK_F4, VK_TAB});
     EXPECT_EQ(shownBy(combo), u"yyyy/mm/dd");
     EXPECT_EQ(hands.shown.page->Apply(), S_OK);
-    EXPECT_EQ(Automation(control.Get()).textOf(u"DateFormat"), shownBy(combo));
+    EXPECT_EQ(hands.field.textOf(u"DateFormat"), shownBy(combo));
 }
 
 TEST(PageHands, EnterAndEscCloseTheListOfAnEditableCombo)
 {
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
-    Automation(control.Get()).put(u"FormatoRetornoData", text(u"d/M/yy"));
-    Hands hands(activex::principalPage, control);
+    Hands hands(activex::principalPage, {{u"FormatoRetornoData", u"d/M/yy"}});
     const HWND combo = hands.go(u"FormatoRetornoData");
     for (const int key : {VK_RETURN, VK_ESCAPE}) {
         hands.press({VK_F4});
@@ -117,14 +119,12 @@ TEST(PageHands, EnterAndEscCloseTheListOfAnEditableCombo)
         EXPECT_EQ(GetFocus(), GetWindow(combo, GW_CHILD)) << key;
     }
     EXPECT_EQ(hands.shown.page->Apply(), S_OK);
-    EXPECT_EQ(Automation(control.Get()).textOf(u"FormatoRetornoData"), shownBy(combo));
+    EXPECT_EQ(hands.field.textOf(u"FormatoRetornoData"), shownBy(combo));
 }
 
 TEST(PageHands, AccessKeysWorkBesideThePage)
 {
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
-    Hands hands(activex::fontePage, control);
+    Hands hands(activex::fontePage);
     SetFocus(hands.shown.button());
     hands.pressWithAlt('T');
     EXPECT_EQ(shownBy(GetFocus()), u"8");
@@ -169,9 +169,7 @@ std::function<void(HWND)> key(int code)
 
 TEST(PageHands, AClickOnASwatchAndACancelledPaletteChangeNothing)
 {
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
-    Hands hands(activex::principalPage, control);
+    Hands hands(activex::principalPage);
     const HWND swatch = hands.go(u"CorValorNeg");
     hands.click(swatch, middleOf(swatch));
     EXPECT_EQ(hands.shown.page->IsPageDirty(), S_FALSE);
@@ -185,9 +183,7 @@ TEST(PageHands, AClickOnASwatchAndACancelledPaletteChangeNothing)
 // The first swatch, black, has the focus at first: below it stands grey, and red two columns to the right of that row.
 TEST(PageHands, AColourIsChosenByKeysAlone)
 {
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
-    Hands hands(activex::errosPage, control);
+    Hands hands(activex::errosPage);
     hands.go(u"Error_ForeColor");
     COLORREF left = 0, line = 0;
     const auto edgeOf = [](HWND swatch) { return pixelOf(swatch, {0, clientOf(swatch).bottom / 2}); };
@@ -205,7 +201,7 @@ TEST(PageHands, AColourIsChosenByKeysAlone)
     }
     EXPECT_EQ(hands.shown.page->IsPageDirty(), S_OK);
     EXPECT_EQ(hands.shown.page->Apply(), S_OK);
-    EXPECT_EQ(Automation(control.Get()).textOf(u"Error_ForeColor"), u"255");
+    EXPECT_EQ(hands.field.textOf(u"Error_ForeColor"), u"255");
 }
 
 // --- looks
@@ -225,9 +221,7 @@ LRESULT CALLBACK paintedFrame(HWND window, UINT message, WPARAM first, LPARAM se
 
 TEST(PageLooks, ThePagesStandOnTheirFramesGround)
 {
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
-    Hands hands(activex::errosPage, control);
+    Hands hands(activex::errosPage);
     SetWindowLongPtrW(hands.shown.window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(paintedFrame));
     EXPECT_EQ(hands.shown.page->Show(SW_SHOW), S_OK);
     hands.settle();
@@ -239,9 +233,7 @@ TEST(PageLooks, ThePagesStandOnTheirFramesGround)
 
 TEST(PageLooks, TheTabInFrontJoinsItsPane)
 {
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
-    Hands hands(activex::principalPage, control);
+    Hands hands(activex::principalPage);
     const HWND strip = hands.shown.find(L"SysTabControl32", u"");
     ASSERT_NE(strip, nullptr);
     hands.settle();
@@ -260,9 +252,7 @@ TEST(PageLooks, TheTabInFrontJoinsItsPane)
 
 TEST(PageLooks, AFontSampleLargerThanItsSurfaceIsCutThere)
 {
-    const ComPtr<IUnknown> control = create();
-    Automation(control.Get()).put(u"FontSize", number(255));
-    Hands hands(activex::fontePage, control);
+    Hands hands(activex::fontePage, {{u"FontSize", 255}});
     hands.settle();
     const HWND button = hands.shown.find(L"BUTTON", u"T&este");
     ASSERT_NE(button, nullptr);
@@ -283,9 +273,7 @@ TEST(PageLooks, AFontSampleLargerThanItsSurfaceIsCutThere)
 
 TEST(PageLooks, TheLettersStandInColumns)
 {
-    const LeakCheck leaks;
-    const ComPtr<IUnknown> control = create();
-    Hands hands(activex::principalPage, control);
+    Hands hands(activex::principalPage);
     hands.go(u"TextoLivre");
     const HWND list = hands.shown.find(L"LISTBOX", u"");
     RECT column{};

@@ -47,8 +47,10 @@ HWND plainWindow(const wchar_t* kind, RECT place, HWND parent, const wchar_t* te
 // A date field whose entry is no date.
 void makeDate(const Site& site, std::u16string_view shown = u"__/__/____");
 
-// A form with a field that has the focus, and a neighbour.
+// A form with a field that has the focus, and a neighbour; with its end nothing of it may be alive.
 class Desk {
+    LeakCheck leaks_;
+
 public:
     explicit Desk(Kind kind = asPlainText) : site(form.addActive()), neighbour(form.addActive())
     {

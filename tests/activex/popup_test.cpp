@@ -41,7 +41,6 @@ POINT dayAt(HWND calendar, int cell)
 TEST(Popup, AClickOnTheButtonOpensTheCalendarAndAClickOnADayWritesIt)
 {
     const AnsweredBoxes boxes;
-    const LeakCheck leaks;
     PopupDesk desk(asDate);
     desk.site.automation().set({{u"Text", u"15/03/2024"}, {u"ErrorAlert", true}});
     for (int round = 0; round < 2; ++round) {
@@ -66,7 +65,6 @@ TEST(Popup, AClickOnTheButtonOpensTheCalendarAndAClickOnADayWritesIt)
 TEST(Popup, OpeningIsNoLeavingAndEscWritesNothing)
 {
     for (const auto kind : {asDate, asNumber}) {
-        const LeakCheck leaks;
         PopupDesk desk(kind);
         desk.form.type(u"3");
         const std::u16string shown = shownBy(desk.site.edit());
@@ -103,7 +101,6 @@ TEST(Popup, WorkElsewhereClosesAndLeaves)
 {
     for (const auto kind : {asDate, asNumber})
         for (const bool click : {false, true}) {
-            const LeakCheck leaks;
             PopupDesk desk(kind);
             const OtherWindow other;
             const HWND popup = desk.open();
@@ -124,7 +121,6 @@ TEST(Popup, WorkElsewhereClosesAndLeaves)
 
 TEST(Popup, KeysAndClicksCalculateAndF2Writes)
 {
-    const LeakCheck leaks;
     PopupDesk desk(asNumber);
     desk.form.type(u"1");
     desk.form.press(VK_F2);
@@ -170,7 +166,6 @@ TEST(Popup, ADoubleClickOnTheButtonLeavesItOpen)
 
 TEST(Popup, OneIsOpenForTheFieldThatAskedLast)
 {
-    const LeakCheck leaks;
     PopupDesk desk(asDate);
     asDate(desk.neighbour.automation());
     const HWND first = desk.open();
@@ -251,7 +246,6 @@ TEST(Popup, GoesWithItsFieldAndItsForm)
             for (const auto kind : {asDate, asNumber}) {
                 SCOPED_TRACE(end.what);
                 const AnsweredBoxes boxes;
-                const LeakCheck leaks;
                 PopupDesk desk(kind);
                 const HWND popup = desk.open();
                 bool done = false;

@@ -15,6 +15,8 @@ inline constexpr COLORREF wrongColour = 0x000000C8;
 enum Place { buttonBefore, firstField, secondField, boxAfter };
 
 class TwoDates {
+    LeakCheck leaks_;
+
 public:
     explicit TwoDates(bool errorFocus, bool errorAlert = false)
         : before(plainWindow(L"BUTTON", {10, 200, 210, 224}, form.window())), first(form.addActive()),
