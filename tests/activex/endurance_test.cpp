@@ -152,21 +152,10 @@ private:
     }
     void dress()
     {
-        static constexpr std::pair<const char16_t*, int> looks[] = {{u"Appearance", 0},
-                                                                    {u"Appearance", 1},
-                                                                    {u"BorderStyle", 3},
-                                                                    {u"BorderStyle", 4},
-                                                                    {u"Alignment", 1},
-                                                                    {u"Alignment", 2},
-                                                                    {u"FontSize", 8},
-                                                                    {u"FontSize", 10},
-                                                                    {u"FontBold", 0},
-                                                                    {u"FontBold", 1},
-                                                                    {u"BackColorGotFocus", 0xFFE0},
-                                                                    {u"Enabled", 0}};
+        static constexpr const char16_t* looks[] = {u"Appearance", u"BorderStyle", u"Alignment",        u"FontBold",
+                                                    u"FontSize",   u"Enabled",     u"BackColorGotFocus"};
         const Automation field = anySite().automation();
-        const auto& [property, value] = looks[lot(std::size(looks))];
-        field.put(property, number(value));
+        field.put(looks[lot(std::size(looks))], number(static_cast<int>(lot(5)))); // what it cannot be is refused
         settle(form_);
         field.put(u"Enabled", truth(true));
     }

@@ -36,7 +36,6 @@ public:
     const ComPtr<AdviseSink> sink = make<AdviseSink>();
 
     void throwFrom(unsigned seed) { random_.seed(seed); }
-    [[nodiscard]] bool sometimes(std::size_t of) { return !rare_ || lot(of) == 0; }
     [[nodiscard]] std::size_t lot(std::size_t below) { return random_() % below; }
     [[nodiscard]] bool has() const { return site->control() != nullptr; }
     [[nodiscard]] Stream* stream() // from its start
@@ -45,11 +44,10 @@ public:
         return storage->stream.Get();
     }
 
-    void beRare() { rare_ = true; } // with what ends all
+    bool rare = false; // is what ends all
 
 private:
     std::mt19937 random_;
-    bool rare_ = false;
 };
 
 Variant invoke(Hand& hand, DISPID id, WORD flags, VARIANT* value = nullptr)
@@ -283,7 +281,7 @@ const Act acts[] = {
     {"close", [](Hand& hand) { bare<IOleObject>(*hand.site)->Close(OLECLOSE_SAVEIFDIRTY); }},
     {"the form's window goes",
      [](Hand& hand) {
-         if (hand.sometimes(20))
+         if (!hand.rare || hand.lot(20) == 0)
              hand.form.destroyWindow();
      }},
     {"release", [](Hand& hand) { hand.site->abandon(); }},
@@ -377,7 +375,7 @@ class Caller : Fixed {
 public:
     explicit Caller(unsigned seed) : hand_(seed), who_("seed " + std::to_string(seed) + ", ")
     {
-        hand_.beRare();
+        hand_.rare = true;
         hand_.site = &hand_.form.add({.initialise = false});
         hand_.form.add({}, L"Vela.cCalendar").activate({10, 60, 200, 230});
         whenCalled = [this](const char* call) { return inside(call); };

@@ -115,13 +115,23 @@ private:
     std::vector<HWND> boxes_;
 };
 
+// The library can go when a thread that did this has ended.
+void expectLetGo(const std::function<void()>& work)
+{
+    const HMODULE kept = LoadLibraryW(libraryPath().c_str());
+    EXPECT_TRUE(runOnThreads({[&] {
+        const Apartment apartment;
+        work();
+    }}));
+    EXPECT_EQ(canUnload(), S_OK);
+    FreeLibrary(kept);
+}
+
 TEST(Unloading, AFieldLetGoOfInItsEventGoesWithTheEvent)
 {
     if (!apart())
         return;
-    const HMODULE kept = LoadLibraryW(libraryPath().c_str());
-    EXPECT_TRUE(runOnThreads({[] {
-        const Apartment apartment;
+    expectLetGo([] {
         auto* const form = new Form; // the thread ends without looking for messages again
         Site& site = form->addActive();
         form->focus(site);
@@ -132,18 +142,14 @@ TEST(Unloading, AFieldLetGoOfInItsEventGoesWithTheEvent)
         SendMessageW(site.edit(), WM_CHAR, L'a', 1);
         EXPECT_FALSE(site.control());
         EXPECT_EQ(canUnload(), S_OK);
-    }}));
-    EXPECT_EQ(canUnload(), S_OK);
-    FreeLibrary(kept);
+    });
 }
 
 TEST(Unloading, APostedMessageKeepsItUntilItsThreadEnds)
 {
     if (!apart())
         return;
-    const HMODULE kept = LoadLibraryW(libraryPath().c_str());
-    EXPECT_TRUE(runOnThreads({[] {
-        const Apartment apartment;
+    expectLetGo([] {
         auto* const form = new Form;
         Site& site = form->addActive();
         asPlate(site.automation());
@@ -153,9 +159,7 @@ TEST(Unloading, APostedMessageKeepsItUntilItsThreadEnds)
             SendMessageW(site.edit(), WM_CHAR, unit, 1);
         site.close();
         EXPECT_EQ(canUnload(), S_FALSE);
-    }}));
-    EXPECT_EQ(canUnload(), S_OK);
-    FreeLibrary(kept);
+    });
 }
 
 TEST(Unloading, AnAccessibleObjectKeepsIt)
