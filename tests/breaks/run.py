@@ -125,6 +125,7 @@ def tried(row):
 def main():
     words = sys.argv[1:]
     chosen = [row for row in breaks() if not words or any(word in row.head for word in words)]
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1)) # ended, it ends what it has started
     copy_sources()
     if words == ["--sound"]:
         for programs in ([], sorted({program for row in breaks() for program in row.programs})):
