@@ -16,6 +16,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace vela::control {
 
@@ -41,6 +42,8 @@ public:
     void release(bool released) noexcept { released_ = released; } // the box, by LimparMemoria
     [[nodiscard]] bool released() const noexcept { return released_; }
     [[nodiscard]] bool deaf() const noexcept { return released_ || life.ended(); } // the box's events are not heard
+    template <class Body>
+    void hear(Body&& body); // runs the handler of an event of the box, unless deaf()
     void readText(std::u16string& into) const { box().text(into); }
     template <class T>
     void putTrait(T platform::EditTraits::*trait, const T& value);
@@ -99,6 +102,13 @@ void Context::putTrait(T platform::EditTraits::*trait, const T& value)
     platform::EditTraits traits = box().traits();
     traits.*trait = value;
     box().putTraits(traits);
+}
+
+template <class Body>
+void Context::hear(Body&& body)
+{
+    if (!deaf())
+        whileAlive(life, std::forward<Body>(body));
 }
 
 template <class Body>

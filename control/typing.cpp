@@ -53,9 +53,7 @@ std::size_t literalRunBefore(std::size_t caret, const engine::MaskSettings& sett
 
 void Typing::keyDown(int& code, int& shift)
 {
-    if (context_.deaf())
-        return;
-    whileAlive(context_.life, [&] {
+    context_.hear([&] {
         keypadDecimal_ = code == key_code::keypadDecimal;
         keyDownByType(code);
         if (context_.settings.upTab && code == key_code::down)
@@ -103,17 +101,13 @@ void Typing::sKeyDown(int code)
 
 void Typing::keyPress(int& key)
 {
-    if (context_.deaf())
-        return;
-    whileAlive(context_.life, [&] { key = filterKey(plainKey(key)); });
+    context_.hear([&] { key = filterKey(plainKey(key)); });
 }
 
 // A control character such as Esc raises KeyPress only: it is no text, so no rule of the field applies to it.
 void Typing::controlPress(int& key)
 {
-    if (context_.deaf())
-        return;
-    whileAlive(context_.life, [&] {
+    context_.hear([&] {
         int told = key;
         if (!raiseKeyPress(told) || told == 0)
             key = 0;
@@ -232,9 +226,7 @@ bool Typing::raiseKeyPress(int& key)
 
 void Typing::keyUp(int code, int shift)
 {
-    if (context_.deaf())
-        return;
-    whileAlive(context_.life, [&] {
+    context_.hear([&] {
         auto told = static_cast<std::int16_t>(code);
         auto toldShift = static_cast<std::int16_t>(shift);
         const engine::Alive alive(context_.life);
@@ -277,9 +269,7 @@ engine::KeystrokeSettings Typing::keystrokeSettings() const
 
 void Typing::changed(const platform::Edit& edit)
 {
-    if (context_.deaf())
-        return;
-    whileAlive(context_.life, [&] {
+    context_.hear([&] {
         const Writer writer = content_.writer();
         keep(edit);
         trap(
@@ -357,9 +347,7 @@ bool Typing::typeInto(Draft& draft, char16_t unit)
 // Character by character through the filter; what is refused is left out. A line break is one Enter key.
 void Typing::paste(std::u16string_view text)
 {
-    if (context_.deaf())
-        return;
-    whileAlive(context_.life, [&] {
+    context_.hear([&] {
         Draft draft(context_);
         const engine::MaskSettings mask = context_.maskSettings();
         const std::size_t start = literalRunBefore(static_cast<std::size_t>(draft.selection.start), mask);
@@ -392,16 +380,13 @@ void Typing::paste(std::u16string_view text)
 
 void Typing::cut()
 {
-    if (context_.deaf())
-        return;
-    whileAlive(context_.life, [&] {
+    context_.hear([&] {
         if (context_.box().selection().length == 0)
             return;
-        if (context_.masked()) {
+        if (context_.masked())
             sKeyDown(key_code::del);
-        } else {
+        else
             context_.box().insert(u"");
-        }
     });
 }
 

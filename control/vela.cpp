@@ -131,20 +131,17 @@ void Vela::put(const Property& property, const engine::Value& value)
 
 void Vela::gotFocus()
 {
-    if (!deaf())
-        whileAlive(context_.life, [&] { visit_.enter(); });
+    context_.hear([&] { visit_.enter(); });
 }
 
 void Vela::lostFocus(platform::Leaving leaving)
 {
-    if (!deaf())
-        whileAlive(context_.life, [&] { visit_.leave(leaving); });
+    context_.hear([&] { visit_.leave(leaving); });
 }
 
 void Vela::clicked()
 {
-    if (!deaf())
-        whileAlive(context_.life, [&] { visit_.click(); });
+    context_.hear([&] { visit_.click(); });
 }
 
 // The back end reports both clicks of a double click; the second runs the click handler again.
@@ -155,8 +152,7 @@ void Vela::doubleClicked()
 
 void Vela::pointerMoved()
 {
-    if (!deaf())
-        whileAlive(context_.life, [&] { look_.pointerMoved(); });
+    context_.hear([&] { look_.pointerMoved(); });
 }
 
 void Vela::hoverTick()
