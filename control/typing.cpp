@@ -385,7 +385,7 @@ void Typing::cut()
             return;
         if (context_.masked())
             sKeyDown(key_code::del);
-        else
+        else if (!context_.box().traits().locked)
             context_.box().insert(u"");
     });
 }
