@@ -385,7 +385,7 @@ void Typing::cut()
             return;
         if (context_.masked())
             sKeyDown(key_code::del);
-        else if (!context_.box().traits().locked)
+        else
             context_.box().insert(u"");
     });
 }

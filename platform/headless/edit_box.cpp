@@ -63,6 +63,8 @@ void EditBox::putText(std::u16string_view text)
 
 void EditBox::insert(std::u16string_view text)
 {
+    if (traits_.locked)
+        return;
     check(BoxOperation::putText);
     fill(text, true);
 }
